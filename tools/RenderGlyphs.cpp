@@ -165,6 +165,18 @@ QImage render(const Glyph& glyph, const GlyphSet& set)
     return image;
 }
 
+/// The image with eight-bit pixels, as a bitmap file stores them. The file takes the bytes that pad a row
+/// along, so they are set, and the same glyph gives the same file.
+QImage indexed(const QImage& image)
+{
+    QImage result = image.convertToFormat(QImage::Format_Indexed8);
+    for (int row = 0; row < result.height(); ++row) {
+        uchar* bytes = result.scanLine(row);
+        std::fill(bytes + result.width(), bytes + result.bytesPerLine(), uchar{0});
+    }
+    return result;
+}
+
 QString bitmapName(const Glyph& glyph)
 {
     const QString series = glyph.series == Series::Main ? "Symbol" : "SymbolS";
@@ -178,7 +190,7 @@ void writeGlyphSet(const QDir& symbols, const GlyphSet& set)
     const QDir folder(symbols.filePath(set.folder));
     for (const Glyph& glyph : glyphs) {
         const QString path = folder.filePath(bitmapName(glyph));
-        if (!render(glyph, set).save(path, "BMP")) {
+        if (!indexed(render(glyph, set)).save(path, "BMP")) {
             throw std::runtime_error("cannot write " + path.toStdString());
         }
     }
