@@ -106,29 +106,41 @@ class Island:
                     yield MapLine(2, SILVER, SOLID, part)
 
     def _neat_lines(self):
-        right, bottom, gap = SHEET_WIDTH, FRAME_BOTTOM, FRAME_GAP
-        yield MapLine(6, BLACK, SOLID, [(0, 0), (right, 0), (right, bottom), (0, bottom), (0, 0)])
-        yield MapLine(6, BLACK, SOLID, ticked_frame(gap, right - gap, bottom - gap))
-        x, y = right - 46, 70
+        outer = rectangle(0, 0, SHEET_WIDTH, FRAME_BOTTOM)
+        inner = rectangle(FRAME_GAP, FRAME_GAP, SHEET_WIDTH - FRAME_GAP, FRAME_BOTTOM - FRAME_GAP)
+        yield MapLine(6, BLACK, SOLID, meander(outer, inner))
+        yield MapLine(6, BLACK, SOLID, meander(inner, outer))
+        x, y = SHEET_WIDTH - 46, 70
         yield MapLine(6, BLACK, SOLID, [(x, y + 60), (x, y), (x - 8, y + 22), (x, y + 16)])
         yield MapLine(7, SILVER, SOLID, [(0, SHEET_HEIGHT)])  # a single point: the lower edge of the sheet
 
 
-def ticked_frame(gap, right, bottom):
-    """The inner frame, with a tick towards the outer one every ten kilometres."""
-    across = range(100, int(right), 100)
-    down = range(100, int(bottom), 100)
-    tick = gap - 2
-    line = [(gap, gap)]
-    for x in across:
-        line += [(x, gap), (x, gap - tick), (x, gap)]
-    line.append((right, gap))
-    for y in down:
-        line += [(right, y), (right + tick, y), (right, y)]
-    line.append((right, bottom))
-    for x in reversed(across):
-        line += [(x, bottom), (x, bottom + tick), (x, bottom)]
-    line.append((gap, bottom))
-    for y in reversed(down):
-        line += [(gap, y), (gap - tick, y), (gap, y)]
-    return [*line, (gap, gap)]
+def rectangle(left, top, right, bottom):
+    return [(left, top), (right, top), (right, bottom), (left, bottom), (left, top)]
+
+
+def meander(frame, other):
+    """A line along a frame that changes to the other one, or back, every ten kilometres.
+
+    A meander from the outer frame and one from the inner make up both frames and the ticks between them, without a
+    turn that would stick out.
+    """
+    line = [frame[0]]
+    for corner in range(4):
+        for tick in _tick_positions(frame[corner], frame[corner + 1]):
+            line.append(_level_with(frame[corner], tick, across=corner % 2 == 0))
+            frame, other = other, frame
+            line.append(_level_with(frame[corner], tick, across=corner % 2 == 0))
+        line.append(frame[corner + 1])
+    return line
+
+
+def _tick_positions(start, end):
+    """The multiples of 100 between two corners, on the way from one to the other."""
+    a, b = (start[0], end[0]) if start[1] == end[1] else (start[1], end[1])
+    multiples = range(100, int(max(a, b)), 100)
+    return multiples if a < b else reversed(multiples)
+
+
+def _level_with(corner, tick, across):
+    return (tick, corner[1]) if across else (corner[0], tick)

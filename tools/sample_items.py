@@ -104,18 +104,18 @@ def items():
 
 def rain():
     """East against west."""
-    blue, red_box = circles(BLUE), boxes(RED)
+    blue, bar = circles(BLUE), tall_boxes(RED)
     west = {"vosela": blue["disc"], r"vosel\A5": blue["upper"], r"vosel\E2": blue["ring"]}
     east = {
-        "tamuka": red_box["full"],
-        r"tamuk\A5": red_box["lower"],
-        r"tamu\G1\E2": red_box["empty"],
-        r"tamu\?a": red_box["slash"],
+        "tamuka": bar["full"],
+        r"tamuk\A5": bar["lower"],
+        r"tamu\G1\E2": bar["empty"],
+        r"tamu\?a": bar["slash"],
     }
     return Item(
         "01_rain",
         "1  rain",
-        [Word("tamuka", lambda place: place.x - 760, east), Word("vosela", lambda place: 760 - place.x, west)],
+        [Word("vosela", lambda place: 760 - place.x, west), Word("tamuka", lambda place: place.x - 760, east)],
         blur=36,
         mixing=50,
     )
@@ -335,11 +335,6 @@ def fog():
         "11  fog",
         [
             Word(
-                "hulma",
-                lambda place: 120 - place.peak,
-                {"hulma": upland["diamond"], r"hulm\A5": upland["triangle"], r"hulm\E2": upland["inverted"]},
-            ),
-            Word(
                 "sabeka",
                 everywhere,
                 {
@@ -348,6 +343,11 @@ def fog():
                     "sabeka": lowland["right"],
                     r"sa\Be\G1\E2": lowland["lower"],
                 },
+            ),
+            Word(
+                "hulma",
+                lambda place: 120 - place.peak,
+                {"hulma": upland["diamond"], r"hulm\A5": upland["triangle"], r"hulm\E2": upland["inverted"]},
             ),
         ],
         blur=12,

@@ -28,7 +28,7 @@ def circles(colour):
 
 
 def boxes(colour):
-    return family(colour, full=1, lower=7, empty_=1, slash_=9)
+    return family(colour, full=1, lower=7, empty_=1)
 
 
 def flat_boxes(colour):
@@ -36,7 +36,7 @@ def flat_boxes(colour):
 
 
 def tall_boxes(colour):
-    return family(colour, full=37, lower=43, empty_=37)
+    return family(colour, full=37, lower=43, empty_=37, slash_=45)
 
 
 def half_discs(colour):
