@@ -1,0 +1,30 @@
+#pragma once
+
+#include "mapdata/BaseMap.h"
+#include "platform/SequentialFile.h"
+
+// Readers of the base-map files. Each reads a whole file into a fresh value; the counts in the file govern.
+// They raise input past end of file for a short file, subscript out of range for a count beyond its bound,
+// and type mismatch or overflow for a field that is not the number it should be.
+
+/// `Loc.map`: the count, then x and y of each locality.
+Localities readLocalities(SequentialReader& file);
+
+/// `Line.map`: the count, then for each line its header (kind, points, colour, style, offset) and its points.
+MapLines readLines(SequentialReader& file);
+
+/// `kanji.map`: the count, then position and text of each name, then position, label, divisions and length of
+/// the scale bar.
+PlaceNames readPlaceNames(SequentialReader& file);
+
+/// `Square.sbl`: the count, then for each polygon its vertex count, its reference point with a value, and its
+/// vertices, which are made relative to the reference point.
+PolygonTable readPolygons(SequentialReader& file);
+
+// The loaders put what a file holds into the shared state. A load that fails leaves there what was there.
+// `varnPath` is the installation folder, `mapName` begins with a backslash.
+
+void LoadLocateData(const DriveC& drive, const QString& varnPath, const QString& mapName, Localities& map);
+void LoadLineData(const DriveC& drive, const QString& varnPath, const QString& mapName, MapLines& map);
+void LoadKanjiData(const DriveC& drive, const QString& varnPath, const QString& mapName, PlaceNames& map);
+void LoadSquareData(const DriveC& drive, const QString& varnPath, PolygonTable& table);

@@ -1,0 +1,31 @@
+#pragma once
+
+#include "platform/Drawing.h"
+
+#include <QString>
+
+#include <optional>
+
+/// The dialogs that the forms ask their questions with. The desktop program shows real ones; whoever drives
+/// the forms without a person answers them from a script.
+class Dialogs
+{
+public:
+    virtual ~Dialogs() = default;
+
+    /// Shows a text with an OK button.
+    virtual void message(const QString& text, const QString& title) = 0;
+    /// Shows an error: its title line and, under it, what is known of its cause.
+    virtual void error(const QString& title, const QString& detail) = 0;
+    /// Asks a question with Yes and No; true where the answer is Yes.
+    virtual bool askYesNo(const QString& text, const QString& title) = 0;
+    /// Asks for a line of text, `initial` standing there at first. Nothing where the dialog was cancelled.
+    virtual std::optional<QString> input(const QString& prompt, const QString& title,
+                                         const QString& initial) = 0;
+    /// Asks for an existing file in `folder`, a folder of this machine. `filter` is written as in
+    /// "HAN files (*.han)|*.han". Nothing where the dialog was cancelled.
+    virtual std::optional<QString> openFile(const QString& title, const QString& folder,
+                                            const QString& filter) = 0;
+    /// Asks for a font, `initial` chosen at first. Nothing where the dialog was cancelled.
+    virtual std::optional<TextFont> chooseFont(const TextFont& initial) = 0;
+};

@@ -1,0 +1,123 @@
+#pragma once
+
+#include <QColor>
+#include <QFont>
+#include <QImage>
+#include <QPointF>
+#include <QString>
+
+#include <cstddef>
+#include <variant>
+#include <vector>
+
+/// Drawing units. 15 twips are one pixel at 96 dpi on every target.
+constexpr double TwipsPerPixel = 15;
+constexpr double TwipsPerPoint = 20;
+constexpr double TwipsPerInch = 1440;
+/// Every conversion from millimetres uses this rounded factor.
+constexpr double TwipsPerMm = 56.7;
+
+/// A line's colour, width in pixels of 96 dpi, and style: 0 solid, 1 dash, 2 dot, 3 dash-dot, 4 dash-dot-dot.
+struct LinePen
+{
+    QRgb color = qRgb(0, 0, 0);
+    int width = 1;
+    int style = 0;
+
+    bool operator==(const LinePen&) const = default;
+};
+
+/// A font by name, size in points, and style.
+struct TextFont
+{
+    QString name;
+    int size = 0;
+    bool bold = false;
+    bool italic = false;
+
+    bool operator==(const TextFont&) const = default;
+};
+
+/// The font to write and measure with in twips: its pixel is one twip.
+QFont twipFont(const TextFont& font);
+
+/// One recorded drawing operation; coordinates in twips. Pens, fonts, points, texts and pictures are numbers
+/// of entries in the drawing's tables; a fill is a colour, 0 (fully transparent) for none.
+struct PolylineOperation
+{
+    int pen;
+    std::size_t firstPoint;
+    std::size_t points;
+};
+
+struct BoxOperation
+{
+    int pen;
+    QRgb fill;
+    float x;
+    float y;
+    float width;
+    float height;
+};
+
+struct EllipseOperation
+{
+    int pen;
+    QRgb fill;
+    float x;
+    float y;
+    float halfWidth;
+    float halfHeight;
+};
+
+/// An arc from `start` over `span`, in radians counter-clockwise as seen from three o'clock. `closed` makes
+/// it a slice with both radii, which alone is filled; otherwise each radius is drawn where it is asked for.
+struct ArcOperation
+{
+    int pen;
+    QRgb fill;
+    float x;
+    float y;
+    float halfWidth;
+    float halfHeight;
+    float start;
+    float span;
+    bool startRadius;
+    bool endRadius;
+
+    bool closed() const { return startRadius && endRadius; }
+};
+
+/// A text whose top left corner is at (x, y).
+struct TextOperation
+{
+    int font;
+    QRgb color;
+    float x;
+    float y;
+    std::size_t text;
+};
+
+/// A picture at its natural size, its top left corner at (x, y).
+struct PictureOperation
+{
+    std::size_t picture;
+    float x;
+    float y;
+    float width;
+    float height;
+};
+
+using DrawingOperation = std::variant<PolylineOperation, BoxOperation, EllipseOperation, ArcOperation,
+                                      TextOperation, PictureOperation>;
+
+/// What has been drawn on a surface, in drawing order, to be painted on any target.
+struct Drawing
+{
+    std::vector<DrawingOperation> operations;
+    std::vector<LinePen> pens;
+    std::vector<TextFont> fonts;
+    std::vector<QPointF> points;
+    std::vector<QString> texts;
+    std::vector<QImage> pictures;
+};

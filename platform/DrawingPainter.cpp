@@ -1,0 +1,196 @@
+#include "platform/DrawingPainter.h"
+
+#include <QFontMetricsF>
+#include <QPen>
+
+#include <array>
+#include <cmath>
+#include <numbers>
+
+namespace {
+
+constexpr std::array<Qt::PenStyle, 5> PenStyles = {Qt::SolidLine, Qt::DashLine, Qt::DotLine, Qt::DashDotLine,
+                                                   Qt::DashDotDotLine};
+
+QPen toPen(const LinePen& pen, double scale)
+{
+    const bool solid = pen.style == 0;
+    return {QColor::fromRgb(pen.color), pen.width * TwipsPerPixel * scale,
+            PenStyles.at(static_cast<std::size_t>(pen.style)), solid ? Qt::RoundCap : Qt::FlatCap,
+            Qt::MiterJoin};
+}
+
+/// Paints operation after operation and remembers which pen, fill and font the painter holds. Shapes are
+/// scaled here, since the painter strokes faster without a transformation; texts and pictures by the painter.
+class DrawingPainter
+{
+public:
+    DrawingPainter(const Drawing& drawing, QPainter& painter, double scale)
+        : m_drawing(drawing), m_painter(painter), m_scale(scale), m_shapes(painter.worldTransform()),
+          m_texts(QTransform::fromScale(scale, scale) * m_shapes)
+    {
+        painter.setBrush(Qt::NoBrush);
+        for (const LinePen& pen : drawing.pens) {
+            m_pens.push_back(toPen(pen, scale));
+        }
+        for (const TextFont& font : drawing.fonts) {
+            m_fonts.push_back(twipFont(font));
+            m_ascents.push_back(QFontMetricsF(m_fonts.back()).ascent());
+        }
+    }
+
+    void operator()(const PolylineOperation& line)
+    {
+        usePen(line.pen);
+        m_points.clear();
+        for (std::size_t i = 0; i < line.points; ++i) {
+            m_points.push_back(m_drawing.points[line.firstPoint + i] * m_scale);
+        }
+        const auto count = static_cast<int>(m_points.size());
+        if (count > 3 && m_points.front() == m_points.back()) {
+            useFill(0);
+            m_painter.drawPolygon(m_points.data(), count - 1);
+        } else if (count == 2) {
+            m_painter.drawLine(m_points[0], m_points[1]);
+        } else {
+            m_painter.drawPolyline(m_points.data(), count);
+        }
+    }
+
+    void operator()(const BoxOperation& box)
+    {
+        usePen(box.pen);
+        useFill(box.fill);
+        m_painter.drawRect(
+            QRectF(box.x * m_scale, box.y * m_scale, box.width * m_scale, box.height * m_scale));
+    }
+
+    void operator()(const EllipseOperation& ellipse)
+    {
+        usePen(ellipse.pen);
+        useFill(ellipse.fill);
+        m_painter.drawEllipse(boxAround(ellipse));
+    }
+
+    void operator()(const ArcOperation& arc)
+    {
+        usePen(arc.pen);
+        const QRectF box = boxAround(arc);
+        if (arc.closed()) {
+            useFill(arc.fill);
+            m_painter.drawPie(box, sixteenths(arc.start), sixteenths(arc.span));
+            return;
+        }
+        m_painter.drawArc(box, sixteenths(arc.start), sixteenths(arc.span));
+        if (arc.startRadius) {
+            drawRadius(box, arc.start);
+        }
+        if (arc.endRadius) {
+            drawRadius(box, arc.start + arc.span);
+        }
+    }
+
+    void operator()(const TextOperation& text)
+    {
+        useTextColor(text.color);
+        if (m_font != text.font) {
+            m_font = text.font;
+            m_painter.setFont(m_fonts[static_cast<std::size_t>(text.font)]);
+        }
+        const double baseline = text.y + m_ascents[static_cast<std::size_t>(text.font)];
+        inTwips([&] { m_painter.drawText(QPointF(text.x, baseline), m_drawing.texts[text.text]); });
+    }
+
+    void operator()(const PictureOperation& picture)
+    {
+        inTwips([&] {
+            m_painter.drawImage(QRectF(picture.x, picture.y, picture.width, picture.height),
+                                m_drawing.pictures[picture.picture]);
+        });
+    }
+
+private:
+    static constexpr int OtherPen = -2;
+
+    static int sixteenths(float radians)
+    {
+        return static_cast<int>(std::lround(radians * 180 * 16 / std::numbers::pi));
+    }
+
+    template <typename Round>
+    QRectF boxAround(const Round& round) const
+    {
+        return {(round.x - round.halfWidth) * m_scale, (round.y - round.halfHeight) * m_scale,
+                2 * round.halfWidth * m_scale, 2 * round.halfHeight * m_scale};
+    }
+
+    template <typename Paint>
+    void inTwips(Paint paint)
+    {
+        m_painter.setWorldTransform(m_texts);
+        paint();
+        m_painter.setWorldTransform(m_shapes);
+    }
+
+    void drawRadius(const QRectF& box, float angle)
+    {
+        const QPointF end(box.width() / 2 * std::cos(angle), -box.height() / 2 * std::sin(angle));
+        m_painter.drawLine(box.center(), box.center() + end);
+    }
+
+    void usePen(int pen)
+    {
+        if (m_pen != pen) {
+            m_pen = pen;
+            m_textColor = 0;
+            m_painter.setPen(pen < 0 ? QPen(Qt::NoPen) : m_pens[static_cast<std::size_t>(pen)]);
+        }
+    }
+
+    /// Texts are painted with the pen, too.
+    void useTextColor(QRgb color)
+    {
+        if (m_textColor != color) {
+            m_textColor = color;
+            m_pen = OtherPen;
+            m_painter.setPen(QColor::fromRgb(color));
+        }
+    }
+
+    void useFill(QRgb fill)
+    {
+        if (m_fill != fill) {
+            m_fill = fill;
+            m_painter.setBrush(fill == 0 ? QBrush(Qt::NoBrush) : QBrush(QColor::fromRgb(fill)));
+        }
+    }
+
+    const Drawing& m_drawing;
+    QPainter& m_painter;
+    double m_scale;
+    QTransform m_shapes;
+    QTransform m_texts;
+    std::vector<QPointF> m_points;
+    std::vector<QPen> m_pens;
+    std::vector<QFont> m_fonts;
+    std::vector<double> m_ascents;
+    /// What the painter holds: a line's pen or a text's colour, a fill, a font.
+    int m_pen = OtherPen;
+    QRgb m_textColor = 0;
+    QRgb m_fill = 0;
+    int m_font = -1;
+};
+
+} // namespace
+
+void paintDrawing(const Drawing& drawing, QPainter& painter, double scale)
+{
+    painter.save();
+    painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing |
+                           QPainter::SmoothPixmapTransform);
+    DrawingPainter paint(drawing, painter, scale);
+    for (const DrawingOperation& operation : drawing.operations) {
+        std::visit(paint, operation);
+    }
+    painter.restore();
+}

@@ -1,0 +1,123 @@
+#include "platform/WholeFile.h"
+
+#include "platform/RunTimeError.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QSaveFile>
+#include <QStringDecoder>
+
+namespace {
+
+constexpr qint64 MaxFileSize = 64LL * 1024 * 1024;
+
+[[noreturn]] void raise(ErrorNumber number, const QString& path, const QString& detail = {})
+{
+    throw RunTimeError(number, detail).at({path});
+}
+
+[[noreturn]] void raiseWriteError(const QSaveFile& file, ErrorNumber otherwise, const QString& path)
+{
+    const bool full = file.error() == QFileDevice::ResourceError;
+    raise(full ? ErrorNumber::DiskFull : otherwise, path, file.errorString());
+}
+
+void requireReadable(const QFileInfo& file, const QString& path)
+{
+    if (!file.exists()) {
+        const bool folderExists = QFileInfo::exists(file.absolutePath());
+        raise(folderExists ? ErrorNumber::FileNotFound : ErrorNumber::PathNotFound, path);
+    }
+    if (file.isDir()) {
+        raise(ErrorNumber::PermissionDenied, path, QStringLiteral("It is a folder."));
+    }
+    if (file.size() > MaxFileSize) {
+        raise(ErrorNumber::OutOfMemory, path, QStringLiteral("The file is larger than 64 MiB."));
+    }
+}
+
+/// Whether all of `bytes` is valid in the decoder's encoding; the text goes to `text`.
+bool decodeWhole(QStringDecoder decoder, const QByteArray& bytes, QString& text)
+{
+    if (!decoder.isValid()) {
+        return false;
+    }
+    text = decoder(bytes);
+    return !decoder.hasError();
+}
+
+} // namespace
+
+QString decodeText(const QByteArray& bytes)
+{
+    if (bytes.contains('\0')) {
+        throw RunTimeError(ErrorNumber::TypeMismatch, QStringLiteral("The file does not hold text."));
+    }
+    QString text;
+    if (decodeWhole(QStringDecoder(QStringDecoder::Utf8), bytes, text) ||
+        decodeWhole(QStringDecoder("Shift_JIS"), bytes, text) ||
+        decodeWhole(QStringDecoder("windows-1252"), bytes, text)) {
+        return text;
+    }
+    return QString::fromLatin1(bytes);
+}
+
+QByteArray readBytes(const DriveC& drive, const QString& path)
+{
+    const QString hostPath = drive.hostPath(path);
+    requireReadable(QFileInfo(hostPath), path);
+    QFile file(hostPath);
+    if (!file.open(QIODevice::ReadOnly)) {
+        raise(ErrorNumber::PermissionDenied, path, file.errorString());
+    }
+    QByteArray bytes = file.readAll();
+    if (file.error() != QFileDevice::NoError) {
+        raise(ErrorNumber::DeviceIOError, path, file.errorString());
+    }
+    return bytes;
+}
+
+QString readTextFile(const DriveC& drive, const QString& path)
+{
+    try {
+        return decodeText(readBytes(drive, path));
+    } catch (const RunTimeError& error) {
+        throw error.hasPlace() ? error : error.at({path});
+    }
+}
+
+void replaceHostFile(const QString& hostPath, const QString& path, const QByteArray& bytes)
+{
+    const QFileInfo target(hostPath);
+    if (!QFileInfo::exists(target.absolutePath())) {
+        raise(ErrorNumber::PathNotFound, path);
+    }
+    if (target.isDir()) {
+        raise(ErrorNumber::PermissionDenied, path, QStringLiteral("It is a folder."));
+    }
+    QSaveFile file(target.absoluteFilePath());
+    if (!file.open(QIODevice::WriteOnly)) {
+        raiseWriteError(file, ErrorNumber::PermissionDenied, path);
+    }
+    // A disk that fills up takes a part of the bytes before it refuses the rest.
+    for (qsizetype written = 0; written < bytes.size();) {
+        const qint64 taken = file.write(bytes.constData() + written, bytes.size() - written);
+        if (taken <= 0) {
+            raiseWriteError(file, ErrorNumber::DeviceIOError, path);
+        }
+        written += taken;
+    }
+    if (!file.commit()) {
+        raiseWriteError(file, ErrorNumber::DeviceIOError, path);
+    }
+}
+
+void replaceFile(const DriveC& drive, const QString& path, const QByteArray& bytes)
+{
+    replaceHostFile(drive.hostPath(path), path, bytes);
+}
+
+bool fileExists(const DriveC& drive, const QString& path)
+{
+    return QFileInfo(drive.hostPath(path)).isFile();
+}

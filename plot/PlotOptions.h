@@ -1,0 +1,40 @@
+#pragma once
+
+#include "render/MapStyle.h"
+
+#include <QString>
+#include <QStringList>
+
+#include <optional>
+#include <stdexcept>
+
+/// What one call of `varnplot` asks for.
+struct PlotOptions
+{
+    enum class Command { LinguisticMap, BlankMap, Symbols, Atlas };
+
+    Command command = Command::BlankMap;
+    QString installation;
+    QString map;
+    QString data;
+    QString symbols;
+    QString output;
+    qint16 location = HankoCenter;
+    bool localityDots = false;
+    /// Height of the map in millimetres; 0 for the map form's first size.
+    double height = 0;
+    double dotsPerInch = 192;
+};
+
+/// A command line that is not understood; `what()` says why.
+class UsageError : public std::runtime_error
+{
+public:
+    explicit UsageError(const QString& why) : std::runtime_error(why.toStdString()) {}
+};
+
+/// Reads the command line without the program's name. Nothing where help is asked for. Raises `UsageError`.
+std::optional<PlotOptions> readPlotOptions(const QStringList& arguments);
+
+/// How the program is called.
+QString plotUsage();

@@ -1,0 +1,112 @@
+#include "render/BlankMap.h"
+
+#include "platform/Numbers.h"
+#include "platform/StandardColors.h"
+#include "render/SymbolShapes.h"
+
+namespace {
+
+void copyFont(const DrawSurface& from, DrawSurface& to)
+{
+    to.FontName = from.FontName;
+    to.FontSize = from.FontSize;
+    to.FontBold = from.FontBold;
+    to.FontItalic = from.FontItalic;
+}
+
+void printAt(DrawSurface& target, float x, float y, const QString& text)
+{
+    target.CurrentX = x;
+    target.CurrentY = y;
+    target.Print(text);
+}
+
+/// A horizontal bar with ticks standing on it, its ends named.
+void plotScaleBar(const PlaceNames& map, const MapGeometry& geometry, DrawSurface& target)
+{
+    constexpr float EndTick = 250;
+    constexpr float InnerTick = EndTick / 3;
+    constexpr float LabelRise = 350 - 50;
+    constexpr float LabelGap = 50; // keeps a label clear of its tick
+
+    const int slot = map.NKanji + 1;
+    const float x0 = geometry.toScreen(map.KanjiXY(slot, 0));
+    const float y0 = geometry.toScreen(map.KanjiXY(slot, 1));
+    const float length = toSingle(geometry.Scale * map.ScaleLength);
+    const double step = divide(length, map.ScaleDivisions);
+
+    target.Line(x0, y0, x0 + length, y0, target.ForeColor);
+    for (int i = 0; i <= map.ScaleDivisions; ++i) {
+        const bool end = i == 0 || i >= map.ScaleDivisions;
+        const float x = x0 + toSingle(i * step);
+        target.Line(x, y0, x, y0 - (end ? EndTick : InnerTick), target.ForeColor);
+    }
+    printAt(target, x0 + LabelGap, y0 - LabelRise, QStringLiteral("0"));
+    printAt(target, x0 + length + LabelGap, y0 - LabelRise, map.ScaleLabel);
+}
+
+} // namespace
+
+void PlotLineData(const MapLines& map, MapGeometry& geometry, MapSurfaces surfaces)
+{
+    geometry.Scale = FindMinMax(map, surfaces.frmMap, geometry);
+    surfaces.frmMap.DrawWidth = 1;
+    for (int i = 1; i <= map.NLine; ++i) {
+        for (int j = 1; j <= map.LinePoints(i); ++j) {
+            for (int k = 0; k <= 1; ++k) {
+                geometry.ScreenXY(j, k) = geometry.toScreen(map.LineXY(i, j, k) + map.LineOffset(i, k));
+            }
+        }
+        surfaces.DrawTarget.DrawStyle = map.LineStyle(i);
+        Polygon(geometry, surfaces.DrawTarget, map.LinePoints(i), 0, 0, QBColor(map.MapLineColor(i)));
+    }
+    surfaces.DrawTarget.DrawStyle = 0;
+}
+
+void PlotLocateData(const BaseMap& map, const MapStyle& style, MapGeometry& geometry, MapSurfaces surfaces)
+{
+    constexpr float DotRadius = 2;
+
+    geometry.Scale = FindMinMax(map, surfaces.frmMap, geometry);
+    if (!style.PlotDots) {
+        return;
+    }
+    for (int i = 1; i <= map.NLocality; ++i) {
+        geometry.ScreenXY(i, 0) = geometry.toScreen(map.LocXY(i, 0));
+        geometry.ScreenXY(i, 1) = geometry.toScreen(map.LocXY(i, 1));
+        surfaces.DrawTarget.Circle(geometry.ScreenXY(i, 0), geometry.ScreenXY(i, 1), DotRadius, QBColor(0));
+    }
+}
+
+void PlotKanjiData(const PlaceNames& map, const MapGeometry& geometry, MapSurfaces surfaces)
+{
+    copyFont(surfaces.frmMap, surfaces.DrawTarget);
+    for (int i = 1; i <= map.NKanji; ++i) {
+        printAt(surfaces.DrawTarget, geometry.toScreen(map.KanjiXY(i, 0)),
+                geometry.toScreen(map.KanjiXY(i, 1)), map.KanjiText(i));
+    }
+    plotScaleBar(map, geometry, surfaces.DrawTarget);
+}
+
+void PlotDate(const QString& fileName, const QDateTime& time, MapSurfaces surfaces)
+{
+    DrawSurface& target = surfaces.DrawTarget;
+    const int fontSize = target.FontSize;
+    target.FontSize = 8;
+    const float x = surfaces.frmMap.Width - 1600 + 50;
+    printAt(target, x, surfaces.frmMap.Height - 400 + 50, fileName);
+    printAt(target, x, surfaces.frmMap.Height - 200 + 50,
+            time.toString(QStringLiteral("yyyy-MM-dd HH:mm:ss")));
+    target.FontSize = fontSize;
+}
+
+void DrawBlankMap(VarnModule& varn, MapSurfaces surfaces)
+{
+    surfaces.frmMap.Cls();
+    PlotLineData(varn, varn, surfaces);
+    PlotLocateData(varn, varn, varn, surfaces);
+    PlotKanjiData(varn, varn, surfaces);
+    if (varn.WriteFileName) {
+        PlotDate(varn.SymbolFileName, QDateTime::currentDateTime(), surfaces);
+    }
+}

@@ -1,0 +1,99 @@
+#include "render/Legend.h"
+
+#include "platform/Numbers.h"
+#include "platform/StandardColors.h"
+#include "render/PhoneticText.h"
+#include "render/SymbolShapes.h"
+
+#include <algorithm>
+
+namespace {
+
+constexpr float Margin = MapGeometry::Margin;
+
+/// Where the caption block starts, in twips.
+QPointF captionOrigin(const VarnModule& varn)
+{
+    return {varn.Scale * varn.HanreiX, varn.Scale * static_cast<double>(varn.HanreiY)};
+}
+
+int rowStep(const MapFont& font)
+{
+    return std::max((font.MapFontSize + 2) * 20, 300);
+}
+
+/// The cells of the legend: rows down a column, then the next column to the right of the widest text.
+class LegendCells
+{
+public:
+    LegendCells(float firstColumn, int rowsPerColumn) : m_column(firstColumn), m_rowsPerColumn(rowsPerColumn)
+    {}
+
+    void next()
+    {
+        ++m_row;
+        if (modulo(m_row, m_rowsPerColumn) == 0) {
+            m_row = 1;
+            m_column = m_widestEnd + ColumnGap;
+            m_widestEnd = 0;
+        }
+    }
+
+    void noteTextEnd(float x) { m_widestEnd = std::max(m_widestEnd, x); }
+
+    int row() const { return m_row; }
+    float column() const { return m_column; }
+
+private:
+    static constexpr float ColumnGap = 400;
+
+    int m_row = 1;
+    float m_widestEnd = 1;
+    float m_column;
+    int m_rowsPerColumn;
+};
+
+} // namespace
+
+void ClsHanrei(const VarnModule& varn, DrawSurface& target)
+{
+    const QPointF origin = captionOrigin(varn);
+    const float width = std::max(target.TextWidth(varn.Hanrei), target.TextWidth(varn.KanjiText(1)));
+    const auto x = static_cast<float>(origin.x());
+    const auto y = static_cast<float>(origin.y());
+    target.FilledBox(x, y, x + width + 2 * Margin, y + target.TextHeight() + 2 * Margin, QBColor(15));
+}
+
+void PlotHanrei(VarnModule& varn, MapSurfaces surfaces)
+{
+    constexpr float SymbolIndent = 200 + 50 + 200;
+    constexpr float SymbolDrop = 80;
+    constexpr float TextIndent = 200;
+
+    DrawSurface& target = surfaces.DrawTarget;
+    const int step = rowStep(varn);
+    const int rowsPerColumn = integerDivide(static_cast<int>(surfaces.frmMap.Height), step) - 1;
+    const QPointF origin = captionOrigin(varn);
+    const auto x0 = static_cast<float>(origin.x());
+    const auto y0 = static_cast<float>(origin.y());
+
+    ClsHanrei(varn, target);
+    target.CurrentX = x0 + Margin;
+    target.CurrentY = y0 + Margin;
+    target.Print(varn.Hanrei);
+
+    SymbolShapes shapes(varn, varn, surfaces);
+    PhoneticText phonetic(varn, varn, varn, varn.Pictures, surfaces);
+    LegendCells cells(x0 + SymbolIndent, rowsPerColumn);
+    for (int k = 1; k <= varn.NHanrei; ++k) {
+        const QString& caption = varn.HankoCaption(k);
+        if (caption.contains(QLatin1Char('-'))) {
+            continue;
+        }
+        cells.next();
+        const float top = y0 + static_cast<float>(step * cells.row()) + Margin;
+        shapes.DrawHanko(varn.Hanko(k), cells.column(), top + SymbolDrop);
+        cells.noteTextEnd(phonetic.PlotChar(cells.column() + TextIndent, top, caption));
+    }
+    surfaces.frmMap.DrawWidth = 1;
+}

@@ -1,0 +1,11 @@
+#pragma once
+
+#include "shell/VarnModule.h"
+
+/// Draws the caption block: the item's title, then one row for each record of the symbol set whose caption
+/// has no hyphen, in columns that fill the height of the map form. Raises division by zero where the form is
+/// not as high as two rows.
+void PlotHanrei(VarnModule& varn, MapSurfaces surfaces);
+
+/// Paints the title line of the caption block white, as far as the title and the place name there reach.
+void ClsHanrei(const VarnModule& varn, DrawSurface& target);

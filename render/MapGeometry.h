@@ -1,0 +1,51 @@
+#pragma once
+
+#include "mapdata/BaseMap.h"
+#include "platform/DrawSurface.h"
+
+/// How map units become drawing units (twips), and the extent of the base map.
+struct MapGeometry
+{
+    /// Drawing units per map unit.
+    float Scale = 0;
+    /// Extent of the lines in map units.
+    double MinX = 1000000;
+    double MinY = 1000000;
+    double MaxX = -999999;
+    float MaxY = -999999;
+    /// Drawing units per map unit that would fill the form's width and height.
+    double RatioX = 0;
+    double RatioY = 0;
+    /// Positions of the localities in drawing units; while a line or a polygon is drawn, its points.
+    BoundedArray<float, Bounds{0, 1000}, Bounds{0, 1}> ScreenXY;
+
+    /// The drawing position of a coordinate of the map: a margin of 50 is kept at the left and at the top.
+    float toScreen(float coordinate) const { return Scale * coordinate + Margin; }
+
+    static constexpr float Margin = 50;
+};
+
+/// The surfaces of one drawing command: the one that is drawn on, and the map form's own, which gives the
+/// size of the map and takes the traces of unknown symbol numbers and phonetic codes.
+struct MapSurfaces
+{
+    DrawSurface& DrawTarget;
+    DrawSurface& frmMap;
+};
+
+/// Measures the extent of the lines and returns the scale at which its height fills 98 % of the map form.
+/// Raises division by zero for a map without extent, overflow.
+float FindMinMax(const MapLines& map, const DrawSurface& frmMap, MapGeometry& geometry);
+
+/// Fills the start values of the extent from the lines, before any scale is known.
+void findStartExtent(const MapLines& map, MapGeometry& geometry);
+
+// Layout cursors for columns of text.
+
+/// The width of a column and the height of a row for the map font's size, in twips; half the width where
+/// `halfWidth` is set.
+void X0Y0(qint16 mapFontSize, bool halfWidth, float& dx, qint16& dy);
+/// Steps x by dx and widens `xmax` to where the target's last text ended.
+void XYPosition(const DrawSurface& target, float& x, float& xmax, float dx);
+/// Steps to the next cell of a grid: the next column, past `xlim` the next row, past `ylim` the top again.
+void XmaxYmax(float& x, float& y, float x0, float y0, float xlim, float ylim, float dx, float dy);

@@ -1,0 +1,50 @@
+#pragma once
+
+#include "platform/PictureStore.h"
+#include "render/MapGeometry.h"
+#include "render/MapStyle.h"
+#include "render/PhoneticCode.h"
+#include "shell/Folders.h"
+#include "shell/MapFont.h"
+
+#include <vector>
+
+/// Writes coded texts: plain characters in the target's font, phonetic escapes as glyph bitmaps.
+class PhoneticText
+{
+public:
+    PhoneticText(const Folders& folders, const MapFont& font, const MapStyle& style, PictureStore& pictures,
+                 MapSurfaces surfaces);
+
+    /// Writes `text` from (x, y), its top left corner in twips, and returns the x where it ended. An escape
+    /// in no code is written with a message on the map form itself. Raises file not found for a missing
+    /// bitmap.
+    float PlotChar(float x, float y, const QString& text);
+
+    /// Writes the first unit of `text` and returns the x where it ended; `consumed` is how many characters
+    /// the unit took, 0 where the text is empty.
+    float One(float x, float y, const QString& text, int& consumed);
+
+private:
+    float PlotWord(float x, float y, const QString& text);
+    float PlotOneSymbol(float x, float y, GlyphSeries series, int number);
+    QString glyphFolder() const;
+
+    const Folders& m_folders;
+    const MapFont& m_font;
+    const MapStyle& m_style;
+    PictureStore& m_pictures;
+    DrawSurface& m_target;
+    DrawSurface& m_frmMap;
+};
+
+/// One entry of the code list: a code, the letter that it stands for, and its name.
+struct PhoneticSymbol
+{
+    QString code;
+    QString letter;
+    QString name;
+};
+
+/// Reads the code list `ExpSymbol.txt` of the installation.
+std::vector<PhoneticSymbol> LoadSymbols(const Folders& folders);

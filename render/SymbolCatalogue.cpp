@@ -1,0 +1,60 @@
+#include "render/SymbolCatalogue.h"
+
+#include "render/SymbolShapes.h"
+
+#include <algorithm>
+
+namespace {
+
+constexpr int Columns = 16;
+constexpr int Rows = 10;
+constexpr int SymbolsPerPage = Columns * Rows;
+
+/// The colours change from number to number, so that neighbours are told apart; white becomes black.
+HankoStyle catalogueStyle(int number)
+{
+    HankoStyle hanko;
+    hanko.HankoNo = static_cast<qint16>(number);
+    hanko.LineColor = static_cast<qint16>(number % 16 == 15 ? 0 : number % 16);
+    hanko.PaintColor = static_cast<qint16>((number + 11) % 16);
+    hanko.PaintOn = 1;
+    hanko.SymbolSize = 1;
+    hanko.LineThick = 1;
+    return hanko;
+}
+
+} // namespace
+
+int LastSymbolPage(const PolygonTable& polygons)
+{
+    return (symbolCount(polygons) + SymbolsPerPage - 1) / SymbolsPerPage;
+}
+
+void PlotSymbol(VarnModule& varn, int page, MapSurfaces surfaces)
+{
+    constexpr int NumberSize = 6; // small enough for a number to stand clear of its symbol
+
+    DrawSurface& target = surfaces.DrawTarget;
+    const float cellWidth = surfaces.frmMap.Width / Columns;
+    const float cellHeight = (surfaces.frmMap.Height - 500) / Rows;
+    const float x0 = cellWidth - 250;
+    const float y0 = 350;
+    const int first = SymbolsPerPage * (page - 1) + 1;
+    const int last = std::min(SymbolsPerPage * page, symbolCount(varn));
+
+    surfaces.frmMap.Cls();
+    const int fontSize = target.FontSize;
+    target.FontSize = NumberSize;
+    SymbolShapes shapes(varn, varn, surfaces);
+    float x = x0;
+    float y = y0;
+    for (int number = first; number <= last; ++number) {
+        target.CurrentX = x - 200;
+        target.CurrentY = y - 300;
+        target.Print(QString::number(number));
+        shapes.DrawHanko(catalogueStyle(number), x, y);
+        XmaxYmax(x, y, x0, y0, surfaces.frmMap.Width, surfaces.frmMap.Height, cellWidth, cellHeight);
+    }
+    target.FontSize = fontSize;
+    surfaces.frmMap.DrawWidth = 1;
+}

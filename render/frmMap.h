@@ -1,0 +1,78 @@
+#pragma once
+
+#include "platform/VarnForm.h"
+#include "render/MapGeometry.h"
+
+#include <memory>
+
+class QButtonGroup;
+class QLabel;
+struct VarnModule;
+
+namespace Ui {
+class frmMap;
+}
+
+/// The map form: loads an item and its symbols and draws maps, captions and the lists of symbols and codes.
+class frmMap : public VarnForm
+{
+    Q_OBJECT
+
+public:
+    frmMap(VarnModule& varn, Dialogs& dialogs);
+    ~frmMap() override;
+
+    /// Makes the form the drawing target and prepares it for the map font and the kind of map.
+    void Form_Load();
+    /// The form's own surface.
+    const DrawSurface& surface() const { return m_surface; }
+    /// The surfaces of a drawing command, with the form's place on the screen as it is now.
+    MapSurfaces surfaces();
+    void refresh() override;
+
+Q_SIGNALS:
+    /// The user wants to go back to the main form.
+    void toMain();
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    void connectMenus();
+    void connectOptions();
+
+    void mnuInputWord_Click();
+    void mnuHankoInput_Click();
+    void mnuMapLing_Click();
+    void mnuMapBlank_Click();
+    void mnuHanrei_Click();
+    void mnuSymbols_Click();
+    void mnuHpos_Click();
+    void mnuChiten_Click();
+    void mnuStyle_Click();
+    void mnuMapSize_Click();
+    void mnuHankoList_Click();
+    void mnuHankoNext_Click();
+    void mnuHankoPrevious_Click();
+
+    void PrintYesNo();
+    void hideStyle();
+    void enableMapLing();
+    void plotSymbolPage();
+    std::optional<QString> askForFile(const QString& title, const QString& filter);
+
+    void applyMapFont();
+    void showArea();
+    void followWindow();
+    void showLoaded();
+
+    std::unique_ptr<Ui::frmMap> m_ui;
+    VarnModule& m_varn;
+    DrawSurface m_surface;
+    QButtonGroup* m_places;
+    QLabel* m_loaded;
+    /// The window's size that shows the drawing area as it was set; empty once the user resized the window.
+    QSize m_sizeOfArea;
+    int m_symbolPage = 1;
+};

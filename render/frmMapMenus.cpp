@@ -1,0 +1,170 @@
+// What the entries of the map form's menus do.
+
+#include "lingdata/ItemLoader.h"
+#include "platform/Numbers.h"
+#include "render/BlankMap.h"
+#include "render/Legend.h"
+#include "render/LinguisticMap.h"
+#include "render/MapSize.h"
+#include "render/SymbolCatalogue.h"
+#include "render/SymbolHelp.h"
+#include "render/frmMap.h"
+#include "shell/VarnModule.h"
+#include "symbols/SymbolFile.h"
+#include "ui_frmMap.h"
+
+#include <QButtonGroup>
+#include <QScopeGuard>
+
+#include <algorithm>
+
+void frmMap::PrintYesNo()
+{
+    m_varn.DrawTarget = &m_surface;
+}
+
+// Load Data
+
+std::optional<QString> frmMap::askForFile(const QString& title, const QString& filter)
+{
+    const QString folder = m_varn.Drive.hostPath(m_varn.dataFolder());
+    const std::optional<QString> file = dialogs().openFile(title, folder, filter);
+    return file ? std::optional(m_varn.Drive.varnPath(*file)) : std::nullopt;
+}
+
+void frmMap::mnuInputWord_Click()
+{
+    m_ui->mnuMapLing->setEnabled(false);
+    const auto enableAgain = qScopeGuard([this] { enableMapLing(); });
+    if (const auto path =
+            askForFile(QStringLiteral("Load Linguistic File"), QStringLiteral("DBS Files (*.dbs)|*.dbs"))) {
+        LoadWordData(m_varn, *path, m_varn, m_varn);
+    }
+}
+
+void frmMap::mnuHankoInput_Click()
+{
+    if (const auto path =
+            askForFile(QStringLiteral("Load Symbol File"), QStringLiteral("HAN files (*.han)|*.han"))) {
+        LoadHankoData(m_varn.Drive, *path, m_varn);
+        symbolSetLoaded(m_varn);
+        enableMapLing();
+    }
+}
+
+void frmMap::enableMapLing()
+{
+    const bool chosenKind = m_varn.AnalysisMode == 2 || m_varn.AnalysisMode == 4;
+    m_ui->mnuMapLing->setEnabled(chosenKind || canDrawLinguisticMap(m_varn));
+}
+
+// Draw Map
+
+void frmMap::mnuMapLing_Click()
+{
+    const WaitCursor wait;
+    hideStyle();
+    PrintYesNo();
+    drawLinguisticMap(m_varn, surfaces());
+}
+
+void frmMap::mnuMapBlank_Click()
+{
+    const WaitCursor wait;
+    hideStyle();
+    PrintYesNo();
+    PlotHanrei(m_varn, surfaces());
+    DrawBlankMap(m_varn, surfaces());
+}
+
+void frmMap::mnuHanrei_Click()
+{
+    const WaitCursor wait;
+    hideStyle();
+    m_varn.DrawTarget = &m_surface;
+    PlotHanrei(m_varn, surfaces());
+}
+
+void frmMap::mnuSymbols_Click()
+{
+    const WaitCursor wait;
+    hideStyle();
+    PrintYesNo();
+    WriteSymbolHelp(m_varn, surfaces());
+}
+
+// Set Map
+
+void frmMap::mnuHpos_Click()
+{
+    constexpr int Gap = 12;
+    const QRect shown = m_ui->picMap->visibleRegion().boundingRect();
+    m_ui->fraStyle->adjustSize();
+    m_ui->fraStyle->move(std::max(0, shown.right() - m_ui->fraStyle->width() - Gap), shown.top() + Gap);
+    m_ui->fraStyle->show();
+    m_places->checkedButton()->setFocus();
+}
+
+void frmMap::hideStyle()
+{
+    m_ui->fraStyle->hide();
+}
+
+void frmMap::mnuChiten_Click()
+{
+    m_varn.PlotDots = dialogs().askYesNo(QStringLiteral("Will you plot dots for localities ?"),
+                                         QStringLiteral("Plot Locality Dots"));
+}
+
+void frmMap::mnuStyle_Click()
+{
+    m_varn.WriteFileName = dialogs().askYesNo(QStringLiteral("Will you print File Name?"),
+                                              QStringLiteral("Write Symbol File Name"));
+}
+
+void frmMap::mnuMapSize_Click()
+{
+    constexpr double SmallestHeight = 0.1;
+    const auto answer = dialogs().input(
+        QStringLiteral("Input the height of map. (mm unit. Maximum is about 150mm) Iinitial setting is "
+                       "0mm(default)."),
+        QStringLiteral("Set of Map Vertical Size"), QStringLiteral("0"));
+    if (!answer) {
+        return;
+    }
+    if (const double millimetres = Val(*answer); millimetres >= SmallestHeight) {
+        setMapHeight(m_surface, millimetres);
+    } else {
+        m_surface.Width = toSingle(m_varn.MapFormWidth);
+        m_surface.Height = m_varn.MapFormHeight;
+    }
+    showArea();
+}
+
+// Symbols
+
+void frmMap::mnuHankoList_Click()
+{
+    m_symbolPage = 1;
+    plotSymbolPage();
+}
+
+void frmMap::mnuHankoNext_Click()
+{
+    m_symbolPage = std::min(m_symbolPage + 1, LastSymbolPage(m_varn));
+    plotSymbolPage();
+}
+
+void frmMap::mnuHankoPrevious_Click()
+{
+    m_symbolPage = std::max(m_symbolPage - 1, 1);
+    plotSymbolPage();
+}
+
+void frmMap::plotSymbolPage()
+{
+    const WaitCursor wait;
+    hideStyle();
+    PrintYesNo();
+    PlotSymbol(m_varn, m_symbolPage, surfaces());
+}

@@ -1,0 +1,15 @@
+#pragma once
+
+#include <QString>
+
+/// The font of texts on maps.
+struct MapFont
+{
+    QString MapFontName = QStringLiteral("Arial");
+    /// In points.
+    qint16 MapFontSize = 10;
+    bool MapFontBold = false;
+    bool MapFontItalic = false;
+    /// Vertical shift of phonetic glyphs in points; smaller moves them up.
+    float SpecialFontShift = 0;
+};

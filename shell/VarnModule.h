@@ -1,0 +1,25 @@
+#pragma once
+
+#include "lingdata/LinguisticData.h"
+#include "mapdata/BaseMap.h"
+#include "render/MapGeometry.h"
+#include "render/MapStyle.h"
+#include "render/PhoneticText.h"
+#include "shell/Folders.h"
+#include "shell/LoadedState.h"
+#include "shell/MapFont.h"
+#include "symbols/SymbolSet.h"
+
+/// The state that all forms share: the sum of what the subsystems define. There is one, made in `main`.
+struct VarnModule : Folders, MapFont, BaseMap, MapGeometry, MapStyle, LinguisticData, SymbolSet, LoadedState
+{
+    /// The surface that maps are drawn on.
+    DrawSurface* DrawTarget = nullptr;
+    /// Glyph bitmaps already read.
+    PictureStore Pictures;
+    /// The phonetic code list.
+    std::vector<PhoneticSymbol> ExpSymbols;
+    /// Size of the map form's drawing area at start, in twips.
+    double MapFormWidth = 0;
+    qint16 MapFormHeight = 0;
+};

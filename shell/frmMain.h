@@ -1,0 +1,44 @@
+#pragma once
+
+#include "platform/VarnForm.h"
+#include "render/frmMap.h"
+
+struct MapFont;
+
+namespace Ui {
+class frmMain;
+}
+
+/// The main form: starts the program, shows which map is current, and opens the working forms.
+class frmMain : public VarnForm
+{
+    Q_OBJECT
+
+public:
+    frmMain(VarnModule& varn, Dialogs& dialogs);
+    ~frmMain() override;
+
+    /// Starts the program: lays down the installation tree from `installation`, reads or asks for the current
+    /// map and the map font, and loads the base map. What fails is shown, and the start-up goes on.
+    void Form_Load(const QString& installation);
+
+    void refresh() override;
+
+private:
+    void InputVarnDrive();
+    void VarnDrive();
+    void askForFont(MapFont& font);
+    void loadBaseMap();
+    void SetMapName();
+    void drawPreview();
+
+    void cmdMapName_Click();
+    void cmdMap_Click();
+    void cmdExit_Click();
+
+    std::unique_ptr<Ui::frmMain> m_ui;
+    VarnModule& m_varn;
+    frmMap m_map;
+    /// The form's own drawing: the preview of the map.
+    DrawSurface m_preview;
+};

@@ -1,0 +1,48 @@
+#include "symbols/SymbolFile.h"
+
+SymbolSet readSymbolSet(SequentialReader& file)
+{
+    SymbolSet set;
+    set.Explain = file.readString();
+    set.NHanrei = file.readCount();
+    for (int k = 1; k <= set.NHanrei; ++k) {
+        set.HankoWord(k) = file.readString();
+        set.HankoCaption(k) = file.readString();
+        HankoStyle& hanko = set.Hanko(k);
+        hanko.HankoNo = file.readInteger();
+        hanko.LineColor = file.readInteger();
+        hanko.PaintColor = file.readInteger();
+        hanko.PaintOn = file.readInteger();
+        hanko.SymbolSize = file.readInteger();
+        hanko.LineThick = file.readInteger();
+    }
+    return set;
+}
+
+void writeSymbolSet(SequentialWriter& file, const SymbolSet& set)
+{
+    file.write(set.Explain);
+    file.write(set.NHanrei);
+    for (int k = 1; k <= set.NHanrei; ++k) {
+        file.write(set.HankoWord(k), set.HankoCaption(k));
+        const HankoStyle& hanko = set.Hanko(k);
+        file.write(hanko.HankoNo);
+        file.write(hanko.LineColor);
+        file.write(hanko.PaintColor);
+        file.write(hanko.PaintOn);
+        file.write(hanko.SymbolSize);
+        file.write(hanko.LineThick);
+    }
+}
+
+void LoadHankoData(const DriveC& drive, const QString& path, SymbolSet& set)
+{
+    SymbolSet fresh = readSequentialFile(drive, path, readSymbolSet);
+    fresh.SymbolFileName = path.mid(path.lastIndexOf(QLatin1Char('\\')) + 1);
+    set = std::move(fresh);
+}
+
+void SaveHankoData(const DriveC& drive, const QString& path, const SymbolSet& set)
+{
+    writeSequentialFile(drive, path, [&set](SequentialWriter& file) { writeSymbolSet(file, set); });
+}

@@ -1,0 +1,19 @@
+#pragma once
+
+#include "platform/SequentialFile.h"
+#include "symbols/SymbolSet.h"
+
+/// Reads a `.han` file: comment, count, then for each record the kind with its caption and, a line each, the
+/// symbol's six numbers. Raises subscript out of range beyond 100 records, and the errors of a short or
+/// malformed file.
+SymbolSet readSymbolSet(SequentialReader& file);
+
+/// Writes a `.han` file.
+void writeSymbolSet(SequentialWriter& file, const SymbolSet& set);
+
+/// Puts the symbol set of the `.han` file at `path` into the shared state and keeps the file's name. A load
+/// that fails leaves there what was there.
+void LoadHankoData(const DriveC& drive, const QString& path, SymbolSet& set);
+
+/// Writes the symbol set to the file at `path` in one step.
+void SaveHankoData(const DriveC& drive, const QString& path, const SymbolSet& set);

@@ -1,0 +1,103 @@
+#include "render/BlankMap.h"
+
+#include "platform/StandardColors.h"
+#include "render/MapSize.h"
+#include "tests/TestDrive.h"
+
+TEST(BlankMap, TheHeightOfTheFormSetsTheScale)
+{
+    TestSurvey survey;
+    VarnModule& varn = survey.varn;
+    varn.LineOffset(1, 1) = 250; // the extent includes the offset of a line
+    EXPECT_FLOAT_EQ(FindMinMax(varn, survey.frmMap, varn), 0.98F * 9000 / 1000);
+    EXPECT_EQ(varn.MinY, 250);
+    EXPECT_EQ(varn.MaxY, 1250);
+    EXPECT_EQ(varn.RatioX, 12);
+
+    survey.frmMap.Top = 1000; // a window further down leaves less height
+    EXPECT_FLOAT_EQ(FindMinMax(varn, survey.frmMap, varn), 0.98F * 8000 / 1000);
+
+    setFirstSize(survey.frmMap);
+    setMapHeight(survey.frmMap, 100);
+    EXPECT_FLOAT_EQ(survey.frmMap.Height, 5670);
+    EXPECT_FLOAT_EQ(survey.frmMap.Width, 7560) << "the proportion of the sides is kept";
+}
+
+TEST(BlankMap, AMapWithoutExtentDividesByZero)
+{
+    TestSurvey survey;
+    const auto findScale = [&] { FindMinMax(survey.varn, survey.frmMap, survey.varn); };
+    for (int j = 1; j <= 5; ++j) {
+        survey.varn.LineXY(1, j, 1) = 7;
+    }
+    EXPECT_EQ(errorOf(findScale).number(), ErrorNumber::DivisionByZero) << "all on one horizontal";
+    survey.varn.NLine = 0;
+    EXPECT_EQ(errorOf(findScale).number(), ErrorNumber::DivisionByZero) << "no lines";
+}
+
+TEST(BlankMap, LayersAreDrawnAtScaleWithAMargin)
+{
+    TestSurvey survey;
+    survey.varn.LineStyle(1) = 1;
+    survey.varn.LineOffset(1, 0) = 100;
+    DrawBlankMap(survey.varn, survey.surfaces);
+    const Drawing& drawing = survey.frmMap.drawing();
+    const auto coast = operationsOf<PolylineOperation>(drawing).at(0);
+    EXPECT_EQ(drawing.points[coast.firstPoint + 2], QPointF(1100 * 8.82F + 50, 8870));
+    const LinePen dashedBlue{QBColor(1), 1, 1};
+    EXPECT_EQ(drawing.pens.at(static_cast<std::size_t>(coast.pen)), dashedBlue);
+    EXPECT_EQ(survey.frmMap.DrawStyle, 0) << "what follows is drawn solid";
+    EXPECT_EQ(printedAt(drawing, QStringLiteral("Town")), QPointF(400 * 8.82F + 50, 500 * 8.82F + 50));
+    EXPECT_TRUE(operationsOf<EllipseOperation>(drawing).empty()) << "no dots unless asked for";
+
+    survey.varn.PlotDots = true;
+    DrawBlankMap(survey.varn, survey.surfaces);
+    const auto dots = operationsOf<EllipseOperation>(survey.frmMap.drawing());
+    ASSERT_EQ(dots.size(), 3U);
+    EXPECT_FLOAT_EQ(dots[1].x, 300 * 8.82F + 50);
+    EXPECT_EQ(dots[1].halfWidth, 2);
+}
+
+TEST(BlankMap, TheScaleBarHasATickForEachDivision)
+{
+    TestSurvey survey;
+    DrawBlankMap(survey.varn, survey.surfaces);
+    const Drawing& drawing = survey.frmMap.drawing();
+    const float y0 = 900 * 8.82F + 50;
+    EXPECT_NEAR(printedAt(drawing, QStringLiteral("0")).y(), y0 - 300, 0.01);
+    EXPECT_NEAR(printedAt(drawing, QStringLiteral("20 km")).y(), y0 - 300, 0.01);
+    int endTicks = 0;
+    int innerTicks = 0;
+    for (std::size_t i = 1; i < drawing.points.size(); ++i) {
+        const QPointF rise = drawing.points[i - 1] - drawing.points[i];
+        endTicks += std::abs(rise.y() - 250) < 0.01 && rise.x() == 0 ? 1 : 0;
+        innerTicks += std::abs(rise.y() - 250.0 / 3) < 0.01 && rise.x() == 0 ? 1 : 0;
+    }
+    EXPECT_EQ(endTicks, 2);
+    EXPECT_EQ(innerTicks, 3);
+
+    survey.varn.ScaleDivisions = 0;
+    EXPECT_EQ(errorOf([&] { DrawBlankMap(survey.varn, survey.surfaces); }).number(),
+              ErrorNumber::DivisionByZero);
+}
+
+TEST(BlankMap, TheStampStandsInTheCornerInSmallType)
+{
+    TestSurvey survey;
+    PlotDate(QStringLiteral("rain.han"), QDateTime(QDate(2024, 2, 9), QTime(8, 5, 1)), survey.surfaces);
+    const Drawing& drawing = survey.frmMap.drawing();
+    EXPECT_EQ(printedAt(drawing, QStringLiteral("rain.han")), QPointF(12000 - 1550, 9000 - 350));
+    EXPECT_EQ(printedAt(drawing, QStringLiteral("2024-02-09 08:05:01")), QPointF(12000 - 1550, 9000 - 150));
+    EXPECT_EQ(drawing.fonts.at(0).size, 8);
+    EXPECT_EQ(survey.frmMap.FontSize, 10);
+}
+
+TEST(BlankMap, APreviewGoesToItsOwnSurface)
+{
+    TestSurvey survey;
+    DrawSurface preview;
+    survey.frmMap.Print(QStringLiteral("old map"));
+    DrawBlankMap(survey.varn, {preview, survey.frmMap});
+    EXPECT_TRUE(survey.frmMap.drawing().operations.empty()) << "the map form is cleared";
+    EXPECT_TRUE(wasPrinted(preview.drawing(), QStringLiteral("Town")));
+}

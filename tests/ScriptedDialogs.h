@@ -1,0 +1,65 @@
+#pragma once
+
+#include "platform/Dialogs.h"
+
+#include <deque>
+#include <gtest/gtest.h>
+#include <vector>
+
+/// Dialogs that are answered from a script, in the order in which they are asked. A question that the script
+/// has no answer for fails the test.
+class ScriptedDialogs : public Dialogs
+{
+public:
+    struct Shown
+    {
+        QString text;
+        QString title;
+
+        bool operator==(const Shown&) const = default;
+        friend void PrintTo(const Shown& shown, std::ostream* out)
+        {
+            *out << '[' << qPrintable(shown.title) << "] " << qPrintable(shown.text);
+        }
+    };
+
+    std::deque<bool> yesNo;
+    std::deque<std::optional<QString>> inputs;
+    std::deque<std::optional<QString>> files;
+    std::deque<std::optional<TextFont>> fonts;
+
+    /// Questions and messages in the order in which they were shown.
+    std::vector<Shown> shown;
+    /// Errors, their detail as the text.
+    std::vector<Shown> errors;
+
+    void message(const QString& text, const QString& title) override { shown.push_back({text, title}); }
+    void error(const QString& title, const QString& detail) override { errors.push_back({detail, title}); }
+    bool askYesNo(const QString& text, const QString& title) override { return answer(yesNo, {text, title}); }
+    std::optional<QString> input(const QString& prompt, const QString& title, const QString&) override
+    {
+        return answer(inputs, {prompt, title});
+    }
+    std::optional<QString> openFile(const QString& title, const QString&, const QString& filter) override
+    {
+        return answer(files, {filter, title});
+    }
+    std::optional<TextFont> chooseFont(const TextFont& initial) override
+    {
+        return answer(fonts, {initial.name, QStringLiteral("font")});
+    }
+
+private:
+    template <typename Answer>
+    Answer answer(std::deque<Answer>& answers, const Shown& question)
+    {
+        shown.push_back(question);
+        if (answers.empty()) {
+            ADD_FAILURE() << "no answer to: " << qPrintable(question.text);
+            return {};
+        }
+        const Answer next = answers.front();
+        answers.pop_front();
+        return next;
+    }
+};

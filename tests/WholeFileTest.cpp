@@ -1,0 +1,108 @@
+#include "platform/WholeFile.h"
+
+#include "tests/TestDrive.h"
+
+#include <QDir>
+#include <QFile>
+
+#include <csignal>
+#include <sys/resource.h>
+
+namespace {
+
+/// While it lives, no file can grow beyond `bytes`: writing fails as on a full disk.
+class FileSizeLimit
+{
+public:
+    explicit FileSizeLimit(rlim_t bytes)
+    {
+        std::signal(SIGXFSZ, SIG_IGN);
+        getrlimit(RLIMIT_FSIZE, &m_before);
+        const rlimit limit{bytes, m_before.rlim_max};
+        setrlimit(RLIMIT_FSIZE, &limit);
+    }
+    ~FileSizeLimit() { setrlimit(RLIMIT_FSIZE, &m_before); }
+    FileSizeLimit(const FileSizeLimit&) = delete;
+    FileSizeLimit& operator=(const FileSizeLimit&) = delete;
+
+private:
+    rlimit m_before{};
+};
+
+} // namespace
+
+TEST(WholeFile, TextIsReadInTheEncodingItIsValidIn)
+{
+    const QString word = QString::fromUtf8("\xE6\x96\xB9\xE8\xA8\x80"); // "dialect" in Japanese
+    EXPECT_EQ(decodeText("\xE6\x96\xB9\xE8\xA8\x80"), word);
+    EXPECT_EQ(decodeText("\xEF\xBB\xBF\xE6\x96\xB9\xE8\xA8\x80"), word) << "with a byte order mark";
+    EXPECT_EQ(decodeText("\x95\xFB\x8C\xBE"), word) << "Shift-JIS";
+    EXPECT_EQ(decodeText("\"caf\xE9\",1\r\n"), QString::fromUtf8("\"caf\xC3\xA9\",1\r\n")) << "Windows-1252";
+    EXPECT_EQ(decodeText("plain"), QStringLiteral("plain"));
+    EXPECT_EQ(errorOf([] { decodeText(QByteArray("MZ\0\1", 4)); }).number(), ErrorNumber::TypeMismatch);
+}
+
+TEST(WholeFile, NamesMatchWithoutRegardToCase)
+{
+    const TestDrive drive;
+    drive.write(QStringLiteral("C:\\Varn62E\\Varn\\Loc.map"), "upper");
+    EXPECT_EQ(readTextFile(drive.drive(), QStringLiteral("c:\\VARN62e\\varn\\LOC.MAP")),
+              QStringLiteral("upper"));
+    replaceFile(drive.drive(), QStringLiteral("C:\\varn62e\\varn\\loc.map"), "lower");
+    EXPECT_EQ(drive.read(QStringLiteral("C:\\Varn62E\\Varn\\Loc.map")), "lower") << "the same file";
+}
+
+TEST(WholeFile, FilesAnywhereHaveAPathOnDriveZ)
+{
+    const TestDrive drive;
+    EXPECT_EQ(drive.drive().varnPath(drive.hostPath(QStringLiteral("a/b.dbs"))),
+              QStringLiteral("C:\\a\\b.dbs"));
+    const QString elsewhere = drive.drive().varnPath(QStringLiteral("/etc/passwd"));
+    EXPECT_EQ(elsewhere, QStringLiteral("Z:\\etc\\passwd"));
+    EXPECT_EQ(drive.drive().hostPath(elsewhere), QStringLiteral("/etc/passwd"));
+}
+
+TEST(WholeFile, UnreadableFilesAreErrorsThatNameThem)
+{
+    const TestDrive drive;
+    QDir(drive.root()).mkpath(QStringLiteral("folder.map"));
+    QFile large(drive.hostPath(QStringLiteral("large.map")));
+    ASSERT_TRUE(large.open(QIODevice::WriteOnly) && large.resize(65LL * 1024 * 1024));
+    struct Row
+    {
+        const char* path;
+        ErrorNumber expected;
+    };
+    const Row rows[] = {
+        {"C:\\missing.map", ErrorNumber::FileNotFound},    {"C:\\no\\such.map", ErrorNumber::PathNotFound},
+        {"C:\\folder.map", ErrorNumber::PermissionDenied}, {"C:\\large.map", ErrorNumber::OutOfMemory},
+        {"Q:\\other.map", ErrorNumber::BadFileName},       {"", ErrorNumber::BadFileName},
+    };
+    for (const Row& row : rows) {
+        const QString path = QString::fromLatin1(row.path);
+        const RunTimeError error = errorOf([&] { readTextFile(drive.drive(), path); });
+        EXPECT_EQ(error.number(), row.expected) << row.path;
+        EXPECT_EQ(error.place().path, path);
+    }
+}
+
+TEST(WholeFile, AFailedSaveLeavesTheOldFileWhole)
+{
+    const TestDrive drive;
+    const QString path = QStringLiteral("C:\\item.dbs");
+    drive.write(path, "old");
+    {
+        const FileSizeLimit limit(1000);
+        EXPECT_EQ(errorOf([&] { replaceFile(drive.drive(), path, QByteArray(100000, 'x')); }).number(),
+                  ErrorNumber::DeviceIOError);
+    }
+    EXPECT_EQ(drive.read(path), "old");
+    EXPECT_EQ(QDir(drive.root()).entryList(QDir::Files), QStringList(QStringLiteral("item.dbs")))
+        << "nothing is left beside it";
+
+    QDir(drive.root()).mkpath(QStringLiteral("folder.dbs"));
+    EXPECT_EQ(errorOf([&] { replaceFile(drive.drive(), QStringLiteral("C:\\folder.dbs"), "x"); }).number(),
+              ErrorNumber::PermissionDenied);
+    EXPECT_EQ(errorOf([&] { replaceFile(drive.drive(), QStringLiteral("C:\\no\\such.dbs"), "x"); }).number(),
+              ErrorNumber::PathNotFound);
+}
