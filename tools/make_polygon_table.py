@@ -2,7 +2,8 @@
 
 A design is drawn in units of 6 twips at normal size and 3 at small size, as a line through its points. Here the
 points are given from the centre of the symbol, x to the right and y downwards, at most 14 units away; in the table
-they stand on a grid of 0 to 32 whose centre is the reference point.
+they are a little smaller, so that a design drawn at twice its height stays clear of its number in the catalogue, and
+stand on a grid of 0 to 32 whose centre is the reference point.
 """
 
 from math import cos, hypot, pi, sin
@@ -10,6 +11,7 @@ from math import cos, hypot, pi, sin
 from written_file import statement, write_file
 
 CENTRE = 16
+SCALE = 0.93
 MAX_RADIUS = 14
 MAX_POINTS = 20
 
@@ -92,7 +94,7 @@ def records():
         yield statement(len(points))
         yield statement(CENTRE, CENTRE, 0)
         for x, y in points:
-            yield statement(round(CENTRE + x, 1), round(CENTRE + y, 1))
+            yield statement(round(CENTRE + SCALE * x, 1), round(CENTRE + SCALE * y, 1))
 
 
 if __name__ == "__main__":
