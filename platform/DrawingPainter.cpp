@@ -1,8 +1,10 @@
 #include "platform/DrawingPainter.h"
 
 #include <QFontMetricsF>
+#include <QPaintEngine>
 #include <QPen>
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 #include <numbers>
@@ -27,7 +29,8 @@ class DrawingPainter
 public:
     DrawingPainter(const Drawing& drawing, QPainter& painter, double scale)
         : m_drawing(drawing), m_painter(painter), m_scale(scale), m_shapes(painter.worldTransform()),
-          m_texts(QTransform::fromScale(scale, scale) * m_shapes)
+          m_texts(QTransform::fromScale(scale, scale) * m_shapes),
+          m_inPieces(painter.paintEngine()->type() == QPaintEngine::Raster)
     {
         painter.setBrush(Qt::NoBrush);
         for (const LinePen& pen : drawing.pens) {
@@ -47,7 +50,9 @@ public:
             m_points.push_back(m_drawing.points[line.firstPoint + i] * m_scale);
         }
         const auto count = static_cast<int>(m_points.size());
-        if (count > 3 && m_points.front() == m_points.back()) {
+        if (count > MostPointsAtOnce && m_inPieces && isSolid(line.pen)) {
+            drawInPieces();
+        } else if (count > 3 && m_points.front() == m_points.back()) {
             useFill(0);
             m_painter.drawPolygon(m_points.data(), count - 1);
         } else if (count == 2) {
@@ -111,6 +116,20 @@ public:
 
 private:
     static constexpr int OtherPen = -2;
+    static constexpr int MostPointsAtOnce = 64;
+
+    bool isSolid(int pen) const { return m_drawing.pens[static_cast<std::size_t>(pen)].style == 0; }
+
+    /// A coast is painted piece by piece where the target is made of pixels: the time for a line grows faster
+    /// than its number of points, and round ends join the pieces without a seam.
+    void drawInPieces()
+    {
+        const auto count = static_cast<int>(m_points.size());
+        for (int first = 0; first < count - 1; first += MostPointsAtOnce - 1) {
+            m_painter.drawPolyline(&m_points[static_cast<std::size_t>(first)],
+                                   std::min(MostPointsAtOnce, count - first));
+        }
+    }
 
     static int sixteenths(float radians)
     {
@@ -170,6 +189,7 @@ private:
     double m_scale;
     QTransform m_shapes;
     QTransform m_texts;
+    bool m_inPieces;
     std::vector<QPointF> m_points;
     std::vector<QPen> m_pens;
     std::vector<QFont> m_fonts;

@@ -4,6 +4,6 @@
 
 #include <QPainter>
 
-/// Paints `drawing` with `painter` at `scale` painter units per twip. Pens, fills and fonts are set only when they
-/// change.
+/// Paints `drawing` with `painter` at `scale` painter units per twip. Pens, fills and fonts are set only when
+/// they change.
 void paintDrawing(const Drawing& drawing, QPainter& painter, double scale);

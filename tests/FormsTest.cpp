@@ -98,6 +98,7 @@ TEST(FirstStart, NewUserGetsTheSampleAndKeepsWhatIsChanged)
 {
     const TestDrive drive;
     const QString glyph = VarnPath + QStringLiteral("\\VarnSymbol\\Bold18\\SymbolS16.bmp");
+    const QString codes = VarnPath + QStringLiteral("\\VarnData\\ExpSymbol.txt");
     const QString places = VarnPath + QStringLiteral("\\VarnData\\Sample\\Map\\kanji.map");
     const QString localities = VarnPath + QStringLiteral("\\VarnData\\Sample\\Map\\Loc.map");
     {
@@ -117,6 +118,7 @@ TEST(FirstStart, NewUserGetsTheSampleAndKeepsWhatIsChanged)
     QFile::remove(drive.drive().hostPath(glyph));
     QFile::remove(drive.drive().hostPath(localities));
     drive.write(places, "mine");
+    drive.write(codes, "0\r\n");
     drive.write(MapNameFile, "\"\\Other\",\"Arial\",14,#FALSE#,#FALSE#,0\r\n");
     Program program(drive);
     program.dialogs.yesNo = {true};
@@ -124,6 +126,7 @@ TEST(FirstStart, NewUserGetsTheSampleAndKeepsWhatIsChanged)
     EXPECT_EQ(drive.read(glyph), glyphBytes) << "a missing glyph is laid down again";
     EXPECT_FALSE(fileExists(drive.drive(), localities)) << "the sample is laid down only as a whole";
     EXPECT_EQ(drive.read(places), "mine");
+    EXPECT_EQ(drive.read(codes), "0\r\n");
     EXPECT_EQ(program.varn.VarnMapName, QStringLiteral("\\Other"));
     EXPECT_EQ(program.dialogs.errors.size(), 3U) << "one for each file that the other map lacks";
     EXPECT_EQ(program.main.windowTitle(), QStringLiteral("VARN - Other"));
@@ -203,11 +206,9 @@ TEST_F(Forms, FilesMissingAtStartAreToldOnceEachAndTheFormOpens)
 
 TEST_F(StartedForms, CheckMapNameDrawsThePreviewAndAsks)
 {
-    auto* preview = program.main.findChild<SurfaceView*>(QStringLiteral("picPreview"));
-    const QImage before = preview->grab().toImage();
     program.dialogs.yesNo = {false};
     program.click("cmdMapName");
-    EXPECT_NE(preview->grab().toImage(), before);
+    EXPECT_GT(program.varn.Scale, 0);
     EXPECT_EQ(program.dialogs.shown.back(),
               (Shown{QStringLiteral("Is this a right map name ? "), QStringLiteral("Map Name")}));
     EXPECT_EQ(program.main.findChild<QLineEdit*>(QStringLiteral("txtVarnMapName"))->text(),
@@ -227,7 +228,10 @@ TEST_F(Forms, DataAndSymbolsInEitherOrderEnableTheLinguisticMap)
         EXPECT_FALSE(program.menu("mnuMapLing").isEnabled());
         program.load(second.first, second.second);
         EXPECT_TRUE(program.menu("mnuMapLing").isEnabled());
+        auto* view = program.map().findChild<SurfaceView*>();
+        const QImage emptyView = view->grab().toImage();
         program.menu("mnuMapLing").trigger();
+        EXPECT_NE(view->grab().toImage(), emptyView);
         EXPECT_TRUE(wasPrinted(program.drawing(), QStringLiteral("Rain")));
         EXPECT_TRUE(wasPrinted(program.drawing(), QStringLiteral("UYU")));
         EXPECT_EQ(program.map().windowTitle(), QStringLiteral("VARN Map - Test - rain.dbs - rain.han"));
