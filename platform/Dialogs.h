@@ -1,10 +1,14 @@
 #pragma once
 
 #include "platform/Drawing.h"
+#include "platform/PrinterDevice.h"
 
 #include <QString>
 
+#include <memory>
 #include <optional>
+
+struct PageLayout;
 
 /// The dialogs that the forms ask their questions with. The desktop program shows real ones; whoever drives
 /// the forms without a person answers them from a script.
@@ -28,4 +32,11 @@ public:
                                             const QString& filter) = 0;
     /// Asks for a font, `initial` chosen at first. Nothing where the dialog was cancelled.
     virtual std::optional<TextFont> chooseFont(const TextFont& initial) = 0;
+    /// Asks for the name of a file to save, in `folder` at first, `initial` as its name; asks before an
+    /// existing file is replaced. A name without an ending gets that of the filter chosen. Nothing where the
+    /// dialog was cancelled.
+    virtual std::optional<QString> saveFile(const QString& title, const QString& folder,
+                                            const QString& filter, const QString& initial) = 0;
+    /// Asks for a printer for pages of this layout; null where the dialog was cancelled.
+    virtual std::unique_ptr<PrinterDevice> choosePrinter(const PageLayout& layout) = 0;
 };

@@ -1,6 +1,7 @@
 #include "platform/QtDialogs.h"
 
 #include "platform/Numbers.h"
+#include "platform/QtPrinterDevice.h"
 
 #include <QApplication>
 #include <QFileDialog>
@@ -10,6 +11,7 @@
 #include <QGridLayout>
 #include <QInputDialog>
 #include <QMessageBox>
+#include <QRegularExpression>
 
 #include <algorithm>
 
@@ -99,6 +101,30 @@ std::optional<QString> QtDialogs::openFile(const QString& title, const QString& 
         return std::nullopt;
     }
     return dialog.selectedFiles().constFirst();
+}
+
+std::optional<QString> QtDialogs::saveFile(const QString& title, const QString& folder, const QString& filter,
+                                           const QString& initial)
+{
+    QFileDialog dialog(QApplication::activeWindow(), title, folder);
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setNameFilters(nameFilters(filter));
+    const auto useSuffix = [&dialog](const QString& nameFilter) {
+        dialog.setDefaultSuffix(
+            QRegularExpression(QStringLiteral("\\*\\.(\\w+)")).match(nameFilter).captured(1));
+    };
+    QObject::connect(&dialog, &QFileDialog::filterSelected, &dialog, useSuffix);
+    useSuffix(dialog.selectedNameFilter());
+    dialog.selectFile(initial);
+    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) {
+        return std::nullopt;
+    }
+    return dialog.selectedFiles().constFirst();
+}
+
+std::unique_ptr<PrinterDevice> QtDialogs::choosePrinter(const PageLayout& layout)
+{
+    return QtPrinterDevice::choose(layout);
 }
 
 std::optional<TextFont> QtDialogs::chooseFont(const TextFont& initial)

@@ -14,6 +14,9 @@ public:
     std::optional<QString> openFile(const QString& title, const QString& folder,
                                     const QString& filter) override;
     std::optional<TextFont> chooseFont(const TextFont& initial) override;
+    std::optional<QString> saveFile(const QString& title, const QString& folder, const QString& filter,
+                                    const QString& initial) override;
+    std::unique_ptr<PrinterDevice> choosePrinter(const PageLayout& layout) override;
 };
 
 /// The name filters that "DBS Files (*.dbs)|*.dbs" stands for: descriptions and patterns in turn.

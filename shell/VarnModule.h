@@ -8,10 +8,19 @@
 #include "shell/Folders.h"
 #include "shell/LoadedState.h"
 #include "shell/MapFont.h"
+#include "shell/PageSetup.h"
 #include "symbols/SymbolSet.h"
 
 /// The state that all forms share: the sum of what the subsystems define. There is one, made in `main`.
-struct VarnModule : Folders, MapFont, BaseMap, MapGeometry, MapStyle, LinguisticData, SymbolSet, LoadedState
+struct VarnModule : Folders,
+                    MapFont,
+                    BaseMap,
+                    MapGeometry,
+                    MapStyle,
+                    LinguisticData,
+                    SymbolSet,
+                    LoadedState,
+                    PageSetup
 {
     /// The surface that maps are drawn on.
     DrawSurface* DrawTarget = nullptr;

@@ -26,7 +26,10 @@ public:
     std::deque<bool> yesNo;
     std::deque<std::optional<QString>> inputs;
     std::deque<std::optional<QString>> files;
+    std::deque<std::optional<QString>> savedFiles;
     std::deque<std::optional<TextFont>> fonts;
+    /// The printer that the user chooses; null for none.
+    std::unique_ptr<PrinterDevice> printer;
 
     /// Questions and messages in the order in which they were shown.
     std::vector<Shown> shown;
@@ -47,6 +50,16 @@ public:
     std::optional<TextFont> chooseFont(const TextFont& initial) override
     {
         return answer(fonts, {initial.name, QStringLiteral("font")});
+    }
+    std::optional<QString> saveFile(const QString& title, const QString&, const QString& filter,
+                                    const QString&) override
+    {
+        return answer(savedFiles, {filter, title});
+    }
+    std::unique_ptr<PrinterDevice> choosePrinter(const PageLayout&) override
+    {
+        shown.push_back({QString(), QStringLiteral("printer")});
+        return std::move(printer);
     }
 
 private:

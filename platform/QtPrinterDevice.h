@@ -1,0 +1,31 @@
+#pragma once
+
+#include "platform/PrinterDevice.h"
+
+#include <QString>
+
+class QPrinter;
+struct PageLayout;
+
+/// A printer of the system, or a file that is printed to.
+class QtPrinterDevice : public PrinterDevice
+{
+public:
+    /// Prints on `printer`, whose paper is addressed from its corner.
+    explicit QtPrinterDevice(std::unique_ptr<QPrinter> printer);
+    ~QtPrinterDevice() override;
+
+    /// Shows the system's printer dialog, the default printer chosen at first; null where it was cancelled.
+    static std::unique_ptr<PrinterDevice> choose(const PageLayout& layout);
+
+    void print(const std::vector<Drawing>& pages) override;
+
+private:
+    std::unique_ptr<QPrinter> m_printer;
+    /// The file that the first document goes to; empty for a printer of paper.
+    QString m_firstFile;
+    int m_documents = 0;
+};
+
+/// A name beside `file` that no file has: "map.pdf" gives "map-2.pdf" for document 2, and so on.
+QString fileOfDocument(const QString& file, int document);
