@@ -6,7 +6,6 @@
 
 #include <QBuffer>
 #include <QFileInfo>
-#include <QImage>
 #include <QImageWriter>
 #include <QPageSize>
 #include <QPainter>
@@ -17,20 +16,27 @@
 
 namespace {
 
-/// Lets `write` fill a device in memory and puts what it wrote into the file at `hostPath`.
-template <typename Write>
-void writeWhole(const QString& hostPath, Write write)
+constexpr double MostPixels = 500e6;
+
+QByteArray pngBytes(const QImage& image)
 {
+    constexpr int FastCompression = 30; // for a drawing as small as the default and twice as fast
     QBuffer buffer;
-    buffer.open(QIODevice::WriteOnly);
-    write(buffer);
-    replaceHostFile(hostPath, hostPath, buffer.data());
+    QImageWriter writer(&buffer, "png");
+    writer.setCompression(FastCompression);
+    if (!writer.write(image)) {
+        throw RunTimeError(ErrorNumber::OutOfMemory, writer.errorString());
+    }
+    return buffer.data();
 }
 
-void writeSvg(const Drawing& drawing, QSizeF size, QIODevice& device)
+} // namespace
+
+QByteArray drawingSvg(const Drawing& drawing, QSizeF size)
 {
+    QBuffer buffer;
     QSvgGenerator svg;
-    svg.setOutputDevice(&device);
+    svg.setOutputDevice(&buffer);
     svg.setResolution(96);
     svg.setSize((size / TwipsPerPixel).toSize());
     svg.setViewBox(QRectF(QPointF(0, 0), size));
@@ -39,30 +45,34 @@ void writeSvg(const Drawing& drawing, QSizeF size, QIODevice& device)
     QPainter painter(&svg);
     painter.fillRect(QRectF(QPointF(0, 0), size), Qt::white);
     paintDrawing(drawing, painter, 1);
+    painter.end();
+    return buffer.data();
 }
 
-void writePng(const Drawing& drawing, QSizeF size, double dotsPerInch, QIODevice& device)
+QImage drawingImage(const Drawing& drawing, QSizeF size, double dotsPerInch)
 {
     constexpr double MetersPerInch = 0.0254;
-    constexpr int FastCompression = 30; // for a drawing as small as the default and twice as fast
+    if (!(dotsPerInch > 0)) {
+        throw RunTimeError(ErrorNumber::InvalidProcedureCall,
+                           QStringLiteral("%1 is not a resolution.").arg(dotsPerInch));
+    }
     const double scale = dotsPerInch / TwipsPerInch;
-    QImage image(static_cast<int>(std::lround(size.width() * scale)),
-                 static_cast<int>(std::lround(size.height() * scale)), QImage::Format_RGB32);
-    if (image.isNull()) {
+    const QSizeF pixels = size * scale;
+    if (pixels.width() * pixels.height() > MostPixels) {
         throw RunTimeError(ErrorNumber::OutOfMemory, QStringLiteral("The picture is too large."));
+    }
+    QImage image(static_cast<int>(std::lround(pixels.width())),
+                 static_cast<int>(std::lround(pixels.height())), QImage::Format_RGB32);
+    if (image.isNull()) {
+        throw RunTimeError(ErrorNumber::OutOfMemory, QStringLiteral("The picture cannot be made."));
     }
     image.fill(Qt::white);
     image.setDotsPerMeterX(static_cast<int>(std::lround(dotsPerInch / MetersPerInch)));
     image.setDotsPerMeterY(image.dotsPerMeterX());
     QPainter painter(&image);
     paintDrawing(drawing, painter, scale);
-    painter.end();
-    QImageWriter writer(&device, "png");
-    writer.setCompression(FastCompression);
-    writer.write(image);
+    return image;
 }
-
-} // namespace
 
 DrawingFormat drawingFormat(const QString& fileName)
 {
@@ -84,14 +94,14 @@ void saveDrawing(const Drawing& drawing, QSizeF size, const QString& hostPath, d
 {
     switch (drawingFormat(hostPath)) {
     case DrawingFormat::Svg:
-        writeWhole(hostPath, [&](QIODevice& device) { writeSvg(drawing, size, device); });
+        replaceHostFile(hostPath, hostPath, drawingSvg(drawing, size));
         break;
     case DrawingFormat::Pdf:
         savePdfPages(
             1, [&drawing](int) -> const Drawing& { return drawing; }, size, hostPath);
         break;
     case DrawingFormat::Png:
-        writeWhole(hostPath, [&](QIODevice& device) { writePng(drawing, size, dotsPerInch, device); });
+        replaceHostFile(hostPath, hostPath, pngBytes(drawingImage(drawing, size, dotsPerInch)));
         break;
     }
 }
@@ -99,8 +109,10 @@ void saveDrawing(const Drawing& drawing, QSizeF size, const QString& hostPath, d
 void savePdfPages(int pages, const std::function<const Drawing&(int)>& drawPage, QSizeF size,
                   const QString& hostPath)
 {
-    writeWhole(hostPath, [&](QIODevice& device) {
-        QPdfWriter pdf(&device);
+    QBuffer buffer;
+    buffer.open(QIODevice::WriteOnly);
+    {
+        QPdfWriter pdf(&buffer);
         pdf.setCreator(QStringLiteral("varn"));
         pdf.setTitle(QFileInfo(hostPath).completeBaseName());
         pdf.setResolution(static_cast<int>(TwipsPerInch));
@@ -114,5 +126,6 @@ void savePdfPages(int pages, const std::function<const Drawing&(int)>& drawPage,
             }
             paintDrawing(drawing, painter, 1);
         }
-    });
+    }
+    replaceHostFile(hostPath, hostPath, buffer.data());
 }

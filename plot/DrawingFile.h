@@ -2,6 +2,8 @@
 
 #include "platform/Drawing.h"
 
+#include <QByteArray>
+#include <QImage>
 #include <QSizeF>
 #include <QString>
 
@@ -12,6 +14,16 @@ enum class DrawingFormat { Svg, Pdf, Png };
 
 /// The format that the ending of `fileName` asks for. Raises bad file name for any other ending.
 DrawingFormat drawingFormat(const QString& fileName);
+
+/// Dots per inch of a PNG unless another resolution is asked for.
+constexpr double DefaultResolution = 192;
+
+/// The drawing, `size` twips large, on white paper. Raises out of memory for a picture too large, and invalid
+/// procedure call for a resolution that is not above 0.
+QImage drawingImage(const Drawing& drawing, QSizeF size, double dotsPerInch);
+
+/// The drawing, `size` twips large, as the text of an SVG file.
+QByteArray drawingSvg(const Drawing& drawing, QSizeF size);
 
 /// Saves a drawing of `size` twips to the file at `hostPath`, a path of this machine: as SVG or PDF of that
 /// size, or as PNG at `dotsPerInch`. The file is complete or as it was. Raises path not found, permission

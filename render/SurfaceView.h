@@ -30,10 +30,10 @@ public:
 protected:
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
-
-private:
     /// Where the paper lies in the widget, in pixels.
     QRectF paperRectangle() const;
+
+private:
     /// Colour around the paper.
     QColor surroundings() const;
     bool isTooLargeToKeep() const;

@@ -1,20 +1,21 @@
 #include "render/frmMap.h"
 
 #include "render/MapSize.h"
-#include "shell/VarnModule.h"
+#include "shell/Printing.h"
 #include "ui_frmMap.h"
 
 #include <QButtonGroup>
 #include <QEvent>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QPushButton>
 #include <QScreen>
 
 #include <algorithm>
 
 frmMap::frmMap(VarnModule& varn, Dialogs& dialogs)
     : VarnForm(dialogs), m_ui(std::make_unique<Ui::frmMap>()), m_varn(varn), m_places(new QButtonGroup(this)),
-      m_loaded(new QLabel(this))
+      m_loaded(new QLabel(this)), m_lblInsatsumode(new QPushButton(this))
 {
     m_ui->setupUi(this);
     m_ui->fraStyle->hide();
@@ -25,6 +26,10 @@ frmMap::frmMap(VarnModule& varn, Dialogs& dialogs)
     m_loaded->setContentsMargins(8, 0, 8, 0);
     m_loaded->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     statusBar()->addWidget(m_loaded, 1);
+    m_lblInsatsumode->setObjectName(QStringLiteral("lblInsatsumode"));
+    m_lblInsatsumode->setFlat(true);
+    m_lblInsatsumode->setToolTip(QStringLiteral("Turn printing on or off"));
+    statusBar()->addPermanentWidget(m_lblInsatsumode);
     connectMenus();
     connectOptions();
     move(screen()->availableGeometry().topLeft());
@@ -38,6 +43,10 @@ void frmMap::connectMenus()
     const auto click = [this](QAction* action, void (frmMap::*handler)()) {
         handle(action, &QAction::triggered, handler);
     };
+    click(m_ui->mnuSaveMapAs, &frmMap::mnuSaveMapAs_Click);
+    click(m_ui->mnuCopyMap, &frmMap::mnuCopyMap_Click);
+    click(m_ui->mnuFilePrint, &frmMap::mnuFilePrint_Click);
+    handle(m_lblInsatsumode, &QPushButton::clicked, &frmMap::lblInsatsumode_Click);
     click(m_ui->mnuInputWord, &frmMap::mnuInputWord_Click);
     click(m_ui->mnuHankoInput, &frmMap::mnuHankoInput_Click);
     click(m_ui->mnuMapLing, &frmMap::mnuMapLing_Click);
@@ -96,6 +105,7 @@ void frmMap::refresh()
 {
     m_ui->picMap->refresh();
     showLoaded();
+    DisplayInsatsu();
 }
 
 void frmMap::showLoaded()
@@ -114,6 +124,11 @@ void frmMap::showLoaded()
                                 : QStringLiteral("Symbols: %1 (%2 captions)")
                                       .arg(m_varn.SymbolFileName, QString::number(m_varn.NHanrei));
     m_loaded->setText(item + QStringLiteral("    |    ") + symbols);
+}
+
+void frmMap::DisplayInsatsu()
+{
+    m_lblInsatsumode->setText(printModeLabel(m_varn));
 }
 
 void frmMap::showArea()

@@ -7,6 +7,7 @@
 
 class QButtonGroup;
 class QLabel;
+class QPushButton;
 struct VarnModule;
 
 namespace Ui {
@@ -42,6 +43,10 @@ private:
     void connectMenus();
     void connectOptions();
 
+    void mnuSaveMapAs_Click();
+    void mnuCopyMap_Click();
+    void mnuFilePrint_Click();
+    void lblInsatsumode_Click();
     void mnuInputWord_Click();
     void mnuHankoInput_Click();
     void mnuMapLing_Click();
@@ -56,7 +61,9 @@ private:
     void mnuHankoNext_Click();
     void mnuHankoPrevious_Click();
 
-    void PrintYesNo();
+    /// Runs `draw` on the form or, in print mode, on a document of its own.
+    void drawOnTarget(const std::function<void()>& draw);
+    void DisplayInsatsu();
     void hideStyle();
     void enableMapLing();
     void plotSymbolPage();
@@ -72,6 +79,8 @@ private:
     DrawSurface m_surface;
     QButtonGroup* m_places;
     QLabel* m_loaded;
+    /// Shows the print switch; a click turns it.
+    QPushButton* m_lblInsatsumode;
     /// The window's size that shows the drawing area as it was set; empty once the user resized the window.
     QSize m_sizeOfArea;
     int m_symbolPage = 1;

@@ -2,6 +2,7 @@
 
 #include "lingdata/ItemLoader.h"
 #include "platform/Numbers.h"
+#include "plot/DrawingFile.h"
 #include "render/BlankMap.h"
 #include "render/Legend.h"
 #include "render/LinguisticMap.h"
@@ -9,18 +10,92 @@
 #include "render/SymbolCatalogue.h"
 #include "render/SymbolHelp.h"
 #include "render/frmMap.h"
-#include "shell/VarnModule.h"
+#include "shell/Printing.h"
 #include "symbols/SymbolFile.h"
 #include "ui_frmMap.h"
 
 #include <QButtonGroup>
+#include <QClipboard>
+#include <QFileInfo>
+#include <QGuiApplication>
+#include <QMimeData>
 #include <QScopeGuard>
 
 #include <algorithm>
+#include <memory>
 
-void frmMap::PrintYesNo()
+void frmMap::drawOnTarget(const std::function<void()>& draw)
 {
-    m_varn.DrawTarget = &m_surface;
+    const WaitCursor wait;
+    hideStyle();
+    PrintYesNo(m_varn, m_surface);
+    draw();
+    PrintEnd(m_varn);
+}
+
+// File
+
+void frmMap::mnuSaveMapAs_Click()
+{
+    const auto file = dialogs().saveFile(
+        QStringLiteral("Save Map As"), m_varn.Drive.hostPath(m_varn.dataFolder()),
+        QStringLiteral("PDF Files (*.pdf)|*.pdf|SVG Files (*.svg)|*.svg|PNG Files (*.png)|*.png"),
+        QFileInfo(m_varn.ItemFileName).completeBaseName());
+    if (!file) {
+        return;
+    }
+    double dotsPerInch = DefaultResolution;
+    if (drawingFormat(*file) == DrawingFormat::Png) {
+        const auto answer = dialogs().input(QStringLiteral("Resolution of the picture in dots per inch"),
+                                            QStringLiteral("Save Map As"), QString::number(dotsPerInch));
+        if (!answer) {
+            return;
+        }
+        dotsPerInch = Val(*answer);
+    }
+    const WaitCursor wait;
+    saveDrawing(m_surface.drawing(), {m_surface.Width, m_surface.Height}, *file, dotsPerInch);
+}
+
+void frmMap::mnuCopyMap_Click()
+{
+    const WaitCursor wait;
+    const QSizeF size(m_surface.Width, m_surface.Height);
+    auto copied = std::make_unique<QMimeData>();
+    copied->setImageData(drawingImage(m_surface.drawing(), size, DefaultResolution));
+    copied->setData(QStringLiteral("image/svg+xml"), drawingSvg(m_surface.drawing(), size));
+    QGuiApplication::clipboard()->setMimeData(copied.release()); // the clipboard owns it
+}
+
+void frmMap::mnuFilePrint_Click()
+{
+    if (!m_varn.PrinterConnected) {
+        dialogs().message(
+            QStringLiteral("Printer is not connected.  Please connect the printer in the Main Form."),
+            QStringLiteral("Print"));
+        return;
+    }
+    m_varn.PrintMode = dialogs().askYesNo(QStringLiteral("Will you print ?"), QStringLiteral("Print"));
+    if (m_varn.PrintMode) {
+        SettingPrinterScale(m_varn, m_varn);
+        m_varn.PrinterFactor = 1.0F;
+    }
+    DisplayInsatsu();
+}
+
+void frmMap::lblInsatsumode_Click()
+{
+    if (!m_varn.PrinterConnected) {
+        dialogs().message(
+            QStringLiteral("Printer is not connected. Please connect the printer in the Main Form."),
+            QStringLiteral("Print"));
+        return;
+    }
+    m_varn.PrintMode = !m_varn.PrintMode;
+    if (m_varn.PrintMode) {
+        m_varn.PrinterFactor = 1.0F;
+    }
+    DisplayInsatsu();
 }
 
 // Load Data
@@ -62,19 +137,15 @@ void frmMap::enableMapLing()
 
 void frmMap::mnuMapLing_Click()
 {
-    const WaitCursor wait;
-    hideStyle();
-    PrintYesNo();
-    drawLinguisticMap(m_varn, surfaces());
+    drawOnTarget([this] { drawLinguisticMap(m_varn, surfaces()); });
 }
 
 void frmMap::mnuMapBlank_Click()
 {
-    const WaitCursor wait;
-    hideStyle();
-    PrintYesNo();
-    PlotHanrei(m_varn, surfaces());
-    DrawBlankMap(m_varn, surfaces());
+    drawOnTarget([this] {
+        PlotHanrei(m_varn, surfaces());
+        DrawBlankMap(m_varn, surfaces());
+    });
 }
 
 void frmMap::mnuHanrei_Click()
@@ -87,10 +158,7 @@ void frmMap::mnuHanrei_Click()
 
 void frmMap::mnuSymbols_Click()
 {
-    const WaitCursor wait;
-    hideStyle();
-    PrintYesNo();
-    WriteSymbolHelp(m_varn, surfaces());
+    drawOnTarget([this] { WriteSymbolHelp(m_varn, surfaces()); });
 }
 
 // Set Map
@@ -163,8 +231,5 @@ void frmMap::mnuHankoPrevious_Click()
 
 void frmMap::plotSymbolPage()
 {
-    const WaitCursor wait;
-    hideStyle();
-    PrintYesNo();
-    PlotSymbol(m_varn, m_symbolPage, surfaces());
+    drawOnTarget([this] { PlotSymbol(m_varn, m_symbolPage, surfaces()); });
 }

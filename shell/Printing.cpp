@@ -66,8 +66,6 @@ void connectPrinter(VarnModule& varn, std::unique_ptr<PrinterDevice> device)
     varn.Printer.FontSize = varn.MapFontSize;
     varn.Printer.Width = toSingle(varn.PaperWidth * TwipsPerMm);
     varn.Printer.Height = toSingle(varn.PaperHeight * TwipsPerMm);
-    varn.Printer.ScaleLeft = toSingle(-varn.LeftMargin * TwipsPerMm);
-    varn.Printer.ScaleTop = toSingle(-varn.TopMargin * TwipsPerMm);
 }
 
 void PrintYesNo(VarnModule& varn, DrawSurface& frmMap)
@@ -96,6 +94,8 @@ void PrintEnd(VarnModule& varn)
 void beginDocument(PageSetup& page)
 {
     page.PrintedPages.clear();
+    page.Printer.ScaleLeft = toSingle(-page.LeftMargin * TwipsPerMm);
+    page.Printer.ScaleTop = toSingle(-page.TopMargin * TwipsPerMm);
     page.Printer.Cls();
     page.Printer.DrawWidth = 1;
     page.Printer.DrawStyle = 0;

@@ -16,7 +16,7 @@ QString printModeLabel(const PageSetup& page);
 /// without extent.
 void SettingPrinterScale(PageSetup& page, MapGeometry& geometry);
 
-/// Makes `device` the printer: sets its font and moves its origin to the margins.
+/// Makes `device` the printer and sets its font; null for none.
 void connectPrinter(VarnModule& varn, std::unique_ptr<PrinterDevice> device);
 
 /// Called before a drawing command: the command draws on a fresh page of the printer where print mode is on,
@@ -27,7 +27,8 @@ void newPage(PageSetup& page);
 /// Called after a drawing command: where print mode is on, ends the document so that it is printed. Raises
 /// what the printer raises.
 void PrintEnd(VarnModule& varn);
-/// Begins a document on the printer, whatever the print switch says: lists are printed with it.
+/// Begins a document on the printer, whatever the print switch says: lists are printed with it. Drawing
+/// coordinate 0 falls on the margins.
 void beginDocument(PageSetup& page);
 /// Ends the document being drawn, so that it is printed.
 void endDocument(PageSetup& page);

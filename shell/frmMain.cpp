@@ -37,6 +37,7 @@ frmMain::frmMain(VarnModule& varn, Dialogs& dialogs)
     handle(m_ui->cmdMapName, &QPushButton::clicked, &frmMain::cmdMapName_Click);
     handle(m_ui->cmdMap, &QPushButton::clicked, &frmMain::cmdMap_Click);
     handle(m_ui->cmdExit, &QPushButton::clicked, &frmMain::cmdExit_Click);
+    prepareSetMergin();
     connect(&m_map, &frmMap::toMain, this, &frmMain::bringToFront);
 }
 
@@ -45,6 +46,7 @@ frmMain::~frmMain() = default;
 void frmMain::Form_Load(const QString& installation)
 {
     fixPaths(m_varn);
+    recomputePaper();
     run([&] { layDownInstallation(installation, m_varn); });
     applyMapChoice({}, m_varn);
     run([this] {

@@ -3,7 +3,9 @@
 #include "platform/VarnForm.h"
 #include "render/frmMap.h"
 
+class QLineEdit;
 struct MapFont;
+struct PageLayout;
 
 namespace Ui {
 class frmMain;
@@ -31,6 +33,17 @@ private:
     void loadBaseMap();
     void SetMapName();
     void drawPreview();
+
+    // Page set-up.
+    void prepareSetMergin();
+    void recomputePaper();
+    void displayPaper();
+    void SetPrinter();
+    void txtMergin_Change(const QLineEdit& box, qint16 PageLayout::*margin);
+    void cboPaper_Click();
+    void lblDisplayPaperSize_Click();
+    void cmdSettingPrinter_Click();
+    void cmdExitSetMergin_Click();
 
     void cmdMapName_Click();
     void cmdMap_Click();

@@ -1,0 +1,67 @@
+#include "lingdata/EnteredItem.h"
+
+#include "lingdata/InputKindsFile.h"
+#include "lingdata/ItemLoader.h"
+#include "lingdata/LinguisticFile.h"
+#include "platform/SequentialFile.h"
+
+#include <QFile>
+
+#include <algorithm>
+
+namespace {
+
+constexpr QLatin1String ItemEnding(".dbs");
+
+bool isForbidden(QChar character)
+{
+    return character < QLatin1Char(' ') || QStringLiteral("\\/:*?\"<>|").contains(character);
+}
+
+} // namespace
+
+QString enteredItemPath(const Folders& folders, const QString& name)
+{
+    QString base = name.trimmed();
+    if (base.endsWith(ItemEnding, Qt::CaseInsensitive)) {
+        base.chop(ItemEnding.size());
+    }
+    if (base.isEmpty()) {
+        return {};
+    }
+    if (std::any_of(base.begin(), base.end(), isForbidden)) {
+        throw RunTimeError(ErrorNumber::BadFileName, base);
+    }
+    return folders.dataFolder() + QLatin1Char('\\') + base + ItemEnding;
+}
+
+QString inputKindsPath(const Folders& folders, const QString& itemPath)
+{
+    const QString kindsPath = kindsFilePath(folders, itemPath);
+    return kindsPath.left(kindsPath.lastIndexOf(QLatin1Char('.'))) + QStringLiteral(".ipt");
+}
+
+ItemEditor openItem(const Folders& folders, const QString& itemPath)
+{
+    ItemAnswers item = readSequentialFile(folders.Drive, itemPath, readItem);
+    const QString kindsPath = inputKindsPath(folders, itemPath);
+    if (fileExists(folders.Drive, kindsPath)) {
+        return {std::move(item), readSequentialFile(folders.Drive, kindsPath, readInputKinds)};
+    }
+    QStringList kinds = ItemEditor(item, {}).wordsMissingInKinds().mid(0, MostInputKinds);
+    return {std::move(item), std::move(kinds)};
+}
+
+void saveItem(const Folders& folders, const QString& itemPath, ItemEditor& editor)
+{
+    LinguisticData data;
+    static_cast<ItemAnswers&>(data) = editor.answers();
+    writeSequentialFile(folders.Drive, itemPath, [&](SequentialWriter& file) { writeItem(file, data); });
+    // Whatever happens from here on, old kinds must not be taken for those of the new item.
+    const QString kindsPath = kindsFilePath(folders, itemPath);
+    QFile::remove(folders.Drive.hostPath(kindsPath));
+    writeSequentialFile(folders.Drive, inputKindsPath(folders, itemPath),
+                        [&](SequentialWriter& file) { writeInputKinds(file, editor.kinds()); });
+    editor.markSaved();
+    FileWordData(folders, kindsPath, data);
+}

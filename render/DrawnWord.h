@@ -1,0 +1,16 @@
+#pragma once
+
+#include "shell/VarnModule.h"
+
+/// A coded word drawn by itself, as maps show it: in the map font, with letters for its phonetic escapes.
+struct DrawnWord
+{
+    Drawing drawing;
+    /// Where the word ended and the height of its line, in twips.
+    float Width = 0;
+    float Height = 0;
+};
+
+/// Draws `word` from the origin. Escapes that are in no code are left out. Raises file not found for a glyph
+/// that the installation lacks.
+DrawnWord drawWord(VarnModule& varn, const QString& word);

@@ -1,0 +1,136 @@
+#include "tests/RecordingPrinter.h"
+#include "tests/TestProgram.h"
+
+#include <QClipboard>
+#include <QComboBox>
+#include <QFile>
+#include <QGroupBox>
+#include <QImage>
+#include <QLineEdit>
+#include <QMimeData>
+
+namespace {
+
+/// A started program with an item and its symbols loaded.
+class LoadedProgram : public StartedForms
+{
+protected:
+    LoadedProgram()
+    {
+        program.load("mnuInputWord", "rain.dbs");
+        program.load("mnuHankoInput", "rain.han");
+        program.dialogs.shown.clear();
+    }
+
+    template <typename Control>
+    Control& control(const char* name) const
+    {
+        return *program.main.findChild<Control*>(QLatin1String(name));
+    }
+
+    QPushButton& printSwitch() const
+    {
+        return *program.map().findChild<QPushButton*>(QStringLiteral("lblInsatsumode"));
+    }
+
+    void choosePrinter()
+    {
+        program.dialogs.printer = std::make_unique<RecordingPrinter>(documents);
+        control<QPushButton>("cmdPrinter").click();
+    }
+
+    RecordingPrinter::Documents documents;
+};
+
+} // namespace
+
+TEST_F(LoadedProgram, WithoutAPrinterNothingIsPrinted)
+{
+    program.menu("mnuFilePrint").trigger();
+    printSwitch().click();
+    control<QPushButton>("cmdSettingPrinter").click();
+    EXPECT_FALSE(control<QGroupBox>("fraSetMergin").isHidden());
+    control<QPushButton>("cmdPrinter").click(); // the dialog is cancelled
+    EXPECT_TRUE(control<QGroupBox>("fraSetMergin").isHidden());
+    const std::vector<Shown> shown = {
+        {QStringLiteral("Printer is not connected.  Please connect the printer in the Main Form."),
+         QStringLiteral("Print")},
+        {QStringLiteral("Printer is not connected. Please connect the printer in the Main Form."),
+         QStringLiteral("Print")},
+        {QString(), QStringLiteral("printer")},
+        {QStringLiteral("Printer is not connected."), QStringLiteral("Set Printer")},
+    };
+    EXPECT_EQ(program.dialogs.shown, shown);
+    EXPECT_EQ(printSwitch().text(), QStringLiteral("Don't print"));
+}
+
+TEST_F(LoadedProgram, TheSwitchSendsEveryDrawingToThePrinter)
+{
+    choosePrinter();
+    program.dialogs.yesNo = {true};
+    program.menu("mnuFilePrint").trigger();
+    EXPECT_EQ(printSwitch().text(), QStringLiteral("Print A4 Landscape"));
+    program.menu("mnuMapLing").trigger();
+    program.menu("mnuHankoList").trigger();
+    ASSERT_EQ(documents.size(), 2U);
+    EXPECT_TRUE(wasPrinted(documents[0].at(0), QStringLiteral("UYU")));
+    EXPECT_TRUE(wasPrinted(documents[1].at(0), QStringLiteral("1")));
+
+    printSwitch().click();
+    program.menu("mnuMapLing").trigger();
+    EXPECT_EQ(documents.size(), 2U);
+    EXPECT_TRUE(wasPrinted(program.drawing(), QStringLiteral("UYU")));
+}
+
+TEST_F(LoadedProgram, PaperAndMarginsFollowTheirBoxes)
+{
+    auto& paper = control<QComboBox>("cboPaperSize");
+    auto& label = control<QPushButton>("lblDisplayPaperSize");
+    paper.setCurrentText(QStringLiteral("A3"));
+    Q_EMIT paper.activated(paper.currentIndex());
+    EXPECT_EQ(paper.currentText(), QStringLiteral("A4"));
+    EXPECT_EQ(label.text(), QStringLiteral("A4 Landscape(210 X 297) mm"));
+    label.click();
+    EXPECT_EQ(label.text(), QStringLiteral("A4 Portrait(297 X 210) mm"));
+    EXPECT_EQ(control<QComboBox>("cboOrientation").currentText(), QStringLiteral("Portrait"));
+
+    auto& left = control<QLineEdit>("txtLeftMergin");
+    const std::pair<const char*, int> rows[] = {{"12.5", 12}, {"13.5", 14}, {"wide", 0}, {"", 0}, {"-3", -3}};
+    for (const auto& [text, margin] : rows) {
+        left.setText(QLatin1String(text));
+        EXPECT_EQ(program.varn.LeftMargin, margin) << text;
+    }
+    left.setText(QStringLiteral("99999"));
+    EXPECT_EQ(program.varn.LeftMargin, -3);
+    ASSERT_EQ(program.dialogs.errors.size(), 1U);
+    EXPECT_TRUE(program.dialogs.errors[0].title.contains(QStringLiteral("'6'")));
+}
+
+TEST_F(LoadedProgram, WhatIsShownIsSavedAndCopied)
+{
+    program.menu("mnuMapLing").trigger();
+    const QString svg = survey.hostPath(QStringLiteral("map.svg"));
+    const QString png = survey.hostPath(QStringLiteral("map.png"));
+    program.dialogs.savedFiles = {svg, png, std::nullopt, survey.hostPath(QStringLiteral("no/map.pdf"))};
+    program.dialogs.inputs = {QStringLiteral("96")};
+    program.menu("mnuSaveMapAs").trigger();
+    program.menu("mnuSaveMapAs").trigger();
+    EXPECT_TRUE(survey.read(QStringLiteral("C:\\map.svg")).contains(">UYU<"));
+    EXPECT_EQ(QImage(png).size(), QSize(800, 600));
+    program.menu("mnuSaveMapAs").trigger(); // cancelled
+    EXPECT_TRUE(program.dialogs.errors.empty());
+    program.menu("mnuSaveMapAs").trigger();
+    ASSERT_EQ(program.dialogs.errors.size(), 1U);
+    EXPECT_TRUE(program.dialogs.errors[0].title.contains(QStringLiteral("'76'")));
+
+    program.dialogs.savedFiles = {png};
+    program.dialogs.inputs = {QStringLiteral("none")};
+    program.menu("mnuSaveMapAs").trigger();
+    EXPECT_EQ(program.dialogs.errors.size(), 2U) << "no resolution";
+    EXPECT_EQ(QImage(png).size(), QSize(800, 600));
+
+    program.menu("mnuCopyMap").trigger();
+    const QMimeData* copied = QGuiApplication::clipboard()->mimeData();
+    EXPECT_EQ(qvariant_cast<QImage>(copied->imageData()).size(), QSize(1600, 1200));
+    EXPECT_TRUE(copied->data(QStringLiteral("image/svg+xml")).contains(">UYU<"));
+}

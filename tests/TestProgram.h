@@ -1,0 +1,86 @@
+#pragma once
+
+#include "shell/VarnModule.h"
+#include "shell/frmMain.h"
+#include "tests/ScriptedDialogs.h"
+#include "tests/TestDrive.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QPushButton>
+
+#include <algorithm>
+
+using Shown = ScriptedDialogs::Shown;
+
+inline const QString InstallationFolder = QStringLiteral(INSTALLATION_FOLDER);
+inline const QString VarnPath = QStringLiteral("C:\\Varn62E\\Varn");
+inline const QString DriveFile = QStringLiteral("C:\\Varn62E\\Varn\\VarnDriveName.map");
+inline const QString MapNameFile = QStringLiteral("C:\\Varn62E\\VarnMapName.dat");
+
+/// The program with its two forms on a drive of its own.
+struct Program
+{
+    explicit Program(const TestDrive& drive) { varn.Drive = drive.drive(); }
+
+    void start(const QString& installation) { main.Form_Load(installation); }
+
+    frmMap& map() const
+    {
+        const QWidgetList windows = QApplication::topLevelWidgets();
+        const auto found = std::find_if(windows.begin(), windows.end(), [](const QWidget* window) {
+            return qobject_cast<const frmMap*>(window) != nullptr;
+        });
+        return *qobject_cast<frmMap*>(*found);
+    }
+
+    QAction& menu(const char* name) const { return *map().findChild<QAction*>(QLatin1String(name)); }
+    void click(const char* name) const { main.findChild<QPushButton*>(QLatin1String(name))->click(); }
+    const Drawing& drawing() const { return map().surface().drawing(); }
+
+    void load(const char* entry, const char* file)
+    {
+        dialogs.files = {varn.Drive.hostPath(varn.dataFolder()) + QLatin1Char('/') + QLatin1String(file)};
+        menu(entry).trigger();
+    }
+
+    ScriptedDialogs dialogs;
+    VarnModule varn;
+    frmMain main{varn, dialogs};
+};
+
+/// A program set up for the map of a `TestSurvey`, with one item and its symbols.
+class Forms : public testing::Test
+{
+protected:
+    Forms()
+    {
+        const QString data = VarnPath + QStringLiteral("\\VarnData");
+        survey.write(DriveFile, "\"C:\\Varn62E\\\"\r\n");
+        survey.write(MapNameFile, "\"\\Test\",\"Arial\",12,#TRUE#,#FALSE#,0\r\n");
+        survey.write(data + QStringLiteral("\\ExpSymbol.txt"), "1\r\n\"x\",\"y\",\"z\"\r\n");
+        survey.write(data + QStringLiteral("\\Test\\Ling\\rain.dbs"),
+                     "3,\"\",\"Rain\",\"\"\r\n2\r\n\"ame\"\r\n\"uyu\"\r\n0\r\n1\r\n\"uyu\"\r\n");
+        survey.write(data + QStringLiteral("\\Test\\Ling\\rain.han"),
+                     "\"\"\r\n2\r\n\"ame\",\"AME\"\r\n1\r\n0\r\n0\r\n1\r\n1\r\n1\r\n"
+                     "\"uyu\",\"UYU\"\r\n49\r\n4\r\n0\r\n0\r\n1\r\n1\r\n");
+    }
+
+    void start(Program& program) const
+    {
+        program.dialogs.yesNo = {true};
+        program.start(nothing.path());
+    }
+
+    TestSurvey survey;
+    QTemporaryDir nothing;
+};
+
+/// The same, started.
+class StartedForms : public Forms
+{
+protected:
+    StartedForms() { start(program); }
+
+    Program program{survey};
+};
