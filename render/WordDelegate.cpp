@@ -13,6 +13,9 @@
 namespace {
 
 constexpr int Margin = 4;
+constexpr QColor SelectedCell(0xc8, 0xdf, 0xf8);
+constexpr QColor CodeColor(0x60, 0x60, 0x60);
+constexpr QColor FaultColor(0xc0, 0x00, 0x00);
 
 /// Draws the cell without its text.
 void paintCell(QPainter& painter, QStyleOptionViewItem cell)
@@ -22,17 +25,24 @@ void paintCell(QPainter& painter, QStyleOptionViewItem cell)
     style->drawControl(QStyle::CE_ItemViewItem, &cell, &painter, cell.widget);
 }
 
-/// Paints the word on paper of its own, so that its ink is seen on any background; returns the place it took.
+/// Paints the word at the left of `area`, centered upright; returns the room that it leaves.
 QRect paintDrawnWord(QPainter& painter, const DrawnWord& word, const QRect& area)
 {
     const double scale = std::min(1 / TwipsPerPixel, area.height() / static_cast<double>(word.Height));
     const QSizeF size = QSizeF(word.Width, word.Height) * scale;
-    const int width = std::min(static_cast<int>(size.width()) + 2 * Margin, area.width());
-    const QRect paper(area.left(), area.top(), width, area.height());
-    painter.setClipRect(paper, Qt::IntersectClip);
-    painter.translate(paper.left() + Margin, paper.top() + (paper.height() - size.height()) / 2);
+    painter.save();
+    painter.setClipRect(area, Qt::IntersectClip);
+    painter.translate(area.left(), area.top() + (area.height() - size.height()) / 2);
     paintDrawing(word.drawing, painter, scale);
-    return paper;
+    painter.restore();
+    return area.adjusted(static_cast<int>(size.width()), 0, 0, 0);
+}
+
+void paintText(QPainter& painter, const QString& text, const QRect& area, Qt::Alignment side, QColor color)
+{
+    painter.setPen(color);
+    const QString line = painter.fontMetrics().elidedText(text, Qt::ElideRight, area.width());
+    painter.drawText(area, static_cast<int>(side | Qt::AlignVCenter) | Qt::TextSingleLine, line);
 }
 
 } // namespace
@@ -52,4 +62,57 @@ const DrawnWord& WordDelegate::drawn(const QString& word) const
         // Without its glyphs the word shows its code alone; a cell being painted cannot tell the user more.
     }
     return *m_words.insert(word, std::move(drawing));
+}
+
+void WordDelegate::initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const
+{
+    QStyledItemDelegate::initStyleOption(option, index);
+    // Phonetic letters are black ink.
+    option->palette.setColor(QPalette::Highlight, SelectedCell);
+    option->palette.setColor(QPalette::HighlightedText, option->palette.color(QPalette::Text));
+}
+
+void WordDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
+                         const QModelIndex& index) const
+{
+    const QString word = index.data().toString();
+    if (!word.contains(QLatin1Char('\\'))) {
+        QStyledItemDelegate::paint(painter, option, index);
+        return;
+    }
+    QStyleOptionViewItem cell = option;
+    initStyleOption(&cell, index);
+    painter->save();
+    painter->setFont(cell.font);
+    paintCell(*painter, cell);
+    const QRect area = cell.rect.adjusted(Margin, 1, -Margin, -1);
+    if (findCodeFault(word)) {
+        paintText(*painter, word, area, Qt::AlignLeft, FaultColor);
+    } else {
+        const QRect room = paintDrawnWord(*painter, drawn(word), area);
+        paintText(*painter, word, room.adjusted(2 * Margin, 0, 0, 0), Qt::AlignRight, CodeColor);
+    }
+    painter->restore();
+}
+
+QWidget* WordDelegate::createEditor(QWidget* parent, const QStyleOptionViewItem&, const QModelIndex&) const
+{
+    auto* editor = new QLineEdit(parent);
+    connect(editor, &QLineEdit::textChanged, this, &WordDelegate::typed);
+    return editor;
+}
+
+bool WordDelegate::eventFilter(QObject* editor, QEvent* event)
+{
+    if (event->type() == QEvent::KeyPress) {
+        const int key = static_cast<QKeyEvent*>(event)->key();
+        if (key == Qt::Key_Up || key == Qt::Key_Down) {
+            auto* box = qobject_cast<QWidget*>(editor);
+            Q_EMIT commitData(box);
+            Q_EMIT closeEditor(box, NoHint);
+            Q_EMIT left(key == Qt::Key_Down ? 1 : -1);
+            return true;
+        }
+    }
+    return QStyledItemDelegate::eventFilter(editor, event);
 }

@@ -28,6 +28,7 @@ Q_SIGNALS:
     void left(int rows);
 
 protected:
+    void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override;
     bool eventFilter(QObject* editor, QEvent* event) override;
 
 private:

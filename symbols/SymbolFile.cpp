@@ -1,5 +1,7 @@
 #include "symbols/SymbolFile.h"
 
+#include <algorithm>
+
 SymbolSet readSymbolSet(SequentialReader& file)
 {
     SymbolSet set;
@@ -39,10 +41,31 @@ void LoadHankoData(const DriveC& drive, const QString& path, SymbolSet& set)
 {
     SymbolSet fresh = readSequentialFile(drive, path, readSymbolSet);
     fresh.SymbolFileName = path.mid(path.lastIndexOf(QLatin1Char('\\')) + 1);
+    fresh.CurrentHanko = fresh.NHanrei;
+    fresh.HankoReading = set.HankoReading + 1;
     set = std::move(fresh);
 }
 
 void SaveHankoData(const DriveC& drive, const QString& path, const SymbolSet& set)
 {
     writeSequentialFile(drive, path, [&set](SequentialWriter& file) { writeSymbolSet(file, set); });
+}
+
+QString symbolFileStem(const QString& name)
+{
+    const QString ending = QStringLiteral(".han");
+    return name.endsWith(ending, Qt::CaseInsensitive) ? name.chopped(ending.size()) : name;
+}
+
+QString symbolFilePath(const Folders& folders, const QString& name)
+{
+    const bool leavesFolder = std::any_of(name.begin(), name.end(), [](QChar character) {
+        return QStringLiteral("\\/:*?\"<>|").contains(character);
+    });
+    const QString path =
+        folders.dataFolder() + QLatin1Char('\\') + symbolFileStem(name) + QStringLiteral(".han");
+    if (leavesFolder) {
+        throw RunTimeError(ErrorNumber::BadFileName).at({path});
+    }
+    return path;
 }

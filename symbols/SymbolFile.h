@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/SequentialFile.h"
+#include "shell/Folders.h"
 #include "symbols/SymbolSet.h"
 
 /// Reads a `.han` file: comment, count, then for each record the kind with its caption and, a line each, the
@@ -11,9 +12,16 @@ SymbolSet readSymbolSet(SequentialReader& file);
 /// Writes a `.han` file.
 void writeSymbolSet(SequentialWriter& file, const SymbolSet& set);
 
-/// Puts the symbol set of the `.han` file at `path` into the shared state and keeps the file's name. A load
-/// that fails leaves there what was there.
+/// Puts the symbol set of the `.han` file at `path` into the shared state and keeps the file's name; the
+/// last record becomes the one being edited. A load that fails leaves there what was there.
 void LoadHankoData(const DriveC& drive, const QString& path, SymbolSet& set);
 
 /// Writes the symbol set to the file at `path` in one step.
 void SaveHankoData(const DriveC& drive, const QString& path, const SymbolSet& set);
+
+/// The name of a symbol file without its ending `.han`.
+QString symbolFileStem(const QString& name);
+
+/// Path of the symbol file of that name, with or without its ending, in the current map's data folder. Raises
+/// bad file name for a name that would leave the folder or that no file can have.
+QString symbolFilePath(const Folders& folders, const QString& name);

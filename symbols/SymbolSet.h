@@ -34,4 +34,11 @@ struct SymbolSet
     BoundedArray<HankoStyle, Bounds{0, 100}> Hanko;
     /// Name of the symbol file last opened, without its folder.
     QString SymbolFileName;
+
+    /// The record that is being edited, 0..100; beyond `NHanrei` a new one.
+    int CurrentHanko = 0;
+    /// Whether records were edited since the set was read.
+    bool HankoUnsaved = false;
+    /// How many sets have been read; tells whoever shows a set that another one took its place.
+    int HankoReading = 0;
 };

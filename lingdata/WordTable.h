@@ -1,0 +1,28 @@
+#pragma once
+
+#include "lingdata/ItemEditor.h"
+
+#include <QAbstractTableModel>
+
+/// The cells of an item as a table: a row for each locality, a column for each of its word forms.
+class WordTable : public QAbstractTableModel
+{
+    Q_OBJECT
+
+public:
+    /// `editor` must outlive the table.
+    explicit WordTable(ItemEditor& editor, QObject* parent = nullptr);
+
+    /// Puts another item into the table.
+    void replaceItem(ItemEditor item);
+
+    int rowCount(const QModelIndex& parent = {}) const override;
+    int columnCount(const QModelIndex& parent = {}) const override;
+    QVariant data(const QModelIndex& index, int role) const override;
+    bool setData(const QModelIndex& index, const QVariant& value, int role) override;
+    QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+    Qt::ItemFlags flags(const QModelIndex& index) const override;
+
+private:
+    ItemEditor& m_editor;
+};

@@ -1,0 +1,223 @@
+#include "symbols/SymbolEditor.h"
+
+#include "platform/Numbers.h"
+
+#include <algorithm>
+
+namespace {
+
+/// Raises subscript out of range for a negative number of a record.
+void checkNotNegative(int n)
+{
+    if (n < 0) {
+        throw RunTimeError(ErrorNumber::SubscriptOutOfRange,
+                           QStringLiteral("%1 is not the number of a record.").arg(n));
+    }
+}
+
+} // namespace
+
+QString DelBlankChar(const QString& text)
+{
+    qsizetype length = text.size();
+    while (length > 0 && text[length - 1] == QLatin1Char(' ')) {
+        --length;
+    }
+    return text.left(length);
+}
+
+HankoStyle listedStyle(const HankoStyle& style)
+{
+    const auto listed = [](qint16 value, qint16 last) {
+        return value >= 0 && value <= last ? value : qint16{0};
+    };
+    HankoStyle result = style;
+    result.LineColor = listed(style.LineColor, 15);
+    result.PaintColor = listed(style.PaintColor, 15);
+    result.PaintOn = style.PaintOn != 0 ? 1 : 0;
+    result.SymbolSize = listed(style.SymbolSize, 2);
+    result.LineThick = listed(style.LineThick, 2);
+    return result;
+}
+
+QString SymbolEditor::counter() const
+{
+    const QString number = QString::number(m_set.CurrentHanko);
+    return m_set.CurrentHanko > m_set.NHanrei ? number + QStringLiteral("/New")
+                                              : number + QLatin1Char('/') + QString::number(m_set.NHanrei);
+}
+
+void SymbolEditor::NewData(HankoFields& fields)
+{
+    fields.word.clear();
+    fields.caption.clear();
+    fields.number.clear();
+    fields.style = HankoStyle{};
+    fields.style.SymbolSize = 1;
+    fields.style.LineThick = 1;
+}
+
+HankoFields SymbolEditor::GetData() const
+{
+    return fieldsOf(m_set.CurrentHanko);
+}
+
+HankoFields SymbolEditor::fieldsOf(int k) const
+{
+    return {m_set.Explain, m_set.HankoWord(k), m_set.HankoCaption(k), QString::number(m_set.Hanko(k).HankoNo),
+            m_set.Hanko(k)};
+}
+
+void SymbolEditor::SetData(HankoFields& fields)
+{
+    const int k = m_set.CurrentHanko;
+    HankoStyle style = fields.style;
+    style.HankoNo = toInteger(Val(fields.number));
+    SetSame(style);
+    style = listedStyle(style);
+    m_set.Hanko(k) = style;
+    m_set.HankoWord(k) = DelBlankChar(fields.word);
+    m_set.HankoCaption(k) = DelBlankChar(fields.caption);
+    // The scratch record is not part of the set.
+    m_set.HankoUnsaved = m_set.HankoUnsaved || k > 0 || m_set.Explain != fields.Explain;
+    m_set.Explain = fields.Explain;
+    fields.style = style;
+}
+
+void SymbolEditor::SetSame(HankoStyle& style) const
+{
+    for (int i = 1; i < m_set.CurrentHanko; ++i) {
+        if (m_set.Hanko(i).HankoNo == style.HankoNo) {
+            style = m_set.Hanko(i); // the last one of the same number counts
+        }
+    }
+}
+
+void SymbolEditor::start(HankoFields& fields)
+{
+    m_set.CurrentHanko = 1;
+    fields.Explain = m_set.Explain;
+    NewData(fields);
+}
+
+void SymbolEditor::registerRecord(HankoFields& fields)
+{
+    SetData(fields);
+    if (!fields.word.isEmpty() && m_set.CurrentHanko > m_set.NHanrei) {
+        ++m_set.NHanrei;
+    }
+    DisplayHanreiData();
+}
+
+void SymbolEditor::goTo(int record, HankoFields& fields)
+{
+    // The comment belongs to the set: what stands in its field is not given up with the record.
+    const QString explain = fields.Explain;
+    fields = fieldsOf(record);
+    fields.Explain = explain;
+    m_set.CurrentHanko = record;
+}
+
+SymbolEditor::NextResult SymbolEditor::next(HankoFields& fields)
+{
+    if (m_set.CurrentHanko == MaxRecords) {
+        return NextResult::Full;
+    }
+    if (fields.word.isEmpty()) {
+        return NextResult::Done;
+    }
+    if (m_set.CurrentHanko == m_set.NHanrei) {
+        NewData(fields);
+        ++m_set.CurrentHanko;
+    } else if (m_set.CurrentHanko < m_set.NHanrei) {
+        goTo(m_set.CurrentHanko + 1, fields);
+    }
+    return NextResult::Done;
+}
+
+void SymbolEditor::previous(HankoFields& fields)
+{
+    if (m_set.CurrentHanko != 1) {
+        goTo(m_set.CurrentHanko - 1, fields);
+    }
+}
+
+void SymbolEditor::copyRecord(int from, int to)
+{
+    m_set.Hanko(to) = m_set.Hanko(from);
+    m_set.HankoWord(to) = m_set.HankoWord(from);
+    m_set.HankoCaption(to) = m_set.HankoCaption(from);
+}
+
+void SymbolEditor::insertRecord(int n, HankoFields& fields)
+{
+    checkNotNegative(n);
+    if (n > m_set.NHanrei) {
+        return;
+    }
+    if (n > 0) {
+        for (int i = m_set.NHanrei; i >= n; --i) {
+            copyRecord(i, i + 1);
+        }
+        ++m_set.NHanrei;
+    }
+    NewData(fields);
+    m_set.CurrentHanko = n;
+    SetData(fields);
+    DisplayHanreiData();
+}
+
+void SymbolEditor::deleteRecord(int n)
+{
+    checkNotNegative(n);
+    if (n > 0 && n <= m_set.NHanrei) {
+        for (int i = n; i < m_set.NHanrei; ++i) {
+            copyRecord(i + 1, i);
+        }
+        --m_set.NHanrei;
+        m_set.HankoUnsaved = true;
+    }
+    DisplayHanreiData();
+}
+
+void SymbolEditor::initialize(HankoFields& fields)
+{
+    m_set.Explain.clear();
+    for (int k = 1; k <= m_set.NHanrei; ++k) {
+        m_set.HankoWord(k).clear();
+        m_set.HankoCaption(k).clear();
+        m_set.Hanko(k) = {};
+    }
+    m_set.CurrentHanko = 0;
+    m_set.NHanrei = 0;
+    m_set.HankoUnsaved = false;
+    fields = GetData();
+    DisplayHanreiData();
+}
+
+void SymbolEditor::DisplayHanreiData()
+{
+    m_firstShown = std::max(1, m_set.NHanrei - (MaxShown - 1));
+    m_lastShown = m_set.NHanrei;
+}
+
+void SymbolEditor::scrollUp()
+{
+    if (m_firstShown > 1) {
+        --m_firstShown;
+        --m_lastShown;
+    } else {
+        m_firstShown = 1;
+    }
+}
+
+void SymbolEditor::scrollDown()
+{
+    if (m_lastShown < m_set.NHanrei) {
+        ++m_firstShown;
+        ++m_lastShown;
+    } else {
+        m_lastShown = m_set.NHanrei;
+        m_firstShown = std::max(1, m_set.NHanrei - (MaxShown - 1));
+    }
+}

@@ -1,0 +1,21 @@
+#pragma once
+
+#include "shell/VarnModule.h"
+
+/// Whether a symbol of this number and these colours can be drawn.
+bool canDraw(const HankoStyle& hanko, const PolygonTable& polygons);
+
+/// Draws one symbol in the middle of `surface`; nothing where it cannot be drawn.
+void drawSymbol(const HankoStyle& hanko, const PolygonTable& polygons, MapGeometry& geometry,
+                DrawSurface& surface);
+
+/// Clears `surface` and draws records `first`..`last` of the symbol set on it, one row a record under a line
+/// of headings: number, symbol, kind and caption. The row of the record that is being edited is shaded. A
+/// symbol that cannot be drawn is shown as "?", a text with an escape in no code as it is written.
+///
+/// Returns the x where the widest row ends, in twips. Raises file not found for a glyph that the installation
+/// lacks.
+float DisplayHanrei(VarnModule& varn, int first, int last, DrawSurface& surface);
+
+/// The height that a preview of 20 records needs at least, in twips.
+float smallestPreviewHeight();
