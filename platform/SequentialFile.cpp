@@ -2,6 +2,8 @@
 
 #include "platform/Numbers.h"
 
+#include <QLocale>
+
 #include <array>
 #include <charconv>
 #include <cmath>
@@ -205,6 +207,19 @@ bool SequentialReader::readBoolean()
     return value;
 }
 
+QVariant SequentialReader::readValue()
+{
+    skipToNumber();
+    if (!atEnd() && m_text[m_position] == QLatin1Char('#')) {
+        return readBoolean();
+    }
+    const bool quoted = !atEnd() && m_text[m_position] == QLatin1Char('"');
+    const QString text = readString();
+    bool isNumber = false;
+    const double number = quoted ? 0 : QLocale::c().toDouble(text, &isNumber);
+    return isNumber ? QVariant(number) : QVariant(text);
+}
+
 qint16 SequentialReader::readCount()
 {
     const qint16 count = readInteger();
@@ -213,13 +228,6 @@ qint16 SequentialReader::readCount()
                            QStringLiteral("%1 is not a count of records.").arg(count));
     }
     return count;
-}
-
-void SequentialWriter::separate(int index)
-{
-    if (index > 0) {
-        m_bytes.append(',');
-    }
 }
 
 void SequentialWriter::append(const QString& field)
@@ -242,4 +250,19 @@ void SequentialWriter::append(float field)
 void SequentialWriter::append(double field)
 {
     m_bytes.append(shortest(field));
+}
+
+void SequentialWriter::append(const QVariant& field)
+{
+    switch (field.typeId()) {
+    case QMetaType::QString:
+        append(field.toString());
+        break;
+    case QMetaType::Bool:
+        append(field.toBool());
+        break;
+    default:
+        append(field.toDouble());
+        break;
+    }
 }

@@ -7,6 +7,7 @@
 #include <QByteArray>
 #include <QString>
 #include <QStringView>
+#include <QVariant>
 
 #include <concepts>
 #include <utility>
@@ -31,6 +32,8 @@ public:
     float readSingle();
     /// The next field as a Boolean: `#TRUE#`, `#FALSE#`, or a number that is 0 or not. Raises type mismatch.
     bool readBoolean();
+    /// The next field as what it is written as: a string in quotes, a Boolean, a number, or else a bare text.
+    QVariant readValue();
     /// The next field as a count of records: a 16-bit integer that is not negative. Raises type mismatch,
     /// overflow, and subscript out of range for a negative count.
     qint16 readCount();
@@ -74,19 +77,31 @@ public:
     template <typename... Fields>
     void write(const Fields&... fields)
     {
-        int index = 0;
-        ((separate(index++), append(fields)), ...);
-        m_bytes.append("\r\n");
+        (writeField(fields), ...);
+        endStatement();
     }
+
+    /// Writes one field of a line whose number of fields is not known beforehand.
+    template <typename Field>
+    void writeField(const Field& field)
+    {
+        if (!m_bytes.isEmpty() && !m_bytes.endsWith('\n')) {
+            m_bytes.append(',');
+        }
+        append(field);
+    }
+
+    /// Ends the line.
+    void endStatement() { m_bytes.append("\r\n"); }
 
     const QByteArray& bytes() const { return m_bytes; }
 
 private:
-    void separate(int index);
     void append(const QString& field);
     void append(bool field);
     void append(float field);
     void append(double field);
+    void append(const QVariant& field);
     template <std::integral Integer>
     void append(Integer field)
     {

@@ -1,9 +1,13 @@
 #include "plot/PlotCommands.h"
 
+#include "analysis/Accumulation.h"
+#include "analysis/CumulativeFile.h"
 #include "lingdata/LinguisticFile.h"
 #include "mapdata/MapFiles.h"
 #include "plot/DrawingFile.h"
 #include "render/BlankMap.h"
+#include "render/ContrastMap.h"
+#include "render/DiffusionGraphs.h"
 #include "render/LinguisticMap.h"
 #include "render/MapSize.h"
 #include "render/SymbolCatalogue.h"
@@ -11,6 +15,8 @@
 
 #include <QDir>
 #include <QFileInfo>
+
+#include <algorithm>
 
 namespace {
 
@@ -43,6 +49,38 @@ public:
         return m_frmMap.drawing();
     }
 
+    const Drawing& diffusionMap(DiffusionGraph graph, bool layered, int wordForm)
+    {
+        if (layered) {
+            drawLayeredGraph(m_varn, graph, surfaces());
+        } else {
+            m_varn.CurrentWordform = std::max(1, wordForm);
+            drawSingleGraph(m_varn, graph, surfaces());
+        }
+        return m_frmMap.drawing();
+    }
+
+    const Drawing& symbolDiffusionMap(const QString& symbolPath, int wordForm)
+    {
+        static_cast<DiffusionSymbols&>(m_varn) =
+            readSequentialFile(m_varn.Drive, symbolPath, readDiffusionSymbols);
+        if (wordForm == 0) {
+            drawLayeredGraph(m_varn, DiffusionGraph::Symbol, surfaces());
+        } else {
+            DrawBlankMap(m_varn, surfaces());
+            DrawHankoMap(m_varn, wordForm, 1, surfaces());
+        }
+        return m_frmMap.drawing();
+    }
+
+    const Drawing& contrastMap(const QString& contrastPath)
+    {
+        LoadRankFile(m_varn.Drive, contrastPath, m_varn);
+        analyseContrast(m_varn, m_varn.NLocality, m_varn);
+        drawContrastMap(m_varn, surfaces());
+        return m_frmMap.drawing();
+    }
+
     const Drawing& blankMap()
     {
         DrawBlankMap(m_varn, surfaces());
@@ -58,6 +96,7 @@ public:
     int symbolPages() const { return LastSymbolPage(m_varn); }
     QSizeF size() const { return {m_frmMap.Width, m_frmMap.Height}; }
     const Folders& folders() const { return m_varn; }
+    VarnModule& varn() { return m_varn; }
 
 private:
     MapSurfaces surfaces() { return {m_frmMap, m_frmMap}; }
@@ -103,19 +142,56 @@ void plotAtlas(MapPlot& map, const QString& output, const PlotProgress& progress
     savePdfPages(pages, drawPage, map.size(), output);
 }
 
+/// Adds each item to the table, which is saved after each.
+void accumulate(VarnModule& varn, const QStringList& items, const QString& counts, const QString& characters)
+{
+    const QString path = varn.Drive.varnPath(counts);
+    const int wordforms = varn.NumWordforms;
+    LoadSetData(varn.Drive, varn.Drive.varnPath(characters), varn);
+    if (varn.NumWordforms != wordforms) {
+        throw RunTimeError(ErrorNumber::SubscriptOutOfRange,
+                           QStringLiteral("The table has %1 word forms, the identifying strings %2.")
+                               .arg(wordforms)
+                               .arg(varn.NumWordforms))
+            .at({characters});
+    }
+    for (const QString& item : items) {
+        accumulateItem(readSequentialFile(varn.Drive, varn.Drive.varnPath(item), readItem), varn.NLocality,
+                       varn);
+        SaveTotalFile(varn.Drive, path.left(path.lastIndexOf(QLatin1Char('\\'))), varn.NLocality, varn);
+    }
+}
+
+void saveStatistics(VarnModule& varn, const QString& output)
+{
+    Stats(varn, varn.NLocality, varn);
+    writeSequentialFile(varn.Drive, varn.Drive.varnPath(output),
+                        [&varn](SequentialWriter& file) { writeStatistics(file, varn, varn); });
+}
+
+void loadCounts(VarnModule& varn, const QString& counts)
+{
+    LoadTotalFile(varn.Drive, varn.Drive.varnPath(counts), varn.NLocality, varn);
+}
+
 } // namespace
 
 void plot(const PlotOptions& options, const PlotProgress& progress)
 {
     MapPlot map(options);
     const DriveC drive;
+    const auto save = [&](const Drawing& drawing) {
+        saveDrawing(drawing, map.size(), options.output, options.dotsPerInch);
+    };
+    if (!options.counts.isEmpty()) {
+        loadCounts(map.varn(), options.counts);
+    }
     switch (options.command) {
     case PlotOptions::Command::LinguisticMap:
-        saveDrawing(map.linguisticMap(drive.varnPath(options.data), drive.varnPath(options.symbols)),
-                    map.size(), options.output, options.dotsPerInch);
+        save(map.linguisticMap(drive.varnPath(options.data.value(0)), drive.varnPath(options.symbols)));
         break;
     case PlotOptions::Command::BlankMap:
-        saveDrawing(map.blankMap(), map.size(), options.output, options.dotsPerInch);
+        save(map.blankMap());
         break;
     case PlotOptions::Command::Symbols:
         savePdfPages(
@@ -124,6 +200,21 @@ void plot(const PlotOptions& options, const PlotProgress& progress)
         break;
     case PlotOptions::Command::Atlas:
         plotAtlas(map, options.output, progress);
+        break;
+    case PlotOptions::Command::Accumulate:
+        accumulate(map.varn(), options.data, options.counts, options.characters);
+        break;
+    case PlotOptions::Command::Statistics:
+        saveStatistics(map.varn(), options.output);
+        break;
+    case PlotOptions::Command::DiffusionMap:
+        save(map.diffusionMap(options.graph, options.layered, options.wordForm));
+        break;
+    case PlotOptions::Command::SymbolDiffusionMap:
+        save(map.symbolDiffusionMap(drive.varnPath(options.symbols), options.wordForm));
+        break;
+    case PlotOptions::Command::ContrastMap:
+        save(map.contrastMap(drive.varnPath(options.contrast)));
         break;
     }
 }

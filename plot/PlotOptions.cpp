@@ -3,7 +3,7 @@
 #include <QCommandLineParser>
 #include <QFileInfo>
 
-#include <array>
+#include <vector>
 
 namespace {
 
@@ -15,13 +15,6 @@ struct CommandForm
     QStringList allowed;
 };
 
-const QStringList& drawingOptions()
-{
-    static const QStringList options = {QStringLiteral("location"), QStringLiteral("locality-dots"),
-                                        QStringLiteral("height")};
-    return options;
-}
-
 QStringList list(std::initializer_list<const char*> names)
 {
     QStringList result;
@@ -31,16 +24,29 @@ QStringList list(std::initializer_list<const char*> names)
     return result;
 }
 
-std::array<CommandForm, 4> commandForms()
+std::vector<CommandForm> commandForms()
 {
-    return {{
-        {"linguistic-map", PlotOptions::Command::LinguisticMap,
-         list({"installation", "map", "data", "symbols", "output"}), drawingOptions() + list({"dpi"})},
-        {"blank-map", PlotOptions::Command::BlankMap, list({"installation", "map", "output"}),
-         list({"locality-dots", "height", "dpi"})},
-        {"symbols", PlotOptions::Command::Symbols, list({"installation", "map", "output"}), {}},
-        {"atlas", PlotOptions::Command::Atlas, list({"installation", "map", "output"}), drawingOptions()},
-    }};
+    using Command = PlotOptions::Command;
+    const QStringList map = list({"installation", "map", "output"});
+    const QStringList size = list({"locality-dots", "height"});
+    const QStringList picture = size + list({"dpi"});
+    return {
+        {"linguistic-map", Command::LinguisticMap, map + list({"data", "symbols"}),
+         picture + list({"location"})},
+        {"blank-map", Command::BlankMap, map, picture},
+        {"symbols", Command::Symbols, map, {}},
+        {"atlas", Command::Atlas, map, size + list({"location"})},
+        {"accumulate",
+         Command::Accumulate,
+         list({"installation", "map", "counts", "characters", "data"}),
+         {}},
+        {"statistics", Command::Statistics, map + list({"counts"}), {}},
+        {"diffusion-map", Command::DiffusionMap, map + list({"counts", "graph"}),
+         picture + list({"word-form"})},
+        {"symbol-diffusion-map", Command::SymbolDiffusionMap, map + list({"counts", "symbols"}),
+         picture + list({"word-form"})},
+        {"contrast-map", Command::ContrastMap, map + list({"counts", "contrast"}), picture},
+    };
 }
 
 CommandForm commandForm(const QString& name)
@@ -56,8 +62,8 @@ CommandForm commandForm(const QString& name)
 
 void addOptions(QCommandLineParser& parser)
 {
-    for (const char* name :
-         {"installation", "map", "data", "symbols", "output", "location", "height", "dpi"}) {
+    for (const char* name : {"installation", "map", "data", "symbols", "output", "location", "height", "dpi",
+                             "counts", "characters", "contrast", "graph", "word-form"}) {
         parser.addOption({QLatin1String(name), {}, QStringLiteral("value")});
     }
     parser.addOption(QCommandLineOption(QStringLiteral("locality-dots")));
@@ -98,13 +104,38 @@ double readPositive(const QCommandLineParser& parser, const QString& name, doubl
     return value;
 }
 
+/// The endings that the output of a command may have; none where it writes no file of its own.
+QStringList outputEndings(PlotOptions::Command command)
+{
+    switch (command) {
+    case PlotOptions::Command::Symbols:
+    case PlotOptions::Command::Atlas:
+        return list({"pdf"});
+    case PlotOptions::Command::Statistics:
+        return list({"stt"});
+    case PlotOptions::Command::Accumulate:
+        return {};
+    default:
+        return list({"svg", "pdf", "png"});
+    }
+}
+
+void readGraph(const QString& name, PlotOptions& options)
+{
+    const QStringList graphs = list({"bar", "layered-bar", "circle", "layered-circle"});
+    const qsizetype graph = graphs.indexOf(name);
+    if (graph < 0) {
+        throw UsageError(QStringLiteral("--graph is one of %1").arg(graphs.join(QStringLiteral(", "))));
+    }
+    options.graph = graph < 2 ? DiffusionGraph::Bar : DiffusionGraph::Circle;
+    options.layered = graph % 2 == 1;
+}
+
 void checkOutput(const PlotOptions& options)
 {
     const QString ending = QFileInfo(options.output).suffix().toLower();
-    const bool manyPages =
-        options.command == PlotOptions::Command::Symbols || options.command == PlotOptions::Command::Atlas;
-    const QStringList endings = manyPages ? list({"pdf"}) : list({"svg", "pdf", "png"});
-    if (!endings.contains(ending)) {
+    const QStringList endings = outputEndings(options.command);
+    if (!endings.isEmpty() && !endings.contains(ending)) {
         throw UsageError(QStringLiteral("--output must end in .%1").arg(endings.join(QStringLiteral(", ."))));
     }
 }
@@ -115,6 +146,7 @@ std::optional<PlotOptions> readPlotOptions(const QStringList& arguments)
 {
     constexpr double LargestHeight = 2000;
     constexpr double LargestResolution = 2400;
+    constexpr double MostWordForms = 10;
 
     QCommandLineParser parser;
     addOptions(parser);
@@ -126,7 +158,7 @@ std::optional<PlotOptions> readPlotOptions(const QStringList& arguments)
     }
     const QStringList words = parser.positionalArguments();
     const CommandForm form = commandForm(words.value(0));
-    if (words.size() > 1) {
+    if (words.size() > 1 && form.command != PlotOptions::Command::Accumulate) {
         throw UsageError(QStringLiteral("unexpected '%1'").arg(words[1]));
     }
     checkOptions(parser, form);
@@ -135,9 +167,12 @@ std::optional<PlotOptions> readPlotOptions(const QStringList& arguments)
     options.command = form.command;
     options.installation = parser.value(QStringLiteral("installation"));
     options.map = parser.value(QStringLiteral("map"));
-    options.data = parser.value(QStringLiteral("data"));
+    options.data = parser.values(QStringLiteral("data")) + words.mid(1);
     options.symbols = parser.value(QStringLiteral("symbols"));
     options.output = parser.value(QStringLiteral("output"));
+    options.counts = parser.value(QStringLiteral("counts"));
+    options.characters = parser.value(QStringLiteral("characters"));
+    options.contrast = parser.value(QStringLiteral("contrast"));
     options.localityDots = parser.isSet(QStringLiteral("locality-dots"));
     if (parser.isSet(QStringLiteral("location"))) {
         options.location = readLocation(parser.value(QStringLiteral("location")));
@@ -147,6 +182,12 @@ std::optional<PlotOptions> readPlotOptions(const QStringList& arguments)
     }
     if (parser.isSet(QStringLiteral("dpi"))) {
         options.dotsPerInch = readPositive(parser, QStringLiteral("dpi"), LargestResolution);
+    }
+    if (parser.isSet(QStringLiteral("graph"))) {
+        readGraph(parser.value(QStringLiteral("graph")), options);
+    }
+    if (parser.isSet(QStringLiteral("word-form"))) {
+        options.wordForm = static_cast<int>(readPositive(parser, QStringLiteral("word-form"), MostWordForms));
     }
     checkOutput(options);
     return options;
@@ -161,8 +202,18 @@ QString plotUsage()
   varnplot symbols   --installation DIR --map NAME --output FILE.pdf
   varnplot atlas     --installation DIR --map NAME --output FILE.pdf
            [--location center|right|left|top|bottom] [--locality-dots] [--height MM]
+  varnplot accumulate --installation DIR --map NAME --counts FILE.ttl --characters FILE.sum --data FILE.dbs ...
+  varnplot statistics --installation DIR --map NAME --counts FILE.ttl --output FILE.stt
+  varnplot diffusion-map --installation DIR --map NAME --counts FILE.ttl
+           --graph bar|layered-bar|circle|layered-circle --output FILE
+           [--word-form K] [--locality-dots] [--height MM] [--dpi N]
+  varnplot symbol-diffusion-map --installation DIR --map NAME --counts FILE.ttl --symbols FILE.htL --output FILE
+           [--word-form K] [--locality-dots] [--height MM] [--dpi N]
+  varnplot contrast-map --installation DIR --map NAME --counts FILE.ttl --contrast FILE.rnk --output FILE
+           [--locality-dots] [--height MM] [--dpi N]
 
 DIR is the folder with VarnData and VarnSymbol. FILE ends in .svg, .pdf or .png.
+accumulate adds the items to the table in FILE.ttl and saves it after each.
 --height is the height of the map in millimetres, --dpi the resolution of a PNG (192).
 )");
 }

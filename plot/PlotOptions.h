@@ -1,5 +1,6 @@
 #pragma once
 
+#include "render/DiffusionGraphs.h"
 #include "render/MapStyle.h"
 
 #include <QString>
@@ -11,13 +12,33 @@
 /// What one call of `varnplot` asks for.
 struct PlotOptions
 {
-    enum class Command { LinguisticMap, BlankMap, Symbols, Atlas };
+    enum class Command {
+        LinguisticMap,
+        BlankMap,
+        Symbols,
+        Atlas,
+        Accumulate,
+        Statistics,
+        DiffusionMap,
+        SymbolDiffusionMap,
+        ContrastMap,
+    };
 
     Command command = Command::BlankMap;
     QString installation;
     QString map;
-    QString data;
+    /// Items; more than one only to accumulate.
+    QStringList data;
     QString symbols;
+    /// Cumulative file, identifying strings, and contrast file.
+    QString counts;
+    QString characters;
+    QString contrast;
+    DiffusionGraph graph = DiffusionGraph::Bar;
+    /// Whether all word forms are drawn on one map.
+    bool layered = false;
+    /// The word form to draw; 0 for the first, or for all where symbols mark them.
+    int wordForm = 0;
     QString output;
     qint16 location = HankoCenter;
     bool localityDots = false;

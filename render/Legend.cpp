@@ -55,10 +55,10 @@ private:
 
 } // namespace
 
-void ClsHanrei(const VarnModule& varn, DrawSurface& target)
+void ClsHanrei(const VarnModule& varn, DrawSurface& target, const QString& title)
 {
     const QPointF origin = captionOrigin(varn);
-    const float width = std::max(target.TextWidth(varn.Hanrei), target.TextWidth(varn.KanjiText(1)));
+    const float width = std::max(target.TextWidth(title), target.TextWidth(varn.KanjiText(1)));
     const auto x = static_cast<float>(origin.x());
     const auto y = static_cast<float>(origin.y());
     target.FilledBox(x, y, x + width + 2 * Margin, y + target.TextHeight() + 2 * Margin, QBColor(15));
@@ -77,7 +77,7 @@ void PlotHanrei(VarnModule& varn, MapSurfaces surfaces)
     const auto x0 = static_cast<float>(origin.x());
     const auto y0 = static_cast<float>(origin.y());
 
-    ClsHanrei(varn, target);
+    ClsHanrei(varn, target, varn.Hanrei);
     target.CurrentX = x0 + Margin;
     target.CurrentY = y0 + Margin;
     target.Print(varn.Hanrei);

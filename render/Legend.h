@@ -7,5 +7,5 @@
 /// not as high as two rows.
 void PlotHanrei(VarnModule& varn, MapSurfaces surfaces);
 
-/// Paints the title line of the caption block white, as far as the title and the place name there reach.
-void ClsHanrei(const VarnModule& varn, DrawSurface& target);
+/// Paints the title line of the caption block white, as far as `title` and the place name there reach.
+void ClsHanrei(const VarnModule& varn, DrawSurface& target, const QString& title);

@@ -27,7 +27,7 @@ struct PlotSurvey : TestSurvey
         result.command = command;
         result.installation = hostPath(QStringLiteral("Varn62E/Varn"));
         result.map = QStringLiteral("Test");
-        result.data = drive().hostPath(Item);
+        result.data = QStringList(drive().hostPath(Item));
         result.symbols = drive().hostPath(Symbols);
         result.output = hostPath(output);
         return result;

@@ -8,8 +8,8 @@ from polylines import distance_to_line
 from sample_island import MOUNTAINS
 
 TITLE = "Velsora (invented survey)"
-TITLE_AT = (20, 20)
-SCALE_BAR_AT = (44, 932)
+TITLE_AT = (32, 20)
+SCALE_BAR_AT = (262, 932)
 SCALE_LABEL, SCALE_DIVISIONS, SCALE_LENGTH = "20 km", 4, 200
 
 TEXT_HEIGHT = 27  # of 10-point text, map units

@@ -1,0 +1,32 @@
+#pragma once
+
+#include "analysis/CumulativeTable.h"
+#include "platform/SequentialFile.h"
+
+/// Reads a `.ttl` file: the number of word forms, of items, and the caption; three lines a word form; then
+/// the counts of each of `localities` localities, which the file does not know. Raises subscript out of range
+/// beyond ten word forms, and the errors of a short or malformed file.
+CumulativeTable readTotal(SequentialReader& file, int localities);
+
+/// Writes a `.ttl` file with the counts of `localities` localities.
+void writeTotal(SequentialWriter& file, const CumulativeTable& table, int localities);
+
+/// Reads a `.sum` file into the number of word forms and their identifying strings. A word form without
+/// strings has no line in the file, which cannot be read past that point.
+void readSpecifyChars(SequentialReader& file, CumulativeData& data);
+
+/// Writes a `.sum` file; only word forms with one to ten identifying strings get a line.
+void writeSpecifyChars(SequentialWriter& file, const CumulativeData& data);
+
+/// Loads the `.ttl` file at `path`. A load that fails leaves the table as it was.
+void LoadTotalFile(const DriveC& drive, const QString& path, int localities, CumulativeData& data);
+
+/// Saves the table to the `.ttl` file of its name in `dataFolder`.
+void SaveTotalFile(const DriveC& drive, const QString& dataFolder, int localities,
+                   const CumulativeData& data);
+
+/// Loads the `.sum` file at `path`. A load that fails leaves the strings as they were.
+void LoadSetData(const DriveC& drive, const QString& path, CumulativeData& data);
+
+/// Saves the identifying strings to the `.sum` file at `path`.
+void SaveSetData(const DriveC& drive, const QString& path, CumulativeData& data);

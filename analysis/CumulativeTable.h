@@ -1,0 +1,47 @@
+#pragma once
+
+#include "platform/BoundedArray.h"
+
+#include <QString>
+#include <QVariant>
+
+/// The running counts of up to ten distinguished word forms over many items, numbered from 1.
+struct CumulativeTable
+{
+    int NumWordforms = 0;
+    int NumItemsAccumulated = 0;
+    /// Caption of the map.
+    QString MapCaption;
+    BoundedArray<QString, Bounds{1, 10}> WordformName;
+    /// Colour numbers 0..15 of outline and fill.
+    BoundedArray<int, Bounds{1, 10}> WordformSymbolColor;
+    BoundedArray<qint16, Bounds{1, 10}> WordformPaintColor;
+    /// Two values of each word form that are carried in the file, not used.
+    BoundedArray<QVariant, Bounds{1, 10}> WordformExtraValue;
+    BoundedArray<qint16, Bounds{1, 10}> WordformExtraInt;
+    /// Count of word form k at locality j.
+    BoundedArray<qint16, Bounds{0, 10}, Bounds{0, 1000}> Counts;
+};
+
+/// The strings that identify each distinguished word form in the answers.
+struct SpecifiedChars
+{
+    /// Number of strings of word form k.
+    BoundedArray<qint16, Bounds{0, 400}> NumSpecifyChars;
+    /// The c-th string of word form k.
+    BoundedArray<QString, Bounds{0, 10}, Bounds{0, 400}> SpecifyChars;
+};
+
+/// The loaded cumulative table with its identifying strings.
+struct CumulativeData : CumulativeTable, SpecifiedChars
+{
+    /// Name of the cumulative file, without folder and ending.
+    QString TotalFileName;
+    /// Path of the file of identifying strings.
+    QString SpecifyFileName;
+    /// The word form shown and drawn next, 1..NumWordforms.
+    int CurrentWordform = 1;
+};
+
+/// Makes `number` the number of distinguished word forms; the first becomes the current one.
+void setNumWordforms(CumulativeData& data, int number);

@@ -1,0 +1,47 @@
+#pragma once
+
+#include "analysis/CumulativeTable.h"
+#include "platform/SequentialFile.h"
+
+/// The statistics of the counts of each word form over the localities where it was met at least once. A count
+/// level v runs from 0 to the number of items.
+struct Statistics
+{
+    /// Number of localities whose count of word form k is at least v.
+    BoundedArray<qint16, Bounds{0, 400}, Bounds{0, 10}> CumCount;
+    /// Number of localities whose count of word form k is v.
+    BoundedArray<qint16, Bounds{0, 400}, Bounds{0, 10}> FreqCount;
+    BoundedArray<double, Bounds{0, 10}> Median;
+    BoundedArray<float, Bounds{0, 10}> Mode;
+    BoundedArray<double, Bounds{0, 10}> Average;
+    /// Standard deviation of the sample.
+    BoundedArray<double, Bounds{0, 10}> Sigma;
+    /// Path of the statistics file last written.
+    QString StatsFileName;
+};
+
+/// The number of localities that the statistics of word form k are taken over: with flag 1 those where it was
+/// met, otherwise all.
+int GetNL(int flag, int k, int localities, const Statistics& statistics);
+
+/// `x` cut to `n` decimal places towards minus infinity.
+double Rnd(double x, int n);
+
+/// Computes the statistics of all word forms. The median is the first level that at most half of the
+/// localities with the word form reach. Raises division by zero for a word form met at no locality or at just
+/// one, overflow for a sum of counts past 32767, subscript out of range beyond 400 items; the statistics are
+/// then as they were.
+void Stats(const CumulativeTable& table, int localities, Statistics& statistics);
+
+/// A `.stt` file: the number of word forms and of items; then for each word form its number, a line with
+/// median, mode, average and deviation, and a line with both counts for each level.
+void writeStatistics(SequentialWriter& file, const CumulativeTable& table, const Statistics& statistics);
+
+/// The statistics of a file, and the numbers of word forms and items that they are of.
+struct StatisticsFile : Statistics
+{
+    int NumWordforms = 0;
+    int NumItemsAccumulated = 0;
+};
+
+StatisticsFile readStatistics(SequentialReader& file);
