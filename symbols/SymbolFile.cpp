@@ -62,8 +62,7 @@ QString symbolFilePath(const Folders& folders, const QString& name)
     const bool leavesFolder = std::any_of(name.begin(), name.end(), [](QChar character) {
         return QStringLiteral("\\/:*?\"<>|").contains(character);
     });
-    const QString path =
-        folders.dataFolder() + QLatin1Char('\\') + symbolFileStem(name) + QStringLiteral(".han");
+    QString path = folders.dataFolder() + QLatin1Char('\\') + symbolFileStem(name) + QStringLiteral(".han");
     if (leavesFolder) {
         throw RunTimeError(ErrorNumber::BadFileName).at({path});
     }

@@ -49,9 +49,8 @@ SymbolPicker::SymbolPicker(const PolygonTable& polygons, MapGeometry& geometry, 
     connect(buttons, &QDialogButtonBox::accepted, this, &SymbolPicker::choose);
     connect(buttons, &QDialogButtonBox::rejected, this, &SymbolPicker::reject);
     connect(m_symbols, &QListWidget::itemActivated, this, &SymbolPicker::choose);
-    connect(m_symbols, &QListWidget::currentRowChanged, this, [buttons](int row) {
-        buttons->button(QDialogButtonBox::Ok)->setEnabled(row >= 0);
-    });
+    connect(m_symbols, &QListWidget::currentRowChanged, this,
+            [buttons](int row) { buttons->button(QDialogButtonBox::Ok)->setEnabled(row >= 0); });
     resize(700, 520);
 }
 
@@ -74,8 +73,8 @@ void SymbolPicker::drawSymbols(const HankoStyle& style)
         DrawSurface surface;
         surface.Width = surface.Height = static_cast<float>(PictureSide * TwipsPerPixel);
         drawSymbol(hanko, m_polygons, m_geometry, surface);
-        m_symbols->addItem(new QListWidgetItem(symbolIcon(surface.drawing(), devicePixelRatioF()),
-                                               QString::number(number)));
+        m_symbols->addItem(
+            new QListWidgetItem(symbolIcon(surface.drawing(), devicePixelRatioF()), QString::number(number)));
     }
 }
 

@@ -9,10 +9,11 @@
 
 namespace {
 
-constexpr float NumberEnd = 480;
-constexpr float SymbolColumn = 900;
-constexpr float KindColumn = 1350;
+constexpr float NumberEnd = 500;
+constexpr float SymbolColumn = 960;
+constexpr float KindColumn = 1470;
 constexpr float NarrowestKinds = 1500;
+constexpr float NarrowestCaptions = 900;
 constexpr float ColumnGap = 300;
 constexpr float Edge = 120;
 constexpr float Headings = 390;
@@ -64,7 +65,8 @@ public:
     {
         const HankoStyle& hanko = m_varn.Hanko(record);
         if (canDraw(hanko, m_varn)) {
-            SymbolShapes(m_varn, m_varn, {m_surface, m_traces}).DrawHanko(hanko, SymbolColumn, middle(record));
+            SymbolShapes(m_varn, m_varn, {m_surface, m_traces})
+                .DrawHanko(hanko, SymbolColumn, middle(record));
         } else {
             const QString unknown = QStringLiteral("?");
             write(SymbolColumn - m_surface.TextWidth(unknown) / 2, record, unknown, FaultColor);
@@ -158,7 +160,7 @@ float DisplayHanrei(VarnModule& varn, int first, int last, DrawSurface& surface)
         kindsEnd = std::max(kindsEnd, preview.drawText(KindColumn, k, varn.HankoWord(k)));
     }
     const float captionColumn = kindsEnd + ColumnGap;
-    float end = captionColumn + NarrowestKinds;
+    float end = captionColumn + NarrowestCaptions;
     for (int k = first; k <= last; ++k) {
         end = std::max(end, preview.drawText(captionColumn, k, varn.HankoCaption(k)));
     }

@@ -1,0 +1,344 @@
+#include "platform/WholeFile.h"
+#include "shell/VarnModule.h"
+#include "symbols/SymbolFile.h"
+#include "symbols/SymbolPicker.h"
+#include "symbols/frmSetHanko.h"
+#include "tests/ScriptedDialogs.h"
+#include "tests/TestDrive.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPushButton>
+
+namespace {
+
+using Shown = ScriptedDialogs::Shown;
+
+const QByteArray TwoRecords = "\"rain set\"\r\n2\r\n\"ame\",\"AME\"\r\n1\r\n1\r\n2\r\n1\r\n0\r\n2\r\n"
+                              "\"uyu\",\"UYU\"\r\n49\r\n4\r\n0\r\n0\r\n1\r\n1\r\n";
+
+/// The symbol set-up form on the map of a `TestSurvey` that has one item, `rain.dbs`, and one symbol file.
+class SetHanko : public testing::Test
+{
+protected:
+    SetHanko()
+    {
+        survey.write(ling("rain.dbs"),
+                     "3,\"\",\"Rain\",\"\"\r\n2\r\n\"uyu\"\r\n\"ame no\"\r\n0\r\n1\r\n\"uyu\"\r\n");
+        survey.write(ling("rain.han"), TwoRecords);
+    }
+
+    static QString ling(const char* file)
+    {
+        return QStringLiteral("C:\\Varn62E\\Varn\\VarnData\\Test\\Ling\\") + QLatin1String(file);
+    }
+
+    template <typename Control>
+    Control& control(const char* name)
+    {
+        return *form.findChild<Control*>(QLatin1String(name));
+    }
+    QAction& menu(const char* name) { return control<QAction>(name); }
+    QString text(const char* name) { return control<QLineEdit>(name).text(); }
+    void type(const char* name, const char* text) { control<QLineEdit>(name).setText(QLatin1String(text)); }
+    void choose(const char* name, int number) { control<QComboBox>(name).setCurrentIndex(number); }
+    int chosen(const char* name) { return control<QComboBox>(name).currentIndex(); }
+    void click(const char* name) { control<QPushButton>(name).click(); }
+    QString counter() { return control<QLabel>("lblRec").text(); }
+
+    void trigger(const char* entry, const char* file)
+    {
+        dialogs.files = {survey.drive().hostPath(ling(file))};
+        menu(entry).trigger();
+    }
+
+    void registerRecord(const char* word, const char* number)
+    {
+        type("txtWord", word);
+        click("cmdAutoHanrei");
+        type("txtHankoNumber", number);
+        click("cmdSave");
+    }
+
+    QStringList listedKinds()
+    {
+        QStringList kinds;
+        for (int row = 0; row < control<QListWidget>("lstKindWord").count(); ++row) {
+            kinds << control<QListWidget>("lstKindWord").item(row)->text();
+        }
+        return kinds;
+    }
+
+    TestSurvey survey;
+    VarnModule& varn = survey.varn;
+    ScriptedDialogs dialogs;
+    frmSetHanko form{varn, dialogs};
+};
+
+/// The same with the item loaded and the form shown.
+class OpenSetHanko : public SetHanko
+{
+protected:
+    OpenSetHanko()
+    {
+        trigger("mnuInputWord", "rain.dbs");
+        form.Form_Load();
+        form.bringToFront();
+        QApplication::processEvents();
+        dialogs.shown.clear();
+    }
+};
+
+} // namespace
+
+TEST_F(SetHanko, WithoutAnItemTheUserIsSentToTheMainForm)
+{
+    int returns = 0;
+    QObject::connect(&form, &frmSetHanko::toMain, &form, [&returns] { ++returns; });
+    form.Form_Load();
+    form.bringToFront();
+    QApplication::processEvents();
+    EXPECT_EQ(dialogs.shown, std::vector<Shown>({{QStringLiteral("Specify Linguistic Data"),
+                                                  QStringLiteral("Input Ling. Data")}}));
+    EXPECT_EQ(returns, 1);
+    EXPECT_EQ(counter(), QStringLiteral("1/New"));
+
+    trigger("mnuInputWord", "rain.dbs");
+    form.Form_Load();
+    QApplication::processEvents();
+    EXPECT_EQ(returns, 1);
+    EXPECT_EQ(varn.LoadState, 1);
+}
+
+TEST_F(OpenSetHanko, FormBeginsWithTheKindsAndDefaults)
+{
+    EXPECT_EQ(listedKinds(), QStringList({QStringLiteral("1 ame no"), QStringLiteral("2 uyu")}));
+    EXPECT_TRUE(fileExists(survey.drive(), ling("rain.srt")));
+    EXPECT_EQ(counter(), QStringLiteral("1/New"));
+    EXPECT_EQ(control<QComboBox>("cboColor").currentText(), QStringLiteral("Black"));
+    EXPECT_EQ(control<QComboBox>("cboBack").itemText(15), QStringLiteral("L.White"));
+    EXPECT_EQ(control<QComboBox>("cboSize").currentText(), QStringLiteral("Normal"));
+    EXPECT_EQ(control<QComboBox>("cboWidth").currentText(), QStringLiteral("Normal"));
+    EXPECT_FALSE(menu("mnuSaveHanko").isEnabled());
+    EXPECT_FALSE(menu("mnuLoadMap").isEnabled());
+
+    click("cmdWord");
+    EXPECT_EQ(text("txtWord"), QStringLiteral("ame no")) << "the text after the first blank";
+
+    survey.write(ling("rain.srt"), "1\r\n\"from the file\",7\r\n");
+    form.Form_Load();
+    EXPECT_EQ(listedKinds(), QStringList(QStringLiteral("7 from the file")));
+    EXPECT_EQ(text("txtWord"), QStringLiteral("ame no")) << "what is typed outlives a visit to the main form";
+}
+
+TEST_F(OpenSetHanko, ASetIsBuiltAndSavedAndReadAgain)
+{
+    click("cmdWord");
+    type("txtHankoNumber", "50");
+    choose("cboColor", 12);
+    choose("cboBack", 3);
+    control<QCheckBox>("chkPat").setChecked(true);
+    choose("cboSize", 2);
+    choose("cboWidth", 0);
+    type("txtExplain", "mine");
+    click("cmdSave");
+    EXPECT_EQ(counter(), QStringLiteral("1/1"));
+    click("cmdNext");
+    EXPECT_EQ(text("txtExplain"), QStringLiteral("mine"));
+    registerRecord("uyu ", "50");
+    EXPECT_EQ(chosen("cboColor"), 12) << "one number, one style";
+    EXPECT_TRUE(form.isWindowModified());
+
+    type("txtExplain", "mine too");
+    dialogs.inputs = {QStringLiteral("new.han")};
+    menu("mnuSaveHanko").trigger();
+    EXPECT_EQ(dialogs.shown, std::vector<Shown>({{QStringLiteral("Input File Name of Symbol Data"),
+                                                  QStringLiteral("Save Symbol File")}}));
+    EXPECT_EQ(survey.read(ling("new.han")),
+              "\"mine too\"\r\n2\r\n\"ame no\",\"\"\r\n50\r\n12\r\n3\r\n1\r\n2\r\n0\r\n"
+              "\"uyu\",\"uyu\"\r\n50\r\n12\r\n3\r\n1\r\n2\r\n0\r\n");
+    EXPECT_EQ(varn.SymbolFileName, QStringLiteral("new.han"));
+    EXPECT_EQ(varn.LoadState, 2);
+    EXPECT_EQ(counter(), QStringLiteral("2/2"));
+    EXPECT_FALSE(form.isWindowModified());
+    EXPECT_TRUE(form.windowTitle().contains(QStringLiteral("Test - rain.dbs - new.han")));
+}
+
+TEST_F(OpenSetHanko, SavingAsksBeforeAFileIsReplaced)
+{
+    const Shown nameQuestion{QStringLiteral("Input File Name of Symbol Data"),
+                             QStringLiteral("Save Symbol File")};
+    const Shown overwriteQuestion{QStringLiteral("File already exist. Overwrite O.K.? "),
+                                  QStringLiteral("Re Input File Name")};
+    registerRecord("ame", "1");
+    dialogs.inputs = {QStringLiteral("RAIN"), std::nullopt};
+    dialogs.yesNo = {false};
+    menu("mnuSaveHanko").trigger();
+    EXPECT_EQ(dialogs.shown, std::vector<Shown>({nameQuestion, overwriteQuestion, nameQuestion}));
+    EXPECT_EQ(survey.read(ling("rain.han")), TwoRecords);
+    EXPECT_TRUE(varn.HankoUnsaved);
+
+    dialogs.inputs = {QStringLiteral("a\\b")};
+    menu("mnuSaveHanko").trigger();
+    survey.write(ling("blocked.han\\file"), "a folder where the file should be");
+    dialogs.inputs = {QStringLiteral("blocked")};
+    menu("mnuSaveHanko").trigger();
+    ASSERT_EQ(dialogs.errors.size(), 2U);
+    EXPECT_EQ(dialogs.errors[0].title, QStringLiteral("Run-time error '52': Bad file name or number"));
+    EXPECT_EQ(text("txtWord"), QStringLiteral("ame"));
+    EXPECT_EQ(counter(), QStringLiteral("1/1"));
+    EXPECT_TRUE(varn.HankoUnsaved);
+    EXPECT_EQ(varn.SymbolFileName, QString());
+}
+
+TEST_F(OpenSetHanko, AFileIsOpenedAtItsLastRecord)
+{
+    trigger("mnuOpenHanko", "rain.han");
+    EXPECT_EQ(counter(), QStringLiteral("2/2"));
+    EXPECT_EQ(text("txtHanrei"), QStringLiteral("UYU"));
+    EXPECT_EQ(text("txtExplain"), QStringLiteral("rain set"));
+    EXPECT_EQ(varn.LoadState, 2);
+    for (const char* entry : {"mnuSaveHanko", "mnuLoadMap", "mnuHankoInit"}) {
+        EXPECT_TRUE(menu(entry).isEnabled()) << entry;
+    }
+    click("cmdBefore");
+    EXPECT_EQ(counter(), QStringLiteral("1/2"));
+    EXPECT_EQ(text("txtHankoNumber"), QStringLiteral("1"));
+    EXPECT_EQ(chosen("cboColor"), 1);
+    EXPECT_EQ(chosen("cboBack"), 2);
+    EXPECT_TRUE(control<QCheckBox>("chkPat").isChecked());
+    EXPECT_EQ(chosen("cboSize"), 0);
+    EXPECT_EQ(chosen("cboWidth"), 2);
+
+    trigger("mnuOpenHanko", "gone.han");
+    EXPECT_EQ(dialogs.errors.size(), 1U);
+    EXPECT_EQ(varn.SymbolFileName, QStringLiteral("rain.han"));
+    EXPECT_EQ(counter(), QStringLiteral("1/2"));
+}
+
+TEST_F(OpenSetHanko, ValuesThatNoListHasAreShownAsNothingAndStoredAsZero)
+{
+    survey.write(ling("odd.han"), "\"\"\r\n1\r\n\"k\",\"c\"\r\n9999\r\n16\r\n-1\r\n1\r\n3\r\n-32768\r\n");
+    trigger("mnuOpenHanko", "odd.han");
+    for (const char* box : {"cboColor", "cboBack", "cboSize", "cboWidth"}) {
+        EXPECT_EQ(chosen(box), -1) << box;
+    }
+    click("cmdSave");
+    EXPECT_EQ(varn.Hanko(1), (HankoStyle{9999, 0, 0, 1, 0, 0}));
+    EXPECT_EQ(dialogs.errors, std::vector<Shown>());
+}
+
+TEST_F(OpenSetHanko, RecordsAreInsertedAndDeletedByNumber)
+{
+    trigger("mnuOpenHanko", "rain.han");
+    dialogs.shown.clear();
+    dialogs.inputs = {QStringLiteral("1"), QStringLiteral("2"), std::nullopt, QStringLiteral("-1")};
+    click("cmdInserte");
+    EXPECT_EQ(counter(), QStringLiteral("1/3"));
+    EXPECT_EQ(text("txtWord"), QString());
+    click("cmdDelete");
+    EXPECT_EQ(varn.HankoWord(2), QStringLiteral("uyu"));
+    EXPECT_EQ(
+        dialogs.shown,
+        std::vector<Shown>({{QStringLiteral("Specify Number of Insert Data."), QStringLiteral("Insert")},
+                            {QStringLiteral("Specify Number of Delete Data."), QStringLiteral("Delete")}}));
+    click("cmdInserte");
+    EXPECT_EQ(counter(), QStringLiteral("1/2")) << "a cancelled question changes nothing";
+    click("cmdInserte");
+    ASSERT_EQ(dialogs.errors.size(), 1U);
+    EXPECT_EQ(dialogs.errors[0].title, QStringLiteral("Run-time error '9': Subscript out of range"));
+    EXPECT_EQ(counter(), QStringLiteral("1/2"));
+}
+
+TEST_F(OpenSetHanko, NextAtRecordHundredTellsThatTheSetIsFull)
+{
+    varn.NHanrei = 100;
+    varn.CurrentHanko = 100;
+    click("cmdNext");
+    ASSERT_EQ(dialogs.shown.size(), 1U);
+    EXPECT_EQ(dialogs.shown[0].text, QStringLiteral("Caption Data exceed Maximum."));
+}
+
+TEST_F(OpenSetHanko, WorkIsGivenUpOnlyWhenTheUserAgrees)
+{
+    trigger("mnuOpenHanko", "rain.han");
+    dialogs.shown.clear();
+    EXPECT_TRUE(form.close());
+    EXPECT_TRUE(dialogs.shown.empty()) << "nothing to lose, nothing to ask";
+    form.bringToFront();
+
+    registerRecord("changed", "3");
+    dialogs.yesNo = {false, false, false};
+    menu("mnuOpenHanko").trigger();
+    menu("mnuHankoInit").trigger();
+    EXPECT_FALSE(form.close());
+    EXPECT_EQ(dialogs.shown.size(), 3U);
+    EXPECT_EQ(varn.HankoWord(2), QStringLiteral("changed"));
+
+    dialogs.yesNo = {true};
+    menu("mnuHankoInit").trigger();
+    EXPECT_EQ(counter(), QStringLiteral("0/0"));
+    EXPECT_EQ(text("txtHankoNumber"), QStringLiteral("0"));
+
+    type("txtWord", "not registered");
+    dialogs.yesNo = {false, false};
+    EXPECT_FALSE(form.close());
+    menu("mnuSaveHanko").trigger();
+    EXPECT_EQ(text("txtWord"), QStringLiteral("not registered"));
+    EXPECT_TRUE(dialogs.errors.empty());
+}
+
+TEST_F(OpenSetHanko, ASetThatAnotherFormLoadedIsShown)
+{
+    type("txtWord", "typed");
+    LoadHankoData(varn.Drive, ling("rain.han"), varn);
+    form.Form_Load();
+    EXPECT_EQ(text("txtWord"), QStringLiteral("uyu"));
+    EXPECT_EQ(counter(), QStringLiteral("2/2"));
+
+    frmSetHanko opened(varn, dialogs);
+    opened.Form_Load();
+    EXPECT_EQ(opened.findChild<QLabel*>(QStringLiteral("lblRec"))->text(), QStringLiteral("2/2"));
+}
+
+TEST_F(OpenSetHanko, ARegisteredSetCanBeDrawnBeforeItIsSaved)
+{
+    int visits = 0;
+    QObject::connect(&form, &frmSetHanko::toDrawMap, &form, [&visits] { ++visits; });
+    registerRecord("ame", "1");
+    menu("mnuLoadMap").trigger();
+    EXPECT_EQ(visits, 1);
+    EXPECT_TRUE(canDrawLinguisticMap(varn));
+}
+
+TEST_F(OpenSetHanko, ASymbolIsChosenFromTheCatalogue)
+{
+    type("txtHankoNumber", "93");
+    click("cmdSymbol");
+    auto* picker = form.findChild<SymbolPicker*>();
+    auto* symbols = picker->findChild<QListWidget*>();
+    ASSERT_TRUE(picker->isVisible());
+    EXPECT_EQ(symbols->count(), 160);
+    EXPECT_EQ(symbols->currentItem()->text(), QStringLiteral("93"));
+    const QSize size = symbols->iconSize();
+    EXPECT_NE(symbols->item(0)->icon().pixmap(size).toImage(),
+              symbols->item(48)->icon().pixmap(size).toImage());
+    symbols->setCurrentRow(159);
+    Q_EMIT symbols->itemActivated(symbols->currentItem());
+    EXPECT_FALSE(picker->isVisible());
+    EXPECT_EQ(text("txtHankoNumber"), QStringLiteral("160"));
+
+    for (const char* odd : {"", "-4", "1e30", "9999"}) {
+        type("txtHankoNumber", odd);
+        click("cmdSymbol");
+        EXPECT_EQ(symbols->currentItem()->text(), QStringLiteral("1")) << odd;
+        picker->reject();
+        EXPECT_EQ(text("txtHankoNumber"), QLatin1String(odd));
+    }
+    EXPECT_TRUE(dialogs.errors.empty());
+}
