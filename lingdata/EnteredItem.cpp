@@ -54,14 +54,18 @@ ItemEditor openItem(const Folders& folders, const QString& itemPath)
 
 void saveItem(const Folders& folders, const QString& itemPath, ItemEditor& editor)
 {
-    LinguisticData data;
-    static_cast<ItemAnswers&>(data) = editor.answers();
-    writeSequentialFile(folders.Drive, itemPath, [&](SequentialWriter& file) { writeItem(file, data); });
+    const ItemAnswers item = editor.answers();
+    writeSequentialFile(folders.Drive, itemPath, [&](SequentialWriter& file) { writeItem(file, item); });
     // Whatever happens from here on, old kinds must not be taken for those of the new item.
-    const QString kindsPath = kindsFilePath(folders, itemPath);
-    QFile::remove(folders.Drive.hostPath(kindsPath));
+    QFile::remove(folders.Drive.hostPath(kindsFilePath(folders, itemPath)));
     writeSequentialFile(folders.Drive, inputKindsPath(folders, itemPath),
                         [&](SequentialWriter& file) { writeInputKinds(file, editor.kinds()); });
     editor.markSaved();
-    FileWordData(folders, kindsPath, data);
+}
+
+void renewKindsFile(const Folders& folders, const QString& itemPath, const ItemEditor& editor)
+{
+    LinguisticData data;
+    static_cast<ItemAnswers&>(data) = editor.answers();
+    FileWordData(folders, kindsFilePath(folders, itemPath), data);
 }

@@ -40,10 +40,10 @@ void LoadWordData(const Folders& folders, const QString& itemPath, LinguisticDat
     LinguisticData fresh;
     static_cast<ItemAnswers&>(fresh) = readSequentialFile(folders.Drive, itemPath, readItem);
     fresh.ItemFileName = itemPath.mid(itemPath.lastIndexOf(QLatin1Char('\\')) + 1);
-    const QString kindsPath = kindsFilePath(folders, itemPath);
-    const bool haveKinds = fileExists(folders.Drive, kindsPath);
+    fresh.KindsPath = kindsFilePath(folders, itemPath);
+    const bool haveKinds = fileExists(folders.Drive, fresh.KindsPath);
     if (haveKinds) {
-        InputWordData(folders, kindsPath, fresh);
+        InputWordData(folders, fresh.KindsPath, fresh);
     } else {
         SearchKindWord(fresh);
         SortKindWord(fresh);
@@ -51,6 +51,6 @@ void LoadWordData(const Folders& folders, const QString& itemPath, LinguisticDat
     data = std::move(fresh);
     dataLoaded(state);
     if (!haveKinds) {
-        writeKindsFile(folders, kindsPath, data);
+        writeKindsFile(folders, data.KindsPath, data);
     }
 }

@@ -43,4 +43,6 @@ struct LinguisticData : ItemAnswers, WordKinds
 {
     /// Name of its file, without its folder.
     QString ItemFileName;
+    /// Path of its kinds file.
+    QString KindsPath;
 };

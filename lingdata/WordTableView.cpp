@@ -23,12 +23,12 @@ void WordTableView::commitEdit()
     }
 }
 
-void WordTableView::goTo(int locality, int column)
+void WordTableView::goTo(int locality, int column, ScrollHint scroll)
 {
     const QModelIndex cell = model()->index(locality - 1, column - 1);
     if (cell.isValid()) {
         setCurrentIndex(cell);
-        scrollTo(cell);
+        scrollTo(cell, scroll);
     }
 }
 
@@ -51,6 +51,9 @@ void WordTableView::clearSelected()
 
 void WordTableView::keyPressEvent(QKeyEvent* event)
 {
+    if (state() == EditingState) {
+        return; // a key that the editor left, and acts on when it closes
+    }
     switch (event->key()) {
     case Qt::Key_Return:
     case Qt::Key_Enter:

@@ -2,8 +2,8 @@
 
 #include <QTableView>
 
-/// The view of a table of words, made for entry from the keyboard: typing fills the current cell, Tab goes on to
-/// the next cell, Enter to the next locality, Delete empties the selected cells.
+/// The view of a table of words, made for entry from the keyboard: typing fills the current cell, Tab goes on
+/// to the next cell, Enter to the next locality, Delete empties the selected cells.
 class WordTableView : public QTableView
 {
     Q_OBJECT
@@ -13,8 +13,8 @@ public:
 
     /// Takes over what is being typed, for an operation on the whole item.
     void commitEdit();
-    /// Makes a cell current, both counted from 1; numbers outside the table do nothing.
-    void goTo(int locality, int column);
+    /// Makes a cell current, both counted from 1, and scrolls to it; numbers outside the table do nothing.
+    void goTo(int locality, int column, ScrollHint scroll = EnsureVisible);
     /// Goes to the first cell of the next locality; stays on the last one.
     void goToNextLocality();
     /// Goes up or down in the column.
@@ -27,7 +27,5 @@ public:
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
-
-protected Q_SLOTS:
     void closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint hint) override;
 };

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "lingdata/WordTable.h"
-#include "platform/DrawSurface.h"
 #include "platform/VarnForm.h"
 
 #include <memory>
@@ -24,8 +23,8 @@ public:
     frmDataInput(VarnModule& varn, Dialogs& dialogs);
     ~frmDataInput() override;
 
-    /// Prepares the form for the current map. What is being entered stays, but for an item of another map, which
-    /// makes way for a new one; that is asked about where it is unsaved.
+    /// Prepares the form for the current map. What is being entered stays, but for an item of another map,
+    /// which makes way for a new one; that is asked about where it is unsaved.
     void Form_Load();
     void refresh() override;
 
@@ -62,7 +61,6 @@ private:
     void newItem();
     void showItem(ItemEditor item, const QString& itemPath);
     void moved();
-    void showWord(const QString& word);
     void drawWordShown(const QString& word);
     void showKinds();
     void showFaults();
@@ -76,8 +74,7 @@ private:
     WordTable m_table{m_editor};
     std::vector<FaultyWord> m_faults;
     WordDelegate* m_delegate;
-    /// The current word as it will be drawn.
-    DrawSurface m_word;
+    WordDelegate* m_kindDelegate;
     QLabel* m_progress;
     QLabel* m_warning;
     /// The map that the item belongs to.

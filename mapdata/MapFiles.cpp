@@ -22,9 +22,21 @@ int readPlainCount(SequentialReader& file)
     return static_cast<int>(count);
 }
 
+/// Makes the vertices relative to the reference points.
+void makeRelative(PolygonTable& table)
+{
+    for (int k = 1; k <= table.Nsquare; ++k) {
+        for (int j = 1; j <= table.SquareVertices(k); ++j) {
+            for (int c = 0; c <= 1; ++c) {
+                table.SquareXY(k, j, c) -= table.SquareCentre(k, c);
+            }
+        }
+    }
+}
+
 QString mapFile(const QString& varnPath, const QString& mapName, const QString& name)
 {
-    return varnPath + QStringLiteral("\\VarnData") + mapName + QStringLiteral("\\Map\\") + name;
+    return mapFolder(varnPath, mapName) + QLatin1Char('\\') + name;
 }
 
 } // namespace
@@ -37,6 +49,14 @@ Localities readLocalities(SequentialReader& file)
         readPoint(file, [&](int k, float value) { map.LocXY(i, k) = value; });
     }
     return map;
+}
+
+void writeLocalities(SequentialWriter& file, const Localities& map)
+{
+    file.write(map.NLocality);
+    for (int i = 1; i <= map.NLocality; ++i) {
+        file.write(map.LocXY(i, 0), map.LocXY(i, 1));
+    }
 }
 
 MapLines readLines(SequentialReader& file)
@@ -54,6 +74,18 @@ MapLines readLines(SequentialReader& file)
         }
     }
     return map;
+}
+
+void writeLines(SequentialWriter& file, const MapLines& map)
+{
+    file.write(map.NLine);
+    for (int i = 1; i <= map.NLine; ++i) {
+        file.write(map.LineKind(i), map.LinePoints(i), map.MapLineColor(i), map.LineStyle(i),
+                   map.LineOffset(i, 0), map.LineOffset(i, 1));
+        for (int j = 1; j <= map.LinePoints(i); ++j) {
+            file.write(map.LineXY(i, j, 0), map.LineXY(i, j, 1));
+        }
+    }
 }
 
 PlaceNames readPlaceNames(SequentialReader& file)
@@ -75,7 +107,19 @@ PlaceNames readPlaceNames(SequentialReader& file)
     return map;
 }
 
-PolygonTable readPolygons(SequentialReader& file)
+void writePlaceNames(SequentialWriter& file, const PlaceNames& map)
+{
+    file.write(map.NKanji);
+    for (int i = 1; i <= map.NKanji; ++i) {
+        file.write(map.KanjiXY(i, 0), map.KanjiXY(i, 1));
+        file.write(map.KanjiText(i));
+    }
+    const int scaleBar = map.NKanji + 1;
+    file.write(map.KanjiXY(scaleBar, 0), map.KanjiXY(scaleBar, 1));
+    file.write(map.ScaleLabel, map.ScaleDivisions, map.ScaleLength);
+}
+
+PolygonTable readAbsolutePolygons(SequentialReader& file)
 {
     PolygonTable table;
     table.Nsquare = file.readCount();
@@ -85,12 +129,39 @@ PolygonTable readPolygons(SequentialReader& file)
         table.SquareCentre(k, 1) = file.readSingle();
         table.SquareValue(k) = file.readNumber();
         for (int j = 1; j <= table.SquareVertices(k); ++j) {
-            readPoint(file, [&](int c, float value) {
-                table.SquareXY(k, j, c) = value - table.SquareCentre(k, c);
-            });
+            readPoint(file, [&](int c, float value) { table.SquareXY(k, j, c) = value; });
         }
     }
     return table;
+}
+
+void writeAbsolutePolygons(SequentialWriter& file, const PolygonTable& table)
+{
+    file.write(table.Nsquare);
+    for (int k = 1; k <= table.Nsquare; ++k) {
+        file.write(table.SquareVertices(k));
+        file.write(table.SquareCentre(k, 0), table.SquareCentre(k, 1), table.SquareValue(k));
+        for (int j = 1; j <= table.SquareVertices(k); ++j) {
+            file.write(table.SquareXY(k, j, 0), table.SquareXY(k, j, 1));
+        }
+    }
+}
+
+PolygonTable readPolygons(SequentialReader& file)
+{
+    PolygonTable table = readAbsolutePolygons(file);
+    makeRelative(table);
+    return table;
+}
+
+QString mapFolder(const QString& varnPath, const QString& mapName)
+{
+    return varnPath + QStringLiteral("\\VarnData") + mapName + QStringLiteral("\\Map");
+}
+
+QString polygonFile(const QString& varnPath)
+{
+    return varnPath + QStringLiteral("\\VarnData\\Square.sbl");
 }
 
 void LoadLocateData(const DriveC& drive, const QString& varnPath, const QString& mapName, Localities& map)
@@ -110,5 +181,5 @@ void LoadKanjiData(const DriveC& drive, const QString& varnPath, const QString& 
 
 void LoadSquareData(const DriveC& drive, const QString& varnPath, PolygonTable& table)
 {
-    table = readSequentialFile(drive, varnPath + QStringLiteral("\\VarnData\\Square.sbl"), readPolygons);
+    table = readSequentialFile(drive, polygonFile(varnPath), readPolygons);
 }

@@ -21,6 +21,13 @@ void printAt(DrawSurface& target, float x, float y, const QString& text)
     target.Print(text);
 }
 
+/// Keeps the position of locality i in drawing units.
+void placeLocality(const Localities& map, int i, MapGeometry& geometry)
+{
+    geometry.ScreenXY(i, 0) = geometry.toScreen(map.LocXY(i, 0));
+    geometry.ScreenXY(i, 1) = geometry.toScreen(map.LocXY(i, 1));
+}
+
 /// A horizontal bar with ticks standing on it, its ends named.
 void plotScaleBar(const PlaceNames& map, const MapGeometry& geometry, DrawSurface& target)
 {
@@ -72,9 +79,25 @@ void PlotLocateData(const BaseMap& map, const MapStyle& style, MapGeometry& geom
         return;
     }
     for (int i = 1; i <= map.NLocality; ++i) {
-        geometry.ScreenXY(i, 0) = geometry.toScreen(map.LocXY(i, 0));
-        geometry.ScreenXY(i, 1) = geometry.toScreen(map.LocXY(i, 1));
+        placeLocality(map, i, geometry);
         surfaces.DrawTarget.Circle(geometry.ScreenXY(i, 0), geometry.ScreenXY(i, 1), DotRadius, QBColor(0));
+    }
+}
+
+void PlotLocateCircle(const Localities& map, MapGeometry& geometry, DrawSurface& target)
+{
+    constexpr float DiscRadius = 45;
+    constexpr float RingRadius = 75;
+
+    for (int i = 1; i <= map.NLocality; ++i) {
+        placeLocality(map, i, geometry);
+        const float x = geometry.ScreenXY(i, 0);
+        const float y = geometry.ScreenXY(i, 1);
+        target.FillStyle = 0;
+        target.FillColor = QBColor(10);
+        target.Circle(x, y, DiscRadius, QBColor(10));
+        target.FillStyle = 1;
+        target.Circle(x, y, RingRadius, QBColor(12));
     }
 }
 

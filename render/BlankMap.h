@@ -12,6 +12,9 @@ void PlotLineData(const MapLines& map, MapGeometry& geometry, MapSurfaces surfac
 /// The dots of the localities, where the user asked for them.
 void PlotLocateData(const BaseMap& map, const MapStyle& style, MapGeometry& geometry, MapSurfaces surfaces);
 
+/// A mark of two circles at every locality, a disc in a ring, on `target`.
+void PlotLocateCircle(const Localities& map, MapGeometry& geometry, DrawSurface& target);
+
 /// The place names and the scale bar. Raises division by zero for a scale bar without divisions.
 void PlotKanjiData(const PlaceNames& map, const MapGeometry& geometry, MapSurfaces surfaces);
 

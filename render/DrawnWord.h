@@ -11,6 +11,6 @@ struct DrawnWord
     float Height = 0;
 };
 
-/// Draws `word` from the origin. Escapes that are in no code are left out. Raises file not found for a glyph
-/// that the installation lacks.
+/// Draws `word` from the origin. Escapes that are in no code are left out. Nothing is drawn where the
+/// installation lacks a glyph.
 DrawnWord drawWord(VarnModule& varn, const QString& word);

@@ -77,8 +77,8 @@ void LocalityMap::draw(const BaseMap& map)
     DrawSurface form;
     form.Height = PaperHeight;
     MapGeometry geometry;
-    geometry.Scale = lines.hasArea() ? FindMinMax(map, form, geometry)
-                                     : PaperHeight / std::max(all.longerSide(), 1.0F);
+    geometry.Scale =
+        lines.hasArea() ? FindMinMax(map, form, geometry) : PaperHeight / std::max(all.longerSide(), 1.0F);
     fitPaper(all, geometry, m_surface);
     if (lines.hasArea()) {
         PlotLineData(map, geometry, {m_surface, form});

@@ -3,8 +3,8 @@
 #include "render/LocalityMap.h"
 #include "render/SurfaceView.h"
 
-/// Shows a map of the localities with one of them highlighted. The highlight lies over the painted map, so that
-/// moving it repaints but a spot.
+/// Shows a map of the localities with one of them highlighted. The highlight lies over the painted map, so
+/// that moving it repaints but a spot.
 class LocalityView : public SurfaceView
 {
     Q_OBJECT

@@ -26,17 +26,17 @@ bool widenExtent(const MapLines& map, MapGeometry& geometry)
 
 } // namespace
 
-float FindMinMax(const MapLines& map, const DrawSurface& frmMap, MapGeometry& geometry)
+float FindMinMax(const MapLines& map, const DrawSurface& form, MapGeometry& geometry, float startMaxY)
 {
     geometry.MinX = 1000000;
     geometry.MinY = 1000000;
     geometry.MaxX = -999999;
-    geometry.MaxY = -999999;
+    geometry.MaxY = startMaxY;
     if (!widenExtent(map, geometry)) {
         throw RunTimeError(ErrorNumber::DivisionByZero, QStringLiteral("The map has no lines."));
     }
-    geometry.RatioY = divide(frmMap.Height - frmMap.Top, geometry.MaxY - geometry.MinY);
-    geometry.RatioX = divide(frmMap.Width - frmMap.Left, geometry.MaxX - geometry.MinX);
+    geometry.RatioY = divide(form.Height - form.Top, geometry.MaxY - geometry.MinY);
+    geometry.RatioX = divide(form.Width - form.Left, geometry.MaxX - geometry.MinX);
     return toSingle(0.98 * geometry.RatioY);
 }
 

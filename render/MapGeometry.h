@@ -12,7 +12,7 @@ struct MapGeometry
     double MinX = 1000000;
     double MinY = 1000000;
     double MaxX = -999999;
-    float MaxY = -999999;
+    float MaxY = StartMaxY;
     /// Drawing units per map unit that would fill the form's width and height.
     double RatioX = 0;
     double RatioY = 0;
@@ -23,6 +23,8 @@ struct MapGeometry
     float toScreen(float coordinate) const { return Scale * coordinate + Margin; }
 
     static constexpr float Margin = 50;
+    /// Below every coordinate: where the search for `MaxY` starts.
+    static constexpr float StartMaxY = -999999;
 };
 
 /// The surfaces of one drawing command: the one that is drawn on, and the map form's own, which gives the
@@ -33,9 +35,10 @@ struct MapSurfaces
     DrawSurface& frmMap;
 };
 
-/// Measures the extent of the lines and returns the scale at which its height fills 98 % of the map form.
-/// Raises division by zero for a map without extent, overflow.
-float FindMinMax(const MapLines& map, const DrawSurface& frmMap, MapGeometry& geometry);
+/// Measures the extent of the lines and returns the scale at which its height fills 98 % of `form`, the map
+/// form or whichever form asks. Raises division by zero for a map without extent, overflow.
+float FindMinMax(const MapLines& map, const DrawSurface& form, MapGeometry& geometry,
+                 float startMaxY = MapGeometry::StartMaxY);
 
 /// Fills the start values of the extent from the lines, before any scale is known.
 void findStartExtent(const MapLines& map, MapGeometry& geometry);

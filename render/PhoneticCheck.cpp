@@ -15,3 +15,8 @@ std::optional<CodeFault> findCodeFault(QStringView text)
     }
     return std::nullopt;
 }
+
+QString faultText(const CodeFault& fault)
+{
+    return fault.code + (fault.cutShort ? QStringLiteral(" is cut short") : QStringLiteral(" is in no code"));
+}

@@ -17,3 +17,6 @@ struct CodeFault
 
 /// The first escape of `text` that is in no code; nothing where all of them stand for letters.
 std::optional<CodeFault> findCodeFault(QStringView text);
+
+/// What is wrong, for the user: "\Q1 is in no code".
+QString faultText(const CodeFault& fault);

@@ -55,13 +55,7 @@ const DrawnWord& WordDelegate::drawn(const QString& word) const
     if (known != m_words.constEnd()) {
         return *known;
     }
-    DrawnWord drawing;
-    try {
-        drawing = drawWord(m_varn, word);
-    } catch (const RunTimeError&) {
-        // Without its glyphs the word shows its code alone; a cell being painted cannot tell the user more.
-    }
-    return *m_words.insert(word, std::move(drawing));
+    return *m_words.insert(word, drawWord(m_varn, word));
 }
 
 void WordDelegate::initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const
@@ -93,6 +87,12 @@ void WordDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
         paintText(*painter, word, room.adjusted(2 * Margin, 0, 0, 0), Qt::AlignRight, CodeColor);
     }
     painter->restore();
+}
+
+QSize WordDelegate::sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const
+{
+    const QSize hint = QStyledItemDelegate::sizeHint(option, index);
+    return {hint.width(), std::max(hint.height(), option.fontMetrics.height() + 2 * Margin)};
 }
 
 QWidget* WordDelegate::createEditor(QWidget* parent, const QStyleOptionViewItem&, const QModelIndex&) const

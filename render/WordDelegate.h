@@ -5,8 +5,8 @@
 #include <QHash>
 #include <QStyledItemDelegate>
 
-/// Shows coded words as maps will, phonetic letters for escapes, with the code beside them; words with an escape
-/// that is in no code in red. Its editor is left up and down with the arrow keys.
+/// Shows coded words as maps will, phonetic letters for escapes, with the code beside them; words with an
+/// escape that is in no code in red. Its editor is left up and down with the arrow keys.
 class WordDelegate : public QStyledItemDelegate
 {
     Q_OBJECT
@@ -17,7 +17,9 @@ public:
     /// Forgets how words were drawn, for another map font.
     void forget() { m_words.clear(); }
 
-    void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override;
+    void paint(QPainter* painter, const QStyleOptionViewItem& option,
+               const QModelIndex& index) const override;
+    QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override;
     QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem& option,
                           const QModelIndex& index) const override;
 

@@ -25,6 +25,8 @@ public:
 
     /// Makes the form the drawing target and prepares it for the map font and the kind of map.
     void Form_Load();
+    /// Enables the linguistic map where an item and a symbol set are loaded.
+    void enableMapLing();
     /// The form's own surface.
     const DrawSurface& surface() const { return m_surface; }
     /// The surfaces of a drawing command, with the form's place on the screen as it is now.
@@ -65,7 +67,6 @@ private:
     void drawOnTarget(const std::function<void()>& draw);
     void DisplayInsatsu();
     void hideStyle();
-    void enableMapLing();
     void plotSymbolPage();
     std::optional<QString> askForFile(const QString& title, const QString& filter);
 

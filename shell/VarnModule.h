@@ -1,5 +1,8 @@
 #pragma once
 
+#include "analysis/ContrastData.h"
+#include "analysis/DiffusionSymbols.h"
+#include "analysis/Statistics.h"
 #include "lingdata/LinguisticData.h"
 #include "mapdata/BaseMap.h"
 #include "render/MapGeometry.h"
@@ -20,7 +23,11 @@ struct VarnModule : Folders,
                     LinguisticData,
                     SymbolSet,
                     LoadedState,
-                    PageSetup
+                    PageSetup,
+                    CumulativeData,
+                    Statistics,
+                    ContrastData,
+                    DiffusionSymbols
 {
     /// The surface that maps are drawn on.
     DrawSurface* DrawTarget = nullptr;

@@ -1,5 +1,6 @@
 #include "shell/frmMain.h"
 
+#include "mapdata/ImportCommands.h"
 #include "mapdata/MapFiles.h"
 #include "platform/Numbers.h"
 #include "platform/WholeFile.h"
@@ -9,6 +10,7 @@
 #include "shell/VarnModule.h"
 #include "ui_frmMain.h"
 
+#include <QCloseEvent>
 #include <QCoreApplication>
 #include <QScopeGuard>
 
@@ -25,7 +27,9 @@ void colorAsReadOnly(QLineEdit& box)
 } // namespace
 
 frmMain::frmMain(VarnModule& varn, Dialogs& dialogs)
-    : VarnForm(dialogs), m_ui(std::make_unique<Ui::frmMain>()), m_varn(varn), m_map(varn, dialogs)
+    : VarnForm(dialogs), m_ui(std::make_unique<Ui::frmMain>()), m_varn(varn), m_map(varn, dialogs),
+      m_chizu(varn, dialogs, [this] { return m_map.surfaces(); }), m_dataInput(varn, dialogs),
+      m_data(varn, dialogs), m_setHanko(varn, dialogs)
 {
     m_ui->setupUi(this);
     m_preview.Width = m_map.surface().Width;
@@ -34,14 +38,40 @@ frmMain::frmMain(VarnModule& varn, Dialogs& dialogs)
     m_ui->picPreview->setPlaceholder(QStringLiteral("Check Map Name shows the map here."));
     colorAsReadOnly(*m_ui->txtVarnPath);
     colorAsReadOnly(*m_ui->txtVarnMapName);
-    handle(m_ui->cmdMapName, &QPushButton::clicked, &frmMain::cmdMapName_Click);
-    handle(m_ui->cmdMap, &QPushButton::clicked, &frmMain::cmdMap_Click);
-    handle(m_ui->cmdExit, &QPushButton::clicked, &frmMain::cmdExit_Click);
     prepareSetMergin();
-    connect(&m_map, &frmMap::toMain, this, &frmMain::bringToFront);
+    connectButtons();
+    connectForms();
 }
 
 frmMain::~frmMain() = default;
+
+void frmMain::connectButtons()
+{
+    handle(m_ui->cmdRegMap, &QPushButton::clicked, &frmMain::cmdRegMap_Click);
+    handle(m_ui->cmdMapName, &QPushButton::clicked, &frmMain::cmdMapName_Click);
+    handle(m_ui->cmdInputData, &QPushButton::clicked, &frmMain::cmdInputData_Click);
+    handle(m_ui->cmdData, &QPushButton::clicked, &frmMain::cmdData_Click);
+    handle(m_ui->cmdHanko, &QPushButton::clicked, &frmMain::cmdHanko_Click);
+    handle(m_ui->cmdMap, &QPushButton::clicked, &frmMain::cmdMap_Click);
+    handle(m_ui->cmdExit, &QPushButton::clicked, &frmMain::cmdExit_Click);
+    handle(m_ui->mnuImportLocalities, &QAction::triggered, &frmMain::mnuImportLocalities_Click);
+    handle(m_ui->mnuImportLines, &QAction::triggered, &frmMain::mnuImportLines_Click);
+    handle(m_ui->mnuImportPlaceNames, &QAction::triggered, &frmMain::mnuImportPlaceNames_Click);
+    handle(m_ui->mnuImportPolygons, &QAction::triggered, &frmMain::mnuImportPolygons_Click);
+}
+
+void frmMain::connectForms()
+{
+    connect(&m_map, &frmMap::toMain, this, &frmMain::bringToFront);
+    connect(&m_chizu, &frmChizu::toMain, this, &frmMain::bringToFront);
+    connect(&m_dataInput, &frmDataInput::toMain, this, &frmMain::bringToFront);
+    connect(&m_data, &frmData::toMain, this, &frmMain::bringToFront);
+    connect(&m_setHanko, &frmSetHanko::toMain, this, &frmMain::bringToFront);
+    handle(&m_chizu, &frmChizu::toDrawMap, &frmMain::openMap);
+    handle(&m_setHanko, &frmSetHanko::toDrawMap, &frmMain::openMap);
+    handle(&m_chizu, &frmChizu::mapChosen, &frmMain::showNewMap);
+    connect(&m_data, &frmData::itemLoaded, &m_map, &frmMap::enableMapLing);
+}
 
 void frmMain::Form_Load(const QString& installation)
 {
@@ -125,8 +155,9 @@ void frmMain::SetMapName()
 {
     drawPreview();
     refresh();
-    // The answer No will lead to the form where maps are chosen.
-    dialogs().askYesNo(QStringLiteral("Is this a right map name ? "), QStringLiteral("Map Name"));
+    if (!dialogs().askYesNo(QStringLiteral("Is this a right map name ? "), QStringLiteral("Map Name"))) {
+        openChizu();
+    }
 }
 
 void frmMain::drawPreview()
@@ -156,12 +187,81 @@ void frmMain::cmdMapName_Click()
     SetMapName();
 }
 
+void frmMain::openChizu()
+{
+    open(m_chizu);
+}
+
+void frmMain::openMap()
+{
+    open(m_map);
+}
+
+void frmMain::showNewMap()
+{
+    m_preview.Cls();
+}
+
+void frmMain::cmdRegMap_Click()
+{
+    openChizu();
+    m_preview.Cls();
+}
+
+void frmMain::cmdInputData_Click()
+{
+    open(m_dataInput);
+}
+
+void frmMain::cmdData_Click()
+{
+    open(m_data);
+}
+
+void frmMain::cmdHanko_Click()
+{
+    open(m_setHanko);
+}
+
 void frmMain::cmdMap_Click()
 {
-    m_map.bringToFront();
+    openMap();
 }
 
 void frmMain::cmdExit_Click()
 {
     QCoreApplication::exit();
+}
+
+void frmMain::closeEvent(QCloseEvent* event)
+{
+    // Whoever has unsaved work there may still change his mind.
+    for (VarnForm* form :
+         std::initializer_list<VarnForm*>{&m_dataInput, &m_setHanko, &m_data, &m_chizu, &m_map}) {
+        if (form->isVisible() && !form->close()) {
+            event->ignore();
+            return;
+        }
+    }
+    event->accept();
+}
+
+void frmMain::mnuImportLocalities_Click()
+{
+    SaveLocateData(m_varn, dialogs());
+}
+
+void frmMain::mnuImportLines_Click()
+{
+    SaveLineData(m_varn, dialogs());
+}
+
+void frmMain::mnuImportPlaceNames_Click()
+{
+    SaveKanjiData(m_varn, dialogs(), m_map.surfaces());
+}
+
+void frmMain::mnuImportPolygons_Click()
+{
+    SaveSquareData(m_varn, dialogs());
 }

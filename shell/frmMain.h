@@ -1,7 +1,11 @@
 #pragma once
 
+#include "lingdata/frmData.h"
+#include "lingdata/frmDataInput.h"
+#include "mapdata/frmChizu.h"
 #include "platform/VarnForm.h"
 #include "render/frmMap.h"
+#include "symbols/frmSetHanko.h"
 
 class QLineEdit;
 struct MapFont;
@@ -26,6 +30,9 @@ public:
 
     void refresh() override;
 
+protected:
+    void closeEvent(QCloseEvent* event) override;
+
 private:
     void InputVarnDrive();
     void VarnDrive();
@@ -33,6 +40,18 @@ private:
     void loadBaseMap();
     void SetMapName();
     void drawPreview();
+
+    void connectButtons();
+    void connectForms();
+    template <typename Form>
+    void open(Form& form)
+    {
+        form.Form_Load();
+        form.bringToFront();
+    }
+    void openChizu();
+    void openMap();
+    void showNewMap();
 
     // Page set-up.
     void prepareSetMergin();
@@ -45,13 +64,26 @@ private:
     void cmdSettingPrinter_Click();
     void cmdExitSetMergin_Click();
 
+    void cmdRegMap_Click();
     void cmdMapName_Click();
+    void cmdInputData_Click();
+    void cmdData_Click();
+    void cmdHanko_Click();
     void cmdMap_Click();
     void cmdExit_Click();
+
+    void mnuImportLocalities_Click();
+    void mnuImportLines_Click();
+    void mnuImportPlaceNames_Click();
+    void mnuImportPolygons_Click();
 
     std::unique_ptr<Ui::frmMain> m_ui;
     VarnModule& m_varn;
     frmMap m_map;
+    frmChizu m_chizu;
+    frmDataInput m_dataInput;
+    frmData m_data;
+    frmSetHanko m_setHanko;
     /// The form's own drawing: the preview of the map.
     DrawSurface m_preview;
 };

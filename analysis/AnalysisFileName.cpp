@@ -1,0 +1,31 @@
+#include "analysis/AnalysisFileName.h"
+
+#include "platform/RunTimeError.h"
+
+#include <algorithm>
+
+namespace {
+
+QString withoutEnding(const QString& name, const QString& ending)
+{
+    return name.endsWith(ending, Qt::CaseInsensitive) ? name.chopped(ending.size()) : name;
+}
+
+} // namespace
+
+QString analysisFileStem(const QString& path, const QString& ending)
+{
+    return withoutEnding(path.mid(path.lastIndexOf(QLatin1Char('\\')) + 1), ending);
+}
+
+QString analysisFilePath(const Folders& folders, const QString& name, const QString& ending)
+{
+    QString path = folders.dataFolder() + QLatin1Char('\\') + withoutEnding(name.trimmed(), ending) + ending;
+    const bool isNoName = std::any_of(name.begin(), name.end(), [](QChar character) {
+        return QStringLiteral("\\/:*?\"<>|").contains(character);
+    });
+    if (isNoName) {
+        throw RunTimeError(ErrorNumber::BadFileName).at({path});
+    }
+    return path;
+}

@@ -1,0 +1,11 @@
+#pragma once
+
+#include "shell/Folders.h"
+
+/// The name of a file of the analysis as it is shown: of `path` what stands behind the last backslash,
+/// without `ending`, such as ".rnk".
+QString analysisFileStem(const QString& path, const QString& ending);
+
+/// Path of the file of that name, with or without its ending, in the current map's data folder. Raises bad
+/// file name for a name that would leave the folder or that no file can have.
+QString analysisFilePath(const Folders& folders, const QString& name, const QString& ending);

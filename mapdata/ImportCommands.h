@@ -1,0 +1,19 @@
+#pragma once
+
+#include "platform/Dialogs.h"
+#include "shell/VarnModule.h"
+
+// The import commands. Each asks for a file, reads it, asks where to save it, and writes it there as a file
+// of the base map. Where that is a file of the current map, the map is loaded from it. A cancelled dialog
+// ends the command; an error leaves file and map as they were.
+
+/// Localities, from a localities file or a table of x and y.
+void SaveLocateData(VarnModule& varn, Dialogs& dialogs);
+/// Coast, borders and rivers.
+void SaveLineData(VarnModule& varn, Dialogs& dialogs);
+/// The polygon designs of symbols.
+void SaveSquareData(VarnModule& varn, Dialogs& dialogs);
+
+/// Asks for a file of place names, writes it as the installation's special place names, makes them the
+/// current place names, and draws the base map anew with them.
+void SaveKanjiData(VarnModule& varn, Dialogs& dialogs, MapSurfaces surfaces);

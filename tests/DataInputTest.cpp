@@ -1,0 +1,344 @@
+#include "lingdata/WordTableView.h"
+#include "lingdata/frmDataInput.h"
+#include "platform/WholeFile.h"
+#include "render/LocalityView.h"
+#include "tests/ScriptedDialogs.h"
+#include "tests/TestDrive.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QCloseEvent>
+#include <QFile>
+#include <QFrame>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QMouseEvent>
+#include <QPlainTextEdit>
+#include <QPushButton>
+
+namespace {
+
+using Shown = ScriptedDialogs::Shown;
+
+const QString Folder = QStringLiteral("C:\\Varn62E\\Varn\\VarnData\\Test\\Ling\\");
+const Shown NoFileName{QStringLiteral("Input File Name "),
+                       QStringLiteral("Input File Name of Linguistic Data")};
+const Shown FileExists{QStringLiteral("File Exist. Overwrite O.K.?"),
+                       QStringLiteral("Re-input of File Name")};
+const Shown OpenWarning{QStringLiteral("Data proccessed will be lost if Linguistic File is opened."),
+                        QStringLiteral("Open Linguistic Data File")};
+const Shown OpenDialog{QStringLiteral("DBS Files (*.dbs)|*.dbs"),
+                       QStringLiteral("Open Linguistic Data File")};
+
+/// The data input form for the map of a `TestSurvey`, which has three localities.
+class DataInput : public testing::Test
+{
+protected:
+    DataInput()
+    {
+        survey.write(Folder + QStringLiteral("rain.dbs"),
+                     "3,\"\",\"Rain\",\"from 1950\"\r\n2\r\n\"uyu\"\r\n\"ame\"\r\n0\r\n1\r\n\"uyu\"\r\n");
+        form.Form_Load();
+        form.show();
+        QApplication::processEvents();
+    }
+
+    template <typename Widget>
+    Widget& control(const char* name)
+    {
+        return *form.findChild<Widget*>(QLatin1String(name));
+    }
+    QAction& menu(const char* name) { return control<QAction>(name); }
+    void click(const char* name) { control<QPushButton>(name).click(); }
+    WordTableView& table() { return control<WordTableView>("tblWords"); }
+
+    QString word(int locality, int column)
+    {
+        return table().model()->index(locality - 1, column - 1).data().toString();
+    }
+    std::pair<int, int> cell() { return {table().locality(), table().column()}; }
+
+    QStringList kinds()
+    {
+        QStringList found;
+        for (int i = 0; i < control<QListWidget>("lstKind").count(); ++i) {
+            found << control<QListWidget>("lstKind").item(i)->text();
+        }
+        return found;
+    }
+
+    /// Strikes a key where a user would: in the cell being edited, else in the table.
+    void strike(Qt::Key key, const QString& text = {})
+    {
+        QWidget* editor = table().indexWidget(table().currentIndex());
+        QWidget* target = editor != nullptr ? editor : &table();
+        QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier, text);
+        QApplication::sendEvent(target, &press);
+        QApplication::processEvents();
+    }
+    void type(const QString& text)
+    {
+        for (const QChar character : text) {
+            strike(Qt::Key_unknown, character);
+        }
+    }
+
+    void open(const char* file, std::deque<bool> answers = {})
+    {
+        dialogs.yesNo = std::move(answers);
+        dialogs.files = {survey.drive().hostPath(Folder + QLatin1String(file))};
+        menu("mnuOpen").trigger();
+        dialogs.files.clear();
+    }
+    void save(const char* name, std::deque<bool> answers = {})
+    {
+        dialogs.yesNo = std::move(answers);
+        control<QLineEdit>("txtFileName").setText(QLatin1String(name));
+        menu("mnuSave").trigger();
+    }
+    std::vector<Shown> shown() { return std::exchange(dialogs.shown, {}); }
+
+    TestSurvey survey;
+    ScriptedDialogs dialogs;
+    frmDataInput form{survey.varn, dialogs};
+};
+
+} // namespace
+
+TEST_F(DataInput, KeysAloneFillTheTable)
+{
+    EXPECT_EQ(table().model()->rowCount(), 3);
+    type(QStringLiteral("ame"));
+    strike(Qt::Key_Tab);
+    EXPECT_EQ(cell(), std::pair(1, 2));
+    type(QStringLiteral("uyu"));
+    strike(Qt::Key_Return);
+    EXPECT_EQ(cell(), std::pair(2, 1));
+    type(QStringLiteral("x"));
+    strike(Qt::Key_Down);
+    EXPECT_EQ(cell(), std::pair(3, 1));
+    type(QStringLiteral("last"));
+    strike(Qt::Key_Return);
+    EXPECT_EQ(cell(), std::pair(3, 1));
+    strike(Qt::Key_Up);
+    strike(Qt::Key_Delete);
+    strike(Qt::Key_Enter);
+    type(QStringLiteral("dropped"));
+    strike(Qt::Key_Escape);
+    EXPECT_EQ(word(1, 1), QStringLiteral("ame"));
+    EXPECT_EQ(word(1, 2), QStringLiteral("uyu"));
+    EXPECT_EQ(word(2, 1), QString());
+    EXPECT_EQ(word(3, 1), QStringLiteral("last"));
+    EXPECT_TRUE(form.isWindowModified());
+}
+
+TEST_F(DataInput, SaveWritesItemInputKindsAndKinds)
+{
+    control<QLineEdit>("txtHanrei").insert(QStringLiteral("A \"title\""));
+    Q_EMIT control<QLineEdit>("txtHanrei").textEdited(QStringLiteral("A \"title\""));
+    control<QPlainTextEdit>("txtComment").setPlainText(QStringLiteral("two\nlines"));
+    control<QLineEdit>("txtKind").setText(QStringLiteral("kind"));
+    click("cmdSetKind");
+    table().goTo(3, 2);
+    type(QStringLiteral("being typed"));
+    save("new.dbs");
+    EXPECT_EQ(shown(), std::vector<Shown>());
+    EXPECT_EQ(survey.read(Folder + QStringLiteral("new.dbs")),
+              "3,\"\",\"A \"\"title\"\"\",\"two\nlines\"\r\n0\r\n0\r\n1\r\n\"being typed\"\r\n");
+    EXPECT_EQ(survey.read(Folder + QStringLiteral("new.ipt")), "1\r\n\"kind\"\r\n");
+    EXPECT_EQ(survey.read(Folder + QStringLiteral("new.srt")), "1\r\n\"being typed\",1\r\n");
+    EXPECT_FALSE(form.isWindowModified());
+    EXPECT_EQ(form.windowTitle(), QStringLiteral("VARN Input Linguistic Data - Test - new.dbs[*]"));
+    EXPECT_EQ(survey.varn.NLocate, 0);
+    EXPECT_EQ(survey.varn.LoadState, 0);
+}
+
+TEST_F(DataInput, SaveAsksForANameAndBeforeItOverwrites)
+{
+    const QString rain = Folder + QStringLiteral("rain.dbs");
+    const QByteArray before = survey.read(rain);
+    type(QStringLiteral("ame"));
+    save(" ");
+    EXPECT_EQ(shown(), std::vector{NoFileName});
+    save("rain", {false});
+    EXPECT_EQ(shown(), std::vector{FileExists});
+    EXPECT_EQ(survey.read(rain), before);
+    EXPECT_FALSE(fileExists(survey.drive(), Folder + QStringLiteral("rain.ipt")));
+    EXPECT_TRUE(form.isWindowModified());
+    save("rain", {true});
+    EXPECT_NE(survey.read(rain), before);
+
+    type(QStringLiteral("uyu"));
+    survey.varn.LingFolder = QStringLiteral("\\VarnData\\Gone\\Ling");
+    save("rain");
+    EXPECT_EQ(dialogs.errors.size(), 1U);
+    EXPECT_TRUE(form.isWindowModified());
+    EXPECT_EQ(word(1, 1), QStringLiteral("uyu"));
+}
+
+TEST_F(DataInput, OpenWarnsAndReadsTheItemWithItsKinds)
+{
+    open("rain.dbs");
+    EXPECT_EQ(shown(), (std::vector{OpenWarning, OpenDialog}));
+    EXPECT_EQ(word(1, 2), QStringLiteral("ame"));
+    EXPECT_EQ(control<QLineEdit>("txtFileName").text(), QStringLiteral("rain"));
+    EXPECT_EQ(control<QLineEdit>("txtHanrei").text(), QStringLiteral("Rain"));
+    EXPECT_EQ(control<QPlainTextEdit>("txtComment").toPlainText(), QStringLiteral("from 1950"));
+    EXPECT_EQ(kinds(), QStringList({"ame", "uyu"}));
+    EXPECT_FALSE(form.isWindowModified());
+    EXPECT_EQ(survey.varn.NLocate, 0) << "the item that the other forms have loaded is another one";
+
+    strike(Qt::Key_Delete);
+    dialogs.yesNo = {false};
+    menu("mnuOpen").trigger();
+    EXPECT_EQ(shown(), std::vector{OpenWarning}) << "No keeps what is unsaved";
+    open("gone.dbs", {true});
+    EXPECT_EQ(dialogs.errors.size(), 1U);
+    EXPECT_EQ(word(1, 1), QString());
+    EXPECT_EQ(word(1, 2), QStringLiteral("ame"));
+    EXPECT_TRUE(form.isWindowModified());
+}
+
+TEST_F(DataInput, ItemOfAnotherSizeKeepsItsCount)
+{
+    for (const int localities : {2, 4}) {
+        survey.write(Folder + QStringLiteral("odd.dbs"), QByteArray::number(localities) +
+                                                             ",\"\",\"\",\"\"\r\n" +
+                                                             QByteArray("0\r\n").repeated(localities));
+        open("odd.dbs");
+        EXPECT_EQ(table().model()->rowCount(), localities);
+        const auto labels = form.findChildren<QLabel*>();
+        const QString warning = QStringLiteral("The item has %1 localities, the map has 3.").arg(localities);
+        EXPECT_TRUE(std::any_of(labels.begin(), labels.end(),
+                                [&](const QLabel* label) { return label->text() == warning; }));
+        table().goTo(localities, 1);
+        type(QStringLiteral("x"));
+        strike(Qt::Key_Tab);
+        save("odd", {true});
+        EXPECT_TRUE(
+            survey.read(Folder + QStringLiteral("odd.dbs")).startsWith(QByteArray::number(localities) + ','));
+    }
+    EXPECT_EQ(dialogs.errors, std::vector<Shown>());
+}
+
+TEST_F(DataInput, KindsAreSetDeletedAndPutIntoTheData)
+{
+    const auto set = [this](const char* kind) {
+        control<QLineEdit>("txtKind").setText(QLatin1String(kind));
+        click("cmdSetKind");
+    };
+    for (const char* kind : {"b", "a", "b", "", "\\Q1"}) {
+        set(kind);
+    }
+    EXPECT_EQ(kinds(), QStringList({"b", "a", "\\Q1"}));
+    auto& list = control<QListWidget>("lstKind");
+    list.setCurrentRow(1);
+    Q_EMIT list.itemDoubleClicked(list.currentItem());
+    EXPECT_EQ(word(1, 1), QStringLiteral("a"));
+    EXPECT_EQ(cell(), std::pair(2, 1));
+    table().goTo(2, 2);
+    list.setCurrentRow(0);
+    click("cmdKindToData");
+    EXPECT_EQ(word(2, 2), QStringLiteral("b"));
+    click("cmdDelKind");
+    EXPECT_EQ(kinds(), QStringList({"a", "\\Q1"}));
+    type(QStringLiteral("new"));
+    click("cmdDataToKind");
+    EXPECT_EQ(kinds(), QStringList({"a", "\\Q1", "b", "new"}));
+    list.setCurrentRow(-1);
+    click("cmdDelKind");
+    click("cmdKindToData");
+    EXPECT_EQ(kinds().size(), 4);
+}
+
+TEST_F(DataInput, CheckCodeLeadsToTheFaults)
+{
+    click("cmdCheckCode");
+    ASSERT_EQ(shown().size(), 1U) << "it says that there are none";
+    EXPECT_FALSE(control<QFrame>("fraCheck").isVisible());
+
+    table().goTo(2, 3);
+    type(QStringLiteral("a\\Q1"));
+    strike(Qt::Key_Return);
+    type(QStringLiteral("b\\"));
+    table().goTo(1, 1);
+    click("cmdCheckCode");
+    auto& list = control<QListWidget>("lstCheck");
+    ASSERT_TRUE(control<QFrame>("fraCheck").isVisible());
+    ASSERT_EQ(list.count(), 2);
+    EXPECT_EQ(cell(), std::pair(2, 3));
+    list.setCurrentRow(1);
+    EXPECT_EQ(cell(), std::pair(3, 1));
+    strike(Qt::Key_Delete);
+    EXPECT_EQ(list.count(), 1) << "a fault that was mended leaves the list";
+}
+
+TEST_F(DataInput, InitializeAndLeavingAskForWhatIsUnsaved)
+{
+    int left = 0;
+    QObject::connect(&form, &frmDataInput::toMain, &form, [&left] { ++left; });
+    open("rain.dbs");
+    menu("mnuToMain").trigger();
+    EXPECT_EQ(left, 1);
+    shown();
+
+    type(QStringLiteral("x"));
+    dialogs.yesNo = {false, true};
+    menu("mnuToMain").trigger();
+    EXPECT_EQ(left, 1);
+    menu("mnuToMain").trigger();
+    EXPECT_EQ(left, 2);
+    dialogs.yesNo = {false};
+    EXPECT_FALSE(form.close());
+    EXPECT_EQ(shown().size(), 3U);
+
+    dialogs.yesNo = {false, true};
+    menu("mnuInitialize").trigger();
+    EXPECT_EQ(word(1, 1), QStringLiteral("x"));
+    menu("mnuInitialize").trigger();
+    EXPECT_EQ(word(1, 1) + word(1, 2), QString());
+    EXPECT_EQ(kinds(), QStringList());
+    EXPECT_EQ(control<QLineEdit>("txtHanrei").text(), QString());
+    EXPECT_EQ(control<QPlainTextEdit>("txtComment").toPlainText(), QString());
+    EXPECT_FALSE(form.isWindowModified());
+    EXPECT_TRUE(form.close());
+}
+
+TEST_F(DataInput, AnotherMapBringsANewItem)
+{
+    open("rain.dbs");
+    form.Form_Load();
+    EXPECT_EQ(word(1, 2), QStringLiteral("ame")) << "the same map keeps it";
+    survey.varn.VarnMapName = QStringLiteral("\\Other");
+    survey.varn.NLocality = 2;
+    form.Form_Load();
+    EXPECT_EQ(table().model()->rowCount(), 2);
+    EXPECT_EQ(word(1, 2), QString());
+
+    type(QStringLiteral("x"));
+    strike(Qt::Key_Tab);
+    survey.varn.VarnMapName = QStringLiteral("\\Third");
+    dialogs.yesNo = {false, true};
+    form.Form_Load();
+    EXPECT_EQ(word(1, 1), QStringLiteral("x"));
+    form.Form_Load();
+    EXPECT_EQ(word(1, 1), QString());
+}
+
+TEST_F(DataInput, MapFollowsTheTableAndLeadsIt)
+{
+    auto& map = control<LocalityView>("picMap");
+    const QImage first = map.grab().toImage();
+    table().goTo(3, 1);
+    const QImage third = map.grab().toImage();
+    EXPECT_NE(third, first);
+
+    // The third locality lies in the lower right, the first in the upper left.
+    const QPointF corner(map.width() / 3.0, 1);
+    QMouseEvent press(QEvent::MouseButtonPress, corner, map.mapToGlobal(corner), Qt::LeftButton,
+                      Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(&map, &press);
+    EXPECT_EQ(cell(), std::pair(1, 1));
+    EXPECT_EQ(map.grab().toImage(), first);
+}
