@@ -1,6 +1,7 @@
 #include "analysis/AnalysisFileName.h"
 
 #include "platform/RunTimeError.h"
+#include "platform/WholeFile.h"
 
 #include <algorithm>
 
@@ -26,6 +27,18 @@ QString analysisFilePath(const Folders& folders, const QString& name, const QStr
     });
     if (isNoName) {
         throw RunTimeError(ErrorNumber::BadFileName).at({path});
+    }
+    return path;
+}
+
+std::optional<QString> analysisSavePath(const Folders& folders, const QString& name, const QString& ending,
+                                        Dialogs& dialogs)
+{
+    QString path = analysisFilePath(folders, name, ending);
+    if (fileExists(folders.Drive, path) &&
+        !dialogs.askYesNo(QStringLiteral("File already exist. Overwrite O.K.? "),
+                          QStringLiteral("Re Input File Name"))) {
+        return std::nullopt;
     }
     return path;
 }

@@ -5,11 +5,13 @@
 
 #include <QLocale>
 
+#include <array>
+
 namespace {
 
 constexpr int EmptyBox = -1;
 /// Outline and fill of sides 1 and 2 where no colour was chosen.
-constexpr int DefaultColors[] = {12, 9};
+constexpr std::array DefaultColors = {12, 9};
 
 QString stepsText(const ContrastData& contrast)
 {
@@ -82,20 +84,11 @@ void SetRankData(ContrastBoxes& boxes, ContrastData& contrast)
     }
     for (int side = 1; side <= 2; ++side) {
         for (int* box : {&boxes.setColor(side), &boxes.fillColor(side)}) {
-            *box = *box == EmptyBox ? DefaultColors[side - 1] : *box;
+            *box = *box == EmptyBox ? DefaultColors[static_cast<std::size_t>(side) - 1] : *box;
         }
         contrast.ContrastSymbolColor(side) = boxes.setColor(side);
         contrast.ContrastPaintColor(side) = static_cast<qint16>(boxes.fillColor(side));
     }
-}
-
-QStringList ContrastEditor::tableWordforms() const
-{
-    QStringList names;
-    for (int k = 1; k <= m_table.NumWordforms; ++k) {
-        names << m_table.WordformName(k);
-    }
-    return names;
 }
 
 QStringList ContrastEditor::wordforms(int side) const
@@ -189,7 +182,8 @@ QString differingNames(const CumulativeTable& table, const ContrastData& contras
             const QString& name = contrast.ContrastWordName(side, t);
             requireOfTable(table, k, name);
             if (name != table.WordformName(k)) {
-                lines << QStringLiteral("Word form %1 is \"%2\" in the file and \"%3\" in the cumulative data.")
+                lines << QStringLiteral(
+                             "Word form %1 is \"%2\" in the file and \"%3\" in the cumulative data.")
                              .arg(QString::number(k), name, table.WordformName(k));
             }
         }

@@ -2,8 +2,6 @@
 
 #include "analysis/ContrastData.h"
 
-#include <QStringList>
-
 /// What the boxes of the contrast form hold.
 struct ContrastBoxes
 {
@@ -37,8 +35,6 @@ public:
         : m_table(table), m_contrast(contrast)
     {}
 
-    /// The word forms of the table, in their order.
-    QStringList tableWordforms() const;
     /// The names of the word forms of a side.
     QStringList wordforms(int side) const;
 

@@ -4,6 +4,7 @@
 #include "platform/StandardColors.h"
 
 #include <algorithm>
+#include <array>
 
 namespace {
 
@@ -21,7 +22,7 @@ constexpr float FirstRowY = 1180;
 constexpr float ColumnStep = 3480;
 constexpr float GroupIndent = 750;
 /// Where the numbers of a locality end, from the left edge of its column.
-constexpr float NumberEnds[] = {480, 1320, 2160, 3000};
+constexpr std::array NumberEnds = {480.0F, 1320.0F, 2160.0F, 3000.0F};
 
 } // namespace
 
@@ -43,7 +44,8 @@ void ContrastPages::draw(int page, DrawSurface& target) const
     const int last = std::min<int>(page * LocalitiesOfPage, m_varn.NLocality);
     for (int j = first; j <= last; ++j) {
         const int place = j - first;
-        const float left = ColumnStep * static_cast<float>(place / RowsOfPage);
+        const int column = place / RowsOfPage;
+        const float left = ColumnStep * static_cast<float>(column);
         const float y = FirstRowY + LineStep * static_cast<float>(place % RowsOfPage);
         drawLocality(j, left, y, text);
     }
@@ -54,19 +56,18 @@ void ContrastPages::drawHeading(int page, ListText& text, DrawSurface& target) c
     const QString pageNumber = QStringLiteral("PAGE = %1 / %2").arg(page).arg(count());
     const float room = PageWidth - text.width(pageNumber) - LineStep;
     text.setColor(QBColor(0));
-    text.write(0, 0,
-               text.shortened(QStringLiteral("Contrast Analysis File Name ") + m_fileName, room));
+    text.write(0, 0, text.shortened(QStringLiteral("Contrast Analysis File Name ") + m_fileName, room));
     text.writeRight(PageWidth, 0, pageNumber);
     drawGroup(1, GroupsY, text);
     drawGroup(2, GroupsY + LineStep, text);
     target.Line(0, RuleY, PageWidth, RuleY, QBColor(8));
 
     text.setColor(QBColor(8));
-    const QString titles[] = {QStringLiteral("Loc."), QStringLiteral("Item 1"), QStringLiteral("Item 2"),
-                              QStringLiteral("Diff.")};
+    const std::array titles = {QStringLiteral("Loc."), QStringLiteral("Item 1"), QStringLiteral("Item 2"),
+                               QStringLiteral("Diff.")};
     const int places = m_varn.NLocality - (page - 1) * LocalitiesOfPage;
     for (int column = 0; column < ColumnsOfPage && column * RowsOfPage < places; ++column) {
-        for (std::size_t number = 0; number < std::size(titles); ++number) {
+        for (std::size_t number = 0; number < titles.size(); ++number) {
             text.writeRight(ColumnStep * static_cast<float>(column) + NumberEnds[number], ColumnTitlesY,
                             titles[number]);
         }

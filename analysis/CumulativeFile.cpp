@@ -17,12 +17,37 @@ QString baseName(const QString& path)
     return dot < 0 ? name : name.left(dot);
 }
 
+void totalIsAtPath(const QString& path, CumulativeData& data)
+{
+    data.TotalFilePath = path;
+    data.SavedTable = data;
+}
+
+QByteArray fileContents(const CumulativeTable& table, int localities)
+{
+    SequentialWriter file;
+    writeTotal(file, table, localities);
+    return file.bytes();
+}
+
 } // namespace
 
 void setNumWordforms(CumulativeData& data, int number)
 {
+    if (number != 0) {
+        static_cast<void>(data.WordformName(number));
+    }
     data.NumWordforms = number;
     data.CurrentWordform = 1;
+}
+
+QStringList wordformNames(const CumulativeTable& table)
+{
+    QStringList names;
+    for (int k = 1; k <= table.NumWordforms; ++k) {
+        names << table.WordformName(k);
+    }
+    return names;
 }
 
 CumulativeTable readTotal(SequentialReader& file, int localities)
@@ -72,8 +97,8 @@ void readSpecifyChars(SequentialReader& file, CumulativeData& data)
             chars.SpecifyChars(k, c) = file.readString();
         }
     }
-    static_cast<SpecifiedChars&>(data) = std::move(chars);
     setNumWordforms(data, number);
+    static_cast<SpecifiedChars&>(data) = std::move(chars);
 }
 
 void writeSpecifyChars(SequentialWriter& file, const CumulativeData& data)
@@ -99,22 +124,51 @@ void LoadTotalFile(const DriveC& drive, const QString& path, int localities, Cum
         drive, path, [localities](SequentialReader& file) { return readTotal(file, localities); });
     data.TotalFileName = baseName(path);
     data.CurrentWordform = 1;
+    totalIsAtPath(path, data);
 }
 
-void SaveTotalFile(const DriveC& drive, const QString& dataFolder, int localities, const CumulativeData& data)
+void SaveTotalFile(const DriveC& drive, const QString& dataFolder, int localities, CumulativeData& data)
 {
-    writeSequentialFile(drive, dataFolder + QLatin1Char('\\') + data.TotalFileName + QStringLiteral(".ttl"),
+    const QString path = dataFolder + QLatin1Char('\\') + data.TotalFileName + QStringLiteral(".ttl");
+    writeSequentialFile(drive, path,
                         [&data, localities](SequentialWriter& file) { writeTotal(file, data, localities); });
+    totalIsAtPath(path, data);
+}
+
+bool isTableUnsaved(const CumulativeData& data, int localities)
+{
+    CumulativeTable saved = data.SavedTable;
+    if (data.TotalFilePath.isEmpty()) {
+        saved.NumWordforms = data.NumWordforms; // a number without names is nothing to lose
+    }
+    return fileContents(data, localities) != fileContents(saved, localities);
+}
+
+bool areCharsUnsaved(const CumulativeData& data)
+{
+    for (int k = 1; k <= data.NumWordforms; ++k) {
+        if (data.NumSpecifyChars(k) != data.SavedChars.NumSpecifyChars(k)) {
+            return true;
+        }
+        for (int c = 1; c <= data.NumSpecifyChars(k); ++c) {
+            if (data.SpecifyChars(k, c) != data.SavedChars.SpecifyChars(k, c)) {
+                return true;
+            }
+        }
+    }
+    return false;
 }
 
 void LoadSetData(const DriveC& drive, const QString& path, CumulativeData& data)
 {
     readSequentialFile(drive, path, [&data](SequentialReader& file) { readSpecifyChars(file, data); });
     data.SpecifyFileName = path;
+    data.SavedChars = data;
 }
 
 void SaveSetData(const DriveC& drive, const QString& path, CumulativeData& data)
 {
     writeSequentialFile(drive, path, [&data](SequentialWriter& file) { writeSpecifyChars(file, data); });
     data.SpecifyFileName = path;
+    data.SavedChars = data;
 }

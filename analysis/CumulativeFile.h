@@ -22,8 +22,12 @@ void writeSpecifyChars(SequentialWriter& file, const CumulativeData& data);
 void LoadTotalFile(const DriveC& drive, const QString& path, int localities, CumulativeData& data);
 
 /// Saves the table to the `.ttl` file of its name in `dataFolder`.
-void SaveTotalFile(const DriveC& drive, const QString& dataFolder, int localities,
-                   const CumulativeData& data);
+void SaveTotalFile(const DriveC& drive, const QString& dataFolder, int localities, CumulativeData& data);
+
+/// Whether the table is not what its file holds, and whether the identifying strings are not what theirs
+/// holds.
+bool isTableUnsaved(const CumulativeData& data, int localities);
+bool areCharsUnsaved(const CumulativeData& data);
 
 /// Loads the `.sum` file at `path`. A load that fails leaves the strings as they were.
 void LoadSetData(const DriveC& drive, const QString& path, CumulativeData& data);

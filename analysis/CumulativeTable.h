@@ -2,7 +2,7 @@
 
 #include "platform/BoundedArray.h"
 
-#include <QString>
+#include <QStringList>
 #include <QVariant>
 
 /// The running counts of up to ten distinguished word forms over many items, numbered from 1.
@@ -41,7 +41,17 @@ struct CumulativeData : CumulativeTable, SpecifiedChars
     QString SpecifyFileName;
     /// The word form shown and drawn next, 1..NumWordforms.
     int CurrentWordform = 1;
+
+    /// Path of the cumulative file loaded or saved last, empty where there was none, and what it holds.
+    QString TotalFilePath;
+    CumulativeTable SavedTable;
+    /// The identifying strings as they were loaded or saved last.
+    SpecifiedChars SavedChars;
 };
 
-/// Makes `number` the number of distinguished word forms; the first becomes the current one.
+/// Makes `number` the number of distinguished word forms; the first becomes the current one. Raises subscript
+/// out of range for a number that the table has no place for; nothing is changed then.
 void setNumWordforms(CumulativeData& data, int number);
+
+/// The names of the distinguished word forms, in their order.
+QStringList wordformNames(const CumulativeTable& table);

@@ -108,7 +108,28 @@ void Stats(const CumulativeTable& table, int localities, Statistics& statistics)
         ofWordform(table, k, "deviation",
                    [&] { findSigma(table, k, GetNL(1, k, localities, fresh), fresh); });
     }
+    fresh.StatsWordforms = table.NumWordforms;
+    fresh.StatsItems = table.NumItemsAccumulated;
     statistics = std::move(fresh);
+}
+
+bool areCurrent(const Statistics& statistics, const CumulativeTable& table, int localities)
+{
+    if (statistics.StatsWordforms != table.NumWordforms ||
+        statistics.StatsItems != table.NumItemsAccumulated) {
+        return false;
+    }
+    Statistics now;
+    for (int k = 1; k <= table.NumWordforms; ++k) {
+        distribute(table, k, localities, now);
+        for (int v = 0; v <= table.NumItemsAccumulated; ++v) {
+            if (now.CumCount(v, k) != statistics.CumCount(v, k) ||
+                now.FreqCount(v, k) != statistics.FreqCount(v, k)) {
+                return false;
+            }
+        }
+    }
+    return true;
 }
 
 void writeStatistics(SequentialWriter& file, const CumulativeTable& table, const Statistics& statistics)
@@ -123,21 +144,36 @@ void writeStatistics(SequentialWriter& file, const CumulativeTable& table, const
     }
 }
 
-StatisticsFile readStatistics(SequentialReader& file)
+Statistics readStatistics(SequentialReader& file)
 {
-    StatisticsFile read;
-    read.NumWordforms = file.readCount();
-    read.NumItemsAccumulated = file.readCount();
-    for (int n = 1; n <= read.NumWordforms; ++n) {
+    Statistics read;
+    read.StatsWordforms = file.readCount();
+    read.StatsItems = file.readCount();
+    static_cast<void>(read.CumCount(read.StatsItems, read.StatsWordforms));
+    for (int n = 1; n <= read.StatsWordforms; ++n) {
         const int k = file.readInteger();
         read.Median(k) = file.readNumber();
         read.Mode(k) = file.readSingle();
         read.Average(k) = file.readNumber();
         read.Sigma(k) = file.readNumber();
-        for (int v = 0; v <= read.NumItemsAccumulated; ++v) {
+        for (int v = 0; v <= read.StatsItems; ++v) {
             read.CumCount(v, k) = file.readInteger();
             read.FreqCount(v, k) = file.readInteger();
         }
     }
     return read;
+}
+
+void SaveStats(const DriveC& drive, const QString& path, const CumulativeTable& table, Statistics& statistics)
+{
+    writeSequentialFile(drive, path,
+                        [&](SequentialWriter& file) { writeStatistics(file, table, statistics); });
+    statistics.StatsFileName = path;
+}
+
+void LoadStats(const DriveC& drive, const QString& path, Statistics& statistics)
+{
+    Statistics loaded = readSequentialFile(drive, path, readStatistics);
+    loaded.StatsFileName = statistics.StatsFileName;
+    statistics = std::move(loaded);
 }

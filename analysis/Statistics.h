@@ -18,6 +18,9 @@ struct Statistics
     BoundedArray<double, Bounds{0, 10}> Sigma;
     /// Path of the statistics file last written.
     QString StatsFileName;
+    /// The numbers of word forms and items that the statistics are of; no word forms before there are any.
+    int StatsWordforms = 0;
+    int StatsItems = 0;
 };
 
 /// The number of localities that the statistics of word form k are taken over: with flag 1 those where it was
@@ -33,15 +36,20 @@ double Rnd(double x, int n);
 /// then as they were.
 void Stats(const CumulativeTable& table, int localities, Statistics& statistics);
 
+/// Whether `statistics` are those of the counts that `table` has now.
+bool areCurrent(const Statistics& statistics, const CumulativeTable& table, int localities);
+
 /// A `.stt` file: the number of word forms and of items; then for each word form its number, a line with
 /// median, mode, average and deviation, and a line with both counts for each level.
 void writeStatistics(SequentialWriter& file, const CumulativeTable& table, const Statistics& statistics);
 
-/// The statistics of a file, and the numbers of word forms and items that they are of.
-struct StatisticsFile : Statistics
-{
-    int NumWordforms = 0;
-    int NumItemsAccumulated = 0;
-};
+/// Reads a `.stt` file. Raises subscript out of range beyond ten word forms or 400 items, and the errors of a
+/// short or malformed file.
+Statistics readStatistics(SequentialReader& file);
 
-StatisticsFile readStatistics(SequentialReader& file);
+/// Saves the statistics to the `.stt` file at `path`.
+void SaveStats(const DriveC& drive, const QString& path, const CumulativeTable& table,
+               Statistics& statistics);
+
+/// Loads the `.stt` file at `path`. A load that fails leaves the statistics as they were.
+void LoadStats(const DriveC& drive, const QString& path, Statistics& statistics);

@@ -8,8 +8,8 @@
 #include <optional>
 
 class QComboBox;
+class QLabel;
 class QListWidget;
-class QStringList;
 struct VarnModule;
 
 namespace Ui {
@@ -41,6 +41,10 @@ protected:
     void closeEvent(QCloseEvent* event) override;
 
 private:
+    static constexpr QLatin1String FormTitle{"Analysis for Contrast Map"};
+    /// Of the names of its files.
+    static constexpr QLatin1String Ending{".rnk"};
+
     void connectMenus();
     void connectButtons();
 
@@ -87,6 +91,7 @@ private:
     std::unique_ptr<Ui::frmRankData> m_ui;
     VarnModule& m_varn;
     ContrastEditor m_editor;
+    QLabel* m_status;
     DrawSurface m_paper;
     /// The page of the result table shown, from 1; 0 where it is hidden.
     int m_page = 0;

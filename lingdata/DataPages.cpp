@@ -17,7 +17,6 @@ constexpr float ColumnTitlesY = 400;
 constexpr float FirstLineY = 760;
 constexpr float Gap = 180;
 constexpr float ColumnGap = 480;
-constexpr float NarrowestWord = 900;
 
 const QString WordTitle = QStringLiteral("Word");
 const QString CodeTitle = QStringLiteral("Code");
@@ -104,7 +103,7 @@ void DataPages::placeParts(ListText& text)
 }
 
 /// Sets as many columns as fit side by side, but so many that they are not too high; where that makes them
-/// too narrow, the codes and then the words give way.
+/// too narrow, words and their codes share what room there is.
 void DataPages::placeColumns()
 {
     const auto width = static_cast<float>(m_area.width());
@@ -118,8 +117,7 @@ void DataPages::placeColumns()
     m_columnStep = (width + ColumnGap) / static_cast<float>(m_columns);
 
     const float room = std::max(0.0F, m_columnStep - ColumnGap - m_places.word);
-    const float wordRoom = std::max(room - codes, std::min(room, NarrowestWord));
-    m_places.wordWidth = std::min(m_places.wordWidth, wordRoom);
+    m_places.wordWidth = std::min(m_places.wordWidth, std::max(room - codes, (room - Gap) / 2));
     m_places.code = m_places.word + m_places.wordWidth + Gap;
     m_places.codeWidth =
         std::clamp(room - m_places.wordWidth - Gap, 0.0F, std::max(0.0F, m_places.codeWidth));
@@ -130,16 +128,17 @@ void DataPages::draw(int page, DrawSurface& target) const
     ListText text(m_varn, target);
     drawHeading(page, text, target);
     const int linesOfColumn = (LinesOfPage + m_columns - 1) / m_columns;
-    const auto first = static_cast<std::size_t>((page - 1) * LinesOfPage);
-    const std::size_t last = std::min(first + LinesOfPage, m_list.lines.size());
-    for (std::size_t n = first; n < last; ++n) {
-        const int place = static_cast<int>(n - first);
-        const float left = static_cast<float>(place / linesOfColumn) * m_columnStep;
-        const float y = FirstLineY + static_cast<float>(place % linesOfColumn) * LineStep;
-        if (place % linesOfColumn == 0) {
+    const int first = (page - 1) * LinesOfPage;
+    const int last = std::min(first + LinesOfPage, static_cast<int>(m_list.lines.size()));
+    for (int n = first; n < last; ++n) {
+        const int column = (n - first) / linesOfColumn;
+        const int row = (n - first) % linesOfColumn;
+        const float left = static_cast<float>(column) * m_columnStep;
+        if (row == 0) {
             drawColumnTitles(left, text);
         }
-        drawLine(m_list.lines[n], left, y, text);
+        drawLine(m_list.lines[static_cast<std::size_t>(n)], left,
+                 FirstLineY + static_cast<float>(row) * LineStep, text);
     }
 }
 

@@ -35,20 +35,25 @@ void FileWordData(const Folders& folders, const QString& path, LinguisticData& d
     writeKindsFile(folders, path, data);
 }
 
-void LoadWordData(const Folders& folders, const QString& itemPath, LinguisticData& data, LoadedState& state)
+LinguisticData readWordData(const Folders& folders, const QString& itemPath)
 {
     LinguisticData fresh;
     static_cast<ItemAnswers&>(fresh) = readSequentialFile(folders.Drive, itemPath, readItem);
     fresh.ItemFileName = itemPath.mid(itemPath.lastIndexOf(QLatin1Char('\\')) + 1);
     fresh.KindsPath = kindsFilePath(folders, itemPath);
-    const bool haveKinds = fileExists(folders.Drive, fresh.KindsPath);
-    if (haveKinds) {
+    if (fileExists(folders.Drive, fresh.KindsPath)) {
         InputWordData(folders, fresh.KindsPath, fresh);
     } else {
         SearchKindWord(fresh);
         SortKindWord(fresh);
     }
-    data = std::move(fresh);
+    return fresh;
+}
+
+void LoadWordData(const Folders& folders, const QString& itemPath, LinguisticData& data, LoadedState& state)
+{
+    const bool haveKinds = fileExists(folders.Drive, kindsFilePath(folders, itemPath));
+    data = readWordData(folders, itemPath);
     dataLoaded(state);
     if (!haveKinds) {
         writeKindsFile(folders, data.KindsPath, data);

@@ -31,7 +31,7 @@ frmData::frmData(VarnModule& varn, Dialogs& dialogs)
 {
     m_ui->setupUi(this);
     m_ui->picPage->setSurface(m_paper, SurfaceView::Fit::NaturalSize);
-    m_ui->picPage->setPlaceholder(QStringLiteral("Open shows the word forms of a survey item here."));
+    m_ui->picPage->setPlaceholder(QStringLiteral("File - Open shows the word forms of a survey item here."));
     m_ui->picPage->resize(SurfaceView::paperPixels(m_paper));
     const auto click = [this](QAction* action, void (frmData::*handler)()) {
         handle(action, &QAction::triggered, handler);

@@ -23,6 +23,8 @@ public:
     virtual void error(const QString& title, const QString& detail) = 0;
     /// Asks a question with Yes and No; true where the answer is Yes.
     virtual bool askYesNo(const QString& text, const QString& title) = 0;
+    /// Asks a question with OK and Cancel; true where the answer is OK.
+    virtual bool askOkCancel(const QString& text, const QString& title) = 0;
     /// Asks for a line of text, `initial` standing there at first. Nothing where the dialog was cancelled.
     virtual std::optional<QString> input(const QString& prompt, const QString& title,
                                          const QString& initial) = 0;
@@ -30,6 +32,9 @@ public:
     /// "HAN files (*.han)|*.han". Nothing where the dialog was cancelled.
     virtual std::optional<QString> openFile(const QString& title, const QString& folder,
                                             const QString& filter) = 0;
+    /// Asks for an existing folder, beginning in `folder`, a folder of this machine. Nothing where the dialog
+    /// was cancelled.
+    virtual std::optional<QString> chooseFolder(const QString& title, const QString& folder) = 0;
     /// Asks for a font, `initial` chosen at first. Nothing where the dialog was cancelled.
     virtual std::optional<TextFont> chooseFont(const TextFont& initial) = 0;
     /// Asks for the name of a file to save, in `folder` at first, `initial` as its name; asks before an

@@ -78,6 +78,12 @@ bool QtDialogs::askYesNo(const QString& text, const QString& title)
            QMessageBox::Yes;
 }
 
+bool QtDialogs::askOkCancel(const QString& text, const QString& title)
+{
+    return showBox(QMessageBox::Question, text, {}, title, QMessageBox::Ok | QMessageBox::Cancel) ==
+           QMessageBox::Ok;
+}
+
 std::optional<QString> QtDialogs::input(const QString& prompt, const QString& title, const QString& initial)
 {
     QInputDialog dialog(QApplication::activeWindow());
@@ -97,6 +103,16 @@ std::optional<QString> QtDialogs::openFile(const QString& title, const QString& 
     dialog.setFileMode(QFileDialog::ExistingFile);
     dialog.setViewMode(QFileDialog::List);
     dialog.setNameFilters(nameFilters(filter));
+    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) {
+        return std::nullopt;
+    }
+    return dialog.selectedFiles().constFirst();
+}
+
+std::optional<QString> QtDialogs::chooseFolder(const QString& title, const QString& folder)
+{
+    QFileDialog dialog(QApplication::activeWindow(), title, folder);
+    dialog.setFileMode(QFileDialog::Directory);
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) {
         return std::nullopt;
     }

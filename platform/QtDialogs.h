@@ -9,10 +9,12 @@ public:
     void message(const QString& text, const QString& title) override;
     void error(const QString& title, const QString& detail) override;
     bool askYesNo(const QString& text, const QString& title) override;
+    bool askOkCancel(const QString& text, const QString& title) override;
     std::optional<QString> input(const QString& prompt, const QString& title,
                                  const QString& initial) override;
     std::optional<QString> openFile(const QString& title, const QString& folder,
                                     const QString& filter) override;
+    std::optional<QString> chooseFolder(const QString& title, const QString& folder) override;
     std::optional<TextFont> chooseFont(const TextFont& initial) override;
     std::optional<QString> saveFile(const QString& title, const QString& folder, const QString& filter,
                                     const QString& initial) override;

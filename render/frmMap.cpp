@@ -53,6 +53,12 @@ void frmMap::connectMenus()
     click(m_ui->mnuMapBlank, &frmMap::mnuMapBlank_Click);
     click(m_ui->mnuHanrei, &frmMap::mnuHanrei_Click);
     click(m_ui->mnuSymbols, &frmMap::mnuSymbols_Click);
+    click(m_ui->mnuTotalBar, &frmMap::mnuTotalBar_Click);
+    click(m_ui->mnuTotalSBar, &frmMap::mnuTotalSBar_Click);
+    click(m_ui->mnuTotalCircle, &frmMap::mnuTotalCircle_Click);
+    click(m_ui->mnuTotalSCircle, &frmMap::mnuTotalSCircle_Click);
+    click(m_ui->mnuTotalHanko, &frmMap::mnuTotalHanko_Click);
+    click(m_ui->mnuRank, &frmMap::mnuRank_Click);
     click(m_ui->mnuHpos, &frmMap::mnuHpos_Click);
     click(m_ui->mnuChiten, &frmMap::mnuChiten_Click);
     click(m_ui->mnuStyle, &frmMap::mnuStyle_Click);
@@ -106,6 +112,7 @@ void frmMap::refresh()
     m_ui->picMap->refresh();
     showLoaded();
     DisplayInsatsu();
+    enableTotal();
 }
 
 void frmMap::showLoaded()
@@ -124,6 +131,17 @@ void frmMap::showLoaded()
                                 : QStringLiteral("Symbols: %1 (%2 captions)")
                                       .arg(m_varn.SymbolFileName, QString::number(m_varn.NHanrei));
     m_loaded->setText(item + QStringLiteral("    |    ") + symbols);
+}
+
+void frmMap::enableTotal()
+{
+    const bool haveTable = m_varn.NumWordforms > 0;
+    for (QAction* graph :
+         {m_ui->mnuTotalBar, m_ui->mnuTotalSBar, m_ui->mnuTotalCircle, m_ui->mnuTotalSCircle}) {
+        graph->setEnabled(haveTable);
+    }
+    m_ui->mnuTotalHanko->setEnabled(haveTable && m_varn.NDiffusion > 0);
+    m_ui->mnuRank->setEnabled(m_varn.ContrastAnalysed);
 }
 
 void frmMap::DisplayInsatsu()

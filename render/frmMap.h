@@ -27,6 +27,9 @@ public:
     void Form_Load();
     /// Enables the linguistic map where an item and a symbol set are loaded.
     void enableMapLing();
+    /// Draws the map of the diffusion symbols, and the contrast map.
+    void mnuTotalHanko_Click();
+    void mnuRank_Click();
     /// The form's own surface.
     const DrawSurface& surface() const { return m_surface; }
     /// The surfaces of a drawing command, with the form's place on the screen as it is now.
@@ -55,6 +58,10 @@ private:
     void mnuMapBlank_Click();
     void mnuHanrei_Click();
     void mnuSymbols_Click();
+    void mnuTotalBar_Click();
+    void mnuTotalSBar_Click();
+    void mnuTotalCircle_Click();
+    void mnuTotalSCircle_Click();
     void mnuHpos_Click();
     void mnuChiten_Click();
     void mnuStyle_Click();
@@ -66,6 +73,7 @@ private:
     /// Runs `draw` on the form or, in print mode, on a document of its own.
     void drawOnTarget(const std::function<void()>& draw);
     void DisplayInsatsu();
+    void enableTotal();
     void hideStyle();
     void plotSymbolPage();
     std::optional<QString> askForFile(const QString& title, const QString& filter);

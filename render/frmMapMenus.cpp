@@ -4,6 +4,8 @@
 #include "platform/Numbers.h"
 #include "plot/DrawingFile.h"
 #include "render/BlankMap.h"
+#include "render/ContrastMap.h"
+#include "render/DiffusionGraphs.h"
 #include "render/Legend.h"
 #include "render/LinguisticMap.h"
 #include "render/MapSize.h"
@@ -119,6 +121,11 @@ void frmMap::mnuInputWord_Click()
 
 void frmMap::mnuHankoInput_Click()
 {
+    if (m_varn.HankoUnsaved &&
+        !dialogs().askYesNo(QStringLiteral("The symbol set is not saved and will be lost. Go on ?"),
+                            QStringLiteral("Load Symbol File"))) {
+        return;
+    }
     if (const auto path =
             askForFile(QStringLiteral("Load Symbol File"), QStringLiteral("HAN files (*.han)|*.han"))) {
         LoadHankoData(m_varn.Drive, *path, m_varn);
@@ -159,6 +166,38 @@ void frmMap::mnuHanrei_Click()
 void frmMap::mnuSymbols_Click()
 {
     drawOnTarget([this] { WriteSymbolHelp(m_varn, surfaces()); });
+}
+
+// Diffusion Map
+
+void frmMap::mnuTotalBar_Click()
+{
+    drawOnTarget([this] { drawSingleGraph(m_varn, DiffusionGraph::Bar, surfaces()); });
+}
+
+void frmMap::mnuTotalSBar_Click()
+{
+    drawOnTarget([this] { drawLayeredGraph(m_varn, DiffusionGraph::Bar, surfaces()); });
+}
+
+void frmMap::mnuTotalCircle_Click()
+{
+    drawOnTarget([this] { drawSingleGraph(m_varn, DiffusionGraph::Circle, surfaces()); });
+}
+
+void frmMap::mnuTotalSCircle_Click()
+{
+    drawOnTarget([this] { drawLayeredGraph(m_varn, DiffusionGraph::Circle, surfaces()); });
+}
+
+void frmMap::mnuTotalHanko_Click()
+{
+    drawOnTarget([this] { drawLayeredGraph(m_varn, DiffusionGraph::Symbol, surfaces()); });
+}
+
+void frmMap::mnuRank_Click()
+{
+    drawOnTarget([this] { drawContrastMap(m_varn, surfaces()); });
 }
 
 // Set Map

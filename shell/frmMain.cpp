@@ -29,7 +29,8 @@ void colorAsReadOnly(QLineEdit& box)
 frmMain::frmMain(VarnModule& varn, Dialogs& dialogs)
     : VarnForm(dialogs), m_ui(std::make_unique<Ui::frmMain>()), m_varn(varn), m_map(varn, dialogs),
       m_chizu(varn, dialogs, [this] { return m_map.surfaces(); }), m_dataInput(varn, dialogs),
-      m_data(varn, dialogs), m_setHanko(varn, dialogs)
+      m_data(varn, dialogs), m_setHanko(varn, dialogs), m_calc(varn, dialogs), m_calExec(varn, dialogs),
+      m_rankData(varn, dialogs), m_totalHanko(varn, dialogs)
 {
     m_ui->setupUi(this);
     m_preview.Width = m_map.surface().Width;
@@ -41,6 +42,7 @@ frmMain::frmMain(VarnModule& varn, Dialogs& dialogs)
     prepareSetMergin();
     connectButtons();
     connectForms();
+    connectAnalysisForms();
 }
 
 frmMain::~frmMain() = default;
@@ -53,6 +55,7 @@ void frmMain::connectButtons()
     handle(m_ui->cmdData, &QPushButton::clicked, &frmMain::cmdData_Click);
     handle(m_ui->cmdHanko, &QPushButton::clicked, &frmMain::cmdHanko_Click);
     handle(m_ui->cmdMap, &QPushButton::clicked, &frmMain::cmdMap_Click);
+    handle(m_ui->cmdSumUp, &QPushButton::clicked, &frmMain::cmdSumUp_Click);
     handle(m_ui->cmdExit, &QPushButton::clicked, &frmMain::cmdExit_Click);
     handle(m_ui->mnuImportLocalities, &QAction::triggered, &frmMain::mnuImportLocalities_Click);
     handle(m_ui->mnuImportLines, &QAction::triggered, &frmMain::mnuImportLines_Click);
@@ -71,6 +74,24 @@ void frmMain::connectForms()
     handle(&m_setHanko, &frmSetHanko::toDrawMap, &frmMain::openMap);
     handle(&m_chizu, &frmChizu::mapChosen, &frmMain::showNewMap);
     connect(&m_data, &frmData::itemLoaded, &m_map, &frmMap::enableMapLing);
+}
+
+void frmMain::connectAnalysisForms()
+{
+    handle(&m_dataInput, &frmDataInput::toAccumulateData, &frmMain::openCalc);
+    connect(&m_calc, &frmCalc::toMain, this, &frmMain::bringToFront);
+    handle(&m_calc, &frmCalc::toExecute, &frmMain::openCalExec);
+    handle(&m_calc, &frmCalc::toDrawMap, &frmMain::openMap);
+    handle(&m_calc, &frmCalc::toContrast, &frmMain::openRankData);
+    connect(&m_calExec, &frmCalExec::toMain, this, &frmMain::bringToFront);
+    handle(&m_calExec, &frmCalExec::toAccumulateData, &frmMain::openCalc);
+    handle(&m_calExec, &frmCalExec::toDrawMap, &frmMain::openMap);
+    handle(&m_calExec, &frmCalExec::toSymbols, &frmMain::openTotalHanko);
+    handle(&m_calExec, &frmCalExec::toContrast, &frmMain::openRankData);
+    handle(&m_rankData, &frmRankData::toAnalysis, &frmMain::openCalc);
+    handle(&m_rankData, &frmRankData::toDrawMap, &frmMain::drawContrastMap);
+    handle(&m_totalHanko, &frmTotalHanko::toAnalysis, &frmMain::openCalExec);
+    handle(&m_totalHanko, &frmTotalHanko::toDrawMap, &frmMain::drawDiffusionSymbols);
 }
 
 void frmMain::Form_Load(const QString& installation)
@@ -197,6 +218,38 @@ void frmMain::openMap()
     open(m_map);
 }
 
+void frmMain::openCalc()
+{
+    open(m_calc);
+}
+
+void frmMain::openCalExec()
+{
+    open(m_calExec);
+}
+
+void frmMain::openRankData()
+{
+    open(m_rankData);
+}
+
+void frmMain::openTotalHanko()
+{
+    open(m_totalHanko);
+}
+
+void frmMain::drawContrastMap()
+{
+    openMap();
+    m_map.mnuRank_Click();
+}
+
+void frmMain::drawDiffusionSymbols()
+{
+    openMap();
+    m_map.mnuTotalHanko_Click();
+}
+
 void frmMain::showNewMap()
 {
     m_preview.Cls();
@@ -228,6 +281,11 @@ void frmMain::cmdMap_Click()
     openMap();
 }
 
+void frmMain::cmdSumUp_Click()
+{
+    openCalc();
+}
+
 void frmMain::cmdExit_Click()
 {
     QCoreApplication::exit();
@@ -237,7 +295,8 @@ void frmMain::closeEvent(QCloseEvent* event)
 {
     // Whoever has unsaved work there may still change his mind.
     for (VarnForm* form :
-         std::initializer_list<VarnForm*>{&m_dataInput, &m_setHanko, &m_data, &m_chizu, &m_map}) {
+         std::initializer_list<VarnForm*>{&m_dataInput, &m_setHanko, &m_calc, &m_totalHanko, &m_rankData,
+                                          &m_calExec, &m_data, &m_chizu, &m_map}) {
         if (form->isVisible() && !form->close()) {
             event->ignore();
             return;

@@ -1,5 +1,9 @@
 #pragma once
 
+#include "analysis/frmCalExec.h"
+#include "analysis/frmCalc.h"
+#include "analysis/frmRankData.h"
+#include "analysis/frmTotalHanko.h"
 #include "lingdata/frmData.h"
 #include "lingdata/frmDataInput.h"
 #include "mapdata/frmChizu.h"
@@ -43,6 +47,7 @@ private:
 
     void connectButtons();
     void connectForms();
+    void connectAnalysisForms();
     template <typename Form>
     void open(Form& form)
     {
@@ -51,6 +56,12 @@ private:
     }
     void openChizu();
     void openMap();
+    void openCalc();
+    void openCalExec();
+    void openRankData();
+    void openTotalHanko();
+    void drawContrastMap();
+    void drawDiffusionSymbols();
     void showNewMap();
 
     // Page set-up.
@@ -70,6 +81,7 @@ private:
     void cmdData_Click();
     void cmdHanko_Click();
     void cmdMap_Click();
+    void cmdSumUp_Click();
     void cmdExit_Click();
 
     void mnuImportLocalities_Click();
@@ -84,6 +96,10 @@ private:
     frmDataInput m_dataInput;
     frmData m_data;
     frmSetHanko m_setHanko;
+    frmCalc m_calc;
+    frmCalExec m_calExec;
+    frmRankData m_rankData;
+    frmTotalHanko m_totalHanko;
     /// The form's own drawing: the preview of the map.
     DrawSurface m_preview;
 };

@@ -213,8 +213,8 @@ TEST(Statistics, TheyReadBack)
     writeStatistics(writer, table, statistics);
     EXPECT_TRUE(writer.bytes().startsWith("1,2\r\n1\r\n"));
     SequentialReader reader(QString::fromUtf8(writer.bytes()));
-    const StatisticsFile file = readStatistics(reader);
-    EXPECT_EQ(file.NumItemsAccumulated, 2);
+    const Statistics file = readStatistics(reader);
+    EXPECT_EQ(file.StatsItems, 2);
     EXPECT_EQ(file.Sigma(1), statistics.Sigma(1));
     EXPECT_EQ(file.CumCount(2, 1), 2);
     SequentialReader cut(QString::fromUtf8(writer.bytes().chopped(5)));

@@ -24,8 +24,10 @@ public:
     };
 
     std::deque<bool> yesNo;
+    std::deque<bool> okCancel;
     std::deque<std::optional<QString>> inputs;
     std::deque<std::optional<QString>> files;
+    std::deque<std::optional<QString>> folders;
     std::deque<std::optional<QString>> savedFiles;
     std::deque<std::optional<TextFont>> fonts;
     /// The printer that the user chooses; null for none.
@@ -39,6 +41,10 @@ public:
     void message(const QString& text, const QString& title) override { shown.push_back({text, title}); }
     void error(const QString& title, const QString& detail) override { errors.push_back({detail, title}); }
     bool askYesNo(const QString& text, const QString& title) override { return answer(yesNo, {text, title}); }
+    bool askOkCancel(const QString& text, const QString& title) override
+    {
+        return answer(okCancel, {text, title});
+    }
     std::optional<QString> input(const QString& prompt, const QString& title, const QString&) override
     {
         return answer(inputs, {prompt, title});
@@ -46,6 +52,10 @@ public:
     std::optional<QString> openFile(const QString& title, const QString&, const QString& filter) override
     {
         return answer(files, {filter, title});
+    }
+    std::optional<QString> chooseFolder(const QString& title, const QString& folder) override
+    {
+        return answer(folders, {folder, title});
     }
     std::optional<TextFont> chooseFont(const TextFont& initial) override
     {

@@ -1,0 +1,117 @@
+#include "analysis/StatisticsPages.h"
+
+#include "analysis/StatisticsLines.h"
+#include "platform/StandardColors.h"
+
+#include <algorithm>
+
+namespace {
+
+// All lengths are twips, fonts are in points.
+constexpr int BlocksOfColumn = 3;
+constexpr int BlocksOfOverview = 9;
+constexpr float BlockWidth = 2000;
+constexpr float BlockHeight = 1600;
+constexpr float BlockGap = 80;
+constexpr int SmallestBlockFont = 4;
+
+constexpr int LevelsOfColumn = 20;
+constexpr float ColumnStep = 1000;
+constexpr float RowStep = 200;
+constexpr float DistributionY = 600;
+/// Where both counts of a level start, from the level.
+constexpr float CumCountIndent = 280;
+constexpr float FreqCountIndent = 620;
+constexpr float DeviationX = 400;
+constexpr float DeviationY = 200;
+constexpr float GapOnLine = 300;
+
+/// The font whose lines are not higher than a row.
+constexpr int PageFontSize = 8;
+
+} // namespace
+
+QSizeF StatisticsPages::overviewArea()
+{
+    return {BlockWidth * BlocksOfOverview / BlocksOfColumn, BlockHeight * BlocksOfColumn};
+}
+
+QSizeF StatisticsPages::tableArea(int items)
+{
+    constexpr float WidthOfLines = 7000;
+    const auto columns = static_cast<float>(items / LevelsOfColumn + 1);
+    return {std::max(WidthOfLines, columns * ColumnStep), DistributionY + LevelsOfColumn * RowStep};
+}
+
+void StatisticsPages::DisplayStats(int k)
+{
+    const int place = (k - 1) % BlocksOfOverview;
+    m_target.CurrentX = BlockWidth * static_cast<float>(place / BlocksOfColumn);
+    m_target.CurrentY = BlockHeight * static_cast<float>(place % BlocksOfColumn);
+    DisplayStatsOne(k);
+}
+
+void StatisticsPages::DisplayStatsOne(int k)
+{
+    const float left = m_target.CurrentX;
+    for (const QString& line : statisticsLines(m_table, m_statistics, k)) {
+        m_target.FontSize = PageFontSize;
+        const float height = m_target.TextHeight();
+        while (m_target.TextWidth(line) > BlockWidth - BlockGap && m_target.FontSize > SmallestBlockFont) {
+            --m_target.FontSize; // a long name keeps clear of the next column
+        }
+        const float y = m_target.CurrentY;
+        m_target.CurrentX = left;
+        m_target.Print(line);
+        m_target.CurrentY = y + height;
+    }
+    m_target.FontSize = PageFontSize;
+}
+
+void StatisticsPages::DisplayStatsTable(int k)
+{
+    m_target.Cls();
+    m_target.FontSize = PageFontSize;
+    const QStringList figures = statisticsLines(m_table, m_statistics, k);
+    printLine(0, 0, QStringList(QStringLiteral("Kt=%1").arg(k)) + figures.mid(1, 3));
+    printLine(
+        DeviationX, DeviationY,
+        QStringList(QString(figures[4])
+                        .replace(QStringLiteral("Standard Dev."), QStringLiteral("Standard Deviation"))) +
+            figures.mid(5));
+    const int items = m_statistics.StatsItems;
+    for (int column = 0; column <= items / LevelsOfColumn; ++column) {
+        const int first = column * LevelsOfColumn;
+        DisplayOut(ColumnStep * static_cast<float>(column), k, first,
+                   std::min(first + LevelsOfColumn - 1, items));
+    }
+}
+
+void StatisticsPages::DisplayOut(float x, int k, int first, int last)
+{
+    for (int v = first; v <= last; ++v) {
+        const float y = DistributionY + RowStep * static_cast<float>(v - first);
+        printNumber(x, y, v, QBColor(8));
+        printNumber(x + CumCountIndent, y, m_statistics.CumCount(v, k), QBColor(0));
+        printNumber(x + FreqCountIndent, y, m_statistics.FreqCount(v, k), QBColor(0));
+    }
+}
+
+void StatisticsPages::printLine(float x, float y, const QStringList& texts)
+{
+    m_target.CurrentX = x;
+    m_target.CurrentY = y;
+    for (const QString& text : texts) {
+        m_target.Print(text, DrawSurface::LineEnd::Stay);
+        m_target.CurrentX += GapOnLine;
+    }
+}
+
+void StatisticsPages::printNumber(float x, float y, int number, QRgb color)
+{
+    m_target.CurrentX = x;
+    m_target.CurrentY = y;
+    m_target.ForeColor = color;
+    m_target.Print(QString::number(number), DrawSurface::LineEnd::Stay);
+    m_target.ForeColor = QBColor(0);
+}

@@ -1,0 +1,348 @@
+#include "analysis/frmCalExec.h"
+
+#include "analysis/AccumulateFolder.h"
+#include "analysis/CountPages.h"
+#include "analysis/StatisticsPages.h"
+#include "analysis/TotalCommands.h"
+#include "platform/Numbers.h"
+#include "shell/VarnModule.h"
+#include "ui_frmCalExec.h"
+
+#include <QLabel>
+#include <QProgressDialog>
+#include <QScrollBar>
+
+#include <algorithm>
+
+namespace {
+
+const QString FormTitle = QStringLiteral("Execution of Cumulative Analysis");
+const QString AnalysisTitle = QStringLiteral("Analysis of Linguistic Data.");
+constexpr float ListLineHeight = 240;
+
+QString nameOfItem(int k, const VarnModule& varn)
+{
+    return QStringLiteral("Wordform %1 ").arg(k) + varn.WordformName(k);
+}
+
+} // namespace
+
+frmCalExec::frmCalExec(VarnModule& varn, Dialogs& dialogs)
+    : VarnForm(dialogs), m_ui(std::make_unique<Ui::frmCalExec>()), m_varn(varn), m_status(new QLabel(this))
+{
+    m_ui->setupUi(this);
+    clearPaper(CountPages::area());
+    m_ui->picPage->setSurface(m_paper, SurfaceView::Fit::WholePaper);
+    m_ui->picPage->setPlaceholder(
+        QStringLiteral("Display Results shows the counts here, Execute Statistics their statistics."));
+    m_status->setTextFormat(Qt::PlainText);
+    m_status->setContentsMargins(8, 0, 8, 0);
+    m_status->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    statusBar()->addWidget(m_status, 1);
+    connectMenus();
+}
+
+frmCalExec::~frmCalExec() = default;
+
+void frmCalExec::connectMenus()
+{
+    const auto click = [this](QAction* action, void (frmCalExec::*handler)()) {
+        handle(action, &QAction::triggered, handler);
+    };
+    click(m_ui->mnuExecCalc, &frmCalExec::mnuExecCalc_Click);
+    click(m_ui->mnuExecAll, &frmCalExec::mnuExecAll_Click);
+    click(m_ui->mnuExecSave, &frmCalExec::mnuExecSave_Click);
+    click(m_ui->mnuItemNext, &frmCalExec::mnuItemNext_Click);
+    click(m_ui->mnuItemPrevious, &frmCalExec::mnuItemPrevious_Click);
+    click(m_ui->mnuDisplay, &frmCalExec::mnuDisplay_Click);
+    click(m_ui->mnuDisplayNext, &frmCalExec::mnuDisplayNext_Click);
+    click(m_ui->mnuDisplayPrevious, &frmCalExec::mnuDisplayPrevious_Click);
+    click(m_ui->mnuStatsExec, &frmCalExec::mnuStatsExec_Click);
+    click(m_ui->mnuStatsDisplay, &frmCalExec::mnuStatsDisplay_Click);
+    click(m_ui->mnuStatsDisplayAll, &frmCalExec::mnuStatsDisplayAll_Click);
+    click(m_ui->mnuStatsSave, &frmCalExec::mnuStatsSave_Click);
+    click(m_ui->mnuStatsOpen, &frmCalExec::mnuStatsOpen_Click);
+    connect(m_ui->mnuStatsSymbols, &QAction::triggered, this, &frmCalExec::toSymbols);
+    connect(m_ui->mnuExecMap, &QAction::triggered, this, &frmCalExec::toDrawMap);
+    connect(m_ui->mnuReturn, &QAction::triggered, this, &frmCalExec::toAccumulateData);
+    connect(m_ui->mnuRankData, &QAction::triggered, this, &frmCalExec::toContrast);
+    connect(m_ui->mnuRankReturn, &QAction::triggered, this, &frmCalExec::toMain);
+}
+
+void frmCalExec::Form_Load()
+{
+    run([this] { draw(); });
+}
+
+bool frmCalExec::event(QEvent* event)
+{
+    if (event->type() == QEvent::WindowActivate) {
+        run([this] { draw(); }); // other forms change the counts
+    }
+    return VarnForm::event(event);
+}
+
+void frmCalExec::refresh()
+{
+    enableMenus();
+    m_ui->picPage->setMinimumSize(SurfaceView::paperPixels(m_paper));
+    m_ui->picPage->refresh();
+    QStringList title = {FormTitle, m_varn.VarnMapName.mid(1),
+                         m_varn.TotalFileName.isEmpty() ? QString()
+                                                        : m_varn.TotalFileName + QStringLiteral(".ttl")};
+    title.removeAll(QString());
+    setWindowTitle(title.join(QStringLiteral(" - ")));
+    m_status->setText(status());
+}
+
+void frmCalExec::enableMenus()
+{
+    const bool hasTable = m_varn.NumWordforms > 0;
+    for (QAction* entry : {m_ui->mnuItemNext, m_ui->mnuItemPrevious, m_ui->mnuDisplay, m_ui->mnuStatsExec}) {
+        entry->setEnabled(hasTable);
+    }
+    m_ui->mnuDisplayNext->setEnabled(m_shown == Shown::Counts);
+    m_ui->mnuDisplayPrevious->setEnabled(m_shown == Shown::Counts);
+    m_ui->mnuStatsDisplay->setEnabled(hasStatistics(m_varn.CurrentWordform));
+    m_ui->mnuStatsDisplayAll->setEnabled(m_varn.StatsWordforms > 0);
+    m_ui->mnuStatsSave->setEnabled(hasTable && areCurrent(m_varn, m_varn, m_varn.NLocality));
+}
+
+QString frmCalExec::status() const
+{
+    QStringList parts;
+    const int k = m_varn.CurrentWordform;
+    if (m_shown == Shown::Counts) {
+        parts
+            << nameOfItem(k, m_varn)
+            << QStringLiteral("Page %1 of %2").arg(m_page).arg(CountPages(m_varn, m_varn.NLocality).count());
+    } else if (m_shown == Shown::StatisticsOfOne) {
+        parts << nameOfItem(k, m_varn)
+              << QStringLiteral("Columns: count, localities with at least that, with exactly that");
+    }
+    if (m_shown == Shown::StatisticsOfOne || m_shown == Shown::StatisticsOfAll) {
+        parts << QStringLiteral("Statistics of %1 items%2")
+                     .arg(m_varn.StatsItems)
+                     .arg(areCurrent(m_varn, m_varn, m_varn.NLocality)
+                              ? QString()
+                              : QStringLiteral(", not of these counts"));
+    }
+    parts << (m_varn.NumWordforms == 0 ? QStringLiteral("No cumulative data: open it in Accumulate Data")
+                                       : QStringLiteral("Counts of %1 word forms over %2 items")
+                                             .arg(m_varn.NumWordforms)
+                                             .arg(m_varn.NumItemsAccumulated));
+    parts << (m_varn.ItemFileName.isEmpty() ? QStringLiteral("No linguistic file loaded")
+                                            : QStringLiteral("Item: ") + m_varn.ItemFileName);
+    return parts.join(QStringLiteral("    |    "));
+}
+
+// The pages
+
+void frmCalExec::clearPaper(const QSizeF& area)
+{
+    constexpr float Margin = 300;
+    m_paper.Width = toSingle(area.width()) + 2 * Margin;
+    m_paper.Height = toSingle(area.height()) + 2 * Margin;
+    m_paper.ScaleLeft = -Margin;
+    m_paper.ScaleTop = -Margin;
+    m_paper.Cls();
+}
+
+bool frmCalExec::hasStatistics(int k) const
+{
+    return k <= m_varn.StatsWordforms;
+}
+
+void frmCalExec::draw()
+{
+    const int k = m_varn.CurrentWordform;
+    const CountPages pages(m_varn, m_varn.NLocality);
+    clearPaper(CountPages::area());
+    if (m_shown == Shown::Counts && m_varn.NumWordforms > 0) {
+        m_page = std::min(m_page, pages.count());
+        pages.DisplaySum(k, m_page, m_paper);
+    } else if (m_shown == Shown::StatisticsOfOne && hasStatistics(k)) {
+        clearPaper(StatisticsPages::tableArea(m_varn.StatsItems));
+        StatisticsPages(m_varn, m_varn, m_paper).DisplayStatsTable(k);
+    } else if (m_shown == Shown::StatisticsOfAll && m_varn.StatsWordforms > 0) {
+        drawStatisticsOfAll();
+    } else if (m_shown == Shown::Uncounted) {
+        clearPaper({CountPages::area().width(), ListLineHeight * static_cast<float>(m_uncounted.size())});
+        m_paper.CurrentY = 0;
+        for (const QString& line : m_uncounted) {
+            m_paper.CurrentX = 0;
+            m_paper.Print(line);
+        }
+    } else {
+        m_shown = Shown::Nothing;
+    }
+}
+
+void frmCalExec::drawStatisticsOfAll()
+{
+    clearPaper(StatisticsPages::overviewArea());
+    for (int k = 1; k <= m_varn.StatsWordforms; ++k) {
+        StatisticsPages(m_varn, m_varn, m_paper).DisplayStats(k);
+    }
+}
+
+void frmCalExec::showCounts(int page)
+{
+    m_shown = Shown::Counts;
+    m_page = page;
+    draw();
+    m_ui->scrPage->verticalScrollBar()->setValue(0);
+}
+
+void frmCalExec::mnuDisplay_Click()
+{
+    showCounts(1);
+}
+
+void frmCalExec::mnuDisplayNext_Click()
+{
+    showCounts(CountPages(m_varn, m_varn.NLocality).next(m_page));
+}
+
+void frmCalExec::mnuDisplayPrevious_Click()
+{
+    showCounts(CountPages(m_varn, m_varn.NLocality).previous(m_page));
+}
+
+void frmCalExec::mnuItemNext_Click()
+{
+    m_varn.CurrentWordform = m_varn.CurrentWordform < m_varn.NumWordforms ? m_varn.CurrentWordform + 1 : 1;
+    showCounts(1);
+}
+
+void frmCalExec::mnuItemPrevious_Click()
+{
+    m_varn.CurrentWordform = m_varn.CurrentWordform > 1 ? m_varn.CurrentWordform - 1 : m_varn.NumWordforms;
+    showCounts(1);
+}
+
+// The counting
+
+void frmCalExec::mnuExecCalc_Click()
+{
+    executeLoadedItem(m_varn, dialogs());
+    draw();
+}
+
+void frmCalExec::mnuExecAll_Click()
+{
+    if (!mayExecute(m_varn, dialogs())) {
+        return;
+    }
+    if (const auto folder = dialogs().chooseFolder(QStringLiteral("Folder of the Items to Accumulate"),
+                                                   m_varn.Drive.hostPath(m_varn.dataFolder()))) {
+        reportFolder(accumulateFolderOf(m_varn.Drive.varnPath(*folder)));
+    }
+}
+
+FolderAccumulation frmCalExec::accumulateFolderOf(const QString& folder)
+{
+    QProgressDialog progress(this);
+    progress.setWindowTitle(AnalysisTitle);
+    progress.setCancelButtonText(QStringLiteral("Stop"));
+    progress.setWindowModality(Qt::ApplicationModal);
+    progress.setMinimumDuration(0);
+    progress.setMinimumWidth(360);
+    return accumulateFolder(
+        m_varn, folder, m_varn.NLocality, m_varn, [&progress](int done, int items, const QString& name) {
+            progress.setMaximum(items);
+            progress.setLabelText(
+                QStringLiteral("%1 (%2 of %3)").arg(name, QString::number(done + 1), QString::number(items)));
+            progress.setValue(done);
+            return !progress.wasCanceled();
+        });
+}
+
+void frmCalExec::reportFolder(const FolderAccumulation& done)
+{
+    m_uncounted.clear();
+    for (const UncountedItem& item : done.uncounted) {
+        m_uncounted << item.name + QLatin1Char(':');
+        for (const QString& line : item.reason.split(QLatin1Char('\n'))) {
+            m_uncounted << QStringLiteral("    ") + line;
+        }
+    }
+    if (!m_uncounted.isEmpty()) {
+        m_shown = Shown::Uncounted;
+        m_uncounted.prepend(QStringLiteral("These files were not counted:"));
+    }
+    draw();
+    refresh();
+    QStringList lines = {done.stopped ? QStringLiteral("Analyse of Linguistic Data Files is stopped.")
+                                      : QStringLiteral("Analyse of Linguistic Data File is completed."),
+                         QStringLiteral("%1 of %2 items were counted.").arg(done.counted).arg(done.items)};
+    if (!done.uncounted.empty()) {
+        lines << QString() << QStringLiteral("Not counted:");
+    }
+    constexpr std::size_t MostNames = 15;
+    for (std::size_t i = 0; i < std::min(done.uncounted.size(), MostNames); ++i) {
+        lines << done.uncounted[i].name;
+    }
+    if (done.uncounted.size() > MostNames) {
+        lines << QStringLiteral("and %1 more, as the form shows").arg(done.uncounted.size() - MostNames);
+    }
+    dialogs().message(lines.join(QLatin1Char('\n')), AnalysisTitle);
+}
+
+void frmCalExec::mnuExecSave_Click()
+{
+    if (saveTotal(m_varn, dialogs())) {
+        dialogs().message(QStringLiteral("Linguistic Data File is saved."),
+                          QStringLiteral("Save of Linguistic Data"));
+    }
+}
+
+// The statistics
+
+void frmCalExec::Stats()
+{
+    ::Stats(m_varn, m_varn.NLocality, m_varn);
+    DisplayStatsTbl();
+}
+
+void frmCalExec::DisplayStatsTbl()
+{
+    m_shown = Shown::StatisticsOfOne;
+    draw();
+}
+
+void frmCalExec::mnuStatsDisplayAll_Click()
+{
+    m_shown = Shown::StatisticsOfAll;
+    draw();
+}
+
+void frmCalExec::SaveStats()
+{
+    saveStatistics(m_varn, dialogs());
+}
+
+void frmCalExec::mnuStatsOpen_Click()
+{
+    if (const auto file = dialogs().openFile(QStringLiteral("Open Statistics File"),
+                                             m_varn.Drive.hostPath(m_varn.dataFolder()),
+                                             QStringLiteral("Statistic Files (*.stt)|*.stt"))) {
+        LoadStats(m_varn.Drive.varnPath(*file));
+    }
+}
+
+void frmCalExec::LoadStats(const QString& path)
+{
+    ::LoadStats(m_varn.Drive, path, m_varn);
+    DisplayStatsTbl();
+    if (m_varn.StatsWordforms != m_varn.NumWordforms || m_varn.StatsItems != m_varn.NumItemsAccumulated) {
+        refresh();
+        dialogs().message(QStringLiteral("The statistics are of %1 word forms and %2 items, the cumulative "
+                                         "data has %3 and %4.")
+                              .arg(m_varn.StatsWordforms)
+                              .arg(m_varn.StatsItems)
+                              .arg(m_varn.NumWordforms)
+                              .arg(m_varn.NumItemsAccumulated),
+                          FormTitle);
+    }
+}
