@@ -9,7 +9,7 @@
 #include <QApplication>
 #include <QPushButton>
 
-#include <algorithm>
+#include <stdexcept>
 
 using Shown = ScriptedDialogs::Shown;
 
@@ -18,25 +18,45 @@ inline const QString VarnPath = QStringLiteral("C:\\Varn62E\\Varn");
 inline const QString DriveFile = QStringLiteral("C:\\Varn62E\\Varn\\VarnDriveName.map");
 inline const QString MapNameFile = QStringLiteral("C:\\Varn62E\\VarnMapName.dat");
 
-/// The program with its two forms on a drive of its own.
+/// The form of class `Form`, which the started program has one of.
+template <typename Form>
+Form& form()
+{
+    for (QWidget* window : QApplication::topLevelWidgets()) {
+        if (auto* found = qobject_cast<Form*>(window)) {
+            return *found;
+        }
+    }
+    throw std::logic_error("the form is not there");
+}
+
+template <typename Form, typename Control>
+Control& control(const char* name)
+{
+    return *form<Form>().template findChild<Control*>(QLatin1String(name));
+}
+template <typename Form>
+void press(const char* name)
+{
+    control<Form, QPushButton>(name).click();
+}
+template <typename Form>
+void trigger(const char* name)
+{
+    control<Form, QAction>(name).trigger();
+}
+
+/// The program with its forms on a drive of its own.
 struct Program
 {
     explicit Program(const TestDrive& drive) { varn.Drive = drive.drive(); }
 
     void start(const QString& installation) { main.Form_Load(installation); }
 
-    frmMap& map() const
-    {
-        const QWidgetList windows = QApplication::topLevelWidgets();
-        const auto found = std::find_if(windows.begin(), windows.end(), [](const QWidget* window) {
-            return qobject_cast<const frmMap*>(window) != nullptr;
-        });
-        return *qobject_cast<frmMap*>(*found);
-    }
-
-    QAction& menu(const char* name) const { return *map().findChild<QAction*>(QLatin1String(name)); }
+    static frmMap& map() { return form<frmMap>(); }
+    static QAction& menu(const char* name) { return *map().findChild<QAction*>(QLatin1String(name)); }
     void click(const char* name) const { main.findChild<QPushButton*>(QLatin1String(name))->click(); }
-    const Drawing& drawing() const { return map().surface().drawing(); }
+    static const Drawing& drawing() { return map().surface().drawing(); }
 
     void load(const char* entry, const char* file)
     {

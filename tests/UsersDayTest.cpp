@@ -29,34 +29,6 @@ protected:
         survey.write(Ling + QStringLiteral("readme.txt"), "");
     }
 
-    /// The form of class `Form`, which the started program has one of.
-    template <typename Form>
-    static Form& form()
-    {
-        for (QWidget* window : QApplication::topLevelWidgets()) {
-            if (auto* found = qobject_cast<Form*>(window)) {
-                return *found;
-            }
-        }
-        throw std::logic_error("the form is not there");
-    }
-
-    template <typename Form, typename Control>
-    static Control& control(const char* name)
-    {
-        return *form<Form>().template findChild<Control*>(QLatin1String(name));
-    }
-    template <typename Form>
-    static void press(const char* name)
-    {
-        control<Form, QPushButton>(name).click();
-    }
-    template <typename Form>
-    static void trigger(const char* name)
-    {
-        control<Form, QAction>(name).trigger();
-    }
-
     static void startWithGlyphs(Program& program)
     {
         program.dialogs.yesNo = {true};
