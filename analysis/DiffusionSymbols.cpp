@@ -1,18 +1,14 @@
 #include "analysis/DiffusionSymbols.h"
 
+#include "symbols/SymbolFile.h"
+
 DiffusionSymbols readDiffusionSymbols(SequentialReader& file)
 {
     DiffusionSymbols symbols;
     symbols.DiffusionComment = file.readString();
     symbols.NDiffusion = file.readCount();
     for (int k = 1; k <= symbols.NDiffusion; ++k) {
-        HankoStyle& hanko = symbols.DiffusionHanko(k);
-        hanko.HankoNo = file.readInteger();
-        hanko.LineColor = file.readInteger();
-        hanko.PaintColor = file.readInteger();
-        hanko.PaintOn = file.readInteger();
-        hanko.SymbolSize = file.readInteger();
-        hanko.LineThick = file.readInteger();
+        symbols.DiffusionHanko(k) = readHankoStyle(file);
         symbols.MinimumPoints(k) = file.readInteger();
         symbols.DiffusionCaption(k) = file.readString();
     }

@@ -148,6 +148,13 @@ void DrawSurface::Print(const QString& text, LineEnd lineEnd)
     }
 }
 
+void DrawSurface::PrintAt(float x, float y, const QString& text)
+{
+    CurrentX = x;
+    CurrentY = y;
+    Print(text);
+}
+
 void DrawSurface::PaintPicture(const QImage& picture, float x, float y)
 {
     std::vector<QImage>& pictures = m_drawing.pictures;

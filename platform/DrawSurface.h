@@ -63,6 +63,8 @@ public:
 
     /// Writes `text` at the current position.
     void Print(const QString& text, LineEnd lineEnd = LineEnd::NewLine);
+    /// Writes `text` at (x, y).
+    void PrintAt(float x, float y, const QString& text);
     /// Paints `picture` at its natural size (its own resolution, else 96 dpi), top left corner at (x, y).
     void PaintPicture(const QImage& picture, float x, float y);
 

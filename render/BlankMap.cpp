@@ -14,13 +14,6 @@ void copyFont(const DrawSurface& from, DrawSurface& to)
     to.FontItalic = from.FontItalic;
 }
 
-void printAt(DrawSurface& target, float x, float y, const QString& text)
-{
-    target.CurrentX = x;
-    target.CurrentY = y;
-    target.Print(text);
-}
-
 /// Keeps the position of locality i in drawing units.
 void placeLocality(const Localities& map, int i, MapGeometry& geometry)
 {
@@ -48,8 +41,8 @@ void plotScaleBar(const PlaceNames& map, const MapGeometry& geometry, DrawSurfac
         const float x = x0 + toSingle(i * step);
         target.Line(x, y0, x, y0 - (end ? EndTick : InnerTick), target.ForeColor);
     }
-    printAt(target, x0 + LabelGap, y0 - LabelRise, QStringLiteral("0"));
-    printAt(target, x0 + length + LabelGap, y0 - LabelRise, map.ScaleLabel);
+    target.PrintAt(x0 + LabelGap, y0 - LabelRise, QStringLiteral("0"));
+    target.PrintAt(x0 + length + LabelGap, y0 - LabelRise, map.ScaleLabel);
 }
 
 } // namespace
@@ -105,8 +98,8 @@ void PlotKanjiData(const PlaceNames& map, const MapGeometry& geometry, MapSurfac
 {
     copyFont(surfaces.frmMap, surfaces.DrawTarget);
     for (int i = 1; i <= map.NKanji; ++i) {
-        printAt(surfaces.DrawTarget, geometry.toScreen(map.KanjiXY(i, 0)),
-                geometry.toScreen(map.KanjiXY(i, 1)), map.KanjiText(i));
+        surfaces.DrawTarget.PrintAt(geometry.toScreen(map.KanjiXY(i, 0)),
+                                    geometry.toScreen(map.KanjiXY(i, 1)), map.KanjiText(i));
     }
     plotScaleBar(map, geometry, surfaces.DrawTarget);
 }
@@ -117,9 +110,9 @@ void PlotDate(const QString& fileName, const QDateTime& time, MapSurfaces surfac
     const int fontSize = target.FontSize;
     target.FontSize = 8;
     const float x = surfaces.frmMap.Width - 1600 + 50;
-    printAt(target, x, surfaces.frmMap.Height - 400 + 50, fileName);
-    printAt(target, x, surfaces.frmMap.Height - 200 + 50,
-            time.toString(QStringLiteral("yyyy-MM-dd HH:mm:ss")));
+    target.PrintAt(x, surfaces.frmMap.Height - 400 + 50, fileName);
+    target.PrintAt(x, surfaces.frmMap.Height - 200 + 50,
+                   time.toString(QStringLiteral("yyyy-MM-dd HH:mm:ss")));
     target.FontSize = fontSize;
 }
 

@@ -32,13 +32,6 @@ float radiusAt(const VarnModule& varn, int j)
     }
 }
 
-void printAt(DrawSurface& target, float x, float y, const QString& text)
-{
-    target.CurrentX = x;
-    target.CurrentY = y;
-    target.Print(text);
-}
-
 void plotLegend(const VarnModule& varn, int H, DrawSurface& target)
 {
     constexpr float LabelIndent = 500;
@@ -48,14 +41,14 @@ void plotLegend(const VarnModule& varn, int H, DrawSurface& target)
 
     const float x0 = toSingle(varn.Scale * varn.HanreiX);
     const float y0 = varn.Scale * varn.HanreiY;
-    printAt(target, x0, y0, varn.ContrastTitle);
+    target.PrintAt(x0, y0, varn.ContrastTitle);
     if (H == 0) {
         return;
     }
     for (int s = -H; s <= H; ++s) {
         const float y = y0 + FirstRow + RowStep * static_cast<float>(s + H - 1);
         const double share = std::floor(divide(100.0 * s, H) + 0.5);
-        printAt(target, x0 + LabelIndent, y, QStringLiteral("%1%").arg(share));
+        target.PrintAt(x0 + LabelIndent, y, QStringLiteral("%1%").arg(share));
         const float radius = toSingle(divide(static_cast<double>(std::abs(s)) * varn.ContrastMaxSize, H));
         plotCircle(varn, s, x0 + LabelIndent / 2, y + HalfLine, radius, target);
     }

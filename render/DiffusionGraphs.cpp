@@ -38,19 +38,6 @@ void atEachLocality(VarnModule& varn, int k, Draw draw)
     }
 }
 
-void printAt(DrawSurface& target, float x, float y, const QString& text)
-{
-    target.CurrentX = x;
-    target.CurrentY = y;
-    target.Print(text);
-}
-
-/// Where the legend starts, without the margin.
-QPointF captionOrigin(const VarnModule& varn)
-{
-    return {varn.Scale * varn.HanreiX, varn.Scale * static_cast<double>(varn.HanreiY)};
-}
-
 /// Fill and outline of word form k.
 QRgb useColors(const CumulativeTable& table, int k, DrawSurface& target)
 {
@@ -65,8 +52,8 @@ void printItems(const VarnModule& varn, float x, int row, MapSurfaces surfaces)
     if (row > 1) {
         return;
     }
-    printAt(surfaces.DrawTarget, x, surfaces.frmMap.Height - 1000 + 50,
-            QStringLiteral("No. of Items =%1").arg(varn.NumItemsAccumulated));
+    surfaces.DrawTarget.PrintAt(x, surfaces.frmMap.Height - 1000 + 50,
+                                QStringLiteral("No. of Items =%1").arg(varn.NumItemsAccumulated));
 }
 
 void plotBarLegend(const VarnModule& varn, int k, int row, MapSurfaces surfaces)
@@ -81,11 +68,11 @@ void plotBarLegend(const VarnModule& varn, int k, int row, MapSurfaces surfaces)
     const float cx = static_cast<float>(origin.x()) + Margin;
     const float cy = static_cast<float>(origin.y()) + Margin;
     if (row == 0) {
-        printAt(target, cx + TextIndent, cy, varn.WordformName(k));
+        target.PrintAt(cx + TextIndent, cy, varn.WordformName(k));
     } else {
         const float top = cy + FirstRow + RowStep * static_cast<float>(row - 1);
-        printAt(target, cx, cy, varn.MapCaption);
-        printAt(target, cx + TextIndent, top, varn.WordformName(k));
+        target.PrintAt(cx, cy, varn.MapCaption);
+        target.PrintAt(cx + TextIndent, top, varn.WordformName(k));
         const QRgb outline = useColors(varn, k, target);
         target.FilledBox(cx, top + RowStep / 2, cx + 50, top + RowStep / 2 - 200, outline);
     }
@@ -101,7 +88,7 @@ void plotShareScale(float x, float y, DrawSurface& target)
     for (int quarter = 1; quarter <= 4; ++quarter) {
         const float top = y + RowStep * static_cast<float>(quarter - 1);
         target.Circle(x + 100, top + 120, 25 * static_cast<float>(quarter), target.ForeColor);
-        printAt(target, x + 300, top, QStringLiteral("%1 %").arg(25 * quarter));
+        target.PrintAt(x + 300, top, QStringLiteral("%1 %").arg(25 * quarter));
     }
 }
 
@@ -117,12 +104,12 @@ void plotCircleLegend(const VarnModule& varn, int k, int row, MapSurfaces surfac
     const float cx = static_cast<float>(origin.x()) + Margin;
     const float cy = static_cast<float>(origin.y()) + Margin;
     if (row != 0) {
-        printAt(target, cx, cy, varn.MapCaption);
+        target.PrintAt(cx, cy, varn.MapCaption);
     }
     const int place = row == 0 ? 1 : row;
     const float top = cy + FirstRow + RowStep * static_cast<float>(place - 1);
     target.Circle(cx + 100, top + 120, 100, useColors(varn, k, target));
-    printAt(target, cx + TextIndent, top, varn.WordformName(k));
+    target.PrintAt(cx + TextIndent, top, varn.WordformName(k));
     const int rows = row == 0 ? 1 : varn.NumWordforms;
     if (row <= 1) {
         plotShareScale(cx, cy + FirstRow + RowStep * (static_cast<float>(rows) + 0.5F), target);

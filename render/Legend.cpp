@@ -11,12 +11,6 @@ namespace {
 
 constexpr float Margin = MapGeometry::Margin;
 
-/// Where the caption block starts, in twips.
-QPointF captionOrigin(const VarnModule& varn)
-{
-    return {varn.Scale * varn.HanreiX, varn.Scale * static_cast<double>(varn.HanreiY)};
-}
-
 int rowStep(const MapFont& font)
 {
     return std::max((font.MapFontSize + 2) * 20, 300);
@@ -55,6 +49,11 @@ private:
 
 } // namespace
 
+QPointF captionOrigin(const VarnModule& varn)
+{
+    return {varn.Scale * varn.HanreiX, varn.Scale * static_cast<double>(varn.HanreiY)};
+}
+
 void ClsHanrei(const VarnModule& varn, DrawSurface& target, const QString& title)
 {
     const QPointF origin = captionOrigin(varn);
@@ -78,9 +77,7 @@ void PlotHanrei(VarnModule& varn, MapSurfaces surfaces)
     const auto y0 = static_cast<float>(origin.y());
 
     ClsHanrei(varn, target, varn.Hanrei);
-    target.CurrentX = x0 + Margin;
-    target.CurrentY = y0 + Margin;
-    target.Print(varn.Hanrei);
+    target.PrintAt(x0 + Margin, y0 + Margin, varn.Hanrei);
 
     SymbolShapes shapes(varn, varn, surfaces);
     PhoneticText phonetic(varn, varn, varn, varn.Pictures, surfaces);

@@ -7,5 +7,8 @@
 /// not as high as two rows.
 void PlotHanrei(VarnModule& varn, MapSurfaces surfaces);
 
+/// Where the caption block starts on the drawing, in twips.
+QPointF captionOrigin(const VarnModule& varn);
+
 /// Paints the title line of the caption block white, as far as `title` and the place name there reach.
 void ClsHanrei(const VarnModule& varn, DrawSurface& target, const QString& title);

@@ -49,9 +49,7 @@ void PlotSymbol(VarnModule& varn, int page, MapSurfaces surfaces)
     float x = x0;
     float y = y0;
     for (int number = first; number <= last; ++number) {
-        target.CurrentX = x - 200;
-        target.CurrentY = y - 300;
-        target.Print(QString::number(number));
+        target.PrintAt(x - 200, y - 300, QString::number(number));
         shapes.DrawHanko(catalogueStyle(number), x, y);
         XmaxYmax(x, y, x0, y0, surfaces.frmMap.Width, surfaces.frmMap.Height, cellWidth, cellHeight);
     }

@@ -2,6 +2,18 @@
 
 #include <algorithm>
 
+HankoStyle readHankoStyle(SequentialReader& file)
+{
+    HankoStyle hanko;
+    hanko.HankoNo = file.readInteger();
+    hanko.LineColor = file.readInteger();
+    hanko.PaintColor = file.readInteger();
+    hanko.PaintOn = file.readInteger();
+    hanko.SymbolSize = file.readInteger();
+    hanko.LineThick = file.readInteger();
+    return hanko;
+}
+
 SymbolSet readSymbolSet(SequentialReader& file)
 {
     SymbolSet set;
@@ -10,13 +22,7 @@ SymbolSet readSymbolSet(SequentialReader& file)
     for (int k = 1; k <= set.NHanrei; ++k) {
         set.HankoWord(k) = file.readString();
         set.HankoCaption(k) = file.readString();
-        HankoStyle& hanko = set.Hanko(k);
-        hanko.HankoNo = file.readInteger();
-        hanko.LineColor = file.readInteger();
-        hanko.PaintColor = file.readInteger();
-        hanko.PaintOn = file.readInteger();
-        hanko.SymbolSize = file.readInteger();
-        hanko.LineThick = file.readInteger();
+        set.Hanko(k) = readHankoStyle(file);
     }
     return set;
 }

@@ -4,6 +4,9 @@
 #include "shell/Folders.h"
 #include "symbols/SymbolSet.h"
 
+/// The six numbers of a symbol, in the order of all files that hold them.
+HankoStyle readHankoStyle(SequentialReader& file);
+
 /// Reads a `.han` file: comment, count, then for each record the kind with its caption and, a line each, the
 /// symbol's six numbers. Raises subscript out of range beyond 100 records, and the errors of a short or
 /// malformed file.
