@@ -39,15 +39,18 @@ QSizeF StatisticsPages::overviewArea()
 QSizeF StatisticsPages::tableArea(int items)
 {
     constexpr float WidthOfLines = 7000;
-    const auto columns = static_cast<float>(items / LevelsOfColumn + 1);
-    return {std::max(WidthOfLines, columns * ColumnStep), DistributionY + LevelsOfColumn * RowStep};
+    const int columns = items / LevelsOfColumn + 1;
+    return {std::max(WidthOfLines, static_cast<float>(columns) * ColumnStep),
+            DistributionY + LevelsOfColumn * RowStep};
 }
 
 void StatisticsPages::DisplayStats(int k)
 {
     const int place = (k - 1) % BlocksOfOverview;
-    m_target.CurrentX = BlockWidth * static_cast<float>(place / BlocksOfColumn);
-    m_target.CurrentY = BlockHeight * static_cast<float>(place % BlocksOfColumn);
+    const int column = place / BlocksOfColumn;
+    const int row = place % BlocksOfColumn;
+    m_target.CurrentX = BlockWidth * static_cast<float>(column);
+    m_target.CurrentY = BlockHeight * static_cast<float>(row);
     DisplayStatsOne(k);
 }
 

@@ -8,6 +8,7 @@
 #include "shell/VarnModule.h"
 #include "ui_frmCalExec.h"
 
+#include <QApplication>
 #include <QLabel>
 #include <QProgressDialog>
 #include <QScrollBar>
@@ -18,7 +19,8 @@ namespace {
 
 const QString FormTitle = QStringLiteral("Execution of Cumulative Analysis");
 const QString AnalysisTitle = QStringLiteral("Analysis of Linguistic Data.");
-constexpr float ListLineHeight = 240;
+const QString Separator = QStringLiteral("    |    ");
+constexpr double ListLineHeight = 240;
 
 QString nameOfItem(int k, const VarnModule& varn)
 {
@@ -116,16 +118,17 @@ QString frmCalExec::status() const
         parts
             << nameOfItem(k, m_varn)
             << QStringLiteral("Page %1 of %2").arg(m_page).arg(CountPages(m_varn, m_varn.NLocality).count());
-    } else if (m_shown == Shown::StatisticsOfOne) {
+    }
+    if (m_shown == Shown::StatisticsOfOne) {
         parts << nameOfItem(k, m_varn)
               << QStringLiteral("Columns: count, localities with at least that, with exactly that");
     }
     if (m_shown == Shown::StatisticsOfOne || m_shown == Shown::StatisticsOfAll) {
-        parts << QStringLiteral("Statistics of %1 items%2")
-                     .arg(m_varn.StatsItems)
-                     .arg(areCurrent(m_varn, m_varn, m_varn.NLocality)
-                              ? QString()
-                              : QStringLiteral(", not of these counts"));
+        parts << QStringLiteral("Statistics of %1 items").arg(m_varn.StatsItems);
+        if (!areCurrent(m_varn, m_varn, m_varn.NLocality)) {
+            parts << QStringLiteral("The counts are others now");
+        }
+        return parts.join(Separator);
     }
     parts << (m_varn.NumWordforms == 0 ? QStringLiteral("No cumulative data: open it in Accumulate Data")
                                        : QStringLiteral("Counts of %1 word forms over %2 items")
@@ -133,7 +136,7 @@ QString frmCalExec::status() const
                                              .arg(m_varn.NumItemsAccumulated));
     parts << (m_varn.ItemFileName.isEmpty() ? QStringLiteral("No linguistic file loaded")
                                             : QStringLiteral("Item: ") + m_varn.ItemFileName);
-    return parts.join(QStringLiteral("    |    "));
+    return parts.join(Separator);
 }
 
 // The pages
@@ -167,7 +170,8 @@ void frmCalExec::draw()
     } else if (m_shown == Shown::StatisticsOfAll && m_varn.StatsWordforms > 0) {
         drawStatisticsOfAll();
     } else if (m_shown == Shown::Uncounted) {
-        clearPaper({CountPages::area().width(), ListLineHeight * static_cast<float>(m_uncounted.size())});
+        const double height = ListLineHeight * static_cast<double>(m_uncounted.size());
+        clearPaper({CountPages::area().width(), std::max(CountPages::area().height(), height)});
         m_paper.CurrentY = 0;
         for (const QString& line : m_uncounted) {
             m_paper.CurrentX = 0;
@@ -248,14 +252,15 @@ FolderAccumulation frmCalExec::accumulateFolderOf(const QString& folder)
     progress.setWindowModality(Qt::ApplicationModal);
     progress.setMinimumDuration(0);
     progress.setMinimumWidth(360);
-    return accumulateFolder(
-        m_varn, folder, m_varn.NLocality, m_varn, [&progress](int done, int items, const QString& name) {
-            progress.setMaximum(items);
-            progress.setLabelText(
-                QStringLiteral("%1 (%2 of %3)").arg(name, QString::number(done + 1), QString::number(items)));
-            progress.setValue(done);
-            return !progress.wasCanceled();
-        });
+    const auto mayProceed = [&progress](int done, int items, const QString& name) {
+        progress.setMaximum(items);
+        progress.setLabelText(
+            QStringLiteral("%1 (%2 of %3)").arg(name, QString::number(done + 1), QString::number(items)));
+        progress.setValue(done);
+        QApplication::processEvents(); // a click on Stop
+        return !progress.wasCanceled();
+    };
+    return accumulateFolder(m_varn, folder, m_varn.NLocality, m_varn, mayProceed);
 }
 
 void frmCalExec::reportFolder(const FolderAccumulation& done)

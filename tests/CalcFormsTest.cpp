@@ -1,0 +1,428 @@
+#include "analysis/CumulativeFile.h"
+#include "analysis/frmCalExec.h"
+#include "analysis/frmCalc.h"
+#include "tests/ScriptedDialogs.h"
+#include "tests/TestDrive.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QComboBox>
+#include <QDir>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QProgressDialog>
+#include <QPushButton>
+#include <QTimer>
+
+namespace {
+
+using Shown = ScriptedDialogs::Shown;
+
+const QString Analysis = QStringLiteral("Analysis of Linguistic Data.");
+
+/// Both forms of cumulative analysis on the map of a `TestSurvey`, which has an item and the files of a table
+/// of two word forms.
+class CalcForms : public testing::Test
+{
+protected:
+    CalcForms()
+    {
+        survey.write(ling("rain.dbs"),
+                     "3,\"\",\"Rain\",\"\"\r\n2\r\n\"ame\"\r\n\"uyu\"\r\n1\r\n\"a mu\"\r\n1\r\n\"uyu\"\r\n");
+        survey.write(ling("all.ttl"),
+                     "2,5,\"the caption\"\r\n\"one\"\r\n12,9\r\n\"kept\",3\r\n\"two\"\r\n0,15\r\n2.5,0\r\n"
+                     "1,2\r\n3,2\r\n5,4\r\n");
+        survey.write(ling("all.sum"), "2\r\n2,\"a\",\"am\"\r\n1,\"u\"\r\n");
+        calc.Form_Load();
+        exec.Form_Load();
+    }
+
+    static QString ling(const char* file)
+    {
+        return QStringLiteral("C:\\Varn62E\\Varn\\VarnData\\Test\\Ling\\") + QLatin1String(file);
+    }
+
+    template <typename Control>
+    Control& control(const char* name)
+    {
+        return *calc.findChild<Control*>(QLatin1String(name));
+    }
+    QString text(const char* name) { return control<QLineEdit>(name).text(); }
+    void type(const char* name, const char* text) { control<QLineEdit>(name).setText(QLatin1String(text)); }
+    void click(const char* name)
+    {
+        auto& button = control<QPushButton>(name);
+        ASSERT_TRUE(button.isEnabled()) << name;
+        button.click();
+    }
+    void set(const char* entry) { control<QAction>(entry).trigger(); }
+    void execute(const char* entry)
+    {
+        auto* action = exec.findChild<QAction*>(QLatin1String(entry));
+        ASSERT_TRUE(action->isEnabled()) << entry;
+        action->trigger();
+    }
+    void open(const char* entry, const char* file)
+    {
+        dialogs.files = {survey.drive().hostPath(ling(file))};
+        set(entry);
+    }
+    void openAll()
+    {
+        open("mnuFileOpen", "all.ttl");
+        open("mnuSetFileLoad", "all.sum");
+        open("mnuGengoOpen", "rain.dbs");
+        dialogs.shown.clear();
+        calc.Form_Load();
+        exec.Form_Load();
+    }
+    QStringList listed(const char* list)
+    {
+        QStringList entries;
+        for (int row = 0; row < control<QListWidget>(list).count(); ++row) {
+            entries << control<QListWidget>(list).item(row)->text();
+        }
+        return entries;
+    }
+    /// The last message; its title is not part of what is fixed.
+    QString lastMessage() { return dialogs.shown.empty() ? QString() : dialogs.shown.back().text; }
+    const Drawing& drawing() const { return exec.surface().drawing(); }
+    bool header(const char* text) const { return wasPrinted(drawing(), QLatin1String(text)); }
+
+    TestSurvey survey;
+    VarnModule& varn = survey.varn;
+    ScriptedDialogs dialogs;
+    frmCalc calc{varn, dialogs};
+    frmCalExec exec{varn, dialogs};
+};
+
+/// The same with table, strings and item loaded.
+class LoadedCalcForms : public CalcForms
+{
+protected:
+    LoadedCalcForms() { openAll(); }
+};
+
+} // namespace
+
+TEST_F(CalcForms, ANewTableIsSetUpAndSavedAndReadAgain)
+{
+    for (const char* number : {"", "none", "0"}) {
+        type("txtTotalNumber", number);
+        click("cmdTotalNumber");
+        EXPECT_EQ(lastMessage(), QStringLiteral("No. of Specify Data is inadequate.")) << number;
+        dialogs.shown.clear();
+    }
+    type("txtTotalNumber", "2");
+    click("cmdTotalNumber");
+    type("txtTotalNumber", "11");
+    click("cmdTotalNumber");
+    ASSERT_EQ(dialogs.errors.size(), 1U);
+    EXPECT_EQ(dialogs.errors[0].title, QStringLiteral("Run-time error '9': Subscript out of range"));
+    EXPECT_EQ(varn.NumWordforms, 2);
+
+    type("txtTotalName", "one");
+    control<QComboBox>("cboForeColor").setCurrentIndex(12);
+    control<QComboBox>("cboFillColor").setCurrentIndex(9);
+    click("cmdSet");
+    click("cmdNext");
+    type("txtTotalName", "two");
+    click("cmdSet");
+    EXPECT_EQ(listed("lstTotal"), QStringList({QStringLiteral("1 one"), QStringLiteral("2 two")}));
+    EXPECT_FALSE(control<QPushButton>("cmdNext").isEnabled());
+    EXPECT_EQ(dialogs.shown, std::vector<Shown>()) << "registered fields are left without a question";
+
+    type("txtExplain", "a caption");
+    set("mnuFileSave");
+    EXPECT_EQ(lastMessage(), QStringLiteral("Input Name of Aalysis File."));
+    type("txtTotalFileName", "..\\out");
+    click("cmdTotalFileSave");
+    EXPECT_EQ(dialogs.errors.size(), 2U) << "the name of no file";
+    type("txtTotalFileName", "new.ttl");
+    type("txtTotalItems", "7");
+    click("cmdSetInput");
+    EXPECT_TRUE(calc.isWindowModified());
+    click("cmdTotalFileSave");
+    EXPECT_FALSE(calc.isWindowModified());
+    EXPECT_EQ(
+        survey.read(ling("new.ttl")),
+        "2,7,\"a caption\"\r\n\"one\"\r\n12,9\r\n0,0\r\n\"two\"\r\n0,0\r\n0,0\r\n0,0\r\n0,0\r\n0,0\r\n");
+
+    type("txtTotalFileName", "all");
+    dialogs.yesNo = {false};
+    set("mnuFileSave");
+    EXPECT_TRUE(survey.read(ling("all.ttl")).startsWith("2,5,")) << "another file is kept";
+}
+
+TEST_F(LoadedCalcForms, TablesStringsAndItemAreShown)
+{
+    EXPECT_EQ(text("txtTotalNumber"), QStringLiteral("2"));
+    EXPECT_EQ(text("txtTotalItems"), QStringLiteral("5"));
+    EXPECT_EQ(text("txtExplain"), QStringLiteral("the caption"));
+    EXPECT_EQ(text("txtTotalFileName"), QStringLiteral("all"));
+    EXPECT_EQ(text("txtTotalName"), QStringLiteral("one"));
+    EXPECT_EQ(control<QComboBox>("cboForeColor").currentText(), QStringLiteral("L.Red"));
+    EXPECT_EQ(listed("LstWord"), QStringList({QStringLiteral("a"), QStringLiteral("am")}));
+    EXPECT_EQ(text("txtWordFileName"), QStringLiteral("rain.dbs"));
+    EXPECT_EQ(listed("lstDisplay"),
+              QStringList({QStringLiteral("1 a mu"), QStringLiteral("2 ame"), QStringLiteral("3 uyu")}));
+    EXPECT_FALSE(calc.isWindowModified());
+
+    control<QListWidget>("lstTotal").setCurrentRow(1);
+    QApplication::processEvents();
+    EXPECT_EQ(text("txtTotalName"), QStringLiteral("two"));
+    EXPECT_EQ(listed("LstWord"), QStringList(QStringLiteral("u")));
+
+    survey.write(ling("bad.ttl"), "2,5,\"\"\r\n\"one\"\r\n");
+    open("mnuFileOpen", "bad.ttl");
+    EXPECT_EQ(dialogs.errors.size(), 1U);
+    EXPECT_EQ(text("txtTotalName"), QStringLiteral("two")) << "the table is as it was";
+    survey.write(ling("empty.dbs"), "3,\"\",\"\",\"\"\r\n0\r\n0\r\n0\r\n");
+    open("mnuGengoOpen", "empty.dbs");
+    EXPECT_EQ(dialogs.shown.back(),
+              (Shown{QStringLiteral("Specify Linguistic Data."), QStringLiteral("Input Wordform Data.")}));
+    EXPECT_EQ(listed("lstDisplay"), QStringList());
+}
+
+TEST_F(LoadedCalcForms, StringsAreEditedFromTheKindsAndSaved)
+{
+    click("cmdSetWord");
+    EXPECT_EQ(text("txtInputWord"), QStringLiteral("a mu")) << "the text after the first blank";
+    type("txtInputWord", "mu");
+    click("cmdWordSelect");
+    click("cmdWordBefore");
+    EXPECT_EQ(text("txtInputWord"), QStringLiteral("am"));
+    type("txtInputWord", "AM");
+    click("cmdWordRewrite");
+    EXPECT_EQ(listed("LstWord"),
+              QStringList({QStringLiteral("a"), QStringLiteral("AM"), QStringLiteral("mu")}));
+    type("txtInputWord", "");
+    dialogs.yesNo = {false};
+    click("cmdWordRewrite");
+    EXPECT_EQ(listed("LstWord")[1], QStringLiteral("AM")) << "an empty string is asked about";
+
+    type("txtSetFileName", " ");
+    click("cmdWordSave");
+    EXPECT_EQ(lastMessage(), QStringLiteral("Input Name of Specify Characters."));
+    type("txtSetFileName", "mine");
+    click("cmdWordSave");
+    EXPECT_EQ(survey.read(ling("mine.sum")), "2\r\n3,\"a\",\"AM\",\"mu\"\r\n1,\"u\"\r\n");
+    EXPECT_FALSE(calc.isWindowModified());
+    click("cmdWordReset");
+    EXPECT_EQ(varn.NumSpecifyChars(1), 0);
+    const std::size_t before = dialogs.shown.size();
+    click("cmdWordSave");
+    EXPECT_EQ(survey.read(ling("mine.sum")), "2\r\n1,\"u\"\r\n");
+    ASSERT_EQ(dialogs.shown.size(), before + 1);
+    EXPECT_TRUE(lastMessage().contains(QStringLiteral("1 one (0 strings)")));
+}
+
+TEST_F(LoadedCalcForms, OnlyUnsavedWorkIsAskedAbout)
+{
+    EXPECT_TRUE(calc.close());
+    EXPECT_EQ(dialogs.shown, std::vector<Shown>());
+    type("txtTotalName", "changed");
+    dialogs.yesNo = {false};
+    click("cmdNext");
+    EXPECT_EQ(text("txtTotalName"), QStringLiteral("changed"));
+    click("cmdSet");
+    click("cmdWordReset");
+    dialogs.yesNo = {false};
+    EXPECT_FALSE(calc.close());
+    dialogs.yesNo = {true, false};
+    EXPECT_FALSE(calc.close()) << "the strings are asked about by themselves";
+    dialogs.yesNo = {false, false};
+    dialogs.files.clear();
+    set("mnuFileOpen");
+    set("mnuSetFileLoad");
+    EXPECT_EQ(varn.WordformName(1), QStringLiteral("changed"));
+    dialogs.yesNo = {true};
+    open("mnuFileOpen", "all.ttl");
+    EXPECT_EQ(text("txtTotalName"), QStringLiteral("one"));
+
+    survey.write(ling("three.sum"), "3\r\n1,\"a\"\r\n1,\"b\"\r\n1,\"c\"\r\n");
+    dialogs.yesNo = {true, false};
+    open("mnuSetFileLoad", "three.sum");
+    EXPECT_EQ(varn.NumWordforms, 2) << "strings of other word forms are not taken unasked";
+}
+
+TEST_F(LoadedCalcForms, InitializingEmptiesTheCountsAndTheFile)
+{
+    dialogs.okCancel = {false, true, true};
+    set("mnuInitialize");
+    EXPECT_EQ(dialogs.shown,
+              std::vector<Shown>({{QStringLiteral("Initialize Analysis File. All Data will be Lost. O.K.?"),
+                                   QStringLiteral("Initialize of Analysis File.")}}));
+    EXPECT_EQ(varn.NumItemsAccumulated, 5);
+    set("mnuInitialize");
+    EXPECT_EQ(dialogs.shown.back(), (Shown{QStringLiteral("Analysis File is initialized."),
+                                           QStringLiteral("Initialize of Analysis File.")}));
+    EXPECT_EQ(text("txtTotalItems"), QStringLiteral("0"));
+    EXPECT_EQ(survey.read(ling("all.ttl")),
+              "2,0,\"the caption\"\r\n\"one\"\r\n12,9\r\n\"kept\",3\r\n\"two\"\r\n0,15\r\n2.5,0\r\n"
+              "0,0\r\n0,0\r\n0,0\r\n");
+    EXPECT_EQ(varn.NumSpecifyChars(1), 2);
+    type("txtTotalFileName", "");
+    set("mnuInitialize");
+    EXPECT_EQ(lastMessage(), QStringLiteral("Input Name of Aalysis File."));
+}
+
+TEST_F(CalcForms, WithoutAnItemOrATableNothingIsCounted)
+{
+    execute("mnuExecCalc");
+    EXPECT_EQ(dialogs.shown.back(),
+              (Shown{QStringLiteral("Specify Linguistic Data."), QStringLiteral("Input Wordform Data.")}));
+    open("mnuGengoOpen", "rain.dbs");
+    execute("mnuExecCalc");
+    EXPECT_EQ(lastMessage(), QStringLiteral("No. of Specify Data is inadequate."));
+    execute("mnuExecSave");
+    EXPECT_EQ(lastMessage(), QStringLiteral("Input Name of Aalysis File."));
+    open("mnuFileOpen", "all.ttl");
+    dialogs.yesNo = {false};
+    execute("mnuExecCalc");
+    EXPECT_TRUE(lastMessage().contains(QStringLiteral("No word form has an identifying string")));
+    EXPECT_EQ(varn.NumItemsAccumulated, 5);
+}
+
+TEST_F(LoadedCalcForms, ExecutingCountsTheItemAndSavesTheTable)
+{
+    execute("mnuDisplay");
+    execute("mnuExecCalc");
+    EXPECT_EQ(dialogs.shown, std::vector<Shown>({{QStringLiteral("Analyse of Linguistic Data File is "
+                                                                 "completed."),
+                                                  Analysis}}));
+    EXPECT_TRUE(survey.read(ling("all.ttl")).startsWith("2,6,"));
+    EXPECT_TRUE(survey.read(ling("all.ttl")).endsWith("\r\n3,2\r\n4,3\r\n5,5\r\n"));
+    EXPECT_TRUE(header("Item No.6  Characteristis of Words 1 one")) << "the page shows the new counts";
+    EXPECT_TRUE(wasPrinted(drawing(), QStringLiteral("4")));
+
+    varn.Counts(1, 2) = 32767;
+    execute("mnuExecSave");
+    EXPECT_EQ(dialogs.shown.back(), (Shown{QStringLiteral("Linguistic Data File is saved."),
+                                           QStringLiteral("Save of Linguistic Data")}));
+    const QByteArray before = survey.read(ling("all.ttl"));
+    execute("mnuExecCalc");
+    ASSERT_EQ(dialogs.errors.size(), 1U);
+    EXPECT_EQ(dialogs.errors[0].title, QStringLiteral("Run-time error '6': Overflow"));
+    EXPECT_TRUE(dialogs.errors[0].text.contains(QStringLiteral("locality 2")));
+    EXPECT_EQ(survey.read(ling("all.ttl")), before);
+
+    varn.Counts(1, 2) = 4;
+    varn.TotalFileName = QStringLiteral("blocked");
+    dialogs.yesNo = {true};
+    QDir().mkpath(survey.drive().hostPath(ling("blocked.ttl\\in the way")));
+    execute("mnuExecCalc");
+    EXPECT_EQ(dialogs.errors.size(), 2U);
+    EXPECT_EQ(varn.NumItemsAccumulated, 6) << "what could not be saved is not counted";
+    EXPECT_EQ(varn.Counts(1, 1), 3);
+}
+
+TEST_F(LoadedCalcForms, AllItemsOfAFolderAreCountedUntilStop)
+{
+    survey.write(ling("snow.dbs"), "1,\"\",\"\",\"\"\r\n1\r\n\"am\"\r\n");
+    survey.write(ling("bad.dbs"), "no item");
+    const QString folder = survey.drive().hostPath(ling("rain.dbs")).chopped(9);
+    dialogs.folders = {std::nullopt, folder, folder};
+    execute("mnuExecAll");
+    EXPECT_EQ(varn.NumItemsAccumulated, 5);
+    execute("mnuExecAll");
+    EXPECT_EQ(dialogs.shown.back().title, Analysis);
+    EXPECT_TRUE(lastMessage().startsWith(QStringLiteral("Analyse of Linguistic Data File is completed.\n"
+                                                        "2 of 3 items were counted.")));
+    EXPECT_TRUE(lastMessage().endsWith(QStringLiteral("\nbad.dbs")));
+    EXPECT_TRUE(header("bad.dbs:")) << "why is told on the page";
+    EXPECT_TRUE(survey.read(ling("all.ttl")).startsWith("2,7,"));
+    EXPECT_EQ(varn.Counts(1, 1), 1 + 2 + 2);
+
+    QTimer::singleShot(0, &exec,
+                       [this] { exec.findChild<QProgressDialog*>()->findChild<QPushButton*>()->click(); });
+    execute("mnuExecAll");
+    EXPECT_TRUE(lastMessage().contains(QStringLiteral("0 of 3 items were counted.")));
+    EXPECT_EQ(varn.NumItemsAccumulated, 7);
+}
+
+TEST_F(LoadedCalcForms, PagesAndItemsGoRound)
+{
+    varn.NLocality = 320;
+    execute("mnuDisplay");
+    const std::pair<const char*, const char*> steps[] = {
+        {"mnuDisplayPrevious", "Item No.5  Characteristis of Words 1 one"},
+        {"mnuDisplayNext", "Item No.5  Characteristis of Words 1 one"},
+        {"mnuItemPrevious", "Item No.5  Characteristis of Words 2 two"},
+        {"mnuItemNext", "Item No.5  Characteristis of Words 1 one"}};
+    const bool firstPage[] = {false, true, true, true};
+    int step = 0;
+    for (const auto& [entry, text] : steps) {
+        execute(entry);
+        EXPECT_TRUE(header(text)) << entry;
+        EXPECT_EQ(wasPrinted(drawing(), QStringLiteral("160")), firstPage[step++]) << entry;
+    }
+    execute("mnuDisplayNext");
+    EXPECT_TRUE(wasPrinted(drawing(), QStringLiteral("320")));
+    execute("mnuItemNext");
+    EXPECT_TRUE(wasPrinted(drawing(), QStringLiteral("160"))) << "another item begins with page 1";
+    EXPECT_EQ(varn.CurrentWordform, 2);
+    calc.Form_Load();
+    EXPECT_EQ(text("txtTotalName"), QStringLiteral("two")) << "the set-up form shows the same word form";
+}
+
+TEST_F(LoadedCalcForms, StatisticsAreShownSavedAndOpened)
+{
+    EXPECT_FALSE(exec.findChild<QAction*>(QStringLiteral("mnuStatsSave"))->isEnabled());
+    execute("mnuStatsExec");
+    EXPECT_TRUE(header("Kt=1"));
+    EXPECT_TRUE(header("Average=3"));
+    execute("mnuStatsDisplayAll");
+    EXPECT_TRUE(header("Kt=2 two"));
+    execute("mnuStatsSave");
+    const QByteArray file = survey.read(ling("all.stt"));
+    EXPECT_TRUE(file.startsWith("2,5\r\n1\r\n4,1,3,2\r\n3,0\r\n3,1\r\n"));
+    EXPECT_EQ(varn.StatsFileName, ling("all.stt"));
+
+    varn.TotalFileName.clear();
+    execute("mnuStatsSave");
+    EXPECT_EQ(lastMessage(), QStringLiteral("Input Name of Aalysis File."));
+    EXPECT_EQ(survey.read(ling("all.stt")), file);
+
+    varn.Counts(1, 2) = 0;
+    varn.Counts(1, 3) = 0;
+    execute("mnuStatsExec");
+    ASSERT_EQ(dialogs.errors.size(), 1U);
+    EXPECT_EQ(dialogs.errors[0].title, QStringLiteral("Run-time error '11': Division by zero"));
+    EXPECT_FALSE(exec.findChild<QAction*>(QStringLiteral("mnuStatsSave"))->isEnabled())
+        << "they are not of these counts";
+
+    survey.write(ling("other.stt"), "1,1\r\n1\r\n1,1,1.5,0\r\n2,0\r\n2,2\r\n");
+    dialogs.files = {survey.drive().hostPath(ling("other.stt"))};
+    execute("mnuStatsOpen");
+    EXPECT_TRUE(header("Average=1.5"));
+    EXPECT_TRUE(lastMessage().startsWith(QStringLiteral("The statistics are of 1 word forms and 1 items")));
+    survey.write(ling("many.stt"), "11,1\r\n");
+    dialogs.files = {survey.drive().hostPath(ling("many.stt"))};
+    execute("mnuStatsOpen");
+    EXPECT_EQ(dialogs.errors.back().title, QStringLiteral("Run-time error '9': Subscript out of range"));
+    EXPECT_TRUE(header("Average=1.5"));
+}
+
+TEST_F(CalcForms, EntriesLeadToTheOtherForms)
+{
+    QStringList left;
+    const auto note = [&left](const char* where) { return [&left, where] { left << QLatin1String(where); }; };
+    QObject::connect(&calc, &frmCalc::toMain, &calc, note("main"));
+    QObject::connect(&calc, &frmCalc::toExecute, &calc, note("execute"));
+    QObject::connect(&calc, &frmCalc::toDrawMap, &calc, note("map"));
+    QObject::connect(&calc, &frmCalc::toContrast, &calc, note("contrast"));
+    QObject::connect(&exec, &frmCalExec::toMain, &exec, note("main"));
+    QObject::connect(&exec, &frmCalExec::toAccumulateData, &exec, note("set-up"));
+    QObject::connect(&exec, &frmCalExec::toDrawMap, &exec, note("map"));
+    QObject::connect(&exec, &frmCalExec::toSymbols, &exec, note("symbols"));
+    QObject::connect(&exec, &frmCalExec::toContrast, &exec, note("contrast"));
+    for (const char* entry : {"mnuFileReturn", "mnuTotalForm", "mnuMap", "mnuRankExe"}) {
+        set(entry);
+    }
+    for (const char* entry : {"mnuRankReturn", "mnuReturn", "mnuExecMap", "mnuStatsSymbols", "mnuRankData"}) {
+        execute(entry);
+    }
+    EXPECT_EQ(left.join(QLatin1Char(' ')),
+              QStringLiteral("main execute map contrast main set-up map symbols contrast"));
+}

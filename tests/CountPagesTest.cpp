@@ -1,0 +1,287 @@
+#include "analysis/CountPages.h"
+
+#include "analysis/AccumulateFolder.h"
+#include "analysis/Accumulation.h"
+#include "analysis/CumulativeFile.h"
+#include "analysis/SpecifyCharsEditor.h"
+#include "analysis/StatisticsPages.h"
+#include "lingdata/ItemLoader.h"
+#include "tests/TestDrive.h"
+
+#include <QDir>
+
+#include <initializer_list>
+
+namespace {
+
+const QString Folder = QStringLiteral("C:\\Varn62E\\Varn\\VarnData\\Test\\Ling");
+
+/// A table of word forms "w1", "w2", ... and the statistics of their counts.
+struct CountedSurvey
+{
+    CumulativeTable table;
+    Statistics statistics;
+    int localities = 0;
+
+    CountedSurvey(int wordforms, int items, std::initializer_list<int> counts)
+    {
+        table.NumWordforms = wordforms;
+        table.NumItemsAccumulated = items;
+        for (const int count : counts) {
+            ++localities;
+            for (int k = 1; k <= wordforms; ++k) {
+                table.Counts(k, localities) = static_cast<qint16>(count);
+            }
+        }
+        for (int k = 1; k <= wordforms; ++k) {
+            table.WordformName(k) = QStringLiteral("w%1").arg(k);
+        }
+        Stats(table, localities, statistics);
+    }
+};
+
+/// A survey with the table "all" of one word form that is known by "a", and three items; the second of them
+/// is no item.
+class ItemFolder : public testing::Test
+{
+protected:
+    ItemFolder()
+    {
+        survey.write(Folder + QStringLiteral("\\3.dbs"), item("\"la\"", "\"a\""));
+        survey.write(Folder + QStringLiteral("\\1.DBS"), item("\"a\"", "\"b\""));
+        survey.write(Folder + QStringLiteral("\\2.dbs"), "3,\"\",\"cut\",\"\"\r\n1\r\n\"a\"\r\n");
+        survey.write(Folder + QStringLiteral("\\4.txt"), item("\"a\"", "\"a\""));
+        varn.NumWordforms = 1;
+        varn.NumSpecifyChars(1) = 1;
+        varn.SpecifyChars(1, 1) = QStringLiteral("a");
+        varn.TotalFileName = QStringLiteral("all");
+    }
+
+    static QByteArray item(const QByteArray& first, const QByteArray& second)
+    {
+        return "2,\"\",\"\",\"\"\r\n1\r\n" + first + "\r\n1\r\n" + second + "\r\n";
+    }
+
+    QByteArray saved() { return survey.read(Folder + QStringLiteral("\\all.ttl")); }
+
+    TestSurvey survey;
+    VarnModule& varn = survey.varn;
+};
+
+} // namespace
+
+TEST(CountPages, EachPageShowsItsLocalitiesInTenColumns)
+{
+    CumulativeTable table;
+    table.NumItemsAccumulated = 7;
+    table.WordformName(2) = QStringLiteral("two");
+    for (int j = 1; j <= 1000; ++j) {
+        table.Counts(2, j) = static_cast<qint16>(2000 + j);
+    }
+    const CountPages pages(table, 321);
+    EXPECT_EQ(pages.count(), 3);
+    EXPECT_EQ(pages.next(3), 1);
+    EXPECT_EQ(pages.previous(1), 3);
+    DrawSurface surface;
+    pages.DisplaySum(2, 2, surface);
+    const Drawing& drawing = surface.drawing();
+    EXPECT_EQ(printedAt(drawing, QStringLiteral("Item No.7  Characteristis of Words 2 two")), QPointF(0, 0));
+    const std::pair<int, QPointF> places[] = {
+        {161, {0, 600}}, {170, {7200, 600}}, {171, {0, 800}}, {320, {7200, 3600}}};
+    for (const auto& [j, place] : places) {
+        EXPECT_EQ(printedAt(drawing, QString::number(j)), place);
+        EXPECT_EQ(printedAt(drawing, QString::number(2000 + j)).y(), place.y());
+    }
+    EXPECT_EQ(drawing.texts.size(), 1U + 2 * 160);
+
+    pages.DisplaySum(2, 3, surface);
+    EXPECT_EQ(surface.drawing().texts.size(), 3U) << "locality 321 alone";
+    const CountPages full(table, 160);
+    EXPECT_EQ(full.count(), 2);
+    full.DisplaySum(2, 2, surface);
+    EXPECT_EQ(surface.drawing().texts.size(), 1U) << "the page behind a full one is empty";
+}
+
+TEST(StatisticsPages, FiguresStandInTheirPlaces)
+{
+    const CountedSurvey survey(10, 3, {1, 2, 3, 0, 0});
+    DrawSurface surface;
+    StatisticsPages pages(survey.table, survey.statistics, surface);
+    const std::pair<int, QPointF> blocks[] = {
+        {1, {0, 0}}, {3, {0, 3200}}, {4, {2000, 0}}, {9, {4000, 3200}}, {10, {0, 0}}};
+    for (int k = 1; k <= 10; ++k) {
+        pages.DisplayStats(k);
+    }
+    for (const auto& [k, place] : blocks) {
+        EXPECT_EQ(printedAt(surface.drawing(), QStringLiteral("Kt=%1 w%1").arg(k)), place);
+    }
+
+    pages.DisplayStatsTable(4);
+    const Drawing& drawing = surface.drawing();
+    float x = -1;
+    for (const char* text : {"Kt=4", "Median =3", "Mode   =1", "Average=2"}) {
+        const QPointF place = printedAt(drawing, QLatin1String(text));
+        EXPECT_EQ(place.y(), 0) << text;
+        EXPECT_GT(place.x(), x) << text;
+        x = static_cast<float>(place.x());
+    }
+    EXPECT_EQ(printedAt(drawing, QStringLiteral("Standard Deviation Sigma=1")), QPointF(400, 200));
+    EXPECT_EQ(printedAt(drawing, QStringLiteral("Av - Sigma=1")).y(), 200);
+    EXPECT_EQ(printedAt(drawing, QStringLiteral("Av + SIgma=3")).y(), 200);
+    const std::vector<QString> distribution(drawing.texts.end() - 12, drawing.texts.end());
+    std::vector<QString> expected;
+    for (const int number : {0, 5, 2, 1, 3, 1, 2, 2, 1, 3, 1, 1}) {
+        expected.push_back(QString::number(number));
+    }
+    EXPECT_EQ(distribution, expected) << "level, localities with at least that, with exactly that";
+}
+
+TEST(StatisticsPages, ABlockWithALongNameKeepsToItsColumn)
+{
+    CountedSurvey survey(1, 3, {1, 2, 3});
+    survey.table.WordformName(1) = QStringLiteral("voiced fricative of the west");
+    DrawSurface surface;
+    StatisticsPages(survey.table, survey.statistics, surface).DisplayStats(1);
+    for (const TextOperation& line : operationsOf<TextOperation>(surface.drawing())) {
+        const TextFont& font = surface.drawing().fonts[static_cast<std::size_t>(line.font)];
+        const QFontMetricsF metrics(twipFont(font));
+        EXPECT_LT(line.x + metrics.horizontalAdvance(surface.drawing().texts[line.text]), 2000);
+        EXPECT_LT(line.y + metrics.height(), 1600);
+    }
+}
+
+TEST(StatisticsPages, TwentyLevelsMakeAColumn)
+{
+    const CountedSurvey survey(1, 40, {1, 2, 39, 40});
+    DrawSurface surface;
+    StatisticsPages(survey.table, survey.statistics, surface).DisplayStatsTable(1);
+    const std::pair<int, QPointF> places[] = {
+        {19, {0, 4400}}, {20, {1000, 600}}, {39, {1000, 4400}}, {40, {2000, 600}}};
+    for (const auto& [level, place] : places) {
+        EXPECT_EQ(printedAt(surface.drawing(), QString::number(level)), place);
+    }
+}
+
+TEST(SpecifyCharsEditor, StringsAreAddedReplacedAndSteppedThrough)
+{
+    CumulativeData data;
+    setNumWordforms(data, 2);
+    data.CurrentWordform = 2;
+    SpecifyCharsEditor editor(data);
+    editor.start();
+    EXPECT_EQ(editor.current(), 0);
+    EXPECT_EQ(editor.text(), QString());
+    editor.previous();
+    for (const char* text : {"a", "b", "c"}) {
+        editor.add(QLatin1String(text));
+    }
+    EXPECT_EQ(editor.current(), 3);
+    editor.next();
+    EXPECT_EQ(editor.text(), QStringLiteral("c")) << "the last has none behind it";
+    editor.previous();
+    editor.rewrite(QStringLiteral("B"));
+    EXPECT_EQ(editor.strings(), QStringList({QStringLiteral("a"), QStringLiteral("B"), QStringLiteral("c")}));
+    EXPECT_EQ(data.NumSpecifyChars(1), 0);
+    editor.reset();
+    EXPECT_EQ(editor.current(), 0);
+    EXPECT_EQ(data.NumSpecifyChars(2), 0);
+
+    data.NumSpecifyChars(2) = 400;
+    EXPECT_EQ(errorOf([&] { editor.add(QStringLiteral("d")); }).number(), ErrorNumber::SubscriptOutOfRange);
+    EXPECT_EQ(data.NumSpecifyChars(2), 400);
+}
+
+TEST_F(ItemFolder, ItemsAreCountedInTheOrderOfTheirNamesAndTheBadOneIsNamed)
+{
+    QStringList names;
+    std::vector<QByteArray> files;
+    const FolderAccumulation done =
+        accumulateFolder(varn, Folder, 3, varn, [&](int item, int items, const QString& name) {
+            EXPECT_EQ(item, names.size());
+            EXPECT_EQ(items, 3);
+            if (item > 0) {
+                files.push_back(saved());
+            }
+            names << name;
+            return true;
+        });
+    EXPECT_EQ(names,
+              QStringList({QStringLiteral("1.DBS"), QStringLiteral("2.dbs"), QStringLiteral("3.dbs")}));
+    EXPECT_EQ(done.counted, 2);
+    EXPECT_FALSE(done.stopped);
+    ASSERT_EQ(done.uncounted.size(), 1U);
+    EXPECT_EQ(done.uncounted[0].name, QStringLiteral("2.dbs"));
+    EXPECT_TRUE(done.uncounted[0].reason.contains(QStringLiteral("Input past end of file")));
+    const QByteArray ofFirst = "1,1,\"\"\r\n\"\"\r\n0,0\r\n";
+    ASSERT_EQ(files.size(), 2U);
+    EXPECT_TRUE(files[0].startsWith(ofFirst)) << "saved after each item";
+    EXPECT_EQ(files[1], files[0]) << "a bad one adds nothing";
+    EXPECT_TRUE(saved().startsWith("1,2,"));
+    EXPECT_TRUE(saved().endsWith("2\r\n1\r\n0\r\n"));
+
+    CumulativeData alone = varn;
+    clearCounts(3, alone);
+    for (const char* name : {"\\1.DBS", "\\3.dbs"}) {
+        executeItem(varn, readWordData(varn, Folder + QLatin1String(name)), 3, alone);
+    }
+    for (int j = 1; j <= 3; ++j) {
+        EXPECT_EQ(alone.Counts(1, j), varn.Counts(1, j));
+    }
+}
+
+TEST_F(ItemFolder, StoppingKeepsWhatIsCountedAndAnOverflowIsPassedOver)
+{
+    FolderAccumulation done =
+        accumulateFolder(varn, Folder, 3, varn, [](int item, int, const QString&) { return item < 1; });
+    EXPECT_TRUE(done.stopped);
+    EXPECT_EQ(done.counted, 1);
+    EXPECT_EQ(varn.NumItemsAccumulated, 1);
+
+    varn.Counts(1, 2) = 32767;
+    done = accumulateFolder(varn, Folder, 3, varn, [](int, int, const QString&) { return true; });
+    EXPECT_EQ(done.counted, 1) << "1.DBS has no \"a\" at locality 2";
+    ASSERT_EQ(done.uncounted.size(), 2U);
+    EXPECT_TRUE(done.uncounted[1].reason.contains(QStringLiteral("Overflow")));
+    EXPECT_EQ(varn.Counts(1, 1), 2);
+
+    EXPECT_EQ(errorOf([&] {
+                  accumulateFolder(varn, Folder + QStringLiteral("\\gone"), 3, varn,
+                                   [](int, int, const QString&) { return true; });
+              }).number(),
+              ErrorNumber::PathNotFound);
+}
+
+TEST_F(ItemFolder, ASaveThatFailsLeavesTheTableOfTheFile)
+{
+    QDir().mkpath(survey.drive().hostPath(Folder + QStringLiteral("\\all.ttl\\in the way")));
+    const RunTimeError error = errorOf(
+        [&] { accumulateFolder(varn, Folder, 3, varn, [](int, int, const QString&) { return true; }); });
+    EXPECT_TRUE(error.place().path.endsWith(QStringLiteral("all.ttl")));
+    EXPECT_TRUE(error.detail().contains(QStringLiteral("0 of 3 items")));
+    EXPECT_EQ(varn.NumItemsAccumulated, 0);
+    EXPECT_EQ(varn.Counts(1, 1), 0);
+    EXPECT_FALSE(isTableUnsaved(varn, 3));
+}
+
+TEST_F(ItemFolder, UnsavedIsWhatDiffersFromTheFile)
+{
+    EXPECT_FALSE(isTableUnsaved(varn, 3)) << "a number of word forms is nothing to lose";
+    EXPECT_TRUE(areCharsUnsaved(varn));
+    varn.WordformName(1) = QStringLiteral("w");
+    EXPECT_TRUE(isTableUnsaved(varn, 3));
+    SaveTotalFile(survey.drive(), Folder, 3, varn);
+    SaveSetData(survey.drive(), Folder + QStringLiteral("\\all.sum"), varn);
+    EXPECT_FALSE(isTableUnsaved(varn, 3));
+    EXPECT_FALSE(areCharsUnsaved(varn));
+    varn.Counts(1, 3) = 1;
+    varn.SpecifyChars(1, 1) = QStringLiteral("A");
+    EXPECT_TRUE(isTableUnsaved(varn, 3));
+    EXPECT_TRUE(areCharsUnsaved(varn));
+    LoadTotalFile(survey.drive(), Folder + QStringLiteral("\\all.ttl"), 3, varn);
+    LoadSetData(survey.drive(), Folder + QStringLiteral("\\all.sum"), varn);
+    EXPECT_FALSE(isTableUnsaved(varn, 3));
+    EXPECT_FALSE(areCharsUnsaved(varn));
+
+    EXPECT_EQ(errorOf([&] { setNumWordforms(varn, 11); }).number(), ErrorNumber::SubscriptOutOfRange);
+    EXPECT_EQ(varn.NumWordforms, 1);
+}
