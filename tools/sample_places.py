@@ -16,7 +16,7 @@ TEXT_HEIGHT = 27  # of 10-point text, map units
 LETTER_WIDTH = 12
 
 NAMES = {
-    "W E S T E R N   S E A": (44, 575),
+    "W E S T E R N   S E A": (30, 596),
     "Soro Bay": (985, 850),
     "Lumet Bay": (1130, 612),
     "Great Lorn": (224, 772),
