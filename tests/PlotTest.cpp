@@ -174,3 +174,42 @@ TEST(Plot, AFailedPlotLeavesTheOldFile)
     EXPECT_EQ(errorOf([&] { plot(noMap, {}); }).number(), ErrorNumber::PathNotFound);
     EXPECT_FALSE(QFile::exists(noMap.output));
 }
+
+TEST(Plot, CountsAreAccumulatedAndDrawn)
+{
+    const PlotSurvey survey;
+    survey.write(QStringLiteral("C:\\all.ttl"),
+                 "1,0,\"All\"\r\n\"am words\"\r\n12,4\r\n0,0\r\n0\r\n0\r\n0\r\n");
+    survey.write(QStringLiteral("C:\\all.sum"), "1\r\n1,\"am\"\r\n");
+    survey.write(QStringLiteral("C:\\all.htL"), "\"\",1\r\n49,0,0,0,1,0,1,\"often\"\r\n");
+    survey.write(QStringLiteral("C:\\all.rnk"),
+                 "\"Contrast\",3,100\r\n1\r\n12,4\r\n\"am words\",1\r\n0\r\n9,1\r\n");
+    const auto run = [&survey](PlotOptions::Command command, const QString& output,
+                               const QString& contrast = {}) {
+        PlotOptions options = survey.options(command, output);
+        options.counts = survey.hostPath(QStringLiteral("all.ttl"));
+        options.characters = survey.hostPath(QStringLiteral("all.sum"));
+        options.symbols = survey.hostPath(QStringLiteral("all.htL"));
+        options.contrast = survey.hostPath(contrast.isEmpty() ? QStringLiteral("all.rnk") : contrast);
+        options.data << options.data;
+        plot(options, {});
+        return output.isEmpty() ? QByteArray() : survey.read(QStringLiteral("C:\\") + output);
+    };
+    run(PlotOptions::Command::Accumulate, {});
+    EXPECT_STREQ(survey.read(QStringLiteral("C:\\all.ttl")).constData(),
+                 "1,2,\"All\"\r\n\"am words\"\r\n12,4\r\n0,0\r\n2\r\n0\r\n2\r\n");
+    EXPECT_TRUE(run(PlotOptions::Command::Statistics, QStringLiteral("all.stt"))
+                    .startsWith("1,2\r\n1\r\n0,2,2,0\r\n"));
+    EXPECT_TRUE(
+        run(PlotOptions::Command::DiffusionMap, QStringLiteral("bar.svg")).contains(">No. of Items =2<"));
+    EXPECT_TRUE(
+        run(PlotOptions::Command::SymbolDiffusionMap, QStringLiteral("symbol.svg")).contains(">often<"));
+    EXPECT_TRUE(run(PlotOptions::Command::ContrastMap, QStringLiteral("contrast.svg")).contains(">-100%<"));
+
+    survey.write(QStringLiteral("C:\\bad.rnk"), "\"\",3,100\r\n1\r\n12,4\r\n\"other\",2\r\n0\r\n9,1\r\n");
+    EXPECT_EQ(errorOf([&] {
+                  run(PlotOptions::Command::ContrastMap, QStringLiteral("no.svg"), QStringLiteral("bad.rnk"));
+              }).number(),
+              ErrorNumber::SubscriptOutOfRange);
+    EXPECT_FALSE(QFile::exists(survey.hostPath(QStringLiteral("no.svg"))));
+}
