@@ -40,7 +40,7 @@ void plotLegend(const VarnModule& varn, int H, DrawSurface& target)
     constexpr float HalfLine = 120; // from the top of a label to its middle
 
     const float x0 = toSingle(varn.Scale * varn.HanreiX);
-    const float y0 = varn.Scale * varn.HanreiY;
+    const float y0 = varn.Scale * static_cast<float>(varn.HanreiY);
     target.PrintAt(x0, y0, varn.ContrastTitle);
     if (H == 0) {
         return;

@@ -5,6 +5,7 @@
 #include "shell/frmMain.h"
 #include "ui_frmMain.h"
 
+#include <array>
 #include <utility>
 
 namespace {
@@ -21,12 +22,13 @@ void frmMain::prepareSetMergin()
     m_ui->cboOrientation->addItems({QStringLiteral("Portrait"), QStringLiteral("Landscape")});
     m_ui->cboOrientation->setCurrentIndex(LandscapeIndex);
 
-    const std::pair<QLineEdit*, qint16 PageLayout::*> boxes[] = {
+    using MarginBox = std::pair<QLineEdit*, qint16 PageLayout::*>;
+    const std::array<MarginBox, 4> boxes = {{
         {m_ui->txtTopMergin, &PageLayout::TopMargin},
         {m_ui->txtBottomMergin, &PageLayout::BottomMargin},
         {m_ui->txtLeftMergin, &PageLayout::LeftMargin},
         {m_ui->txtRightMergin, &PageLayout::RightMargin},
-    };
+    }};
     for (const auto& [box, margin] : boxes) {
         box->setText(QString::number(m_varn.*margin));
         connect(box, &QLineEdit::textChanged, this, [this, box = box, margin = margin] {
