@@ -1,9 +1,8 @@
 #include "analysis/AnalysisFileName.h"
 
+#include "platform/FileName.h"
 #include "platform/RunTimeError.h"
 #include "platform/WholeFile.h"
-
-#include <algorithm>
 
 namespace {
 
@@ -22,10 +21,7 @@ QString analysisFileStem(const QString& path, const QString& ending)
 QString analysisFilePath(const Folders& folders, const QString& name, const QString& ending)
 {
     QString path = folders.dataFolder() + QLatin1Char('\\') + withoutEnding(name.trimmed(), ending) + ending;
-    const bool isNoName = std::any_of(name.begin(), name.end(), [](QChar character) {
-        return QStringLiteral("\\/:*?\"<>|").contains(character);
-    });
-    if (isNoName) {
+    if (!isFileName(name)) {
         throw RunTimeError(ErrorNumber::BadFileName).at({path});
     }
     return path;

@@ -1,14 +1,6 @@
 #include "analysis/CumulativeFile.h"
 
-#include <QFileInfo>
-
 namespace {
-
-/// The number of word forms of a file; its records are bounded when they are reached.
-int readNumWordforms(SequentialReader& file)
-{
-    return file.readCount();
-}
 
 QString baseName(const QString& path)
 {
@@ -53,7 +45,7 @@ QStringList wordformNames(const CumulativeTable& table)
 CumulativeTable readTotal(SequentialReader& file, int localities)
 {
     CumulativeTable table;
-    table.NumWordforms = readNumWordforms(file);
+    table.NumWordforms = file.readCount();
     table.NumItemsAccumulated = file.readCount();
     table.MapCaption = file.readString();
     for (int k = 1; k <= table.NumWordforms; ++k) {
@@ -89,7 +81,7 @@ void writeTotal(SequentialWriter& file, const CumulativeTable& table, int locali
 
 void readSpecifyChars(SequentialReader& file, CumulativeData& data)
 {
-    const int number = readNumWordforms(file);
+    const int number = file.readCount();
     SpecifiedChars chars;
     for (int k = 1; k <= number; ++k) {
         chars.NumSpecifyChars(k) = file.readCount();

@@ -3,20 +3,14 @@
 #include "lingdata/InputKindsFile.h"
 #include "lingdata/ItemLoader.h"
 #include "lingdata/LinguisticFile.h"
+#include "platform/FileName.h"
 #include "platform/SequentialFile.h"
 
 #include <QFile>
 
-#include <algorithm>
-
 namespace {
 
 constexpr QLatin1String ItemEnding(".dbs");
-
-bool isForbidden(QChar character)
-{
-    return character < QLatin1Char(' ') || QStringLiteral("\\/:*?\"<>|").contains(character);
-}
 
 } // namespace
 
@@ -29,7 +23,7 @@ QString enteredItemPath(const Folders& folders, const QString& name)
     if (base.isEmpty()) {
         return {};
     }
-    if (std::any_of(base.begin(), base.end(), isForbidden)) {
+    if (!isFileName(base)) {
         throw RunTimeError(ErrorNumber::BadFileName, base);
     }
     return folders.dataFolder() + QLatin1Char('\\') + base + ItemEnding;

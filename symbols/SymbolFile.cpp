@@ -1,6 +1,6 @@
 #include "symbols/SymbolFile.h"
 
-#include <algorithm>
+#include "platform/FileName.h"
 
 HankoStyle readHankoStyle(SequentialReader& file)
 {
@@ -65,11 +65,8 @@ QString symbolFileStem(const QString& name)
 
 QString symbolFilePath(const Folders& folders, const QString& name)
 {
-    const bool leavesFolder = std::any_of(name.begin(), name.end(), [](QChar character) {
-        return QStringLiteral("\\/:*?\"<>|").contains(character);
-    });
     QString path = folders.dataFolder() + QLatin1Char('\\') + symbolFileStem(name) + QStringLiteral(".han");
-    if (leavesFolder) {
+    if (!isFileName(name)) {
         throw RunTimeError(ErrorNumber::BadFileName).at({path});
     }
     return path;
