@@ -28,10 +28,10 @@ qint16 grown(const CumulativeTable& table, int k, int j, int growth)
     try {
         return toInteger(table.Counts(k, j) + growth);
     } catch (const RunTimeError& error) {
-        throw RunTimeError(error.number(), QStringLiteral("The count of word form %1 (%2) at locality %3.")
-                                               .arg(k)
-                                               .arg(table.WordformName(k))
-                                               .arg(j));
+        throw error.during(QStringLiteral("The count of word form %1 (%2) at locality %3.")
+                               .arg(k)
+                               .arg(table.WordformName(k))
+                               .arg(j));
     }
 }
 

@@ -9,8 +9,7 @@ qint16 summed(int sum, int j)
     try {
         return toInteger(sum);
     } catch (const RunTimeError& error) {
-        throw RunTimeError(error.number(),
-                           QStringLiteral("The sum at locality %1. ").arg(j) + error.detail());
+        throw error.during(QStringLiteral("The sum at locality %1.").arg(j));
     }
 }
 

@@ -14,10 +14,10 @@ void ofWordform(const CumulativeTable& table, int k, const char* figure, Compute
     try {
         compute();
     } catch (const RunTimeError& error) {
-        throw RunTimeError(error.number(), QStringLiteral("The %1 of word form %2 (%3). %4")
-                                               .arg(QLatin1String(figure))
-                                               .arg(k)
-                                               .arg(table.WordformName(k), error.detail()));
+        throw error.during(QStringLiteral("The %1 of word form %2 (%3).")
+                               .arg(QLatin1String(figure))
+                               .arg(k)
+                               .arg(table.WordformName(k)));
     }
 }
 

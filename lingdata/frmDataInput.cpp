@@ -1,5 +1,6 @@
 #include "lingdata/frmDataInput.h"
 
+#include "lingdata/LocalityMismatch.h"
 #include "render/WordDelegate.h"
 #include "shell/VarnModule.h"
 #include "ui_frmDataInput.h"
@@ -187,9 +188,5 @@ void frmDataInput::showState()
                             .arg(QString::number(m_editor.answeredLocalities()),
                                  QString::number(m_editor.localities()),
                                  QString::number(m_editor.wordForms())));
-    m_warning->setText(
-        m_editor.localities() == m_varn.NLocality
-            ? QString()
-            : QStringLiteral("The item has %1 localities, the map has %2.")
-                  .arg(QString::number(m_editor.localities()), QString::number(m_varn.NLocality)));
+    m_warning->setText(localityMismatch(m_editor.localities(), m_varn.NLocality));
 }

@@ -23,6 +23,9 @@ public:
     virtual void error(const QString& title, const QString& detail) = 0;
     /// Asks a question with Yes and No; true where the answer is Yes.
     virtual bool askYesNo(const QString& text, const QString& title) = 0;
+    /// Asks whether to go on where something would be lost, with Yes and No; No is what Enter answers. True
+    /// where the answer is Yes.
+    virtual bool confirmLoss(const QString& text, const QString& title) = 0;
     /// Asks a question with OK and Cancel; true where the answer is OK.
     virtual bool askOkCancel(const QString& text, const QString& title) = 0;
     /// Asks for a line of text, `initial` standing there at first. Nothing where the dialog was cancelled.

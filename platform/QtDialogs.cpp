@@ -39,11 +39,13 @@ void widenToText(QMessageBox& box, const QString& more)
 
 /// Shows a message box and returns the button that closed it.
 int showBox(QMessageBox::Icon icon, const QString& text, const QString& more, const QString& title,
-            QMessageBox::StandardButtons buttons)
+            QMessageBox::StandardButtons buttons,
+            QMessageBox::StandardButton defaultButton = QMessageBox::NoButton)
 {
     QMessageBox box(icon, title, displayed(text), buttons, QApplication::activeWindow());
     box.setTextFormat(Qt::PlainText);
     box.setInformativeText(displayed(more));
+    box.setDefaultButton(defaultButton);
     widenToText(box, displayed(more));
     return box.exec();
 }
@@ -76,6 +78,12 @@ bool QtDialogs::askYesNo(const QString& text, const QString& title)
 {
     return showBox(QMessageBox::Question, text, {}, title, QMessageBox::Yes | QMessageBox::No) ==
            QMessageBox::Yes;
+}
+
+bool QtDialogs::confirmLoss(const QString& text, const QString& title)
+{
+    return showBox(QMessageBox::Question, text, {}, title, QMessageBox::Yes | QMessageBox::No,
+                   QMessageBox::No) == QMessageBox::Yes;
 }
 
 bool QtDialogs::askOkCancel(const QString& text, const QString& title)

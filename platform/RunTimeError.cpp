@@ -55,6 +55,14 @@ RunTimeError RunTimeError::at(FilePlace place) const
     return placed;
 }
 
+RunTimeError RunTimeError::during(const QString& what) const
+{
+    RunTimeError told = *this;
+    told.m_detail = m_detail.isEmpty() ? what : what + QLatin1Char(' ') + m_detail;
+    told.m_what = told.message().toUtf8();
+    return told;
+}
+
 QString RunTimeError::text() const
 {
     return errorText(m_number);

@@ -46,6 +46,10 @@ public:
     /// The same error, raised while the file was read or written at `place`.
     RunTimeError at(FilePlace place) const;
 
+    /// The same error, which says first that it was raised during `what`: a sentence such as "The sum at
+    /// locality 3."
+    RunTimeError during(const QString& what) const;
+
     /// The run-time's text of the error, such as "File not found".
     QString text() const;
     /// "Run-time error '53': File not found".

@@ -27,8 +27,7 @@ float radiusAt(const VarnModule& varn, int j)
         const qint16 product = toInteger(static_cast<double>(difference) * varn.ContrastMaxSize);
         return toSingle(divide(product, varn.NumItemsAccumulated));
     } catch (const RunTimeError& error) {
-        throw RunTimeError(error.number(),
-                           QStringLiteral("The circle of locality %1. ").arg(j) + error.detail());
+        throw error.during(QStringLiteral("The circle of locality %1.").arg(j));
     }
 }
 

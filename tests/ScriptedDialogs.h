@@ -41,6 +41,10 @@ public:
     void message(const QString& text, const QString& title) override { shown.push_back({text, title}); }
     void error(const QString& title, const QString& detail) override { errors.push_back({detail, title}); }
     bool askYesNo(const QString& text, const QString& title) override { return answer(yesNo, {text, title}); }
+    bool confirmLoss(const QString& text, const QString& title) override
+    {
+        return answer(yesNo, {text, title});
+    }
     bool askOkCancel(const QString& text, const QString& title) override
     {
         return answer(okCancel, {text, title});
