@@ -41,8 +41,8 @@ public:
     /// Asks for a font, `initial` chosen at first. Nothing where the dialog was cancelled.
     virtual std::optional<TextFont> chooseFont(const TextFont& initial) = 0;
     /// Asks for the name of a file to save, in `folder` at first, `initial` as its name; asks before an
-    /// existing file is replaced. A name without an ending gets that of the filter chosen. Nothing where the
-    /// dialog was cancelled.
+    /// existing file is replaced, also one whose name differs in letter case, which is then the name given. A
+    /// name without an ending gets that of the filter chosen. Nothing where the dialog was cancelled.
     virtual std::optional<QString> saveFile(const QString& title, const QString& folder,
                                             const QString& filter, const QString& initial) = 0;
     /// Asks for a printer for pages of this layout; null where the dialog was cancelled.

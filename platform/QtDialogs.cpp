@@ -1,10 +1,12 @@
 #include "platform/QtDialogs.h"
 
+#include "platform/DriveC.h"
 #include "platform/Numbers.h"
 #include "platform/QtPrinterDevice.h"
 
 #include <QApplication>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QFontDialog>
 #include <QFontInfo>
 #include <QFontMetrics>
@@ -48,6 +50,26 @@ int showBox(QMessageBox::Icon icon, const QString& text, const QString& more, co
     box.setDefaultButton(defaultButton);
     widenToText(box, displayed(more));
     return box.exec();
+}
+
+/// The file that would be replaced by one of the name `path`, whose letter case may differ; empty where there
+/// is none.
+QString replacedFile(const QString& path)
+{
+    const DriveC drive;
+    const QString existing = drive.hostPath(drive.varnPath(path));
+    return QFileInfo::exists(existing) ? existing : QString();
+}
+
+/// Lets the name of a new file end in what the filter chosen asks for.
+void followFilter(QFileDialog& dialog)
+{
+    const auto useSuffix = [&dialog](const QString& nameFilter) {
+        dialog.setDefaultSuffix(
+            QRegularExpression(QStringLiteral("\\*\\.(\\w+)")).match(nameFilter).captured(1));
+    };
+    QObject::connect(&dialog, &QFileDialog::filterSelected, &dialog, useSuffix);
+    useSuffix(dialog.selectedNameFilter());
 }
 
 } // namespace
@@ -133,17 +155,22 @@ std::optional<QString> QtDialogs::saveFile(const QString& title, const QString& 
     QFileDialog dialog(QApplication::activeWindow(), title, folder);
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setNameFilters(nameFilters(filter));
-    const auto useSuffix = [&dialog](const QString& nameFilter) {
-        dialog.setDefaultSuffix(
-            QRegularExpression(QStringLiteral("\\*\\.(\\w+)")).match(nameFilter).captured(1));
-    };
-    QObject::connect(&dialog, &QFileDialog::filterSelected, &dialog, useSuffix);
-    useSuffix(dialog.selectedNameFilter());
+    dialog.setOption(QFileDialog::DontConfirmOverwrite); // it would not see a name in other letter case
+    followFilter(dialog);
     dialog.selectFile(initial);
-    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) {
-        return std::nullopt;
+    while (dialog.exec() == QDialog::Accepted && !dialog.selectedFiles().isEmpty()) {
+        const QString file = dialog.selectedFiles().constFirst();
+        const QString replaced = replacedFile(file);
+        if (replaced.isEmpty()) {
+            return file;
+        }
+        if (confirmLoss(QStringLiteral("%1 already exists.\nDo you want to replace it?")
+                            .arg(QFileInfo(replaced).fileName()),
+                        title)) {
+            return replaced;
+        }
     }
-    return dialog.selectedFiles().constFirst();
+    return std::nullopt;
 }
 
 std::unique_ptr<PrinterDevice> QtDialogs::choosePrinter(const PageLayout& layout)

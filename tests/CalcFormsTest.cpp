@@ -1,6 +1,7 @@
 #include "analysis/CumulativeFile.h"
 #include "analysis/frmCalExec.h"
 #include "analysis/frmCalc.h"
+#include "tests/Controls.h"
 #include "tests/ScriptedDialogs.h"
 #include "tests/TestDrive.h"
 
@@ -45,7 +46,7 @@ protected:
     template <typename Control>
     Control& control(const char* name)
     {
-        return *calc.findChild<Control*>(QLatin1String(name));
+        return child<Control>(calc, name);
     }
     QString text(const char* name) { return control<QLineEdit>(name).text(); }
     void type(const char* name, const char* text) { control<QLineEdit>(name).setText(QLatin1String(text)); }
@@ -58,9 +59,9 @@ protected:
     void set(const char* entry) { control<QAction>(entry).trigger(); }
     void execute(const char* entry)
     {
-        auto* action = exec.findChild<QAction*>(QLatin1String(entry));
-        ASSERT_TRUE(action->isEnabled()) << entry;
-        action->trigger();
+        auto& action = child<QAction>(exec, entry);
+        ASSERT_TRUE(action.isEnabled()) << entry;
+        action.trigger();
     }
     void open(const char* entry, const char* file)
     {
@@ -309,7 +310,6 @@ TEST_F(LoadedCalcForms, ExecutingCountsTheItemAndSavesTheTable)
 
     varn.Counts(1, 2) = 4;
     varn.TotalFileName = QStringLiteral("blocked");
-    dialogs.yesNo = {true};
     QDir().mkpath(survey.drive().hostPath(ling("blocked.ttl\\in the way")));
     execute("mnuExecCalc");
     EXPECT_EQ(dialogs.errors.size(), 2U);
@@ -368,7 +368,7 @@ TEST_F(LoadedCalcForms, PagesAndItemsGoRound)
 
 TEST_F(LoadedCalcForms, StatisticsAreShownSavedAndOpened)
 {
-    EXPECT_FALSE(exec.findChild<QAction*>(QStringLiteral("mnuStatsSave"))->isEnabled());
+    EXPECT_FALSE(child<QAction>(exec, "mnuStatsSave").isEnabled());
     execute("mnuStatsExec");
     EXPECT_TRUE(header("Kt=1"));
     EXPECT_TRUE(header("Average=3"));
@@ -389,8 +389,7 @@ TEST_F(LoadedCalcForms, StatisticsAreShownSavedAndOpened)
     execute("mnuStatsExec");
     ASSERT_EQ(dialogs.errors.size(), 1U);
     EXPECT_EQ(dialogs.errors[0].title, QStringLiteral("Run-time error '11': Division by zero"));
-    EXPECT_FALSE(exec.findChild<QAction*>(QStringLiteral("mnuStatsSave"))->isEnabled())
-        << "they are not of these counts";
+    EXPECT_FALSE(child<QAction>(exec, "mnuStatsSave").isEnabled()) << "they are not of these counts";
 
     survey.write(ling("other.stt"), "1,1\r\n1\r\n1,1,1.5,0\r\n2,0\r\n2,2\r\n");
     dialogs.files = {survey.drive().hostPath(ling("other.stt"))};

@@ -2,6 +2,7 @@
 #include "mapdata/frmChizu.h"
 #include "platform/StandardColors.h"
 #include "platform/WholeFile.h"
+#include "tests/Controls.h"
 #include "tests/ScriptedDialogs.h"
 #include "tests/TestDrive.h"
 
@@ -31,8 +32,8 @@ protected:
         varn.DrawTarget = &survey.frmMap;
     }
 
-    void click(const char* name) { form.findChild<QPushButton*>(QLatin1String(name))->click(); }
-    QString text(const char* name) const { return form.findChild<QLineEdit*>(QLatin1String(name))->text(); }
+    void click(const char* name) { child<QPushButton>(form, name).click(); }
+    QString text(const char* name) const { return child<QLineEdit>(form, name).text(); }
     void chooseMap(const QString& path, std::deque<bool> use)
     {
         dialogs.files = {varn.Drive.hostPath(path)};

@@ -1,6 +1,7 @@
 #include "lingdata/frmData.h"
 #include "platform/WholeFile.h"
 #include "shell/Printing.h"
+#include "tests/Controls.h"
 #include "tests/RecordingPrinter.h"
 #include "tests/ScriptedDialogs.h"
 #include "tests/TestDrive.h"
@@ -32,7 +33,7 @@ protected:
         return QStringLiteral("C:\\Varn62E\\Varn\\VarnData\\Test\\Ling\\") + QLatin1String(file);
     }
 
-    QAction& menu(const char* name) { return *form.findChild<QAction*>(QLatin1String(name)); }
+    QAction& menu(const char* name) { return child<QAction>(form, name); }
     void open(const char* file)
     {
         dialogs.files = {varn.Drive.hostPath(ling(file))};

@@ -2,6 +2,7 @@
 #include "lingdata/frmDataInput.h"
 #include "platform/WholeFile.h"
 #include "render/LocalityView.h"
+#include "tests/Controls.h"
 #include "tests/ScriptedDialogs.h"
 #include "tests/TestDrive.h"
 
@@ -47,7 +48,7 @@ protected:
     template <typename Widget>
     Widget& control(const char* name)
     {
-        return *form.findChild<Widget*>(QLatin1String(name));
+        return child<Widget>(form, name);
     }
     QAction& menu(const char* name) { return control<QAction>(name); }
     void click(const char* name) { control<QPushButton>(name).click(); }

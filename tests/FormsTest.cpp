@@ -125,8 +125,7 @@ TEST_F(StartedForms, CheckMapNameDrawsThePreviewAndAsks)
     EXPECT_GT(program.varn.Scale, 0);
     EXPECT_EQ(program.dialogs.shown.back(),
               (Shown{QStringLiteral("Is this a right map name ? "), QStringLiteral("Map Name")}));
-    EXPECT_EQ(program.main.findChild<QLineEdit*>(QStringLiteral("txtVarnMapName"))->text(),
-              QStringLiteral("Test"));
+    EXPECT_EQ(child<QLineEdit>(program.main, "txtVarnMapName").text(), QStringLiteral("Test"));
     EXPECT_TRUE(program.drawing().operations.empty()) << "the preview is the main form's own drawing";
     EXPECT_EQ(program.varn.DrawTarget, &program.map().surface());
 }
@@ -171,17 +170,17 @@ TEST_F(StartedForms, AFailedOrCancelledLoadChangesNothing)
 TEST_F(StartedForms, PositionPanelShowsUntilTheNextDrawing)
 {
     program.map().show();
-    auto* panel = program.map().findChild<QFrame*>(QStringLiteral("fraStyle"));
+    auto& panel = child<QFrame>(program.map(), "fraStyle");
     for (const char* draw : {"mnuMapBlank", "mnuHanrei", "mnuSymbols", "mnuHankoList"}) {
         program.menu("mnuHpos").trigger();
-        EXPECT_TRUE(panel->isVisible()) << draw;
+        EXPECT_TRUE(panel.isVisible()) << draw;
         program.menu(draw).trigger();
-        EXPECT_FALSE(panel->isVisible()) << draw;
+        EXPECT_FALSE(panel.isVisible()) << draw;
     }
     int place = 0;
     for (const char* option :
          {"optHankoCenter", "optHankoRight", "optHankoLeft", "optHankoUp", "optHankoDown"}) {
-        panel->findChild<QRadioButton*>(QLatin1String(option))->click();
+        child<QRadioButton>(panel, option).click();
         EXPECT_EQ(program.varn.HankoPosition, place++);
     }
 }

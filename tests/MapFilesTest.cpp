@@ -4,8 +4,6 @@
 
 namespace {
 
-const QString MapFolder = QStringLiteral("C:\\Varn62E\\Varn\\VarnData\\Test\\Map\\");
-
 template <typename Map>
 ErrorNumber errorOfReading(Map (*read)(SequentialReader&), const QByteArray& text)
 {
@@ -93,16 +91,4 @@ TEST(MapFiles, FilesAtTheirBoundsLoadAndOneRecordMoreDoesNot)
     EXPECT_EQ(errorOfReading(readLocalities, "3\r\n1,2\r\n3"), ErrorNumber::InputPastEndOfFile);
     EXPECT_EQ(errorOfReading(readPlaceNames, "0\r\n"), ErrorNumber::InputPastEndOfFile);
     EXPECT_EQ(errorOfReading(readLines, "1\r\n0,1,0,0,0,0\r\nx,1\r\n"), ErrorNumber::TypeMismatch);
-}
-
-TEST(MapFiles, AFailedLoadLeavesTheOldMap)
-{
-    TestSurvey survey;
-    VarnModule& varn = survey.varn;
-    survey.write(MapFolder + QStringLiteral("Loc.map"), "3\r\n7,7\r\n8,8\r\n");
-    const RunTimeError error =
-        errorOf([&] { LoadLocateData(varn.Drive, varn.VarnPath, varn.VarnMapName, varn); });
-    EXPECT_EQ(error.number(), ErrorNumber::InputPastEndOfFile);
-    EXPECT_EQ(error.place().path, MapFolder + QStringLiteral("Loc.map"));
-    EXPECT_EQ(varn.LocXY(1, 0), 100);
 }

@@ -32,10 +32,14 @@ QByteArray rewritten(Read read, Write write, const QByteArray& text)
 class ImportCommands : public testing::Test
 {
 protected:
-    void answer(const QByteArray& source, const std::optional<QString>& target)
+    void choose(const QByteArray& source)
     {
         survey.write(Source, source);
         dialogs.files = {varn.Drive.hostPath(Source)};
+    }
+    void answer(const QByteArray& source, const std::optional<QString>& target)
+    {
+        choose(source);
         dialogs.savedFiles = {target ? std::optional(varn.Drive.hostPath(*target)) : std::nullopt};
     }
 
@@ -229,14 +233,14 @@ TEST_F(ImportCommands, BadFilesAndCancelledDialogsChangeNothing)
 TEST_F(ImportCommands, PlaceNamesBecomeTheSpecialOnesAndAreDrawn)
 {
     const QString special = QStringLiteral("C:\\Varn62E\\Varn\\varnsymbols\\TarkaKanji.map");
-    answer(Names, std::nullopt);
+    choose(Names);
     SaveKanjiData(varn, dialogs, survey.surfaces);
     EXPECT_EQ(survey.read(special), Names);
     EXPECT_TRUE(wasPrinted(survey.frmMap.drawing(), QStringLiteral("A \"B\"")));
     EXPECT_FALSE(wasPrinted(survey.frmMap.drawing(), QStringLiteral("Town")));
     EXPECT_EQ(dialogs.shown.size(), 1U) << "no name is asked for";
 
-    answer("1\r\n20,", std::nullopt);
+    choose("1\r\n20,");
     EXPECT_EQ(errorOf([&] { SaveKanjiData(varn, dialogs, survey.surfaces); }).number(),
               ErrorNumber::InputPastEndOfFile);
     EXPECT_EQ(survey.read(special), Names);

@@ -25,13 +25,10 @@ protected:
     template <typename Control>
     Control& control(const char* name) const
     {
-        return *program.main.findChild<Control*>(QLatin1String(name));
+        return child<Control>(program.main, name);
     }
 
-    QPushButton& printSwitch() const
-    {
-        return *program.map().findChild<QPushButton*>(QStringLiteral("lblInsatsumode"));
-    }
+    QPushButton& printSwitch() const { return child<QPushButton>(program.map(), "lblInsatsumode"); }
 
     void choosePrinter()
     {

@@ -7,10 +7,25 @@
 #include <vector>
 
 /// Dialogs that are answered from a script, in the order in which they are asked. A question that the script
-/// has no answer for fails the test.
+/// has no answer for fails the test, and so do answers that were not asked for when the test ends.
 class ScriptedDialogs : public Dialogs
 {
 public:
+    ScriptedDialogs() = default;
+    ~ScriptedDialogs() override
+    {
+        expectNoneLeft(yesNo, "yesNo");
+        expectNoneLeft(okCancel, "okCancel");
+        expectNoneLeft(inputs, "inputs");
+        expectNoneLeft(files, "files");
+        expectNoneLeft(folders, "folders");
+        expectNoneLeft(savedFiles, "savedFiles");
+        expectNoneLeft(fonts, "fonts");
+        EXPECT_EQ(printer, nullptr) << "the printer was not asked for";
+    }
+    ScriptedDialogs(const ScriptedDialogs&) = delete;
+    ScriptedDialogs& operator=(const ScriptedDialogs&) = delete;
+
     struct Shown
     {
         QString text;
@@ -20,6 +35,20 @@ public:
         friend void PrintTo(const Shown& shown, std::ostream* out)
         {
             *out << '[' << qPrintable(shown.title) << "] " << qPrintable(shown.text);
+        }
+    };
+
+    /// What a dialog held when it was shown: the folder that a file dialog began in, and the name or text
+    /// that stood there.
+    struct Proposal
+    {
+        QString folder;
+        QString name;
+
+        bool operator==(const Proposal&) const = default;
+        friend void PrintTo(const Proposal& proposal, std::ostream* out)
+        {
+            *out << qPrintable(proposal.folder) << " : " << qPrintable(proposal.name);
         }
     };
 
@@ -35,6 +64,8 @@ public:
 
     /// Questions and messages in the order in which they were shown.
     std::vector<Shown> shown;
+    /// What the dialogs for files, folders and texts proposed, in the order in which they were shown.
+    std::vector<Proposal> proposals;
     /// Errors, their detail as the text.
     std::vector<Shown> errors;
 
@@ -49,25 +80,30 @@ public:
     {
         return answer(okCancel, {text, title});
     }
-    std::optional<QString> input(const QString& prompt, const QString& title, const QString&) override
+    std::optional<QString> input(const QString& prompt, const QString& title, const QString& initial) override
     {
+        proposals.push_back({{}, initial});
         return answer(inputs, {prompt, title});
     }
-    std::optional<QString> openFile(const QString& title, const QString&, const QString& filter) override
+    std::optional<QString> openFile(const QString& title, const QString& folder,
+                                    const QString& filter) override
     {
+        proposals.push_back({folder, {}});
         return answer(files, {filter, title});
     }
     std::optional<QString> chooseFolder(const QString& title, const QString& folder) override
     {
+        proposals.push_back({folder, {}});
         return answer(folders, {folder, title});
     }
     std::optional<TextFont> chooseFont(const TextFont& initial) override
     {
         return answer(fonts, {initial.name, QStringLiteral("font")});
     }
-    std::optional<QString> saveFile(const QString& title, const QString&, const QString& filter,
-                                    const QString&) override
+    std::optional<QString> saveFile(const QString& title, const QString& folder, const QString& filter,
+                                    const QString& initial) override
     {
+        proposals.push_back({folder, initial});
         return answer(savedFiles, {filter, title});
     }
     std::unique_ptr<PrinterDevice> choosePrinter(const PageLayout&) override
@@ -77,6 +113,12 @@ public:
     }
 
 private:
+    template <typename Answer>
+    static void expectNoneLeft(const std::deque<Answer>& answers, const char* kind)
+    {
+        EXPECT_EQ(answers.size(), 0U) << "answers of " << kind << " were not asked for";
+    }
+
     template <typename Answer>
     Answer answer(std::deque<Answer>& answers, const Shown& question)
     {

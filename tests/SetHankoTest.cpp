@@ -3,6 +3,7 @@
 #include "symbols/SymbolFile.h"
 #include "symbols/SymbolPicker.h"
 #include "symbols/frmSetHanko.h"
+#include "tests/Controls.h"
 #include "tests/ScriptedDialogs.h"
 #include "tests/TestDrive.h"
 
@@ -41,7 +42,7 @@ protected:
     template <typename Control>
     Control& control(const char* name)
     {
-        return *form.findChild<Control*>(QLatin1String(name));
+        return child<Control>(form, name);
     }
     QAction& menu(const char* name) { return control<QAction>(name); }
     QString text(const char* name) { return control<QLineEdit>(name).text(); }
@@ -303,7 +304,7 @@ TEST_F(OpenSetHanko, ASetThatAnotherFormLoadedIsShown)
 
     frmSetHanko opened(varn, dialogs);
     opened.Form_Load();
-    EXPECT_EQ(opened.findChild<QLabel*>(QStringLiteral("lblRec"))->text(), QStringLiteral("2/2"));
+    EXPECT_EQ(child<QLabel>(opened, "lblRec").text(), QStringLiteral("2/2"));
 }
 
 TEST_F(OpenSetHanko, ARegisteredSetCanBeDrawnBeforeItIsSaved)

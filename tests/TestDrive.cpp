@@ -6,8 +6,16 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QFontDatabase>
 
-TestDrive::TestDrive() : m_drive(m_folder.path()) {}
+#include <stdexcept>
+
+TestDrive::TestDrive() : m_drive(m_folder.path())
+{
+    if (!m_folder.isValid()) {
+        throw std::runtime_error("no folder for a drive C: " + m_folder.errorString().toStdString());
+    }
+}
 
 void TestDrive::write(const QString& path, const QByteArray& text) const
 {
@@ -15,7 +23,8 @@ void TestDrive::write(const QString& path, const QByteArray& text) const
     QDir().mkpath(QFileInfo(host).path());
     QFile file(host);
     ASSERT_TRUE(file.open(QIODevice::WriteOnly)) << qPrintable(host);
-    file.write(text);
+    ASSERT_EQ(file.write(text), text.size()) << qPrintable(host);
+    ASSERT_TRUE(file.flush()) << qPrintable(host);
 }
 
 QByteArray TestDrive::read(const QString& path) const
@@ -46,6 +55,11 @@ TestSurvey::TestSurvey()
     LoadLocateData(varn.Drive, varn.VarnPath, varn.VarnMapName, varn);
     LoadKanjiData(varn.Drive, varn.VarnPath, varn.VarnMapName, varn);
     setFirstSize(frmMap);
+}
+
+bool anyFont()
+{
+    return !QFontDatabase::families().isEmpty();
 }
 
 std::ostream& operator<<(std::ostream& out, ErrorNumber number)

@@ -14,6 +14,7 @@
 class TestDrive
 {
 public:
+    /// Ends the test where the folder cannot be made.
     TestDrive();
 
     const DriveC& drive() const { return m_drive; }
@@ -22,7 +23,7 @@ public:
     QString hostPath(const QString& name) const { return m_folder.filePath(name); }
 
     /// Writes a file at a path such as "C:\\a\\b.map"; the folders are made. `text` has LF or CR LF line
-    /// ends.
+    /// ends. Fails the test where not all of it is written.
     void write(const QString& path, const QByteArray& text) const;
     QByteArray read(const QString& path) const;
 
@@ -54,6 +55,9 @@ RunTimeError errorOf(const std::invocable auto& action)
     ADD_FAILURE() << "no error was raised";
     return RunTimeError(ErrorNumber::InvalidProcedureCall);
 }
+
+/// Whether this machine has a font; without one nothing can be said of the width of a text.
+bool anyFont();
 
 std::ostream& operator<<(std::ostream& out, ErrorNumber number);
 void PrintTo(const QString& text, std::ostream* out);

@@ -2,6 +2,7 @@
 
 #include "shell/VarnModule.h"
 #include "shell/frmMain.h"
+#include "tests/Controls.h"
 #include "tests/ScriptedDialogs.h"
 #include "tests/TestDrive.h"
 
@@ -27,13 +28,13 @@ Form& form()
             return *found;
         }
     }
-    throw std::logic_error("the form is not there");
+    throw std::logic_error(Form::staticMetaObject.className() + std::string(" is not there"));
 }
 
 template <typename Form, typename Control>
 Control& control(const char* name)
 {
-    return *form<Form>().template findChild<Control*>(QLatin1String(name));
+    return child<Control>(form<Form>(), name);
 }
 template <typename Form>
 void press(const char* name)
@@ -54,8 +55,8 @@ struct Program
     void start(const QString& installation) { main.Form_Load(installation); }
 
     static frmMap& map() { return form<frmMap>(); }
-    static QAction& menu(const char* name) { return *map().findChild<QAction*>(QLatin1String(name)); }
-    void click(const char* name) const { main.findChild<QPushButton*>(QLatin1String(name))->click(); }
+    static QAction& menu(const char* name) { return child<QAction>(map(), name); }
+    void click(const char* name) const { child<QPushButton>(main, name).click(); }
     static const Drawing& drawing() { return map().surface().drawing(); }
 
     void load(const char* entry, const char* file)

@@ -4,6 +4,7 @@
 #include "analysis/frmTotalHanko.h"
 #include "platform/StandardColors.h"
 #include "symbols/SymbolPicker.h"
+#include "tests/Controls.h"
 #include "tests/ScriptedDialogs.h"
 #include "tests/TestDrive.h"
 
@@ -47,7 +48,7 @@ protected:
     template <typename Control>
     Control& control(const char* name)
     {
-        return *form.findChild<Control*>(QLatin1String(name));
+        return child<Control>(form, name);
     }
     void click(const char* name) { control<QPushButton>(name).click(); }
     void trigger(const char* name) { control<QAction>(name).trigger(); }
