@@ -7,5 +7,6 @@ int main(int argc, char* argv[])
     qputenv("QT_QPA_PLATFORM", "offscreen");
     testing::InitGoogleTest(&argc, argv);
     const QApplication application(argc, argv);
+    QApplication::setQuitOnLastWindowClosed(false); // the next test may wait for a dialog
     return RUN_ALL_TESTS();
 }
