@@ -1,6 +1,7 @@
 #include "lingdata/frmDataInput.h"
 
 #include "lingdata/LocalityMismatch.h"
+#include "platform/ThemeColors.h"
 #include "render/WordDelegate.h"
 #include "shell/VarnModule.h"
 #include "ui_frmDataInput.h"
@@ -18,7 +19,8 @@ frmDataInput::frmDataInput(VarnModule& varn, Dialogs& dialogs)
 {
     m_ui->setupUi(this);
     m_ui->fraCheck->hide();
-    m_warning->setStyleSheet(QStringLiteral("color: #b00000"));
+    showAsWarning(*m_warning);
+    showAsWarning(*m_ui->lblFault);
     for (QLabel* label : {m_progress, m_warning}) {
         label->setTextFormat(Qt::PlainText);
         label->setContentsMargins(8, 0, 8, 0);
@@ -167,7 +169,7 @@ void frmDataInput::drawWordShown(const QString& word)
 {
     const auto fault = findCodeFault(word);
     m_ui->lblFault->setText(fault ? faultText(*fault) : QString());
-    m_ui->picWord->setWord(drawWord(m_varn, word));
+    m_ui->picWord->setWord(drawWord(m_varn, m_varn, word));
 }
 
 void frmDataInput::refresh()

@@ -1,5 +1,20 @@
 #include "platform/Drawing.h"
 
+#include <QPainter>
+
+namespace {
+
+/// A picture of one colour that is as opaque as `picture`.
+QImage tinted(QImage picture, QRgb color)
+{
+    QPainter painter(&picture);
+    painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
+    painter.fillRect(picture.rect(), QColor::fromRgb(color));
+    return picture;
+}
+
+} // namespace
+
 QFont twipFont(const TextFont& font)
 {
     QFont result(font.name);
@@ -9,4 +24,20 @@ QFont twipFont(const TextFont& font)
     result.setHintingPreference(QFont::PreferNoHinting);
     result.setStyleStrategy(QFont::PreferAntialias);
     return result;
+}
+
+Drawing inInk(Drawing drawing, QRgb ink)
+{
+    for (DrawingOperation& operation : drawing.operations) {
+        auto* text = std::get_if<TextOperation>(&operation);
+        if (text != nullptr && text->color == qRgb(0, 0, 0)) {
+            text->color = ink;
+        }
+    }
+    for (QImage& picture : drawing.pictures) {
+        if (picture.hasAlphaChannel()) {
+            picture = tinted(picture, ink);
+        }
+    }
+    return drawing;
 }

@@ -121,3 +121,6 @@ struct Drawing
     std::vector<QString> texts;
     std::vector<QImage> pictures;
 };
+
+/// `drawing` with `ink` for black in its texts and in its pictures of ink on a transparent ground.
+Drawing inInk(Drawing drawing, QRgb ink);

@@ -22,15 +22,24 @@ QPen toPen(const LinePen& pen, double scale)
             Qt::MiterJoin};
 }
 
+/// Whether the target is made of pixels, which lie along the painter's axes.
+bool hasPixels(const QPainter& painter)
+{
+    return painter.paintEngine()->type() == QPaintEngine::Raster &&
+           painter.deviceTransform().type() <= QTransform::TxScale;
+}
+
 /// Paints operation after operation and remembers which pen, fill and font the painter holds. Shapes are
 /// scaled here, since the painter strokes faster without a transformation; texts and pictures by the painter.
+/// What is so small that it would be lost between the pixels of the target is painted in whole pixels.
 class DrawingPainter
 {
 public:
     DrawingPainter(const Drawing& drawing, QPainter& painter, double scale)
         : m_drawing(drawing), m_painter(painter), m_scale(scale), m_shapes(painter.worldTransform()),
-          m_texts(QTransform::fromScale(scale, scale) * m_shapes),
-          m_inPieces(painter.paintEngine()->type() == QPaintEngine::Raster)
+          m_texts(QTransform::fromScale(scale, scale) * m_shapes), m_hasPixels(hasPixels(painter)),
+          m_toPixels(QTransform::fromScale(scale, scale) * painter.deviceTransform()),
+          m_pixels(painter.deviceTransform().inverted() * m_shapes), m_shrunk(drawing.pictures.size())
     {
         painter.setBrush(Qt::NoBrush);
         for (const LinePen& pen : drawing.pens) {
@@ -50,7 +59,7 @@ public:
             m_points.push_back(m_drawing.points[line.firstPoint + i] * m_scale);
         }
         const auto count = static_cast<int>(m_points.size());
-        if (count > MostPointsAtOnce && m_inPieces && isSolid(line.pen)) {
+        if (count > MostPointsAtOnce && m_hasPixels && isSolid(line.pen)) {
             drawInPieces();
         } else if (count > 3 && m_points.front() == m_points.back()) {
             useFill(0);
@@ -72,6 +81,10 @@ public:
 
     void operator()(const EllipseOperation& ellipse)
     {
+        if (m_hasPixels && isDot(ellipse)) {
+            drawDot(ellipse);
+            return;
+        }
         usePen(ellipse.pen);
         useFill(ellipse.fill);
         m_painter.drawEllipse(boxAround(ellipse));
@@ -103,18 +116,25 @@ public:
             m_painter.setFont(m_fonts[static_cast<std::size_t>(text.font)]);
         }
         const double baseline = text.y + m_ascents[static_cast<std::size_t>(text.font)];
-        inTwips([&] { m_painter.drawText(QPointF(text.x, baseline), m_drawing.texts[text.text]); });
+        within(m_texts, [&] { m_painter.drawText(QPointF(text.x, baseline), m_drawing.texts[text.text]); });
     }
 
     void operator()(const PictureOperation& picture)
     {
-        inTwips([&] {
-            m_painter.drawImage(QRectF(picture.x, picture.y, picture.width, picture.height),
-                                m_drawing.pictures[picture.picture]);
-        });
+        const QImage& image = m_drawing.pictures[picture.picture];
+        const QRectF box(picture.x, picture.y, picture.width, picture.height);
+        const QRectF pixels = m_toPixels.mapRect(box);
+        const QSize size = pixels.size().toSize().expandedTo({1, 1});
+        if (m_hasPixels && size == size.boundedTo(image.size())) {
+            within(m_pixels,
+                   [&] { m_painter.drawImage(pixels.topLeft().toPoint(), shrunk(picture.picture, size)); });
+        } else {
+            within(m_texts, [&] { m_painter.drawImage(box, image); });
+        }
     }
 
 private:
+    static constexpr int NoPen = -1;
     static constexpr int OtherPen = -2;
     static constexpr int MostPointsAtOnce = 64;
 
@@ -144,11 +164,51 @@ private:
     }
 
     template <typename Paint>
-    void inTwips(Paint paint)
+    void within(const QTransform& coordinates, Paint paint)
     {
-        m_painter.setWorldTransform(m_texts);
+        m_painter.setWorldTransform(coordinates);
         paint();
         m_painter.setWorldTransform(m_shapes);
+    }
+
+    /// A picture in as many pixels as the target has for it, each the average over its area: the painter
+    /// itself reads but the nearest points of a fine picture, and loses the thin strokes of its letters.
+    const QImage& shrunk(std::size_t picture, QSize size)
+    {
+        QImage& image = m_shrunk[picture];
+        if (image.size() != size) {
+            image = m_drawing.pictures[picture].scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+        }
+        return image;
+    }
+
+    /// Half the width of an ellipse with its outline, in pixels of the target.
+    double outerRadius(const EllipseOperation& ellipse) const
+    {
+        const double outline = m_drawing.pens[static_cast<std::size_t>(ellipse.pen)].width * TwipsPerPixel;
+        return (std::max(ellipse.halfWidth, ellipse.halfHeight) + outline / 2) * std::abs(m_toPixels.m11());
+    }
+
+    /// Whether an ellipse is of one colour and so small that it may cover no whole pixel.
+    bool isDot(const EllipseOperation& ellipse) const
+    {
+        if (ellipse.pen < 0 || outerRadius(ellipse) >= std::numbers::sqrt2) {
+            return false;
+        }
+        const LinePen& pen = m_drawing.pens[static_cast<std::size_t>(ellipse.pen)];
+        const bool hasHole = 2 * std::max(ellipse.halfWidth, ellipse.halfHeight) > pen.width * TwipsPerPixel;
+        return !hasHole || ellipse.fill == pen.color;
+    }
+
+    /// A dot lies about the middle of a pixel and covers this pixel at least.
+    void drawDot(const EllipseOperation& dot)
+    {
+        usePen(NoPen);
+        useFill(m_drawing.pens[static_cast<std::size_t>(dot.pen)].color);
+        const QPointF place = m_toPixels.map(QPointF(dot.x, dot.y));
+        const QPointF middle(std::floor(place.x()) + 0.5, std::floor(place.y()) + 0.5);
+        const double radius = std::max(outerRadius(dot), std::numbers::sqrt2 / 2);
+        within(m_pixels, [&] { m_painter.drawEllipse(middle, radius, radius); });
     }
 
     void drawRadius(const QRectF& box, float angle)
@@ -189,7 +249,12 @@ private:
     double m_scale;
     QTransform m_shapes;
     QTransform m_texts;
-    bool m_inPieces;
+    bool m_hasPixels;
+    /// From twips to pixels of the target, and the transformation that paints in those.
+    QTransform m_toPixels;
+    QTransform m_pixels;
+    /// The pictures as the target shows them; empty before they are needed.
+    std::vector<QImage> m_shrunk;
     std::vector<QPointF> m_points;
     std::vector<QPen> m_pens;
     std::vector<QFont> m_fonts;

@@ -1,15 +1,15 @@
 #include "render/DrawnWord.h"
 
-DrawnWord drawWord(VarnModule& varn, const QString& word)
+DrawnWord drawWord(VarnModule& varn, const MapFont& font, const QString& word)
 {
     DrawSurface surface;
-    surface.FontName = varn.MapFontName;
-    surface.FontSize = varn.MapFontSize;
-    surface.FontBold = varn.MapFontBold;
-    surface.FontItalic = varn.MapFontItalic;
+    surface.FontName = font.MapFontName;
+    surface.FontSize = font.MapFontSize;
+    surface.FontBold = font.MapFontBold;
+    surface.FontItalic = font.MapFontItalic;
     DrawSurface traces;
     try {
-        PhoneticText text(varn, varn, varn, varn.Pictures, {surface, traces});
+        PhoneticText text(varn, font, varn, varn.Pictures, {surface, traces});
         const float width = text.PlotChar(0, 0, word);
         return {surface.drawing(), width, surface.TextHeight()};
     } catch (const RunTimeError&) {

@@ -2,7 +2,7 @@
 
 #include "shell/VarnModule.h"
 
-/// A coded word drawn by itself, as maps show it: in the map font, with letters for its phonetic escapes.
+/// A coded word drawn by itself, as maps show it: with letters for its phonetic escapes.
 struct DrawnWord
 {
     Drawing drawing;
@@ -11,6 +11,6 @@ struct DrawnWord
     float Height = 0;
 };
 
-/// Draws `word` from the origin. Escapes that are in no code are left out. Nothing is drawn where the
-/// installation lacks a glyph.
-DrawnWord drawWord(VarnModule& varn, const QString& word);
+/// Draws `word` from the origin in `font`. Escapes that are in no code are left out. Nothing is drawn where
+/// the installation lacks a glyph.
+DrawnWord drawWord(VarnModule& varn, const MapFont& font, const QString& word);

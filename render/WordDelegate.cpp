@@ -1,6 +1,7 @@
 #include "render/WordDelegate.h"
 
 #include "platform/DrawingPainter.h"
+#include "platform/ThemeColors.h"
 #include "render/PhoneticCheck.h"
 
 #include <QApplication>
@@ -13,9 +14,15 @@
 namespace {
 
 constexpr int Margin = 4;
-constexpr QColor SelectedCell(0xc8, 0xdf, 0xf8);
-constexpr QColor CodeColor(0x60, 0x60, 0x60);
-constexpr QColor FaultColor(0xc0, 0x00, 0x00);
+
+/// The map font in the size in which phonetic letters are as large as the others.
+MapFont listFont(const MapFont& mapFont)
+{
+    constexpr qint16 SizeOfLetters = 10;
+    MapFont font = mapFont;
+    font.MapFontSize = SizeOfLetters;
+    return font;
+}
 
 /// Draws the cell without its text.
 void paintCell(QPainter& painter, QStyleOptionViewItem cell)
@@ -25,20 +32,25 @@ void paintCell(QPainter& painter, QStyleOptionViewItem cell)
     style->drawControl(QStyle::CE_ItemViewItem, &cell, &painter, cell.widget);
 }
 
-/// Paints the word at the left of `area`, centered upright; returns the room that it leaves.
+/// Paints the word at the left of `area`, centered upright, in the height and colour of the painter's text;
+/// returns the room that it leaves.
 QRect paintDrawnWord(QPainter& painter, const DrawnWord& word, const QRect& area)
 {
-    const double scale = std::min(1 / TwipsPerPixel, area.height() / static_cast<double>(word.Height));
+    if (word.Height <= 0) {
+        return area;
+    }
+    const double scale = painter.fontMetrics().height() / static_cast<double>(word.Height);
     const QSizeF size = QSizeF(word.Width, word.Height) * scale;
     painter.save();
     painter.setClipRect(area, Qt::IntersectClip);
     painter.translate(area.left(), area.top() + (area.height() - size.height()) / 2);
-    paintDrawing(word.drawing, painter, scale);
+    paintDrawing(inInk(word.drawing, painter.pen().color().rgb()), painter, scale);
     painter.restore();
     return area.adjusted(static_cast<int>(size.width()), 0, 0, 0);
 }
 
-void paintText(QPainter& painter, const QString& text, const QRect& area, Qt::Alignment side, QColor color)
+void paintText(QPainter& painter, const QString& text, const QRect& area, Qt::Alignment side,
+               const QColor& color)
 {
     painter.setPen(color);
     const QString line = painter.fontMetrics().elidedText(text, Qt::ElideRight, area.width());
@@ -55,14 +67,14 @@ const DrawnWord& WordDelegate::drawn(const QString& word) const
     if (known != m_words.constEnd()) {
         return *known;
     }
-    return *m_words.insert(word, drawWord(m_varn, word));
+    return *m_words.insert(word, drawWord(m_varn, listFont(m_varn), word));
 }
 
 void WordDelegate::initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const
 {
     QStyledItemDelegate::initStyleOption(option, index);
-    // Phonetic letters are black ink.
-    option->palette.setColor(QPalette::Highlight, SelectedCell);
+    // The colours of codes and of what is wrong can be read in chosen cells, too.
+    option->palette.setColor(QPalette::Highlight, chosenCell(option->palette));
     option->palette.setColor(QPalette::HighlightedText, option->palette.color(QPalette::Text));
 }
 
@@ -78,13 +90,15 @@ void WordDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
     initStyleOption(&cell, index);
     painter->save();
     painter->setFont(cell.font);
+    painter->setPen(cell.palette.color(QPalette::Text));
     paintCell(*painter, cell);
     const QRect area = cell.rect.adjusted(Margin, 1, -Margin, -1);
     if (findCodeFault(word)) {
-        paintText(*painter, word, area, Qt::AlignLeft, FaultColor);
+        paintText(*painter, word, area, Qt::AlignLeft, warningText(cell.palette));
     } else {
         const QRect room = paintDrawnWord(*painter, drawn(word), area);
-        paintText(*painter, word, room.adjusted(2 * Margin, 0, 0, 0), Qt::AlignRight, CodeColor);
+        paintText(*painter, word, room.adjusted(2 * Margin, 0, 0, 0), Qt::AlignRight,
+                  quietText(cell.palette));
     }
     painter->restore();
 }
