@@ -31,6 +31,8 @@ public:
         return m_cells[offset(index...)];
     }
 
+    bool operator==(const BoundedArray&) const = default;
+
 private:
     static constexpr std::size_t extent(Bounds bounds)
     {

@@ -33,6 +33,7 @@ int LastSymbolPage(const PolygonTable& polygons)
 void PlotSymbol(VarnModule& varn, int page, MapSurfaces surfaces)
 {
     constexpr int NumberSize = 6; // small enough for a number to stand clear of its symbol
+    constexpr float NumberOffset = 200;
 
     DrawSurface& target = surfaces.DrawTarget;
     const float cellWidth = surfaces.frmMap.Width / Columns;
@@ -45,14 +46,18 @@ void PlotSymbol(VarnModule& varn, int page, MapSurfaces surfaces)
     surfaces.frmMap.Cls();
     const int fontSize = target.FontSize;
     target.FontSize = NumberSize;
+    // On a narrow form the first numbers would begin left of its edge.
+    const float scaleLeft = target.ScaleLeft;
+    target.ScaleLeft += std::min(x0 - NumberOffset, 0.0F);
     SymbolShapes shapes(varn, varn, surfaces);
     float x = x0;
     float y = y0;
     for (int number = first; number <= last; ++number) {
-        target.PrintAt(x - 200, y - 300, QString::number(number));
+        target.PrintAt(x - NumberOffset, y - 300, QString::number(number));
         shapes.DrawHanko(catalogueStyle(number), x, y);
         XmaxYmax(x, y, x0, y0, surfaces.frmMap.Width, surfaces.frmMap.Height, cellWidth, cellHeight);
     }
+    target.ScaleLeft = scaleLeft;
     target.FontSize = fontSize;
     surfaces.frmMap.DrawWidth = 1;
 }

@@ -1,9 +1,9 @@
-// The designs of the rectangle, circle and sector families.
+// The designs of the rectangle and circle families.
 
 #include "render/SymbolShapes.h"
 
 #include <algorithm>
-#include <array>
+#include <cmath>
 #include <numbers>
 
 namespace {
@@ -20,13 +20,33 @@ HalfExtent halfExtent(float radius, float aspect)
     return {aspect > 1 ? radius / aspect : radius, aspect < 1 ? radius * aspect : radius};
 }
 
-/// The pen width of the lines inside an outline: no wider than the outline's, and so fine that a small design
-/// does not fill up.
-int innerWidth(int outlineWidth, HalfExtent extent)
+/// Whether the lines of a design stand so close together that they are to be finer.
+enum class Lines { Plain, Fine };
+
+/// The outline of a design and the pen of all its lines.
+struct Outline
 {
-    constexpr float TwipsPerPenPixel = 50;
-    const auto finest = static_cast<int>(std::min(extent.width, extent.height) / TwipsPerPenPixel);
-    return std::min(outlineWidth, std::max(1, finest));
+    HalfExtent extent;
+    int pen;
+};
+
+/// An outline that `pen` would fill up is drawn with a finer pen, its outer edge staying where it is; so a
+/// small design keeps room for what it shows inside, and a thicker pen always changes it.
+Outline legibleOutline(HalfExtent extent, int pen, Lines lines)
+{
+    const float share = lines == Lines::Plain ? 0.4F : 0.3F; // of the half extent with its outline
+    const float given = static_cast<float>(pen * TwipsPerPixel) / 2;
+    const float outerEdge = std::min(extent.width, extent.height) + given;
+    const auto widest = static_cast<int>(std::lround(outerEdge * share / TwipsPerPixel));
+    const int legible = std::clamp(widest, 1, std::max(pen, 1));
+    const float growth = given - static_cast<float>(legible * TwipsPerPixel) / 2;
+    return {{extent.width + growth, extent.height + growth}, legible};
+}
+
+/// The pen of a figure within an outline of this pen.
+int innerPen(int pen)
+{
+    return std::max(1, pen / 2);
 }
 
 /// The building blocks of a rectangle design: boxes and segments around the centre, in parts of its half
@@ -34,16 +54,26 @@ int innerWidth(int outlineWidth, HalfExtent extent)
 class BoxDesign
 {
 public:
-    BoxDesign(DrawSurface& target, float x0, float y0, HalfExtent extent, QRgb color)
-        : m_target(target), m_x0(x0), m_y0(y0), m_extent(extent), m_color(color)
-    {}
+    BoxDesign(DrawSurface& target, float x0, float y0, const Outline& outline, QRgb color)
+        : m_target(target), m_x0(x0), m_y0(y0), m_extent(outline.extent), m_color(color)
+    {
+        target.DrawWidth = outline.pen;
+    }
 
-    void fineLines() { m_target.DrawWidth = innerWidth(m_target.DrawWidth, m_extent); }
-
-    void box(bool painted, float left = -1, float top = -1, float right = 1, float bottom = 1)
+    void box(bool painted)
     {
         m_target.FillStyle = painted ? 0 : 1;
+        m_target.Box(x(-1), y(-1), x(1), y(1), m_color);
+    }
+
+    /// A box within, full of the fill colour.
+    void innerBox(float left, float top, float right, float bottom)
+    {
+        const int pen = m_target.DrawWidth;
+        m_target.DrawWidth = innerPen(pen);
+        m_target.FillStyle = 0;
         m_target.Box(x(left), y(top), x(right), y(bottom), m_color);
+        m_target.DrawWidth = pen;
     }
 
     void segment(float x1, float y1, float x2, float y2)
@@ -92,52 +122,105 @@ private:
     QRgb m_color;
 };
 
+/// The building blocks of a circle design: circles, halves and diameters about the centre.
+class RoundDesign
+{
+public:
+    RoundDesign(DrawSurface& target, float x0, float y0, const Outline& outline, QRgb color)
+        : m_target(target), m_x0(x0), m_y0(y0), m_extent(outline.extent), m_color(color)
+    {
+        target.DrawWidth = outline.pen;
+    }
+
+    void circle(bool filled) { round(filled, 1); }
+
+    void dot()
+    {
+        m_target.DrawWidth = innerPen(m_target.DrawWidth);
+        round(true, 0.5F);
+    }
+
+    void ring() { round(false, 0.5F); }
+
+    void filledHalf(float start, float end)
+    {
+        m_target.FillStyle = 0;
+        m_target.Arc(m_x0, m_y0, radius(), m_color, start, end, aspect());
+    }
+
+    /// A diameter that ends the given parts of the half extent from the centre.
+    void diameter(float x, float y)
+    {
+        const float dx = x * m_extent.width;
+        const float dy = y * m_extent.height;
+        m_target.Line(m_x0 - dx, m_y0 - dy, m_x0 + dx, m_y0 + dy, m_color);
+    }
+
+    void rising() { diameter(Diagonal, -Diagonal); }
+    void falling() { diameter(Diagonal, Diagonal); }
+
+private:
+    static constexpr float Diagonal = std::numbers::sqrt2_v<float> / 2;
+
+    float radius() const { return std::max(m_extent.width, m_extent.height); }
+    float aspect() const { return m_extent.height / m_extent.width; }
+
+    void round(bool filled, float part)
+    {
+        m_target.FillStyle = filled ? 0 : 1;
+        m_target.Circle(m_x0, m_y0, radius() * part, m_color, aspect());
+    }
+
+    DrawSurface& m_target;
+    float m_x0;
+    float m_y0;
+    HalfExtent m_extent;
+    QRgb m_color;
+};
+
 } // namespace
 
 void SymbolShapes::DrawRectangle(int design, const Stamp& stamp, float size, float aspect)
 {
     // Four fifths of the size make a box that looks as large as the circle of the same size code.
-    const HalfExtent extent = halfExtent(size * 0.8F, aspect);
-    BoxDesign shape(m_target, stamp.x0, stamp.y0, extent, stamp.outline);
-    m_target.FillColor = stamp.fill;
+    const Lines lines = design == 12 ? Lines::Fine : Lines::Plain;
+    const Outline outline = legibleOutline(halfExtent(size * 0.8F, aspect), m_target.DrawWidth, lines);
+    BoxDesign shape(m_target, stamp.x0, stamp.y0, outline, stamp.outline);
+    // A half or a box within is full also where the symbol is not painted.
+    const bool isPartlyFull = design >= 6 && design <= 8;
+    m_target.FillColor = stamp.painted || !isPartlyFull ? stamp.fill : stamp.outline;
     switch (design) {
-    case 1: // box
+    case 1:
         shape.box(stamp.painted);
         break;
-    case 2: // upright cross
+    case 2:
         shape.uprightCross();
         break;
-    case 3: // diagonal cross
+    case 3:
         shape.diagonalCross();
         break;
     case 4: // box with diagonals
         shape.box(stamp.painted);
-        shape.fineLines();
         shape.diagonalCross();
         break;
     case 5: // box with an upright cross
         shape.box(stamp.painted);
-        shape.fineLines();
         shape.uprightCross();
         break;
-    case 6: // box, its left half painted
+    case 6: // box, its left half full
+        shape.innerBox(-1, -1, 0, 1);
         shape.box(false);
-        shape.fineLines();
-        shape.box(stamp.painted, -1, -1, 0, 1);
         break;
-    case 7: // box, its lower half painted
+    case 7: // box, its lower half full
+        shape.innerBox(-1, 0, 1, 1);
         shape.box(false);
-        shape.fineLines();
-        shape.box(stamp.painted, -1, 0, 1, 1);
         break;
-    case 8: // box in a box, the inner one painted
+    case 8: // box with a full box in it
+        shape.innerBox(-0.4F, -0.4F, 0.4F, 0.4F);
         shape.box(false);
-        shape.fineLines();
-        shape.box(stamp.painted, -0.4F, -0.4F, 0.4F, 0.4F);
         break;
     case 9: // box with one diagonal
         shape.box(stamp.painted);
-        shape.fineLines();
         shape.rising();
         break;
     case 10:
@@ -147,7 +230,6 @@ void SymbolShapes::DrawRectangle(int design, const Stamp& stamp, float size, flo
         shape.hourglass();
         break;
     case 12: // star of eight rays
-        shape.fineLines();
         shape.uprightCross();
         shape.diagonalCross();
         break;
@@ -159,114 +241,47 @@ void SymbolShapes::DrawRectangle(int design, const Stamp& stamp, float size, flo
 void SymbolShapes::DrawCircle(int design, const Stamp& stamp, float Radius, float Aspect)
 {
     constexpr auto Pi = std::numbers::pi_v<float>;
-    constexpr float Diagonal = std::numbers::sqrt2_v<float> / 2;
     const HalfExtent extent = halfExtent(Radius, Aspect);
-    const auto circle = [&](int fillStyle, float radius) {
-        m_target.FillStyle = fillStyle;
-        m_target.Circle(stamp.x0, stamp.y0, radius, stamp.outline, Aspect);
-    };
-    const auto outline = [&] {
-        circle(1, Radius);
-        m_target.DrawWidth = innerWidth(m_target.DrawWidth, extent);
-    };
-    const auto filledHalf = [&](float start, float end) {
-        m_target.FillStyle = 0;
-        m_target.Arc(stamp.x0, stamp.y0, Radius, stamp.outline, start, end, Aspect);
-    };
-    /// A diameter whose ends lie the given parts of the half-axes from the centre.
-    const auto diameter = [&](float x, float y) {
-        m_target.Line(stamp.x0 - x * extent.width, stamp.y0 - y * extent.height, stamp.x0 + x * extent.width,
-                      stamp.y0 + y * extent.height, stamp.outline);
-    };
-
+    // The plain circles keep the line that was asked for.
+    const Outline outline =
+        design <= 3 ? Outline{extent, m_target.DrawWidth}
+                    : legibleOutline(extent, m_target.DrawWidth, design == 9 ? Lines::Fine : Lines::Plain);
+    RoundDesign shape(m_target, stamp.x0, stamp.y0, outline, stamp.outline);
     m_target.FillColor = stamp.fill;
+    if (design >= 1 && design <= 11) {
+        shape.circle(design == 2);
+    }
     switch (design) {
-    case 1:
-        circle(1, Radius);
-        break;
-    case 2:
-        circle(0, Radius);
-        break;
-    case 3: // a dot within
-        outline();
-        circle(0, Radius / 2);
+    case 3:
+        shape.dot();
         break;
     case 4:
-        outline();
-        diameter(0, 1);
+        shape.diameter(0, 1);
         break;
     case 5:
-        outline();
-        diameter(1, 0);
+        shape.diameter(1, 0);
         break;
     case 6:
-        outline();
-        diameter(0, 1);
-        diameter(1, 0);
+        shape.diameter(0, 1);
+        shape.diameter(1, 0);
         break;
     case 7: // upper half filled
-        outline();
-        filledHalf(-2 * Pi, -Pi);
+        shape.filledHalf(-2 * Pi, -Pi);
         break;
     case 8: // lower half filled
-        outline();
-        filledHalf(-Pi, -2 * Pi);
+        shape.filledHalf(-Pi, -2 * Pi);
         break;
-    case 9: // a ring within
-        outline();
-        circle(1, Radius / 2);
+    case 9:
+        shape.ring();
         break;
     case 10:
-        outline();
-        diameter(Diagonal, -Diagonal);
+        shape.rising();
         break;
     case 11:
-        outline();
-        diameter(Diagonal, -Diagonal);
-        diameter(Diagonal, Diagonal);
+        shape.rising();
+        shape.falling();
         break;
     default:
         break;
     }
-}
-
-void SymbolShapes::DrawFan(int design, const Stamp& stamp, float Radius, float Aspect)
-{
-    struct Sector
-    {
-        float start;
-        float end;
-    };
-    constexpr float Pi = 3.1415926F;
-    constexpr float Pi2 = 6.2831852F;
-    constexpr float Pi3 = 9.4247778F;
-    constexpr std::array<Sector, 20> Sectors = {{
-        {-Pi2, -Pi},
-        {-Pi, -Pi2},
-        {-Pi / 2, -Pi3 / 2},
-        {-Pi3 / 2, -Pi / 2},
-        {-Pi / 4, -7 * Pi / 4},
-        {-Pi3 / 4, -Pi / 4},
-        {-5 * Pi / 4, -Pi3 / 4},
-        {-7 * Pi / 4, -5 * Pi / 4},
-        {-Pi3 / 4, -5 * Pi / 4},
-        {-7 * Pi / 4, -Pi / 4},
-        {-Pi / 4, -Pi3 / 4},
-        {-5 * Pi / 4, -7 * Pi / 4},
-        {-Pi2, -Pi / 2},
-        {-Pi / 2, -Pi},
-        {-Pi, -Pi3 / 2},
-        {-Pi3 / 2, -Pi2},
-        {-Pi / 2, -Pi2},
-        {-Pi, -Pi / 2},
-        {-Pi3 / 2, -Pi},
-        {-Pi2, -Pi3 / 2},
-    }};
-    if (design < 1 || design > static_cast<int>(Sectors.size())) {
-        return;
-    }
-    const Sector& sector = Sectors.at(static_cast<std::size_t>(design - 1));
-    m_target.FillStyle = stamp.painted ? 0 : 1;
-    m_target.FillColor = stamp.fill;
-    m_target.Arc(stamp.x0, stamp.y0, Radius, stamp.outline, sector.start, sector.end, Aspect);
 }

@@ -98,6 +98,47 @@ void SymbolShapes::DrawOneSymbol(const HankoStyle& hanko, const Stamp& stamp)
     }
 }
 
+void SymbolShapes::DrawFan(int design, const Stamp& stamp, float Radius, float Aspect)
+{
+    struct Sector
+    {
+        float start;
+        float end;
+    };
+    constexpr float Pi = 3.1415926F;
+    constexpr float Pi2 = 6.2831852F;
+    constexpr float Pi3 = 9.4247778F;
+    constexpr std::array<Sector, 20> Sectors = {{
+        {-Pi2, -Pi},
+        {-Pi, -Pi2},
+        {-Pi / 2, -Pi3 / 2},
+        {-Pi3 / 2, -Pi / 2},
+        {-Pi / 4, -7 * Pi / 4},
+        {-Pi3 / 4, -Pi / 4},
+        {-5 * Pi / 4, -Pi3 / 4},
+        {-7 * Pi / 4, -5 * Pi / 4},
+        {-Pi3 / 4, -5 * Pi / 4},
+        {-7 * Pi / 4, -Pi / 4},
+        {-Pi / 4, -Pi3 / 4},
+        {-5 * Pi / 4, -7 * Pi / 4},
+        {-Pi2, -Pi / 2},
+        {-Pi / 2, -Pi},
+        {-Pi, -Pi3 / 2},
+        {-Pi3 / 2, -Pi2},
+        {-Pi / 2, -Pi2},
+        {-Pi, -Pi / 2},
+        {-Pi3 / 2, -Pi},
+        {-Pi2, -Pi3 / 2},
+    }};
+    if (design < 1 || design > static_cast<int>(Sectors.size())) {
+        return;
+    }
+    const Sector& sector = Sectors.at(static_cast<std::size_t>(design - 1));
+    m_target.FillStyle = stamp.painted ? 0 : 1;
+    m_target.FillColor = stamp.fill;
+    m_target.Arc(stamp.x0, stamp.y0, Radius, stamp.outline, sector.start, sector.end, Aspect);
+}
+
 void SymbolShapes::DrawOnePolygon(const HankoStyle& hanko, const Stamp& stamp)
 {
     struct Variation

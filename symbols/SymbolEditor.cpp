@@ -167,10 +167,11 @@ void SymbolEditor::insertRecord(int n, HankoFields& fields)
     DisplayHanreiData();
 }
 
-void SymbolEditor::deleteRecord(int n)
+bool SymbolEditor::deleteRecord(int n)
 {
     checkNotNegative(n);
-    if (n > 0 && n <= m_set.NHanrei) {
+    const bool exists = n > 0 && n <= m_set.NHanrei;
+    if (exists) {
         for (int i = n; i < m_set.NHanrei; ++i) {
             copyRecord(i + 1, i);
         }
@@ -178,6 +179,7 @@ void SymbolEditor::deleteRecord(int n)
         m_set.HankoUnsaved = true;
     }
     DisplayHanreiData();
+    return exists && n <= m_set.CurrentHanko;
 }
 
 void SymbolEditor::initialize(HankoFields& fields)

@@ -53,6 +53,8 @@ public:
     NextResult next(HankoFields& fields);
     /// Goes to the previous record; stays at record 1.
     void previous(HankoFields& fields);
+    /// Goes to record k of the set. Raises subscript out of range where no set has it.
+    void goTo(int k, HankoFields& fields);
 
     // Each raises subscript out of range for a negative number, which changes nothing.
 
@@ -60,8 +62,8 @@ public:
     /// nothing; number 0 clears the scratch record. Raises subscript out of range where the set is full.
     void insertRecord(int n, HankoFields& fields);
     /// Deletes record n of the set; what the last record held stays behind the set. Fields and current
-    /// record stay.
-    void deleteRecord(int n);
+    /// record stay; returns whether the fields belong to the current record no longer.
+    bool deleteRecord(int n);
 
     /// Empties the set.
     void initialize(HankoFields& fields);
@@ -81,7 +83,6 @@ public:
 private:
     HankoFields fieldsOf(int k) const;
     void SetSame(HankoStyle& style) const;
-    void goTo(int record, HankoFields& fields);
     void copyRecord(int from, int to);
 
     SymbolSet& m_set;

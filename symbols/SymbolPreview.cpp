@@ -6,6 +6,7 @@
 #include "symbols/SymbolEditor.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace {
 
@@ -33,15 +34,18 @@ MapFont previewFont(const MapFont& mapFont)
     return font;
 }
 
+float rowHeight(const DrawSurface& surface)
+{
+    return std::clamp((surface.Height - Headings) / SymbolEditor::MaxShown, SmallestRow, LargestRow);
+}
+
 /// One drawing of the preview.
 class Preview
 {
 public:
     Preview(VarnModule& varn, int first, DrawSurface& surface)
         : m_varn(varn), m_first(first), m_surface(surface), m_font(previewFont(varn)),
-          m_rowHeight(
-              std::clamp((surface.Height - Headings) / SymbolEditor::MaxShown, SmallestRow, LargestRow)),
-          m_phonetic(varn, m_font, varn, varn.Pictures, {surface, m_traces})
+          m_rowHeight(rowHeight(surface)), m_phonetic(varn, m_font, varn, varn.Pictures, {surface, m_traces})
     {
         m_surface.FontName = m_font.MapFontName;
         m_surface.FontSize = m_font.MapFontSize;
@@ -168,6 +172,12 @@ float DisplayHanrei(VarnModule& varn, int first, int last, DrawSurface& surface)
     preview.drawHeading(captionColumn, QStringLiteral("Caption"));
     preview.drawRule();
     return end + Edge;
+}
+
+std::optional<int> recordAt(float y, int first, int last, const DrawSurface& surface)
+{
+    const int record = first + static_cast<int>(std::floor((y - Headings) / rowHeight(surface)));
+    return record >= first && record <= last ? std::optional(record) : std::nullopt;
 }
 
 float smallestPreviewHeight()

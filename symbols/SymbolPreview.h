@@ -2,6 +2,8 @@
 
 #include "shell/VarnModule.h"
 
+#include <optional>
+
 /// Whether a symbol of this number and these colours can be drawn.
 bool canDraw(const HankoStyle& hanko, const PolygonTable& polygons);
 
@@ -16,6 +18,9 @@ void drawSymbol(const HankoStyle& hanko, const PolygonTable& polygons, MapGeomet
 /// Returns the x where the widest row ends, in twips. Raises file not found for a glyph that the installation
 /// lacks.
 float DisplayHanrei(VarnModule& varn, int first, int last, DrawSurface& surface);
+
+/// The record whose row of such a preview lies at height `y`, twips; nothing where none does.
+std::optional<int> recordAt(float y, int first, int last, const DrawSurface& surface);
 
 /// The height that a preview of 20 records needs at least, in twips.
 float smallestPreviewHeight();

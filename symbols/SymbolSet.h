@@ -22,9 +22,9 @@ struct HankoStyle
     bool operator==(const HankoStyle&) const = default;
 };
 
-/// A symbol set: for each kind of word form its symbol and its caption, at most 100 records, numbered from 1.
-/// Record 0 is a scratch record of the editor.
-struct SymbolSet
+/// For each kind of word form its symbol and its caption: at most 100 records, numbered from 1. Record 0 is a
+/// scratch record of the editor.
+struct SymbolRecords
 {
     /// Free comment.
     QString Explain;
@@ -32,6 +32,13 @@ struct SymbolSet
     BoundedArray<QString, Bounds{0, 100}> HankoWord;
     BoundedArray<QString, Bounds{0, 100}> HankoCaption;
     BoundedArray<HankoStyle, Bounds{0, 100}> Hanko;
+
+    bool operator==(const SymbolRecords&) const = default;
+};
+
+/// A symbol set that is being edited.
+struct SymbolSet : SymbolRecords
+{
     /// Name of the symbol file last opened, without its folder.
     QString SymbolFileName;
 

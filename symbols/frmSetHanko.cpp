@@ -3,6 +3,7 @@
 #include "platform/ColorList.h"
 #include "platform/Numbers.h"
 #include "render/SymbolShapes.h"
+#include "render/WordDelegate.h"
 #include "shell/VarnModule.h"
 #include "symbols/SymbolPicker.h"
 #include "symbols/SymbolPreview.h"
@@ -10,6 +11,8 @@
 
 #include <QCloseEvent>
 #include <QLabel>
+#include <QMouseEvent>
+#include <QSignalBlocker>
 
 #include <algorithm>
 #include <cmath>
@@ -46,6 +49,7 @@ frmSetHanko::frmSetHanko(VarnModule& varn, Dialogs& dialogs)
     m_ui->cboSize->addItems({QStringLiteral("Small"), QStringLiteral("Normal"), QStringLiteral("Large")});
     m_ui->cboWidth->addItems({QStringLiteral("Thin"), QStringLiteral("Normal"), QStringLiteral("Thick")});
 
+    m_ui->lstKindWord->setItemDelegate(new WordDelegate(varn, this));
     m_ui->picHanrei->setSurface(m_preview, SurfaceView::Fit::NaturalSize);
     m_ui->picHanrei->setPlaceholder(QStringLiteral("The registered records are shown here."));
     m_ui->picHanrei->setMinimumHeight(pixels(smallestPreviewHeight()));
@@ -60,6 +64,7 @@ frmSetHanko::frmSetHanko(VarnModule& varn, Dialogs& dialogs)
     connectMenus();
     connectButtons();
     connectFields();
+    connectHistory();
 }
 
 frmSetHanko::~frmSetHanko() = default;
@@ -71,7 +76,7 @@ void frmSetHanko::connectMenus()
     handle(m_ui->mnuSaveHanko, &QAction::triggered, &frmSetHanko::mnuSaveHanko_Click);
     handle(m_ui->mnuHankoInit, &QAction::triggered, &frmSetHanko::mnuHankoInit_Click);
     handle(m_ui->mnuLoadMap, &QAction::triggered, &frmSetHanko::mnuLoadMap_Click);
-    connect(m_ui->mnuHankoReturn, &QAction::triggered, this, &frmSetHanko::toMain);
+    handle(m_ui->mnuHankoReturn, &QAction::triggered, &frmSetHanko::mnuHankoReturn_Click);
 }
 
 void frmSetHanko::connectButtons()
@@ -111,6 +116,7 @@ void frmSetHanko::Form_Load()
             m_editor.start(blank);
             showStored(blank);
             m_shownReading = m_varn.HankoReading;
+            m_history.restart(state());
             DisplayHanrei();
         }
         followSharedState();
@@ -124,6 +130,16 @@ void frmSetHanko::followSharedState()
     if (m_shownReading == m_varn.HankoReading) {
         return;
     }
+    showSet();
+    m_savedForItem.clear();
+    m_history.restart(state());
+    if (!m_varn.HankoUnsaved) {
+        m_history.noteSaved(m_varn);
+    }
+}
+
+void frmSetHanko::showSet()
+{
     m_shownReading = m_varn.HankoReading;
     showStored(m_editor.GetData());
     m_editor.DisplayHanreiData();
@@ -147,6 +163,12 @@ HankoFields frmSetHanko::fields() const
 
 void frmSetHanko::showFields(const HankoFields& fields)
 {
+    std::vector<std::unique_ptr<QSignalBlocker>> shownAtOnce;
+    for (QWidget* control : std::initializer_list<QWidget*>{
+             m_ui->txtExplain, m_ui->txtWord, m_ui->txtHanrei, m_ui->txtHankoNumber, m_ui->cboColor,
+             m_ui->cboBack, m_ui->chkPat, m_ui->cboSize, m_ui->cboWidth}) {
+        shownAtOnce.push_back(std::make_unique<QSignalBlocker>(control));
+    }
     // A value that a list does not have is shown by choosing nothing.
     const auto choose = [](QComboBox& box, int number) {
         box.setCurrentIndex(number >= 0 && number < box.count() ? number : -1);
@@ -160,12 +182,14 @@ void frmSetHanko::showFields(const HankoFields& fields)
     m_ui->chkPat->setChecked(fields.style.PaintOn != 0);
     choose(*m_ui->cboSize, fields.style.SymbolSize);
     choose(*m_ui->cboWidth, fields.style.LineThick);
+    drawSample();
 }
 
 void frmSetHanko::showStored(const HankoFields& fields)
 {
     showFields(fields);
     m_stored = this->fields();
+    m_orphaned = false;
 }
 
 void frmSetHanko::drawSample()
@@ -194,6 +218,9 @@ bool frmSetHanko::hasSet() const
 
 void frmSetHanko::refresh()
 {
+    if (m_shownReading >= 0) {
+        m_history.record(state());
+    }
     QStringList title = {QStringLiteral("Set Symbols for Kinds"), m_varn.VarnMapName.mid(1),
                          m_varn.ItemFileName, m_varn.SymbolFileName};
     title.removeAll(QString());
@@ -204,6 +231,9 @@ void frmSetHanko::refresh()
     for (QAction* entry : {m_ui->mnuSaveHanko, m_ui->mnuHankoInit, m_ui->mnuLoadMap}) {
         entry->setEnabled(hasSet());
     }
+    const QLineEdit* box = typingBox();
+    m_ui->mnuUndo->setEnabled(m_history.canUndo());
+    m_ui->mnuRedo->setEnabled(m_history.canRedo() || (box != nullptr && box->isRedoAvailable()));
     m_ui->picHanrei->refresh();
     m_ui->picSample->refresh();
     m_status->setText(status());
@@ -212,6 +242,9 @@ void frmSetHanko::refresh()
 QString frmSetHanko::status() const
 {
     QStringList parts;
+    if (m_orphaned) {
+        parts << QStringLiteral("The fields are no longer those of record %1").arg(m_varn.CurrentHanko);
+    }
     if (m_varn.CurrentHanko == 0) {
         parts << QStringLiteral("Record 0 is outside the set: type a kind, then Next leads to record 1");
     } else if (isEdited()) {
@@ -246,11 +279,19 @@ bool frmSetHanko::event(QEvent* event)
 
 bool frmSetHanko::eventFilter(QObject* watched, QEvent* event)
 {
+    if (event->type() == QEvent::ShortcutOverride) {
+        // The form's undo comes after the text box's own, so that it has the keys.
+        const QKeySequence keys(static_cast<QKeyEvent*>(event)->keyCombination());
+        return m_ui->mnuUndo->shortcuts().contains(keys) || m_ui->mnuRedo->shortcuts().contains(keys);
+    }
     if (watched == m_ui->picHanrei && event->type() == QEvent::Resize) {
         fitSurface(m_preview, m_ui->picHanrei->size());
         if (m_previewDrawn) {
             run([this] { DisplayHanrei(); });
         }
+    } else if (watched == m_ui->picHanrei && event->type() == QEvent::MouseButtonRelease) {
+        const double y = static_cast<QMouseEvent*>(event)->position().y() * TwipsPerPixel;
+        run([this, y] { showRecordAt(static_cast<float>(y)); });
     }
     return VarnForm::eventFilter(watched, event);
 }

@@ -3,10 +3,12 @@
 #include "platform/DrawSurface.h"
 #include "platform/VarnForm.h"
 #include "symbols/SymbolEditor.h"
+#include "symbols/SymbolHistory.h"
 
 #include <memory>
 
 class QLabel;
+class QLineEdit;
 class SymbolPicker;
 struct VarnModule;
 
@@ -45,6 +47,7 @@ private:
     void connectMenus();
     void connectButtons();
     void connectFields();
+    void connectHistory();
 
     void cmdWord_Click();
     void cmdAutoHanrei_Click();
@@ -60,7 +63,10 @@ private:
     void mnuOpenHanko_Click();
     void mnuSaveHanko_Click();
     void mnuHankoInit_Click();
+    void mnuUndo_Click();
+    void mnuRedo_Click();
     void mnuLoadMap_Click();
+    void mnuHankoReturn_Click();
 
     void SetKindWord();
     void LoadSrtData();
@@ -74,6 +80,16 @@ private:
     void showFields(const HankoFields& fields);
     /// The same, where the fields hold what is stored.
     void showStored(const HankoFields& fields);
+    /// Shows the shared symbol set at its current record.
+    void showSet();
+    /// Shows the record whose row in the preview lies at height `y`, twips.
+    void showRecordAt(float y);
+
+    /// What undo goes back to.
+    SymbolEditorState state() const;
+    void restore(const SymbolEditorState& state);
+    /// The text box that is being typed in; null where none is.
+    QLineEdit* typingBox() const;
 
     /// Takes over what other forms loaded meanwhile.
     void followSharedState();
@@ -81,8 +97,10 @@ private:
     QString status() const;
     bool isEdited() const { return m_stored != fields(); }
     bool hasSet() const;
+    bool mayGiveUpFields(const QString& question);
     bool mayGiveUpWork(const QString& question);
     std::optional<QString> askForFile(const QString& title, const QString& filter);
+    QString proposedName() const;
     std::optional<QString> askForSavePath();
 
     std::unique_ptr<Ui::frmSetHanko> m_ui;
@@ -94,6 +112,11 @@ private:
     DrawSurface m_sample;
     /// The fields as they were shown or registered last.
     HankoFields m_stored;
+    /// Whether the current record was deleted or moved away from under its fields.
+    bool m_orphaned = false;
+    SymbolHistory m_history;
+    /// The item that was loaded when the set was saved last.
+    QString m_savedForItem;
     /// The item whose kinds are listed.
     QString m_listedItem;
     /// Which reading of a symbol set is shown; -1 before the form was loaded.

@@ -5,6 +5,7 @@
 #include "shell/VarnModule.h"
 #include "symbols/SymbolFile.h"
 #include "symbols/SymbolPicker.h"
+#include "symbols/SymbolPreview.h"
 #include "symbols/frmSetHanko.h"
 #include "ui_frmSetHanko.h"
 
@@ -118,7 +119,7 @@ void frmSetHanko::cmdDelete_Click()
     const auto answer = dialogs().input(QStringLiteral("Specify Number of Delete Data."),
                                         QStringLiteral("Delete"), QString());
     if (answer) {
-        m_editor.deleteRecord(toInteger(Val(*answer)));
+        m_orphaned = m_editor.deleteRecord(toInteger(Val(*answer))) || m_orphaned;
         DisplayHanrei();
     }
 }
@@ -135,21 +136,43 @@ void frmSetHanko::cmdDown_Click()
     DisplayHanrei();
 }
 
-// The files
+void frmSetHanko::showRecordAt(float y)
+{
+    const auto record = recordAt(y, m_editor.firstShown(), m_editor.lastShown(), m_preview);
+    if (record && mayGiveUpFields(QStringLiteral("Show record %1 and lose them?").arg(*record))) {
+        HankoFields held = fields();
+        m_editor.goTo(*record, held);
+        showStored(held);
+        DisplayHanrei();
+    }
+}
+
+// What leaving the fields, the set or the form would lose
+
+bool frmSetHanko::mayGiveUpFields(const QString& question)
+{
+    return !isEdited() || dialogs().confirmLoss(
+                              QStringLiteral("The fields hold changes that are not registered. ") + question,
+                              QStringLiteral("Set Symbols for Kinds"));
+}
 
 bool frmSetHanko::mayGiveUpWork(const QString& question)
 {
-    const QString title = QStringLiteral("Set Symbols for Kinds");
-    if (m_varn.HankoUnsaved) {
-        return dialogs().askYesNo(
-            QStringLiteral("The symbol set has changes that are not saved. ") + question, title);
+    if (!m_varn.HankoUnsaved) {
+        return mayGiveUpFields(question);
     }
-    if (isEdited()) {
-        return dialogs().askYesNo(
-            QStringLiteral("The fields hold changes that are not registered. ") + question, title);
-    }
-    return true;
+    return dialogs().confirmLoss(QStringLiteral("The symbol set has changes that are not saved. ") + question,
+                                 QStringLiteral("Set Symbols for Kinds"));
 }
+
+void frmSetHanko::mnuHankoReturn_Click()
+{
+    if (mayGiveUpFields(QStringLiteral("Leave the form without registering them?"))) {
+        Q_EMIT toMain();
+    }
+}
+
+// The files
 
 std::optional<QString> frmSetHanko::askForFile(const QString& title, const QString& filter)
 {
@@ -158,9 +181,17 @@ std::optional<QString> frmSetHanko::askForFile(const QString& title, const QStri
     return file ? std::optional(m_varn.Drive.varnPath(*file)) : std::nullopt;
 }
 
+QString frmSetHanko::proposedName() const
+{
+    const QString name = symbolFileStem(m_varn.SymbolFileName);
+    const QString item = m_varn.ItemFileName.section(QLatin1Char('.'), 0, -2);
+    const bool isOfItem = m_savedForItem == m_varn.ItemFileName || name.startsWith(item, Qt::CaseInsensitive);
+    return isOfItem && !name.isEmpty() ? name : item;
+}
+
 std::optional<QString> frmSetHanko::askForSavePath()
 {
-    QString name = symbolFileStem(m_varn.SymbolFileName);
+    QString name = proposedName();
     for (;;) {
         const auto answer = dialogs().input(QStringLiteral("Input File Name of Symbol Data"),
                                             QStringLiteral("Save Symbol File"), name);
@@ -170,8 +201,8 @@ std::optional<QString> frmSetHanko::askForSavePath()
         name = symbolFileStem(*answer);
         const QString path = symbolFilePath(m_varn, name);
         if (!fileExists(m_varn.Drive, path) ||
-            dialogs().askYesNo(QStringLiteral("File already exist. Overwrite O.K.? "),
-                               QStringLiteral("Re Input File Name"))) {
+            dialogs().confirmLoss(QStringLiteral("File already exist. Overwrite O.K.? "),
+                                  QStringLiteral("Re Input File Name"))) {
             return path;
         }
     }
@@ -191,10 +222,11 @@ void frmSetHanko::mnuOpenHanko_Click()
     if (!mayGiveUpWork(QStringLiteral("Open a symbol file and lose them?"))) {
         return;
     }
-    SetKindWord();
+    run([this] { SetKindWord(); }); // a set can be worked on without the list
     if (const auto path =
             askForFile(QStringLiteral("Open Symbol File"), QStringLiteral("HAN files (*.han)|*.han"))) {
         LoadHankoData(*path);
+        followSharedState();
     }
 }
 
@@ -202,7 +234,6 @@ void frmSetHanko::LoadHankoData(const QString& path)
 {
     ::LoadHankoData(m_varn.Drive, path, m_varn);
     symbolSetLoaded(m_varn);
-    followSharedState();
 }
 
 void frmSetHanko::mnuSaveHanko_Click()
@@ -211,9 +242,9 @@ void frmSetHanko::mnuSaveHanko_Click()
     HankoFields commentStored = record;
     commentStored.Explain = m_stored.Explain;
     if (commentStored != m_stored &&
-        !dialogs().askYesNo(QStringLiteral("The fields hold changes that are not registered and will not be "
-                                           "in the file. Save without them?"),
-                            QStringLiteral("Save Symbol File"))) {
+        !dialogs().confirmLoss(QStringLiteral("The fields hold changes that are not registered and will not "
+                                              "be in the file. Save without them?"),
+                               QStringLiteral("Save Symbol File"))) {
         return;
     }
     if (const auto path = askForSavePath()) {
@@ -226,6 +257,9 @@ void frmSetHanko::mnuSaveHanko_Click()
 void frmSetHanko::ResetHankoData(const QString& path)
 {
     LoadHankoData(path);
+    showSet();
+    m_history.noteSaved(m_varn);
+    m_savedForItem = m_varn.ItemFileName;
 }
 
 void frmSetHanko::mnuHankoInit_Click()
@@ -241,6 +275,9 @@ void frmSetHanko::mnuHankoInit_Click()
 
 void frmSetHanko::mnuLoadMap_Click()
 {
+    if (!mayGiveUpFields(QStringLiteral("Leave the form without registering them?"))) {
+        return;
+    }
     if (m_varn.NHanrei > 0) {
         symbolSetLoaded(m_varn);
     }

@@ -11,10 +11,15 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
+#include <QStatusBar>
+
+#include <algorithm>
+#include <functional>
 
 namespace {
 
@@ -22,6 +27,18 @@ using Shown = ScriptedDialogs::Shown;
 
 const QByteArray TwoRecords = "\"rain set\"\r\n2\r\n\"ame\",\"AME\"\r\n1\r\n1\r\n2\r\n1\r\n0\r\n2\r\n"
                               "\"uyu\",\"UYU\"\r\n49\r\n4\r\n0\r\n0\r\n1\r\n1\r\n";
+
+/// Dialogs that keep the name that an input box proposed last.
+struct ProposingDialogs : ScriptedDialogs
+{
+    std::optional<QString> input(const QString& prompt, const QString& title, const QString& initial) override
+    {
+        proposed = initial;
+        return ScriptedDialogs::input(prompt, title, initial);
+    }
+
+    QString proposed;
+};
 
 /// The symbol set-up form on the map of a `TestSurvey` that has one item, `rain.dbs`, and one symbol file.
 class SetHanko : public testing::Test
@@ -51,6 +68,34 @@ protected:
     int chosen(const char* name) { return control<QComboBox>(name).currentIndex(); }
     void click(const char* name) { control<QPushButton>(name).click(); }
     QString counter() { return control<QLabel>("lblRec").text(); }
+    QString status() { return form.statusBar()->findChild<QLabel*>()->text(); }
+
+    void press(QWidget& box, Qt::Key key, const char* letter)
+    {
+        QKeyEvent event(QEvent::KeyPress, key, Qt::NoModifier, QLatin1String(letter));
+        QApplication::sendEvent(&box, &event);
+    }
+
+    /// Clicks the row of the preview, from 0.
+    void clickRow(int row)
+    {
+        const QPointF place(100, 26 + 22 * row + 11);
+        QMouseEvent event(QEvent::MouseButtonRelease, place, place, Qt::LeftButton, Qt::NoButton, {});
+        QApplication::sendEvent(&control<QWidget>("picHanrei"), &event);
+    }
+
+    /// All that a step changes: the records, the current one, and the fields.
+    QString work()
+    {
+        QStringList parts{counter(), QString::number(chosen("cboColor"))};
+        for (const char* box : {"txtExplain", "txtWord", "txtHanrei", "txtHankoNumber"}) {
+            parts << text(box);
+        }
+        for (int k = 1; k <= varn.NHanrei; ++k) {
+            parts << varn.HankoWord(k) << varn.HankoCaption(k) << QString::number(varn.Hanko(k).HankoNo);
+        }
+        return parts.join(QLatin1Char('|'));
+    }
 
     void trigger(const char* entry, const char* file)
     {
@@ -77,7 +122,7 @@ protected:
 
     TestSurvey survey;
     VarnModule& varn = survey.varn;
-    ScriptedDialogs dialogs;
+    ProposingDialogs dialogs;
     frmSetHanko form{varn, dialogs};
 };
 
@@ -342,4 +387,183 @@ TEST_F(OpenSetHanko, ASymbolIsChosenFromTheCatalogue)
         EXPECT_EQ(text("txtHankoNumber"), QLatin1String(odd));
     }
     EXPECT_TRUE(dialogs.errors.empty());
+}
+
+TEST_F(OpenSetHanko, EveryStepIsTakenBackAndDoneAgain)
+{
+    trigger("mnuOpenHanko", "rain.han");
+    EXPECT_FALSE(menu("mnuUndo").isEnabled());
+    const std::function<void()> steps[] = {
+        [&] { choose("cboColor", 9); },
+        [&] { registerRecord("ame", "93"); },
+        [&] { click("cmdNext"); },
+        [&] { click("cmdBefore"); },
+        [&] {
+            dialogs.inputs = {QStringLiteral("1")};
+            click("cmdInserte");
+        },
+        [&] {
+            dialogs.inputs = {QStringLiteral("2")};
+            click("cmdDelete");
+        },
+        [&] { clickRow(1); },
+        [&] {
+            dialogs.yesNo = {true};
+            menu("mnuHankoInit").trigger();
+        },
+    };
+    std::vector<QString> works{work()};
+    for (const auto& step : steps) {
+        step();
+        works.push_back(work());
+    }
+    std::vector<QString> undone;
+    while (menu("mnuUndo").isEnabled()) {
+        menu("mnuUndo").trigger();
+        undone.push_back(work());
+    }
+    for (const QString& before : works) {
+        EXPECT_TRUE(before == works.back() || std::ranges::count(undone, before) > 0) << qPrintable(before);
+    }
+    EXPECT_EQ(work(), works.front());
+    EXPECT_FALSE(form.isWindowModified()) << "the set is as it was read";
+    while (menu("mnuRedo").isEnabled()) {
+        menu("mnuRedo").trigger();
+    }
+    EXPECT_EQ(work(), works.back());
+    menu("mnuUndo").trigger();
+    EXPECT_EQ(work(), works[works.size() - 2]);
+    EXPECT_TRUE(form.isWindowModified());
+
+    dialogs.yesNo = {true};
+    trigger("mnuOpenHanko", "rain.han");
+    EXPECT_FALSE(menu("mnuUndo").isEnabled()) << "steps belong to one set";
+}
+
+TEST_F(OpenSetHanko, AfterASaveWhatIsTakenBackIsUnsaved)
+{
+    registerRecord("ame", "1");
+    dialogs.inputs = {QStringLiteral("new")};
+    menu("mnuSaveHanko").trigger();
+    EXPECT_FALSE(varn.HankoUnsaved);
+    registerRecord("uyu", "2");
+    while (varn.HankoUnsaved && menu("mnuUndo").isEnabled()) {
+        menu("mnuUndo").trigger();
+    }
+    EXPECT_EQ(varn.HankoWord(1), QStringLiteral("ame"));
+    while (menu("mnuUndo").isEnabled() && varn.NHanrei > 0) {
+        menu("mnuUndo").trigger();
+    }
+    menu("mnuRedo").trigger();
+    EXPECT_EQ(varn.NHanrei, 1);
+    EXPECT_FALSE(varn.HankoUnsaved);
+}
+
+TEST_F(OpenSetHanko, ATextBoxTakesBackItsOwnTypingFirst)
+{
+    auto& box = control<QLineEdit>("txtWord");
+    choose("cboColor", 4);
+    box.setFocus();
+    press(box, Qt::Key_A, "a");
+    press(box, Qt::Key_B, "b");
+    QKeyEvent keys(QEvent::ShortcutOverride, Qt::Key_Z, Qt::ControlModifier);
+    keys.ignore();
+    QApplication::sendEvent(&box, &keys);
+    EXPECT_FALSE(keys.isAccepted()) << "left to the form";
+    menu("mnuUndo").trigger();
+    EXPECT_EQ(box.text(), QString());
+    EXPECT_TRUE(box.isRedoAvailable());
+    EXPECT_EQ(chosen("cboColor"), 4);
+    menu("mnuRedo").trigger();
+    EXPECT_EQ(box.text(), QStringLiteral("ab"));
+    menu("mnuUndo").trigger();
+    menu("mnuUndo").trigger();
+    EXPECT_EQ(chosen("cboColor"), 0);
+    EXPECT_FALSE(menu("mnuUndo").isEnabled());
+}
+
+TEST_F(OpenSetHanko, SaveProposesTheLoadedItemUnlessTheSetIsItsOwn)
+{
+    const auto proposed = [this] {
+        dialogs.inputs = {std::nullopt};
+        menu("mnuSaveHanko").trigger();
+        return dialogs.proposed;
+    };
+    registerRecord("ame", "1");
+    EXPECT_EQ(proposed(), QStringLiteral("rain"));
+    survey.write(ling("wind.han"), TwoRecords);
+    survey.write(ling("rain2.han"), TwoRecords);
+    dialogs.yesNo = {true};
+    trigger("mnuOpenHanko", "wind.han");
+    EXPECT_EQ(proposed(), QStringLiteral("rain"));
+    trigger("mnuOpenHanko", "rain2.han");
+    EXPECT_EQ(proposed(), QStringLiteral("rain2"));
+    dialogs.inputs = {QStringLiteral("mine")};
+    menu("mnuSaveHanko").trigger();
+    EXPECT_EQ(proposed(), QStringLiteral("mine"));
+}
+
+TEST_F(OpenSetHanko, AfterDeleteTheFormSaysThatTheFieldsAreNotTheRecords)
+{
+    trigger("mnuOpenHanko", "rain.han");
+    const auto isSaid = [this] { return status().contains(QStringLiteral("no longer those of record 1")); };
+    click("cmdBefore");
+    dialogs.inputs = {QStringLiteral("2"), QStringLiteral("1")};
+    click("cmdDelete");
+    EXPECT_FALSE(isSaid()) << "record 1 is what it was";
+    click("cmdDelete");
+    EXPECT_TRUE(isSaid());
+    EXPECT_EQ(text("txtWord"), QStringLiteral("ame"));
+    click("cmdSave");
+    EXPECT_FALSE(isSaid());
+    menu("mnuUndo").trigger();
+    EXPECT_TRUE(isSaid());
+}
+
+TEST_F(OpenSetHanko, AClickOnARowGoesToItsRecord)
+{
+    trigger("mnuOpenHanko", "rain.han");
+    dialogs.shown.clear();
+    clickRow(2);
+    clickRow(-1);
+    EXPECT_EQ(counter(), QStringLiteral("2/2")) << "no record stands there";
+    clickRow(0);
+    EXPECT_EQ(counter(), QStringLiteral("1/2"));
+    EXPECT_EQ(text("txtHanrei"), QStringLiteral("AME"));
+    EXPECT_TRUE(dialogs.shown.empty());
+    type("txtHanrei", "not registered");
+    dialogs.yesNo = {false, true};
+    clickRow(1);
+    EXPECT_EQ(counter(), QStringLiteral("1/2"));
+    EXPECT_EQ(text("txtHanrei"), QStringLiteral("not registered"));
+    clickRow(1);
+    EXPECT_EQ(counter(), QStringLiteral("2/2"));
+}
+
+TEST_F(OpenSetHanko, LeavingWithUnregisteredFieldsAsks)
+{
+    int visits = 0;
+    QObject::connect(&form, &frmSetHanko::toMain, &form, [&visits] { ++visits; });
+    QObject::connect(&form, &frmSetHanko::toDrawMap, &form, [&visits] { ++visits; });
+    registerRecord("ame", "1");
+    type("txtWord", "not registered");
+    for (const char* way : {"mnuHankoReturn", "mnuLoadMap"}) {
+        visits = 0;
+        dialogs.yesNo = {false, true};
+        menu(way).trigger();
+        EXPECT_EQ(visits, 0) << way;
+        menu(way).trigger();
+        EXPECT_EQ(visits, 1) << way;
+    }
+}
+
+TEST_F(OpenSetHanko, ADamagedKindsFileDoesNotKeepASetClosed)
+{
+    survey.write(ling("rain.srt"), "2\r\n\"ame\"");
+    trigger("mnuOpenHanko", "rain.han");
+    ASSERT_EQ(dialogs.errors.size(), 1U);
+    EXPECT_TRUE(dialogs.errors[0].text.contains(QStringLiteral("rain.srt")));
+    EXPECT_EQ(counter(), QStringLiteral("2/2"));
+    EXPECT_TRUE(listedKinds().isEmpty());
+    EXPECT_EQ(survey.read(ling("rain.srt")), "2\r\n\"ame\"");
 }

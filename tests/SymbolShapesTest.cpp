@@ -4,8 +4,12 @@
 #include "platform/StandardColors.h"
 #include "tests/TestDrive.h"
 
-#include <QHash>
 #include <QPainter>
+#include <QtMath>
+
+#include <algorithm>
+#include <cmath>
+#include <span>
 
 namespace {
 
@@ -28,14 +32,61 @@ DrawSurface drawn(TestSurvey& survey, const HankoStyle& hanko)
     return target;
 }
 
-/// The surface painted at 192 dpi.
-QImage paintedAsPlotted(const DrawSurface& surface)
+/// Whether two colours differ clearly: a channel by more than 96 of 255.
+bool differ(QRgb one, QRgb other)
 {
-    QImage image(80, 80, QImage::Format_RGB32);
-    image.fill(Qt::white);
-    QPainter painter(&image);
-    paintDrawing(surface.drawing(), painter, 2 / TwipsPerPixel);
-    return image;
+    return one != other && std::max({std::abs(qRed(one) - qRed(other)), std::abs(qGreen(one) - qGreen(other)),
+                                     std::abs(qBlue(one) - qBlue(other))}) > 96;
+}
+
+/// A symbol as it stands on a screen of 96 dpi, at no whole pixel.
+struct SeenSymbol
+{
+    explicit SeenSymbol(const HankoStyle& hanko)
+    {
+        DrawSurface target;
+        MapGeometry geometry;
+        SymbolShapes(PolygonTable(), geometry, {target, target}).DrawHanko(hanko, 244, 244);
+        image.fill(Qt::white);
+        QPainter painter(&image);
+        paintDrawing(target.drawing(), painter, 1 / TwipsPerPixel);
+        painter.end();
+        colored = std::ranges::count_if(pixels(), [](QRgb pixel) { return differ(pixel, 0xffffffff); });
+    }
+
+    std::span<const QRgb> pixels() const
+    {
+        return {reinterpret_cast<const QRgb*>(image.constBits()),
+                static_cast<std::size_t>(image.width() * image.height())};
+    }
+
+    QImage image{32, 32, QImage::Format_RGB32};
+    std::ptrdiff_t colored;
+};
+
+/// Whether two symbols are told apart at a glance: at least three pixels, and a twentieth of what one colours
+/// on average, differ clearly.
+bool lookDifferent(const SeenSymbol& one, const SeenSymbol& other)
+{
+    int different = 0;
+    const auto pixels = other.pixels();
+    return std::ranges::any_of(one.pixels(), [&, i = std::size_t{0}](QRgb pixel) mutable {
+        different += differ(pixel, pixels[i++]) ? 1 : 0;
+        return different >= 3 && 40 * different >= one.colored + other.colored;
+    });
+}
+
+/// Rings, discs and sectors keep radius and pen at every size: their lines fill up the smallest of them.
+bool fillUpAlike(int one, int other, int size)
+{
+    if (size == 1) {
+        return one == 61 && other == 62;
+    }
+    const std::vector<std::vector<int>> groups = {
+        {50, 51}, {60, 61, 62}, {71, 72, 73, 118, 129, 132}, {82, 83, 84, 139, 151, 152}};
+    return size == 0 && std::ranges::any_of(groups, [=](const std::vector<int>& group) {
+               return std::ranges::count(group, one) + std::ranges::count(group, other) == 2;
+           });
 }
 
 } // namespace
@@ -122,22 +173,68 @@ TEST(SymbolShapes, NumbersWithoutADesign)
         EXPECT_TRUE(drawn(survey, symbol(number)).drawing().operations.empty()) << number;
         EXPECT_TRUE(wasPrinted(survey.frmMap.drawing(), QStringLiteral("iSymbol=%1").arg(number)));
     }
-    HankoStyle noColor = symbol(49);
-    noColor.LineColor = 16;
-    EXPECT_EQ(errorOf([&] { drawn(survey, noColor); }).number(), ErrorNumber::InvalidProcedureCall);
 }
 
-TEST(SymbolShapes, EverySymbolLooksDifferentAlsoAtTheSmallestSize)
+TEST(SymbolShapes, SectorsRunFromAngleToAngle)
 {
+    // Degrees counter-clockwise from three o'clock: where each sector starts and how far it runs.
+    const std::pair<double, double> rows[] = {{0, 180},   {180, 180}, {90, 180},  {270, 180}, {45, 270},
+                                              {135, 270}, {225, 270}, {315, 270}, {135, 90},  {315, 90},
+                                              {45, 90},   {225, 90},  {0, 90},    {90, 90},   {180, 90},
+                                              {270, 90},  {90, 270},  {180, 270}, {270, 270}, {0, 270}};
     TestSurvey survey;
-    for (const int size : {0, 1}) {
-        QHash<QByteArray, int> seen;
-        for (int number = 1; number <= symbolCount(survey.varn); ++number) {
-            const QImage image = paintedAsPlotted(drawn(survey, symbol(number, size)));
-            const QByteArray pixels(reinterpret_cast<const char*>(image.constBits()), image.sizeInBytes());
-            EXPECT_FALSE(seen.contains(pixels)) << number << " looks like " << seen.value(pixels);
-            seen.insert(pixels, number);
+    int number = 93;
+    for (const auto& [start, span] : rows) {
+        const auto sector = operationsOf<ArcOperation>(drawn(survey, symbol(number)).drawing()).at(0);
+        EXPECT_NEAR(std::remainder(qRadiansToDegrees(sector.start) - start, 360), 0, 0.01) << number;
+        EXPECT_NEAR(qRadiansToDegrees(sector.span), span, 0.01) << number;
+        ++number;
+    }
+}
+
+TEST(StandardColors, SixteenColorsHaveTheirNumbersAndNames)
+{
+    const std::pair<const char*, QRgb> rows[] = {
+        {"Black", 0xff000000}, {"Blue", 0xff000080},      {"Green", 0xff008000},    {"Cyan", 0xff008080},
+        {"Red", 0xff800000},   {"Magenta", 0xff800080},   {"Yellow", 0xff808000},   {"White", 0xffc0c0c0},
+        {"Gray", 0xff808080},  {"L.Blue", 0xff0000ff},    {"L.Green", 0xff00ff00},  {"L.Cyan", 0xff00ffff},
+        {"L.Red", 0xffff0000}, {"L.Magenta", 0xffff00ff}, {"L.Yellow", 0xffffff00}, {"L.White", 0xffffffff}};
+    QStringList names;
+    for (const auto& [name, color] : rows) {
+        EXPECT_EQ(QBColor(static_cast<int>(names.size())), color) << name;
+        names << QLatin1String(name);
+    }
+    EXPECT_EQ(standardColorNames(), names);
+    for (const int number : {-1, 16}) {
+        EXPECT_EQ(errorOf([&] { QBColor(number); }).number(), ErrorNumber::InvalidProcedureCall);
+    }
+}
+
+TEST(SymbolShapes, EverySymbolLooksDifferentOnAScreenAtEverySize)
+{
+    for (const qint16 size : std::initializer_list<qint16>{0, 1, 2, 3}) {
+        for (const HankoStyle& style : {HankoStyle{1, 0, 0, 0, size, 1}, HankoStyle{1, 0, 12, 1, size, 1}}) {
+            std::vector<SeenSymbol> symbols;
+            for (HankoStyle hanko = style; hanko.HankoNo <= 152; ++hanko.HankoNo) {
+                const SeenSymbol symbol(hanko);
+                for (int earlier = 1; earlier < hanko.HankoNo; ++earlier) {
+                    EXPECT_TRUE(lookDifferent(symbols[static_cast<std::size_t>(earlier - 1)], symbol) ||
+                                fillUpAlike(earlier, hanko.HankoNo, size))
+                        << earlier << " and " << hanko.HankoNo << ", size " << size << ", painted "
+                        << style.PaintOn;
+                }
+                symbols.push_back(symbol);
+            }
         }
+    }
+}
+
+TEST(SymbolShapes, EveryThicknessIsSeenOnEverySymbol)
+{
+    for (qint16 number = 1; number <= 152; ++number) {
+        const SeenSymbol normal({number, 0, 12, 1, 1, 1});
+        EXPECT_TRUE(lookDifferent(SeenSymbol({number, 0, 12, 1, 1, 0}), normal)) << number;
+        EXPECT_TRUE(lookDifferent(SeenSymbol({number, 0, 12, 1, 1, 2}), normal)) << number;
     }
 }
 

@@ -1,0 +1,84 @@
+#include "symbols/SymbolHistory.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace {
+
+constexpr int MostSteps = 500;
+
+/// One step, as the states before and after it.
+class Step : public QUndoCommand
+{
+public:
+    Step(SymbolEditorState& present, const SymbolEditorState& after, int box)
+        : m_present(present), m_before(present), m_after(after), m_box(box)
+    {}
+
+    void undo() override { m_present = m_before; }
+    void redo() override { m_present = m_after; }
+    int id() const override { return m_box; }
+
+    bool mergeWith(const QUndoCommand* next) override
+    {
+        m_after = static_cast<const Step*>(next)->m_after;
+        setObsolete(m_after == m_before);
+        return true;
+    }
+
+private:
+    SymbolEditorState& m_present;
+    SymbolEditorState m_before;
+    SymbolEditorState m_after;
+    int m_box;
+};
+
+} // namespace
+
+SymbolHistory::SymbolHistory()
+{
+    m_steps.setUndoLimit(MostSteps);
+}
+
+void SymbolHistory::restart(const SymbolEditorState& state)
+{
+    m_steps.clear();
+    m_present = state;
+    m_saved = {};
+}
+
+bool SymbolHistory::isSaved(const SymbolRecords& records) const
+{
+    const auto isStored = [&](int k) {
+        return records.HankoWord(k) == m_saved.HankoWord(k) &&
+               records.HankoCaption(k) == m_saved.HankoCaption(k) && records.Hanko(k) == m_saved.Hanko(k);
+    };
+    if (records.NHanrei == 0 && records.Explain.isEmpty()) {
+        return true;
+    }
+    // What stands behind the last record is not part of the set.
+    bool same = records.Explain == m_saved.Explain && records.NHanrei == m_saved.NHanrei;
+    for (int k = 1; same && k <= records.NHanrei; ++k) {
+        same = isStored(k);
+    }
+    return same;
+}
+
+void SymbolHistory::add(const SymbolEditorState& state, int box)
+{
+    if (state != m_present) {
+        m_steps.push(new Step(m_present, state, box));
+    }
+}
+
+const SymbolEditorState& SymbolHistory::undo()
+{
+    m_steps.undo();
+    return m_present;
+}
+
+const SymbolEditorState& SymbolHistory::redo()
+{
+    m_steps.redo();
+    return m_present;
+}
