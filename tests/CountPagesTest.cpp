@@ -13,6 +13,7 @@
 #include <QLockFile>
 
 #include <initializer_list>
+#include <map>
 
 namespace {
 
@@ -174,6 +175,24 @@ TEST(StatisticsPages, TwentyLevelsMakeAColumn)
     }
 }
 
+TEST(StatisticsPages, LargeNumbersKeepClearOfEachOther)
+{
+    CountedSurvey survey(1, 400, {1, 2, 399, 400});
+    survey.statistics.CumCount(0, 1) = 1000;
+    survey.statistics.FreqCount(100, 1) = 1000;
+    DrawSurface surface;
+    StatisticsPages(survey.table, survey.statistics, surface).DisplayStatsTable(1);
+    std::map<float, float> ends; // of the text before on each line
+    for (const TextOperation& text : operationsOf<TextOperation>(surface.drawing())) {
+        const TextFont& font = surface.drawing().fonts[static_cast<std::size_t>(text.font)];
+        const double width =
+            QFontMetricsF(twipFont(font)).horizontalAdvance(surface.drawing().texts[text.text]);
+        EXPECT_TRUE(text.y < 600 || text.x == 0 || text.x > ends[text.y]) << text.x << ' ' << text.y;
+        ends[text.y] = text.x + static_cast<float>(width);
+    }
+    EXPECT_EQ(ends.size(), 2U + 20);
+}
+
 TEST(SpecifyCharsEditor, StringsAreAddedReplacedAndSteppedThrough)
 {
     CumulativeData data;
@@ -194,6 +213,17 @@ TEST(SpecifyCharsEditor, StringsAreAddedReplacedAndSteppedThrough)
     editor.rewrite(QStringLiteral("B"));
     EXPECT_EQ(editor.strings(), QStringList({QStringLiteral("a"), QStringLiteral("B"), QStringLiteral("c")}));
     EXPECT_EQ(data.NumSpecifyChars(1), 0);
+    editor.previous();
+    editor.remove();
+    EXPECT_EQ(editor.text(), QStringLiteral("B")) << "the next one";
+    editor.next();
+    editor.remove();
+    EXPECT_EQ(editor.strings(), QStringList(QStringLiteral("B")));
+    EXPECT_EQ(editor.current(), 1);
+    editor.remove();
+    editor.remove();
+    EXPECT_EQ(editor.current(), 0);
+    editor.add(QStringLiteral("a"));
     editor.reset();
     EXPECT_EQ(editor.current(), 0);
     EXPECT_EQ(data.NumSpecifyChars(2), 0);
