@@ -65,4 +65,5 @@ void clearCounts(int localities, CumulativeTable& table)
         }
     }
     table.NumItemsAccumulated = 0;
+    table.CountedItems.clear();
 }

@@ -8,6 +8,6 @@
 /// overflow past 32767; the table is then as it was.
 void accumulateItem(const ItemAnswers& item, int localities, CumulativeData& data);
 
-/// Empties the counts of `localities` localities and the number of items; names, colours and identifying
-/// strings stay.
+/// Empties the counts of `localities` localities, the number of items and their names; the word forms with
+/// their colours and identifying strings stay.
 void clearCounts(int localities, CumulativeTable& table);

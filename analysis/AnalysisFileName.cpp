@@ -32,8 +32,8 @@ std::optional<QString> analysisSavePath(const Folders& folders, const QString& n
 {
     QString path = analysisFilePath(folders, name, ending);
     if (fileExists(folders.Drive, path) &&
-        !dialogs.askYesNo(QStringLiteral("File already exist. Overwrite O.K.? "),
-                          QStringLiteral("Re Input File Name"))) {
+        !dialogs.confirmLoss(QStringLiteral("File already exist. Overwrite O.K.? "),
+                             QStringLiteral("Re Input File Name"))) {
         return std::nullopt;
     }
     return path;

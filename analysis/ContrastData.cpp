@@ -36,6 +36,11 @@ void requireWordforms(const CumulativeTable& table, const ContrastData& contrast
 
 } // namespace
 
+void outdateSums(ContrastData& contrast)
+{
+    contrast.ContrastAnalysed = false;
+}
+
 void analyseContrast(const CumulativeTable& table, int localities, ContrastData& contrast)
 {
     requireWordforms(table, contrast);

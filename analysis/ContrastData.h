@@ -25,6 +25,10 @@ struct ContrastData
     bool ContrastAnalysed = false;
 };
 
+/// Notes that the sums are no longer of the groups and the counts as they are. Whatever changes either says
+/// so.
+void outdateSums(ContrastData& contrast);
+
 /// Sums the counts of each side's word forms at each of `localities` localities and their difference. Raises
 /// overflow, and subscript out of range for a word form that the table does not have; the sums are then as
 /// they were.

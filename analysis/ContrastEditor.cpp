@@ -123,7 +123,7 @@ ContrastEditor::AddResult ContrastEditor::addWordform(int side, int k)
     m_contrast.ContrastWordName(side, t) = m_table.WordformName(k);
     m_contrast.ContrastWord(side, t) = static_cast<qint16>(k);
     m_contrast.ContrastCount(side) = t;
-    m_contrast.ContrastAnalysed = false;
+    outdateSums(m_contrast);
     return AddResult::Added;
 }
 
@@ -139,7 +139,7 @@ void ContrastEditor::removeWordform(int side, int t)
         m_contrast.ContrastWord(side, place) = m_contrast.ContrastWord(side, place + 1);
     }
     --count;
-    m_contrast.ContrastAnalysed = false;
+    outdateSums(m_contrast);
 }
 
 void ContrastEditor::followTable(int localities)
@@ -152,7 +152,9 @@ void ContrastEditor::followTable(int localities)
             }
         }
     }
-    m_contrast.ContrastAnalysed = m_contrast.ContrastAnalysed && sumsAreCurrent(localities);
+    if (!sumsAreCurrent(localities)) {
+        outdateSums(m_contrast);
+    }
 }
 
 bool ContrastEditor::sumsAreCurrent(int localities) const

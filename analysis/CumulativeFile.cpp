@@ -1,5 +1,10 @@
 #include "analysis/CumulativeFile.h"
 
+#include "analysis/CountedItemsFile.h"
+
+#include <QFile>
+#include <QLockFile>
+
 namespace {
 
 QString baseName(const QString& path)
@@ -9,12 +14,6 @@ QString baseName(const QString& path)
     return dot < 0 ? name : name.left(dot);
 }
 
-void totalIsAtPath(const QString& path, CumulativeData& data)
-{
-    data.TotalFilePath = path;
-    data.SavedTable = data;
-}
-
 QByteArray fileContents(const CumulativeTable& table, int localities)
 {
     SequentialWriter file;
@@ -22,25 +21,61 @@ QByteArray fileContents(const CumulativeTable& table, int localities)
     return file.bytes();
 }
 
+void totalIsAtPath(const QString& path, QByteArray bytes, CumulativeData& data)
+{
+    data.TotalFilePath = path;
+    data.TotalFileBytes = std::move(bytes);
+    data.SavedTable = data;
+}
+
+/// Keeps other programs from saving to the file at `path` at the same time. The lock of a program that ended
+/// without a word does not count.
+class SaveLock
+{
+public:
+    SaveLock(const DriveC& drive, const QString& path)
+        : m_lock(drive.hostPath(path) + QStringLiteral(".lock"))
+    {
+        constexpr int LongestWait = 2000; // ms
+        if (!m_lock.tryLock(LongestWait) && m_lock.error() == QLockFile::LockFailedError) {
+            throw RunTimeError(ErrorNumber::PermissionDenied,
+                               QStringLiteral("Another program is saving the file."))
+                .at({path});
+        } // where no lock can be made, no file can be: writing it says why
+    }
+
+private:
+    QLockFile m_lock;
+};
+
+void requireAsItWas(const DriveC& drive, const QString& path, const CumulativeData& data)
+{
+    if (isOwnFile(data, path) && fileExists(drive, path) && readBytes(drive, path) != data.TotalFileBytes) {
+        throw RunTimeError(ErrorNumber::PermissionDenied,
+                           QStringLiteral("The file was changed by another program since it was opened. Open "
+                                          "it again, or save under another name."))
+            .at({path});
+    }
+}
+
+/// The names of the items of the table at `path`; why they are not known where their file cannot be read.
+std::optional<RunTimeError> loadCountedItems(const DriveC& drive, const QString& path, CumulativeTable& table)
+{
+    const QString namesPath = countedItemsPath(path);
+    if (!fileExists(drive, namesPath)) {
+        return std::nullopt;
+    }
+    try {
+        const int items = table.NumItemsAccumulated;
+        table.CountedItems = readSequentialFile(
+            drive, namesPath, [items](SequentialReader& file) { return readCountedItems(file, items); });
+    } catch (const RunTimeError& error) {
+        return error;
+    }
+    return std::nullopt;
+}
+
 } // namespace
-
-void setNumWordforms(CumulativeData& data, int number)
-{
-    if (number != 0) {
-        static_cast<void>(data.WordformName(number));
-    }
-    data.NumWordforms = number;
-    data.CurrentWordform = 1;
-}
-
-QStringList wordformNames(const CumulativeTable& table)
-{
-    QStringList names;
-    for (int k = 1; k <= table.NumWordforms; ++k) {
-        names << table.WordformName(k);
-    }
-    return names;
-}
 
 CumulativeTable readTotal(SequentialReader& file, int localities)
 {
@@ -110,30 +145,52 @@ void writeSpecifyChars(SequentialWriter& file, const CumulativeData& data)
     }
 }
 
-void LoadTotalFile(const DriveC& drive, const QString& path, int localities, CumulativeData& data)
+std::optional<RunTimeError> LoadTotalFile(const DriveC& drive, const QString& path, int localities,
+                                          CumulativeData& data)
 {
-    static_cast<CumulativeTable&>(data) = readSequentialFile(
+    QByteArray bytes = readBytes(drive, path); // a change while it is read is a change since it was read
+    auto table = readSequentialFile(
         drive, path, [localities](SequentialReader& file) { return readTotal(file, localities); });
+    const auto namesError = loadCountedItems(drive, path, table);
+    static_cast<CumulativeTable&>(data) = std::move(table);
     data.TotalFileName = baseName(path);
     data.CurrentWordform = 1;
-    totalIsAtPath(path, data);
+    totalIsAtPath(path, std::move(bytes), data);
+    return namesError;
 }
 
 void SaveTotalFile(const DriveC& drive, const QString& dataFolder, int localities, CumulativeData& data)
 {
     const QString path = dataFolder + QLatin1Char('\\') + data.TotalFileName + QStringLiteral(".ttl");
-    writeSequentialFile(drive, path,
-                        [&data, localities](SequentialWriter& file) { writeTotal(file, data, localities); });
-    totalIsAtPath(path, data);
+    const QString namesPath = countedItemsPath(path);
+    const bool isStaleBeside = data.NumItemsAccumulated == 0 || !isOwnFile(data, path);
+    const SaveLock lock(drive, path);
+    requireAsItWas(drive, path, data);
+    if (!data.CountedItems.isEmpty()) {
+        writeSequentialFile(drive, namesPath,
+                            [&data](SequentialWriter& file) { writeCountedItems(file, data); });
+    }
+    QByteArray bytes = fileContents(data, localities);
+    replaceFile(drive, path, bytes);
+    totalIsAtPath(path, std::move(bytes), data);
+    if (data.CountedItems.isEmpty() && isStaleBeside) {
+        QFile::remove(drive.hostPath(namesPath));
+    }
+}
+
+bool isOwnFile(const CumulativeData& data, const QString& path)
+{
+    return path.compare(data.TotalFilePath, Qt::CaseInsensitive) == 0;
 }
 
 bool isTableUnsaved(const CumulativeData& data, int localities)
 {
-    CumulativeTable saved = data.SavedTable;
-    if (data.TotalFilePath.isEmpty()) {
-        saved.NumWordforms = data.NumWordforms; // a number without names is nothing to lose
+    if (!data.TotalFilePath.isEmpty()) {
+        return fileContents(data, localities) != fileContents(data.SavedTable, localities);
     }
-    return fileContents(data, localities) != fileContents(saved, localities);
+    CumulativeData begun;
+    setNumWordforms(begun, data.NumWordforms); // a number without names is nothing to lose
+    return fileContents(data, localities) != fileContents(begun, localities);
 }
 
 bool areCharsUnsaved(const CumulativeData& data)

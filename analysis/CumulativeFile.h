@@ -3,6 +3,8 @@
 #include "analysis/CumulativeTable.h"
 #include "platform/SequentialFile.h"
 
+#include <optional>
+
 /// Reads a `.ttl` file: the number of word forms, of items, and the caption; three lines a word form; then
 /// the counts of each of `localities` localities, which the file does not know. Raises subscript out of range
 /// beyond ten word forms, and the errors of a short or malformed file.
@@ -18,11 +20,19 @@ void readSpecifyChars(SequentialReader& file, CumulativeData& data);
 /// Writes a `.sum` file; only word forms with one to ten identifying strings get a line.
 void writeSpecifyChars(SequentialWriter& file, const CumulativeData& data);
 
-/// Loads the `.ttl` file at `path`. A load that fails leaves the table as it was.
-void LoadTotalFile(const DriveC& drive, const QString& path, int localities, CumulativeData& data);
+/// Loads the `.ttl` file at `path` and the names of its items, where a file of them lies beside it. A load
+/// that fails leaves the table as it was. Returns why the names could not be read where they could not: the
+/// table is loaded all the same, and its items are not known.
+std::optional<RunTimeError> LoadTotalFile(const DriveC& drive, const QString& path, int localities,
+                                          CumulativeData& data);
 
-/// Saves the table to the `.ttl` file of its name in `dataFolder`.
+/// Saves the table to the `.ttl` file of its name in `dataFolder`, and the names of its items beside it.
+/// Raises permission denied where the file is the one that was loaded or saved last and holds something else
+/// by now: another program has counted there, and its items would be lost. Only one program saves at a time.
 void SaveTotalFile(const DriveC& drive, const QString& dataFolder, int localities, CumulativeData& data);
+
+/// Whether `path` is that of the file that was loaded or saved last.
+bool isOwnFile(const CumulativeData& data, const QString& path);
 
 /// Whether the table is not what its file holds, and whether the identifying strings are not what theirs
 /// holds.

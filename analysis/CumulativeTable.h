@@ -21,6 +21,8 @@ struct CumulativeTable
     BoundedArray<qint16, Bounds{1, 10}> WordformExtraInt;
     /// Count of word form k at locality j.
     BoundedArray<qint16, Bounds{0, 10}, Bounds{0, 1000}> Counts;
+    /// Names of the item files counted, in their order, as far as they are known.
+    QStringList CountedItems;
 };
 
 /// The strings that identify each distinguished word form in the answers.
@@ -42,16 +44,29 @@ struct CumulativeData : CumulativeTable, SpecifiedChars
     /// The word form shown and drawn next, 1..NumWordforms.
     int CurrentWordform = 1;
 
-    /// Path of the cumulative file loaded or saved last, empty where there was none, and what it holds.
+    /// Path of the cumulative file loaded or saved last, empty where there was none; its bytes, and the table
+    /// that they are of.
     QString TotalFilePath;
+    QByteArray TotalFileBytes;
     CumulativeTable SavedTable;
     /// The identifying strings as they were loaded or saved last.
     SpecifiedChars SavedChars;
 };
 
-/// Makes `number` the number of distinguished word forms; the first becomes the current one. Raises subscript
-/// out of range for a number that the table has no place for; nothing is changed then.
+/// Makes `number` the number of distinguished word forms; the first becomes the current one. Those that are
+/// new have nothing but colours of their own; those that are dropped lose their name, colours, counts and
+/// strings. Raises subscript out of range for a number that the table has no place for; nothing is changed
+/// then.
 void setNumWordforms(CumulativeData& data, int number);
+
+/// Whether word form k has a name, a count or an identifying string.
+bool hasContents(const CumulativeData& data, int k);
+
+/// Whether any word form has an identifying string.
+bool hasIdentifyingStrings(const CumulativeData& data);
+
+/// Whether the item file of that name is known to be counted in the table.
+bool isCounted(const CumulativeTable& table, const QString& itemName);
 
 /// The names of the distinguished word forms, in their order.
 QStringList wordformNames(const CumulativeTable& table);

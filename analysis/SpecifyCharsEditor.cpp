@@ -45,6 +45,19 @@ void SpecifyCharsEditor::rewrite(const QString& text)
     }
 }
 
+void SpecifyCharsEditor::remove()
+{
+    if (m_current == 0) {
+        return;
+    }
+    const int k = m_data.CurrentWordform;
+    for (int c = m_current; c < count(); ++c) {
+        m_data.SpecifyChars(k, c) = m_data.SpecifyChars(k, c + 1);
+    }
+    --m_data.NumSpecifyChars(k);
+    m_current = std::min(m_current, count());
+}
+
 void SpecifyCharsEditor::reset()
 {
     m_data.NumSpecifyChars(m_data.CurrentWordform) = 0;

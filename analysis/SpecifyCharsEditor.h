@@ -27,6 +27,8 @@ public:
     void add(const QString& text);
     /// Replaces the current string by `text`; where the word form has none, adds it.
     void rewrite(const QString& text);
+    /// Removes the current string; the next becomes the current one, or else the last.
+    void remove();
     /// Empties the list of the word form.
     void reset();
 

@@ -21,6 +21,17 @@ void ofWordform(const CumulativeTable& table, int k, const char* figure, Compute
     }
 }
 
+void requireAtMost(int most, int number, const char* things)
+{
+    if (number > most) {
+        throw RunTimeError(ErrorNumber::SubscriptOutOfRange,
+                           QStringLiteral("Statistics are of at most %1 %2, not of %3.")
+                               .arg(most)
+                               .arg(QLatin1String(things))
+                               .arg(number));
+    }
+}
+
 void distribute(const CumulativeTable& table, int k, int localities, Statistics& statistics)
 {
     for (int v = 0; v <= table.NumItemsAccumulated; ++v) {
@@ -93,6 +104,7 @@ double Rnd(double x, int n)
 
 void Stats(const CumulativeTable& table, int localities, Statistics& statistics)
 {
+    requireAtMost(Statistics::MostItems, table.NumItemsAccumulated, "items");
     Statistics fresh = statistics;
     for (int k = 1; k <= table.NumWordforms; ++k) {
         distribute(table, k, localities, fresh);
@@ -148,8 +160,9 @@ Statistics readStatistics(SequentialReader& file)
 {
     Statistics read;
     read.StatsWordforms = file.readCount();
+    requireAtMost(Statistics::MostWordforms, read.StatsWordforms, "word forms");
     read.StatsItems = file.readCount();
-    static_cast<void>(read.CumCount(read.StatsItems, read.StatsWordforms));
+    requireAtMost(Statistics::MostItems, read.StatsItems, "items");
     for (int n = 1; n <= read.StatsWordforms; ++n) {
         const int k = file.readInteger();
         read.Median(k) = file.readNumber();

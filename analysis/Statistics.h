@@ -7,15 +7,18 @@
 /// level v runs from 0 to the number of items.
 struct Statistics
 {
+    static constexpr int MostItems = 400;
+    static constexpr int MostWordforms = 10;
+
     /// Number of localities whose count of word form k is at least v.
-    BoundedArray<qint16, Bounds{0, 400}, Bounds{0, 10}> CumCount;
+    BoundedArray<qint16, Bounds{0, MostItems}, Bounds{0, MostWordforms}> CumCount;
     /// Number of localities whose count of word form k is v.
-    BoundedArray<qint16, Bounds{0, 400}, Bounds{0, 10}> FreqCount;
-    BoundedArray<double, Bounds{0, 10}> Median;
-    BoundedArray<float, Bounds{0, 10}> Mode;
-    BoundedArray<double, Bounds{0, 10}> Average;
+    BoundedArray<qint16, Bounds{0, MostItems}, Bounds{0, MostWordforms}> FreqCount;
+    BoundedArray<double, Bounds{0, MostWordforms}> Median;
+    BoundedArray<float, Bounds{0, MostWordforms}> Mode;
+    BoundedArray<double, Bounds{0, MostWordforms}> Average;
     /// Standard deviation of the sample.
-    BoundedArray<double, Bounds{0, 10}> Sigma;
+    BoundedArray<double, Bounds{0, MostWordforms}> Sigma;
     /// Path of the statistics file last written.
     QString StatsFileName;
     /// The numbers of word forms and items that the statistics are of; no word forms before there are any.

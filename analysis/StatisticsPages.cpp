@@ -13,15 +13,16 @@ constexpr int BlocksOfOverview = 9;
 constexpr float BlockWidth = 2000;
 constexpr float BlockHeight = 1600;
 constexpr float BlockGap = 80;
-constexpr int SmallestBlockFont = 4;
+constexpr int SmallestFont = 4;
 
 constexpr int LevelsOfColumn = 20;
 constexpr float ColumnStep = 1000;
 constexpr float RowStep = 200;
 constexpr float DistributionY = 600;
-/// Where both counts of a level start, from the level.
+/// The least that the counts of a level are indented from it, and the gap between two numbers.
 constexpr float CumCountIndent = 280;
 constexpr float FreqCountIndent = 620;
+constexpr float NumberGap = 60;
 constexpr float DeviationX = 400;
 constexpr float DeviationY = 200;
 constexpr float GapOnLine = 300;
@@ -60,7 +61,7 @@ void StatisticsPages::DisplayStatsOne(int k)
     for (const QString& line : statisticsLines(m_table, m_statistics, k)) {
         m_target.FontSize = PageFontSize;
         const float height = m_target.TextHeight();
-        while (m_target.TextWidth(line) > BlockWidth - BlockGap && m_target.FontSize > SmallestBlockFont) {
+        while (m_target.TextWidth(line) > BlockWidth - BlockGap && m_target.FontSize > SmallestFont) {
             --m_target.FontSize; // a long name keeps clear of the next column
         }
         const float y = m_target.CurrentY;
@@ -82,21 +83,38 @@ void StatisticsPages::DisplayStatsTable(int k)
         QStringList(QString(figures[4])
                         .replace(QStringLiteral("Standard Dev."), QStringLiteral("Standard Deviation"))) +
             figures.mid(5));
+    while (indents(k).end > ColumnStep && m_target.FontSize > SmallestFont) {
+        --m_target.FontSize; // large numbers keep clear of the next column
+    }
     const int items = m_statistics.StatsItems;
     for (int column = 0; column <= items / LevelsOfColumn; ++column) {
         const int first = column * LevelsOfColumn;
         DisplayOut(ColumnStep * static_cast<float>(column), k, first,
                    std::min(first + LevelsOfColumn - 1, items));
     }
+    m_target.FontSize = PageFontSize;
+}
+
+StatisticsPages::Indents StatisticsPages::indents(int k) const
+{
+    const auto width = [this](int number) { return m_target.TextWidth(QString::number(number)) + NumberGap; };
+    int mostLocalities = 0;
+    for (int v = 0; v <= m_statistics.StatsItems; ++v) {
+        mostLocalities = std::max<int>(mostLocalities, m_statistics.FreqCount(v, k));
+    }
+    const float cumCount = std::max(CumCountIndent, width(m_statistics.StatsItems));
+    const float freqCount = std::max(FreqCountIndent, cumCount + width(m_statistics.CumCount(0, k)));
+    return {cumCount, freqCount, freqCount + width(mostLocalities)};
 }
 
 void StatisticsPages::DisplayOut(float x, int k, int first, int last)
 {
+    const Indents place = indents(k);
     for (int v = first; v <= last; ++v) {
         const float y = DistributionY + RowStep * static_cast<float>(v - first);
         printNumber(x, y, v, QBColor(8));
-        printNumber(x + CumCountIndent, y, m_statistics.CumCount(v, k), QBColor(0));
-        printNumber(x + FreqCountIndent, y, m_statistics.FreqCount(v, k), QBColor(0));
+        printNumber(x + place.cumCount, y, m_statistics.CumCount(v, k), QBColor(0));
+        printNumber(x + place.freqCount, y, m_statistics.FreqCount(v, k), QBColor(0));
     }
 }
 

@@ -23,8 +23,17 @@ public:
     static QSizeF tableArea(int items);
 
 private:
+    /// Where both counts of a level start and where its row ends, from the level.
+    struct Indents
+    {
+        float cumCount;
+        float freqCount;
+        float end;
+    };
+
     void DisplayStatsOne(int k);
     void DisplayOut(float x, int k, int first, int last);
+    Indents indents(int k) const;
     void printLine(float x, float y, const QStringList& texts);
     void printNumber(float x, float y, int number, QRgb color);
 

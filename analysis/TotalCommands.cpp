@@ -1,108 +1,103 @@
 #include "analysis/TotalCommands.h"
 
-#include "analysis/AccumulateFolder.h"
 #include "analysis/Accumulation.h"
 #include "analysis/AnalysisFileName.h"
 #include "analysis/CumulativeFile.h"
 #include "platform/Dialogs.h"
-#include "shell/VarnModule.h"
 
 namespace {
 
-bool hasName(const VarnModule& varn, Dialogs& dialogs)
+bool hasName(const CumulativeData& data, Dialogs& dialogs)
 {
-    if (varn.TotalFileName.isEmpty()) {
+    if (data.TotalFileName.isEmpty()) {
         dialogs.message(QStringLiteral("Input Name of Aalysis File."),
                         QStringLiteral("Save of Analysis File"));
     }
-    return !varn.TotalFileName.isEmpty();
+    return !data.TotalFileName.isEmpty();
 }
 
-bool hasIdentifyingStrings(const CumulativeData& data)
+void save(const TotalState& state)
 {
-    for (int k = 1; k <= data.NumWordforms; ++k) {
-        if (data.NumSpecifyChars(k) > 0) {
-            return true;
-        }
-    }
-    return false;
+    SaveTotalFile(state.folders.Drive, state.folders.dataFolder(), state.localities, state.data);
 }
 
 } // namespace
 
-bool mayWriteTotal(const VarnModule& varn, Dialogs& dialogs)
+bool mayWriteTotal(const Folders& folders, const CumulativeData& data, Dialogs& dialogs)
 {
-    if (!hasName(varn, dialogs)) {
+    if (!hasName(data, dialogs)) {
         return false;
     }
-    const QString path = analysisFilePath(varn, varn.TotalFileName, QStringLiteral(".ttl"));
-    const bool isOwn = path.compare(varn.TotalFilePath, Qt::CaseInsensitive) == 0;
-    return isOwn || !fileExists(varn.Drive, path) ||
-           dialogs.askYesNo(QStringLiteral("File already exist. Overwrite O.K.? "),
-                            QStringLiteral("Save of Analysis File"));
+    const QString path = analysisFilePath(folders, data.TotalFileName, QStringLiteral(".ttl"));
+    return isOwnFile(data, path) || !fileExists(folders.Drive, path) ||
+           dialogs.confirmLoss(QStringLiteral("File already exist. Overwrite O.K.? "),
+                               QStringLiteral("Save of Analysis File"));
 }
 
-bool saveTotal(VarnModule& varn, Dialogs& dialogs)
+bool saveTotal(const TotalState& state, Dialogs& dialogs)
 {
-    if (!mayWriteTotal(varn, dialogs)) {
+    if (!mayWriteTotal(state.folders, state.data, dialogs)) {
         return false;
     }
-    SaveTotalFile(varn.Drive, varn.dataFolder(), varn.NLocality, varn);
+    save(state);
     return true;
 }
 
-void initializeTotal(VarnModule& varn, Dialogs& dialogs)
+void initializeTotal(const TotalState& state, Dialogs& dialogs)
 {
     const QString title = QStringLiteral("Initialize of Analysis File.");
     if (!dialogs.askOkCancel(QStringLiteral("Initialize Analysis File. All Data will be Lost. O.K.?"),
                              title) ||
-        !mayWriteTotal(varn, dialogs)) {
+        !mayWriteTotal(state.folders, state.data, dialogs)) {
         return;
     }
-    const CumulativeTable before = varn;
-    clearCounts(varn.NLocality, varn);
+    const CumulativeTable before = state.data;
+    clearCounts(state.localities, state.data);
     try {
-        SaveTotalFile(varn.Drive, varn.dataFolder(), varn.NLocality, varn);
+        save(state);
     } catch (const RunTimeError&) {
-        static_cast<CumulativeTable&>(varn) = before;
+        static_cast<CumulativeTable&>(state.data) = before;
         throw;
     }
+    outdateSums(state.contrast);
     dialogs.message(QStringLiteral("Analysis File is initialized."), title);
 }
 
-bool mayExecute(const VarnModule& varn, Dialogs& dialogs)
+QString droppedWordforms(const CumulativeData& data, int number)
 {
-    const QString title = QStringLiteral("Analysis of Linguistic Data.");
-    if (varn.NumWordforms == 0) {
-        dialogs.message(QStringLiteral("No. of Specify Data is inadequate."), title);
-        return false;
+    QStringList dropped;
+    for (int k = number + 1; k <= data.NumWordforms; ++k) {
+        if (hasContents(data, k)) {
+            dropped << QStringLiteral("%1 %2").arg(QString::number(k), data.WordformName(k)).trimmed();
+        }
     }
-    return mayWriteTotal(varn, dialogs) &&
-           (hasIdentifyingStrings(varn) ||
-            dialogs.askYesNo(QStringLiteral("No word form has an identifying string, so the counts would not "
-                                            "grow. Execute all the same?"),
-                             title));
+    return dropped.isEmpty()
+               ? QString()
+               : QStringLiteral("These word forms are dropped, with their counts and strings: ") +
+                     dropped.join(QStringLiteral(", ")) + QLatin1Char('.');
 }
 
-void executeLoadedItem(VarnModule& varn, Dialogs& dialogs)
+bool changeNumWordforms(int number, const TotalState& state, Dialogs& dialogs)
 {
-    if (varn.ItemFileName.isEmpty()) {
-        dialogs.message(QStringLiteral("Specify Linguistic Data."), QStringLiteral("Input Wordform Data."));
-        return;
-    }
-    if (!mayExecute(varn, dialogs)) {
-        return;
-    }
-    executeItem(varn, varn, varn.NLocality, varn);
-    dialogs.message(QStringLiteral("Analyse of Linguistic Data File is completed."),
-                    QStringLiteral("Analysis of Linguistic Data."));
-}
-
-bool saveStatistics(VarnModule& varn, Dialogs& dialogs)
-{
-    if (!hasName(varn, dialogs)) {
+    CumulativeData changed = state.data;
+    setNumWordforms(changed, number);
+    const QString dropped = droppedWordforms(state.data, number);
+    if (!dropped.isEmpty() &&
+        !dialogs.confirmLoss(dropped + QStringLiteral(" O.K.?"), QStringLiteral("Accumulate Data"))) {
         return false;
     }
-    SaveStats(varn.Drive, analysisFilePath(varn, varn.TotalFileName, QStringLiteral(".stt")), varn, varn);
+    state.data = std::move(changed);
+    outdateSums(state.contrast);
+    return true;
+}
+
+bool saveStatistics(const Folders& folders, const CumulativeData& data, Statistics& statistics,
+                    Dialogs& dialogs)
+{
+    if (!hasName(data, dialogs)) {
+        return false;
+    }
+    SaveStats(folders.Drive, analysisFilePath(folders, data.TotalFileName, QStringLiteral(".stt")), data,
+              statistics);
     return true;
 }

@@ -1,27 +1,42 @@
 #pragma once
 
+#include "analysis/ContrastData.h"
+#include "analysis/CumulativeTable.h"
+#include "analysis/Statistics.h"
+#include "shell/Folders.h"
+
 class Dialogs;
-struct VarnModule;
+
+/// What the commands of cumulative analysis work on. A contrast is outdated by all that changes the counts.
+struct TotalState
+{
+    const Folders& folders;
+    /// Number of localities of the map.
+    int localities;
+    CumulativeData& data;
+    ContrastData& contrast;
+};
 
 /// Whether the cumulative file can be written: it has a name, which the user is told otherwise, and where it
 /// would replace a file other than the one last loaded or saved, the user agrees. Raises bad file name.
-bool mayWriteTotal(const VarnModule& varn, Dialogs& dialogs);
+bool mayWriteTotal(const Folders& folders, const CumulativeData& data, Dialogs& dialogs);
 
 /// Saves the cumulative table to the file of its name. False where the user has to name it first, or keeps
 /// the file that is there. Raises bad file name and what writing raises.
-bool saveTotal(VarnModule& varn, Dialogs& dialogs);
+bool saveTotal(const TotalState& state, Dialogs& dialogs);
 
 /// Asks, empties the counts of the cumulative table and saves it. Raises what `saveTotal` raises; the counts
 /// are then as they were.
-void initializeTotal(VarnModule& varn, Dialogs& dialogs);
+void initializeTotal(const TotalState& state, Dialogs& dialogs);
 
-/// Whether an item can be added to the table: there are word forms to count and a file to save to, and where
-/// no word form has an identifying string, the user wants it all the same.
-bool mayExecute(const VarnModule& varn, Dialogs& dialogs);
+/// The sentence that says which word forms with contents are dropped where their number becomes `number`;
+/// empty where none is.
+QString droppedWordforms(const CumulativeData& data, int number);
 
-/// Adds the loaded item to the table and saves it. Raises overflow and what `saveTotal` raises; table and
-/// file are then as they were.
-void executeLoadedItem(VarnModule& varn, Dialogs& dialogs);
+/// Makes `number` the number of word forms; where that drops counts, names or strings, only if the user wants
+/// it. Raises subscript out of range as `setNumWordforms` does. False where the number stays.
+bool changeNumWordforms(int number, const TotalState& state, Dialogs& dialogs);
 
 /// Saves the statistics beside the cumulative file. False where that has no name yet.
-bool saveStatistics(VarnModule& varn, Dialogs& dialogs);
+bool saveStatistics(const Folders& folders, const CumulativeData& data, Statistics& statistics,
+                    Dialogs& dialogs);

@@ -1,16 +1,12 @@
 #include "analysis/frmCalExec.h"
 
-#include "analysis/AccumulateFolder.h"
 #include "analysis/CountPages.h"
 #include "analysis/StatisticsPages.h"
-#include "analysis/TotalCommands.h"
 #include "platform/Numbers.h"
 #include "shell/VarnModule.h"
 #include "ui_frmCalExec.h"
 
-#include <QApplication>
 #include <QLabel>
-#include <QProgressDialog>
 #include <QScrollBar>
 
 #include <algorithm>
@@ -18,7 +14,6 @@
 namespace {
 
 const QString FormTitle = QStringLiteral("Execution of Cumulative Analysis");
-const QString AnalysisTitle = QStringLiteral("Analysis of Linguistic Data.");
 const QString Separator = QStringLiteral("    |    ");
 constexpr double ListLineHeight = 240;
 
@@ -223,131 +218,4 @@ void frmCalExec::mnuItemPrevious_Click()
 {
     m_varn.CurrentWordform = m_varn.CurrentWordform > 1 ? m_varn.CurrentWordform - 1 : m_varn.NumWordforms;
     showCounts(1);
-}
-
-// The counting
-
-void frmCalExec::mnuExecCalc_Click()
-{
-    executeLoadedItem(m_varn, dialogs());
-    draw();
-}
-
-void frmCalExec::mnuExecAll_Click()
-{
-    if (!mayExecute(m_varn, dialogs())) {
-        return;
-    }
-    if (const auto folder = dialogs().chooseFolder(QStringLiteral("Folder of the Items to Accumulate"),
-                                                   m_varn.Drive.hostPath(m_varn.dataFolder()))) {
-        reportFolder(accumulateFolderOf(m_varn.Drive.varnPath(*folder)));
-    }
-}
-
-FolderAccumulation frmCalExec::accumulateFolderOf(const QString& folder)
-{
-    QProgressDialog progress(this);
-    progress.setWindowTitle(AnalysisTitle);
-    progress.setCancelButtonText(QStringLiteral("Stop"));
-    progress.setWindowModality(Qt::ApplicationModal);
-    progress.setMinimumDuration(0);
-    progress.setMinimumWidth(360);
-    const auto mayProceed = [&progress](int done, int items, const QString& name) {
-        progress.setMaximum(items);
-        progress.setLabelText(
-            QStringLiteral("%1 (%2 of %3)").arg(name, QString::number(done + 1), QString::number(items)));
-        progress.setValue(done);
-        QApplication::processEvents(); // a click on Stop
-        return !progress.wasCanceled();
-    };
-    return accumulateFolder(m_varn, folder, m_varn.NLocality, m_varn, mayProceed);
-}
-
-void frmCalExec::reportFolder(const FolderAccumulation& done)
-{
-    m_uncounted.clear();
-    for (const UncountedItem& item : done.uncounted) {
-        m_uncounted << item.name + QLatin1Char(':');
-        for (const QString& line : item.reason.split(QLatin1Char('\n'))) {
-            m_uncounted << QStringLiteral("    ") + line;
-        }
-    }
-    if (!m_uncounted.isEmpty()) {
-        m_shown = Shown::Uncounted;
-        m_uncounted.prepend(QStringLiteral("These files were not counted:"));
-    }
-    draw();
-    refresh();
-    QStringList lines = {done.stopped ? QStringLiteral("Analyse of Linguistic Data Files is stopped.")
-                                      : QStringLiteral("Analyse of Linguistic Data File is completed."),
-                         QStringLiteral("%1 of %2 items were counted.").arg(done.counted).arg(done.items)};
-    if (!done.uncounted.empty()) {
-        lines << QString() << QStringLiteral("Not counted:");
-    }
-    constexpr std::size_t MostNames = 15;
-    for (std::size_t i = 0; i < std::min(done.uncounted.size(), MostNames); ++i) {
-        lines << done.uncounted[i].name;
-    }
-    if (done.uncounted.size() > MostNames) {
-        lines << QStringLiteral("and %1 more, as the form shows").arg(done.uncounted.size() - MostNames);
-    }
-    dialogs().message(lines.join(QLatin1Char('\n')), AnalysisTitle);
-}
-
-void frmCalExec::mnuExecSave_Click()
-{
-    if (saveTotal(m_varn, dialogs())) {
-        dialogs().message(QStringLiteral("Linguistic Data File is saved."),
-                          QStringLiteral("Save of Linguistic Data"));
-    }
-}
-
-// The statistics
-
-void frmCalExec::Stats()
-{
-    ::Stats(m_varn, m_varn.NLocality, m_varn);
-    DisplayStatsTbl();
-}
-
-void frmCalExec::DisplayStatsTbl()
-{
-    m_shown = Shown::StatisticsOfOne;
-    draw();
-}
-
-void frmCalExec::mnuStatsDisplayAll_Click()
-{
-    m_shown = Shown::StatisticsOfAll;
-    draw();
-}
-
-void frmCalExec::SaveStats()
-{
-    saveStatistics(m_varn, dialogs());
-}
-
-void frmCalExec::mnuStatsOpen_Click()
-{
-    if (const auto file = dialogs().openFile(QStringLiteral("Open Statistics File"),
-                                             m_varn.Drive.hostPath(m_varn.dataFolder()),
-                                             QStringLiteral("Statistic Files (*.stt)|*.stt"))) {
-        LoadStats(m_varn.Drive.varnPath(*file));
-    }
-}
-
-void frmCalExec::LoadStats(const QString& path)
-{
-    ::LoadStats(m_varn.Drive, path, m_varn);
-    DisplayStatsTbl();
-    if (m_varn.StatsWordforms != m_varn.NumWordforms || m_varn.StatsItems != m_varn.NumItemsAccumulated) {
-        refresh();
-        dialogs().message(QStringLiteral("The statistics are of %1 word forms and %2 items, the cumulative "
-                                         "data has %3 and %4.")
-                              .arg(m_varn.StatsWordforms)
-                              .arg(m_varn.StatsItems)
-                              .arg(m_varn.NumWordforms)
-                              .arg(m_varn.NumItemsAccumulated),
-                          FormTitle);
-    }
 }

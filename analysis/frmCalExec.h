@@ -1,12 +1,13 @@
 #pragma once
 
+#include "analysis/AccumulateItems.h"
+#include "analysis/TotalCommands.h"
 #include "platform/DrawSurface.h"
 #include "platform/VarnForm.h"
 
 #include <memory>
 
 class QLabel;
-struct FolderAccumulation;
 struct VarnModule;
 
 namespace Ui {
@@ -63,8 +64,9 @@ private:
     void mnuStatsSave_Click() { SaveStats(); }
     void mnuStatsOpen_Click();
 
-    FolderAccumulation accumulateFolderOf(const QString& folder);
-    void reportFolder(const FolderAccumulation& done);
+    TotalState state();
+    AccumulationResult accumulate(const ItemsToCount& items);
+    void report(const AccumulationResult& done);
     void Stats();
     void DisplayStatsTbl();
     void SaveStats();

@@ -94,6 +94,7 @@ void frmCalc::connectButtons()
     click(m_ui->cmdSetWord, &frmCalc::cmdSetWord_Click);
     click(m_ui->cmdWordSelect, &frmCalc::cmdWordSelect_Click);
     click(m_ui->cmdWordRewrite, &frmCalc::cmdWordRewrite_Click);
+    click(m_ui->cmdWordDelete, &frmCalc::cmdWordDelete_Click);
     click(m_ui->cmdWordReset, &frmCalc::cmdWordReset_Click);
     click(m_ui->cmdWordNext, &frmCalc::cmdWordNext_Click);
     click(m_ui->cmdWordBefore, &frmCalc::cmdWordBefore_Click);
@@ -126,7 +127,7 @@ void frmCalc::Form_Load()
         if (!m_prepared) {
             m_prepared = true;
             showTable();
-            m_ui->txtSetFileName->setText(analysisFileStem(m_varn.SpecifyFileName, QStringLiteral(".sum")));
+            showFileOfStrings();
         }
         followSharedState();
         SetKindWord();
@@ -163,6 +164,11 @@ void frmCalc::closeEvent(QCloseEvent* event)
     event->setAccepted(mayGiveUpFields(question) && mayGiveUpTable(question) && mayGiveUpStrings(question));
 }
 
+TotalState frmCalc::state()
+{
+    return {m_varn, m_varn.NLocality, m_varn, m_varn};
+}
+
 // What is shown
 
 void frmCalc::SetTotal()
@@ -193,6 +199,7 @@ void frmCalc::TotalSet(int k)
     SetTotalList();
     m_editor.start();
     SetTotalWordList();
+    showString();
 }
 
 void frmCalc::SetTotalList()
@@ -233,6 +240,11 @@ void frmCalc::showTable()
     TotalSet(m_varn.CurrentWordform);
 }
 
+void frmCalc::showFileOfStrings()
+{
+    m_ui->txtSetFileName->setText(analysisFileStem(m_varn.SpecifyFileName, QStringLiteral(".sum")));
+}
+
 void frmCalc::showString()
 {
     const QSignalBlocker blocker(*m_ui->LstWord);
@@ -259,6 +271,7 @@ void frmCalc::refresh()
     m_ui->cmdPrevious->setEnabled(hasWordforms && k > 1);
     m_ui->cmdNext->setEnabled(k < m_varn.NumWordforms);
     m_ui->cmdWordRewrite->setEnabled(hasWordforms && strings > 0);
+    m_ui->cmdWordDelete->setEnabled(hasWordforms && strings > 0);
     m_ui->cmdWordReset->setEnabled(hasWordforms && strings > 0);
     m_ui->cmdWordBefore->setEnabled(m_editor.current() > 1);
     m_ui->cmdWordNext->setEnabled(m_editor.current() < strings);

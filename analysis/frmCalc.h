@@ -1,6 +1,7 @@
 #pragma once
 
 #include "analysis/SpecifyCharsEditor.h"
+#include "analysis/TotalCommands.h"
 #include "platform/VarnForm.h"
 
 #include <memory>
@@ -73,6 +74,7 @@ private:
     void cmdSetWord_Click();
     void cmdWordSelect_Click();
     void cmdWordRewrite_Click();
+    void cmdWordDelete_Click();
     void cmdWordReset_Click();
     void cmdWordNext_Click();
     void cmdWordBefore_Click();
@@ -93,10 +95,13 @@ private:
 
     /// Shows the table from its first word form on.
     void showTable();
+    /// Shows which file the strings are of.
+    void showFileOfStrings();
     /// Shows the current string in the list and in the edit box.
     void showString();
     void moveTo(int k);
     void takeFileName();
+    TotalState state();
     /// Takes over what other forms did meanwhile.
     void followSharedState();
 

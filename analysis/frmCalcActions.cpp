@@ -2,7 +2,7 @@
 
 #include "analysis/AnalysisFileName.h"
 #include "analysis/CumulativeFile.h"
-#include "analysis/TotalCommands.h"
+#include "analysis/OpenTotal.h"
 #include "analysis/frmCalc.h"
 #include "lingdata/ItemLoader.h"
 #include "platform/Numbers.h"
@@ -42,7 +42,7 @@ void frmCalc::cmdTotalNumber_Click()
         return;
     }
     if (mayGiveUpFields(QStringLiteral("Show the first word form without them?"))) {
-        setNumWordforms(m_varn, number);
+        changeNumWordforms(number, state(), dialogs());
         showTable();
     }
 }
@@ -63,7 +63,7 @@ void frmCalc::cmdSetInput_Click()
 bool frmCalc::mayGiveUpFields(const QString& question)
 {
     return !isEdited() ||
-           dialogs().askYesNo(
+           dialogs().confirmLoss(
                QStringLiteral("Name or colors of word form %1 are changed and not registered. ")
                        .arg(m_shownWordform) +
                    question,
@@ -174,10 +174,18 @@ void frmCalc::cmdWordRewrite_Click()
     }
 }
 
+void frmCalc::cmdWordDelete_Click()
+{
+    m_editor.remove();
+    SetTotalWordList();
+    showString();
+}
+
 void frmCalc::cmdWordReset_Click()
 {
     m_editor.reset();
     SetTotalWordList();
+    showString();
 }
 
 void frmCalc::cmdWordNext_Click()
@@ -210,16 +218,16 @@ std::optional<QString> frmCalc::askForFile(const QString& title, const QString& 
 bool frmCalc::mayGiveUpTable(const QString& question)
 {
     return !isTableUnsaved(m_varn, m_varn.NLocality) ||
-           dialogs().askYesNo(
+           dialogs().confirmLoss(
                QStringLiteral("The cumulative data has changes that are not saved. ") + question, FormTitle);
 }
 
 bool frmCalc::mayGiveUpStrings(const QString& question)
 {
     return !areCharsUnsaved(m_varn) ||
-           dialogs().askYesNo(QStringLiteral("The identifying strings have changes that are not saved. ") +
-                                  question,
-                              FormTitle);
+           dialogs().confirmLoss(QStringLiteral("The identifying strings have changes that are not saved. ") +
+                                     question,
+                                 FormTitle);
 }
 
 void frmCalc::takeFileName()
@@ -244,8 +252,9 @@ void frmCalc::mnuFileOpen_Click()
 
 void frmCalc::LoadTotalFile(const QString& path)
 {
-    ::LoadTotalFile(m_varn.Drive, path, m_varn.NLocality, m_varn);
+    openTotal(path, state(), dialogs());
     showTable();
+    showFileOfStrings();
 }
 
 void frmCalc::SaveTotalFile()
@@ -253,7 +262,7 @@ void frmCalc::SaveTotalFile()
     if (!mayGiveUpFields(QStringLiteral("Save the file without them?"))) {
         return;
     }
-    if (saveTotal(m_varn, dialogs())) {
+    if (saveTotal(state(), dialogs())) {
         m_ui->txtTotalFileName->setText(m_varn.TotalFileName);
     } else {
         m_ui->txtTotalFileName->setFocus();
@@ -262,7 +271,7 @@ void frmCalc::SaveTotalFile()
 
 void frmCalc::Initialize()
 {
-    initializeTotal(m_varn, dialogs());
+    initializeTotal(state(), dialogs());
     SetTotal();
 }
 
@@ -270,31 +279,16 @@ void frmCalc::Initialize()
 
 void frmCalc::LoadSetData()
 {
-    if (!mayGiveUpStrings(QStringLiteral("Open a file of strings and lose them?"))) {
+    const QString question = QStringLiteral("Open a file of strings and lose them?");
+    if (!mayGiveUpFields(question) || !mayGiveUpStrings(question)) {
         return;
     }
     const auto path =
         askForFile(QStringLiteral("Open Specify Char File"), QStringLiteral("Sum Files (*.sum)|*.sum"));
-    if (!path) {
-        return;
+    if (path && openStrings(*path, state(), dialogs())) {
+        showTable();
+        showFileOfStrings();
     }
-    CumulativeData loaded = m_varn;
-    ::LoadSetData(m_varn.Drive, *path, loaded);
-    const bool otherNumber = m_varn.NumWordforms != 0 && loaded.NumWordforms != m_varn.NumWordforms;
-    if (otherNumber && !dialogs().askYesNo(QStringLiteral("The file has the strings of %1 word forms, the "
-                                                          "cumulative data has %2. Open the file and make "
-                                                          "it %1 word forms?")
-                                               .arg(loaded.NumWordforms)
-                                               .arg(m_varn.NumWordforms),
-                                           FormTitle)) {
-        return;
-    }
-    if (!mayGiveUpFields(QStringLiteral("Show the first word form without them?"))) {
-        return;
-    }
-    static_cast<CumulativeData&>(m_varn) = std::move(loaded);
-    m_ui->txtSetFileName->setText(analysisFileStem(*path, QStringLiteral(".sum")));
-    showTable();
 }
 
 void frmCalc::SaveSetData()
@@ -309,11 +303,11 @@ void frmCalc::SaveSetData()
     const QString path = analysisFilePath(m_varn, name, QStringLiteral(".sum"));
     const bool isOwn = path.compare(m_varn.SpecifyFileName, Qt::CaseInsensitive) == 0;
     if (!isOwn && fileExists(m_varn.Drive, path) &&
-        !dialogs().askYesNo(QStringLiteral("File already exist. Overwrite O.K.? "), title)) {
+        !dialogs().confirmLoss(QStringLiteral("File already exist. Overwrite O.K.? "), title)) {
         return;
     }
     ::SaveSetData(m_varn.Drive, path, m_varn);
-    m_ui->txtSetFileName->setText(analysisFileStem(path, QStringLiteral(".sum")));
+    showFileOfStrings();
     if (const QString left = wordformsWithoutLine(m_varn); !left.isEmpty()) {
         dialogs().message(
             QStringLiteral("The file holds word forms with 1 to 10 strings. It cannot be opened "

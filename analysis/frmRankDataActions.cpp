@@ -103,8 +103,8 @@ void frmRankData::DisplayOff()
 bool frmRankData::mayGiveUpWork(const QString& question)
 {
     return !isEdited() ||
-           dialogs().askYesNo(QStringLiteral("The contrast has changes that are not saved. ") + question,
-                              FormTitle);
+           dialogs().confirmLoss(QStringLiteral("The contrast has changes that are not saved. ") + question,
+                                 FormTitle);
 }
 
 void frmRankData::mnuRankOpen_Click()

@@ -69,8 +69,8 @@ bool frmTotalHanko::isEdited() const
 bool frmTotalHanko::mayGiveUpWork(const QString& question)
 {
     return !isEdited() ||
-           dialogs().askYesNo(QStringLiteral("The symbols have changes that are not saved. ") + question,
-                              FormTitle);
+           dialogs().confirmLoss(QStringLiteral("The symbols have changes that are not saved. ") + question,
+                                 FormTitle);
 }
 
 void frmTotalHanko::mnuTotalHankoOpen_Click()

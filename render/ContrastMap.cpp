@@ -31,9 +31,22 @@ float radiusAt(const VarnModule& varn, int j)
     }
 }
 
+constexpr float LabelIndent = 500;
+
+/// Middle of the legend's circles, from its left edge: left of the labels where the largest has room there,
+/// otherwise right of them.
+float circleIndent(const ContrastData& contrast, DrawSurface& target)
+{
+    constexpr float Gap = 60;
+    const auto radius = static_cast<float>(contrast.ContrastMaxSize);
+    if (LabelIndent / 2 + radius + Gap <= LabelIndent) {
+        return LabelIndent / 2;
+    }
+    return LabelIndent + target.TextWidth(QStringLiteral("-100%")) + Gap + radius;
+}
+
 void plotLegend(const VarnModule& varn, int H, DrawSurface& target)
 {
-    constexpr float LabelIndent = 500;
     constexpr float FirstRow = 800;
     constexpr float RowStep = 400;
     constexpr float HalfLine = 120; // from the top of a label to its middle
@@ -44,12 +57,13 @@ void plotLegend(const VarnModule& varn, int H, DrawSurface& target)
     if (H == 0) {
         return;
     }
+    const float circleX = x0 + circleIndent(varn, target);
     for (int s = -H; s <= H; ++s) {
         const float y = y0 + FirstRow + RowStep * static_cast<float>(s + H - 1);
         const double share = std::floor(divide(100.0 * s, H) + 0.5);
         target.PrintAt(x0 + LabelIndent, y, QStringLiteral("%1%").arg(share));
         const float radius = toSingle(divide(static_cast<double>(std::abs(s)) * varn.ContrastMaxSize, H));
-        plotCircle(varn, s, x0 + LabelIndent / 2, y + HalfLine, radius, target);
+        plotCircle(varn, s, circleX, y + HalfLine, radius, target);
     }
 }
 

@@ -37,6 +37,7 @@ void applyMapChoice(const MapChoice& choice, VarnModule& varn)
     static_cast<MapFont&>(varn) = choice;
     varn.PhoneticBold = choice.MapFontBold;
     varn.VarnMapName = choice.VarnMapName;
+    outdateSums(varn); // they are of the localities of the map before
 }
 
 void fixLingFolder(Folders& folders)

@@ -18,7 +18,8 @@ void fixPaths(Folders& folders);
 /// The current map and map font.
 MapChoice currentMapChoice(const VarnModule& varn);
 
-/// Makes `choice` the current map and map font; phonetic glyphs are bold where the font is.
+/// Makes `choice` the current map and map font; phonetic glyphs are bold where the font is. The
+/// sums of a contrast are outdated.
 void applyMapChoice(const MapChoice& choice, VarnModule& varn);
 
 /// Fixes the current map's folder of items and symbol files.

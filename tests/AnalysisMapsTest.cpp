@@ -93,8 +93,19 @@ TEST(DiffusionGraphs, TheLegendOfTenWordFormsDoesNotCollide)
     for (std::size_t i = 1; i < rows.size(); ++i) {
         EXPECT_GT(rows[i] - rows[i - 1], survey.frmMap.TextHeight());
     }
-    EXPECT_LT(printedAt(survey.drawing(), QStringLiteral("100 %")).y() + survey.frmMap.TextHeight(),
-              rows.back());
+    const auto circles = operationsOf<EllipseOperation>(survey.drawing());
+    ASSERT_EQ(circles.size(), 3 * 10 + 10 + 4U);
+    float above = rows[9] + survey.frmMap.TextHeight();
+    std::size_t scale = 3 + 1; // drawn with the first word form
+    for (const char* share : {"25 %", "50 %", "75 %", "100 %"}) {
+        const EllipseOperation& circle = circles[scale++];
+        EXPECT_FLOAT_EQ(circle.halfHeight, QByteArray(share).chopped(2).toFloat());
+        const QPointF label = printedAt(survey.drawing(), QLatin1String(share));
+        EXPECT_GT(std::min<double>(circle.y - circle.halfHeight, label.y()), above) << share;
+        EXPECT_GT(label.x(), circle.x + circle.halfWidth);
+        above = circle.y + circle.halfHeight;
+    }
+    EXPECT_LT(above, rows.back());
 }
 
 TEST(DiffusionGraphs, TheNextCommandDrawsTheNextWordForm)
@@ -120,7 +131,7 @@ TEST(DiffusionGraphs, SymbolsMarkTheLocalitiesThatReachTheMinimum)
     CountedSurvey survey;
     survey.varn.DiffusionHanko(1) = {49, 0, 0, 0, 1, 0};
     survey.varn.DiffusionCaption(1) = QStringLiteral("often");
-    survey.varn.MinimumPoints(1) = 5;
+    survey.varn.MinimumPoints(1) = 10; // as many as the first locality has
     DrawHankoMap(survey.varn, 1, 2, survey.surfaces);
     const auto circles = operationsOf<EllipseOperation>(survey.drawing());
     ASSERT_EQ(circles.size(), 2U);
@@ -164,15 +175,28 @@ TEST(ContrastMap, CirclesSayWhichSidePrevailsAndByHowMuch)
     }
 }
 
-TEST(ContrastMap, FewStepsHaveNoLegendRows)
+TEST(ContrastMap, LargeCirclesStandClearOfTheLabels)
 {
-    for (const double typed : {0.0, 1.0}) {
+    CountedSurvey survey;
+    survey.varn.ContrastSteps = 3;
+    survey.varn.ContrastMaxSize = 400;
+    DrawRankGraph(survey.varn, survey.surfaces);
+    const auto circles = operationsOf<EllipseOperation>(survey.drawing());
+    const QString label = QStringLiteral("-100%");
+    ASSERT_EQ(circles.size(), 3 + 3U);
+    EXPECT_GT(circles[3].x - 400, printedAt(survey.drawing(), label).x() + survey.frmMap.TextWidth(label));
+}
+
+TEST(ContrastMap, HalfTheStepsRoundToTheEvenNeighbour)
+{
+    const std::pair<double, std::size_t> rows[] = {{0, 0}, {1, 0}, {2, 3}, {3, 5}, {5, 5}, {6, 7}};
+    for (const auto& [typed, labels] : rows) {
         CountedSurvey survey;
         survey.varn.ContrastTitle = QStringLiteral("title");
         survey.varn.ContrastSteps = typed + 1;
         DrawRankGraph(survey.varn, survey.surfaces);
         EXPECT_TRUE(wasPrinted(survey.drawing(), QStringLiteral("title")));
-        EXPECT_EQ(survey.drawing().texts.size(), 1U) << typed;
+        EXPECT_EQ(survey.drawing().texts.size(), 1 + labels) << typed;
     }
     CountedSurvey survey;
     survey.varn.ContrastMaxSize = 10000;

@@ -127,6 +127,52 @@ TEST(CumulativeFile, ItReadsBackWithTheMapsLocalities)
               ErrorNumber::SubscriptOutOfRange);
 }
 
+TEST(CumulativeFile, TheNamesOfItemsAreThoseThatTheTableCounts)
+{
+    struct Row
+    {
+        const char* names;
+        QStringList known;
+    };
+    const QString a = QStringLiteral("a.dbs");
+    const Row rows[] = {
+        {"2,7\r\n\"a.dbs\"\r\n\"b.dbs\"\r\n", {a, QStringLiteral("b.dbs")}},
+        {"2,8\r\n\"a.dbs\"\r\n\"b.dbs\"\r\n", {a}}, // the save of the table itself broke off
+        {"2,6\r\n\"a.dbs\"\r\n\"b.dbs\"\r\n", {a, QStringLiteral("b.dbs")}}, // others are not known
+        {"1,30\r\n\"a.dbs\"\r\n", {}}, // the table was emptied by a program that keeps no names
+    };
+    const TestSurvey survey;
+    const QString path = Folder + QStringLiteral("\\all.ttl");
+    survey.write(path, "1,7,\"\"\r\n\"\"\r\n0,0\r\n0,0\r\n1\r\n");
+    CumulativeData data;
+    for (const Row& row : rows) {
+        survey.write(Folder + QStringLiteral("\\all.itm"), row.names);
+        EXPECT_FALSE(LoadTotalFile(survey.drive(), path, 1, data)) << row.names;
+        EXPECT_EQ(data.CountedItems, row.known) << row.names;
+    }
+    data.CountedItems = {a};
+    survey.write(Folder + QStringLiteral("\\all.itm"), "damaged");
+    const auto error = LoadTotalFile(survey.drive(), path, 1, data);
+    ASSERT_TRUE(error) << "the table is loaded all the same";
+    EXPECT_TRUE(error->place().path.endsWith(QStringLiteral("all.itm")));
+    EXPECT_EQ(data.CountedItems, QStringList());
+    EXPECT_EQ(data.NumItemsAccumulated, 7);
+    SaveTotalFile(survey.drive(), Folder, 1, data);
+    EXPECT_EQ(survey.read(Folder + QStringLiteral("\\all.itm")), "damaged");
+}
+
+TEST(CumulativeTable, NewWordFormsHaveColoursOfTheirOwn)
+{
+    CumulativeData data;
+    setNumWordforms(data, 10);
+    QList<int> colors = {7, 15}; // those that paper swallows
+    for (int k = 1; k <= 10; ++k) {
+        EXPECT_FALSE(colors.contains(data.WordformSymbolColor(k))) << k;
+        EXPECT_EQ(data.WordformSymbolColor(k), data.WordformPaintColor(k));
+        colors << data.WordformSymbolColor(k);
+    }
+}
+
 TEST(CumulativeFile, AWordFormWithoutStringsMakesTheStringsUnreadable)
 {
     const TestSurvey survey;
@@ -145,6 +191,12 @@ TEST(CumulativeFile, AWordFormWithoutStringsMakesTheStringsUnreadable)
     EXPECT_EQ(errorOf([&] { LoadSetData(survey.drive(), path, loaded); }).number(),
               ErrorNumber::InputPastEndOfFile);
     EXPECT_EQ(loaded.NumWordforms, 2);
+
+    const QStringList ten = QStringLiteral("a b c d e f g h i j").split(QLatin1Char(' '));
+    SaveSetData(survey.drive(), path, data = tableOf({ten, ten + ten.first(1)}));
+    EXPECT_TRUE(
+        survey.read(path).endsWith("2\r\n10,\"a\",\"b\",\"c\",\"d\",\"e\",\"f\",\"g\",\"h\",\"i\",\"j\"\r\n"))
+        << "eleven have no line";
 }
 
 TEST(Statistics, FiguresAreThoseOfTheOccupiedLocalities)
@@ -187,10 +239,23 @@ TEST(Statistics, WhatHasNoFigureIsAnErrorThatNamesTheWordForm)
 {
     EXPECT_EQ(errorOfStats({0, 0}, 3), ErrorNumber::DivisionByZero);
     EXPECT_EQ(errorOfStats({2, 0}, 3), ErrorNumber::DivisionByZero);
-    EXPECT_EQ(errorOfStats({1, 1}, 401), ErrorNumber::SubscriptOutOfRange);
     EXPECT_EQ(errorOfStats(std::vector<int>(90, 400), 400), ErrorNumber::Overflow);
     Statistics statistics;
     statistics.Mode(1) = 7;
+    const auto readFile = [](const char* text) {
+        SequentialReader file(QString::fromLatin1(text));
+        readStatistics(file);
+    };
+    const RunTimeError tooMany[] = {errorOf([&] {
+                                        Stats(countsOf({1, 1}, 401), 2, statistics);
+                                    }),
+                                    errorOf([&] { readFile("1,401\r\n"); }),
+                                    errorOf([&] { readFile("11,1\r\n"); })};
+    const char* details[] = {"400 items, not of 401.", "400 items, not of 401.", "10 word forms, not of 11."};
+    for (std::size_t i = 0; i < std::size(tooMany); ++i) {
+        EXPECT_EQ(tooMany[i].number(), ErrorNumber::SubscriptOutOfRange);
+        EXPECT_TRUE(tooMany[i].detail().endsWith(QLatin1String(details[i]))) << i;
+    }
     const RunTimeError error = errorOf([&] { Stats(countsOf({1, 0}, 1), 2, statistics); });
     EXPECT_TRUE(error.detail().contains(QStringLiteral("word form 1")));
     EXPECT_EQ(statistics.Mode(1), 7) << "the statistics are as they were";

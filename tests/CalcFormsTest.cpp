@@ -2,6 +2,7 @@
 #include "analysis/frmCalExec.h"
 #include "analysis/frmCalc.h"
 #include "tests/Controls.h"
+#include "shell/MapChoice.h"
 #include "tests/ScriptedDialogs.h"
 #include "tests/TestDrive.h"
 
@@ -14,6 +15,8 @@
 #include <QProgressDialog>
 #include <QPushButton>
 #include <QTimer>
+
+#include <functional>
 
 namespace {
 
@@ -70,8 +73,8 @@ protected:
     }
     void openAll()
     {
+        dialogs.yesNo = {true}; // the strings of the same name
         open("mnuFileOpen", "all.ttl");
-        open("mnuSetFileLoad", "all.sum");
         open("mnuGengoOpen", "rain.dbs");
         dialogs.shown.clear();
         calc.Form_Load();
@@ -147,7 +150,7 @@ TEST_F(CalcForms, ANewTableIsSetUpAndSavedAndReadAgain)
     EXPECT_FALSE(calc.isWindowModified());
     EXPECT_EQ(
         survey.read(ling("new.ttl")),
-        "2,7,\"a caption\"\r\n\"one\"\r\n12,9\r\n0,0\r\n\"two\"\r\n0,0\r\n0,0\r\n0,0\r\n0,0\r\n0,0\r\n");
+        "2,7,\"a caption\"\r\n\"one\"\r\n12,9\r\n0,0\r\n\"two\"\r\n9,9\r\n0,0\r\n0,0\r\n0,0\r\n0,0\r\n");
 
     type("txtTotalFileName", "all");
     dialogs.yesNo = {false};
@@ -173,6 +176,7 @@ TEST_F(LoadedCalcForms, TablesStringsAndItemAreShown)
     QApplication::processEvents();
     EXPECT_EQ(text("txtTotalName"), QStringLiteral("two"));
     EXPECT_EQ(listed("LstWord"), QStringList(QStringLiteral("u")));
+    EXPECT_EQ(text("txtInputWord"), QStringLiteral("u"));
 
     survey.write(ling("bad.ttl"), "2,5,\"\"\r\n\"one\"\r\n");
     open("mnuFileOpen", "bad.ttl");
@@ -209,8 +213,13 @@ TEST_F(LoadedCalcForms, StringsAreEditedFromTheKindsAndSaved)
     click("cmdWordSave");
     EXPECT_EQ(survey.read(ling("mine.sum")), "2\r\n3,\"a\",\"AM\",\"mu\"\r\n1,\"u\"\r\n");
     EXPECT_FALSE(calc.isWindowModified());
+    click("cmdWordBefore");
+    click("cmdWordDelete");
+    EXPECT_EQ(listed("LstWord"), QStringList({QStringLiteral("AM"), QStringLiteral("mu")}));
+    EXPECT_EQ(text("txtInputWord"), QStringLiteral("AM"));
     click("cmdWordReset");
     EXPECT_EQ(varn.NumSpecifyChars(1), 0);
+    EXPECT_EQ(text("txtInputWord"), QString());
     const std::size_t before = dialogs.shown.size();
     click("cmdWordSave");
     EXPECT_EQ(survey.read(ling("mine.sum")), "2\r\n1,\"u\"\r\n");
@@ -278,8 +287,8 @@ TEST_F(CalcForms, WithoutAnItemOrATableNothingIsCounted)
     EXPECT_EQ(lastMessage(), QStringLiteral("No. of Specify Data is inadequate."));
     execute("mnuExecSave");
     EXPECT_EQ(lastMessage(), QStringLiteral("Input Name of Aalysis File."));
+    dialogs.yesNo = {false, false}; // nor the strings of the same name
     open("mnuFileOpen", "all.ttl");
-    dialogs.yesNo = {false};
     execute("mnuExecCalc");
     EXPECT_TRUE(lastMessage().contains(QStringLiteral("No word form has an identifying string")));
     EXPECT_EQ(varn.NumItemsAccumulated, 5);
@@ -302,6 +311,9 @@ TEST_F(LoadedCalcForms, ExecutingCountsTheItemAndSavesTheTable)
     EXPECT_EQ(dialogs.shown.back(), (Shown{QStringLiteral("Linguistic Data File is saved."),
                                            QStringLiteral("Save of Linguistic Data")}));
     const QByteArray before = survey.read(ling("all.ttl"));
+    dialogs.yesNo = {false, true};
+    execute("mnuExecCalc");
+    EXPECT_EQ(lastMessage(), QStringLiteral("rain.dbs is counted in the table already. Count it once more?"));
     execute("mnuExecCalc");
     ASSERT_EQ(dialogs.errors.size(), 1U);
     EXPECT_EQ(dialogs.errors[0].title, QStringLiteral("Run-time error '6': Overflow"));
@@ -310,6 +322,7 @@ TEST_F(LoadedCalcForms, ExecutingCountsTheItemAndSavesTheTable)
 
     varn.Counts(1, 2) = 4;
     varn.TotalFileName = QStringLiteral("blocked");
+    dialogs.yesNo = {true, true};
     QDir().mkpath(survey.drive().hostPath(ling("blocked.ttl\\in the way")));
     execute("mnuExecCalc");
     EXPECT_EQ(dialogs.errors.size(), 2U);
@@ -319,8 +332,10 @@ TEST_F(LoadedCalcForms, ExecutingCountsTheItemAndSavesTheTable)
 
 TEST_F(LoadedCalcForms, AllItemsOfAFolderAreCountedUntilStop)
 {
-    survey.write(ling("snow.dbs"), "1,\"\",\"\",\"\"\r\n1\r\n\"am\"\r\n");
+    survey.write(ling("snow.dbs"), "3,\"\",\"\",\"\"\r\n1\r\n\"am\"\r\n0\r\n0\r\n");
+    survey.write(ling("snow.srt"), "no kinds");
     survey.write(ling("bad.dbs"), "no item");
+    survey.write(ling("far.dbs"), "1,\"\",\"\",\"\"\r\n1\r\n\"am\"\r\n");
     const QString folder = survey.drive().hostPath(ling("rain.dbs")).chopped(9);
     dialogs.folders = {std::nullopt, folder, folder};
     execute("mnuExecAll");
@@ -328,17 +343,132 @@ TEST_F(LoadedCalcForms, AllItemsOfAFolderAreCountedUntilStop)
     execute("mnuExecAll");
     EXPECT_EQ(dialogs.shown.back().title, Analysis);
     EXPECT_TRUE(lastMessage().startsWith(QStringLiteral("Analyse of Linguistic Data File is completed.\n"
-                                                        "2 of 3 items were counted.")));
-    EXPECT_TRUE(lastMessage().endsWith(QStringLiteral("\nbad.dbs")));
+                                                        "2 of 4 items were counted.")));
+    EXPECT_TRUE(lastMessage().endsWith(QStringLiteral("\nbad.dbs\nfar.dbs")));
     EXPECT_TRUE(header("bad.dbs:")) << "why is told on the page";
+    EXPECT_TRUE(header("    The item has 1 localities, the map has 3."));
     EXPECT_TRUE(survey.read(ling("all.ttl")).startsWith("2,7,"));
     EXPECT_EQ(varn.Counts(1, 1), 1 + 2 + 2);
+
+    dialogs.folders = {folder, folder, folder};
+    dialogs.yesNo = {false, true, true};
+    execute("mnuExecAll");
+    EXPECT_TRUE(dialogs.shown.end()[-2].text.startsWith(QStringLiteral("2 of the 4 items are counted")));
+    EXPECT_TRUE(lastMessage().contains(QStringLiteral("\n0 of 4 items were counted.\n2 had been counted")));
+    execute("mnuExecAll");
+    EXPECT_TRUE(lastMessage().contains(QStringLiteral("\n2 of 4 items were counted.\n\n")));
+    EXPECT_EQ(varn.Counts(1, 1), 1 + 2 * (2 + 2));
 
     QTimer::singleShot(0, &exec,
                        [this] { exec.findChild<QProgressDialog*>()->findChild<QPushButton*>()->click(); });
     execute("mnuExecAll");
-    EXPECT_TRUE(lastMessage().contains(QStringLiteral("0 of 3 items were counted.")));
-    EXPECT_EQ(varn.NumItemsAccumulated, 7);
+    EXPECT_TRUE(lastMessage().contains(QStringLiteral("0 of 4 items were counted.")));
+    EXPECT_EQ(varn.NumItemsAccumulated, 9);
+}
+
+TEST_F(LoadedCalcForms, AnItemOfAnotherMapIsCountedOnlyIfWanted)
+{
+    varn.NLocality = 2;
+    for (const bool wanted : {false, true}) {
+        dialogs.yesNo = {wanted};
+        execute("mnuExecCalc");
+        EXPECT_EQ(dialogs.shown[0].title, Analysis);
+        EXPECT_TRUE(
+            dialogs.shown[0].text.startsWith(QStringLiteral("The item has 3 localities, the map has 2.")));
+        EXPECT_EQ(varn.NumItemsAccumulated, wanted ? 6 : 5);
+    }
+}
+
+TEST_F(LoadedCalcForms, FewerWordFormsAreAskedAboutAndLeaveNothing)
+{
+    type("txtTotalNumber", "1");
+    for (const bool wanted : {false, true}) {
+        dialogs.yesNo = {wanted};
+        click("cmdTotalNumber");
+        EXPECT_TRUE(lastMessage().contains(QStringLiteral("counts and strings: 2 two.")));
+        EXPECT_EQ(varn.NumWordforms, wanted ? 1 : 2);
+        EXPECT_EQ(text("txtTotalNumber"), QString::number(varn.NumWordforms));
+        type("txtTotalNumber", "1");
+    }
+    type("txtTotalNumber", "3");
+    click("cmdTotalNumber");
+    EXPECT_EQ(varn.Counts(1, 3), 5) << "what the table has stays";
+    EXPECT_EQ(varn.WordformPaintColor(1), 9);
+    EXPECT_EQ(varn.WordformName(2), QString());
+    EXPECT_EQ(varn.NumSpecifyChars(2), 0);
+    EXPECT_EQ(varn.Counts(2, 1), 0);
+    EXPECT_NE(varn.WordformSymbolColor(2), varn.WordformSymbolColor(3));
+    type("txtTotalNumber", "2");
+    dialogs.shown.clear();
+    click("cmdTotalNumber");
+    EXPECT_EQ(dialogs.shown, std::vector<Shown>()) << "there is nothing to lose";
+}
+
+TEST_F(LoadedCalcForms, AnotherTableDoesNotCountByTheOldStringsUnasked)
+{
+    survey.write(ling("new.ttl"), survey.read(ling("all.ttl")));
+    const auto openNew = [this](std::initializer_list<bool> answers) {
+        dialogs.yesNo = answers;
+        open("mnuFileOpen", "new.ttl");
+        EXPECT_TRUE(dialogs.yesNo.empty());
+    };
+    openNew({true});
+    EXPECT_EQ(lastMessage(),
+              QStringLiteral("The identifying strings are still those of all.sum. Keep them for "
+                             "new.ttl?"));
+    EXPECT_EQ(varn.NumSpecifyChars(1), 2);
+    openNew({}); // it is the same table
+    open("mnuFileOpen", "all.ttl");
+    openNew({false});
+    EXPECT_EQ(varn.NumSpecifyChars(1), 0);
+    EXPECT_EQ(text("txtSetFileName"), QString());
+
+    survey.write(ling("new.sum"), "1\r\n1,\"x\"\r\n");
+    dialogs.yesNo = {true};
+    open("mnuFileOpen", "all.ttl");
+    EXPECT_EQ(text("txtSetFileName"), QStringLiteral("all"));
+    type("txtInputWord", "z");
+    click("cmdWordSelect");
+    openNew({true, false, true}); // the file of one word form would drop the other
+    EXPECT_TRUE(dialogs.shown.end()[-3].text.contains(QStringLiteral("new.sum")));
+    EXPECT_TRUE(dialogs.shown.end()[-3].text.endsWith(QStringLiteral("are not saved.")));
+    EXPECT_TRUE(dialogs.shown.end()[-2].text.contains(QStringLiteral("2 two.")));
+    EXPECT_EQ(varn.NumSpecifyChars(1), 3);
+}
+
+TEST_F(LoadedCalcForms, EveryChangeOfTheCountsOutdatesTheContrast)
+{
+    survey.write(ling("three.sum"), "3\r\n1,\"a\"\r\n1,\"b\"\r\n1,\"c\"\r\n");
+    const auto count = [this] { execute("mnuExecCalc"); };
+    const auto countAll = [this] {
+        dialogs.folders = {survey.drive().hostPath(ling("rain.dbs")).chopped(9)};
+        dialogs.yesNo = {true};
+        execute("mnuExecAll");
+    };
+    const auto initialize = [this] {
+        dialogs.okCancel = {true};
+        set("mnuInitialize");
+    };
+    const auto setNumber = [this] { click("cmdTotalNumber"); };
+    const auto openSum = [this] {
+        dialogs.yesNo = {true};
+        open("mnuSetFileLoad", "three.sum");
+    };
+    const auto openTable = [this] {
+        dialogs.yesNo = {true};
+        open("mnuFileOpen", "all.ttl");
+    };
+    const auto chooseMap = [this] { applyMapChoice(currentMapChoice(varn), varn); };
+    const std::function<void()> changes[] = {count,   countAll,  initialize, setNumber,
+                                             openSum, openTable, chooseMap};
+    int change = 0;
+    for (const auto& make : changes) {
+        varn.ContrastAnalysed = true;
+        make();
+        EXPECT_FALSE(varn.ContrastAnalysed) << change;
+        ++change;
+    }
+    EXPECT_EQ(dialogs.errors, std::vector<Shown>());
 }
 
 TEST_F(LoadedCalcForms, PagesAndItemsGoRound)

@@ -195,6 +195,19 @@ TEST(ContrastPages, LocalitiesFillColumnsAndPages)
     EXPECT_LT(last.y() + page.TextHeight() / 2, ContrastPages::area().height()) << "in whatever font";
 
     page.Cls();
+    survey.varn.ContrastSum(1, 41) = 417;
+    survey.varn.ContrastSum(2, 41) = 418;
+    ContrastPages(survey.varn, QString()).draw(1, page);
+    const std::pair<const char*, double> ends[] = {
+        {"Loc.", 480},        {"Diff.", 3000},      {"-2001", 3000},        {"41", 3480 + 480},
+        {"417", 3480 + 1320}, {"418", 3480 + 2160}, {"-2041", 3480 + 3000}, {"-2081", 2 * 3480 + 3000}};
+    for (const auto& [text, end] : ends) {
+        const QPointF place = printedAt(page.drawing(), QLatin1String(text));
+        EXPECT_NEAR(place.x() + page.TextWidth(QLatin1String(text)), end, 1) << text;
+        EXPECT_NEAR(place.y(), QLatin1String(text).endsWith(QLatin1Char('.')) ? 900 : 1180, 1) << text;
+    }
+
+    page.Cls();
     ContrastPages(survey.varn, QString(300, QLatin1Char('m'))).draw(1, page);
     for (const TextOperation& text : operationsOf<TextOperation>(page.drawing())) {
         EXPECT_LE(text.x + page.TextWidth(page.drawing().texts[text.text]), ContrastPages::area().width());

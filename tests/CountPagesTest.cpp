@@ -1,6 +1,6 @@
 #include "analysis/CountPages.h"
 
-#include "analysis/AccumulateFolder.h"
+#include "analysis/AccumulateItems.h"
 #include "analysis/Accumulation.h"
 #include "analysis/CumulativeFile.h"
 #include "analysis/SpecifyCharsEditor.h"
@@ -9,8 +9,11 @@
 #include "tests/TestDrive.h"
 
 #include <QDir>
+#include <QFile>
+#include <QLockFile>
 
 #include <initializer_list>
+#include <map>
 
 namespace {
 
@@ -51,7 +54,8 @@ protected:
         survey.write(Folder + QStringLiteral("\\1.DBS"), item("\"a\"", "\"b\""));
         survey.write(Folder + QStringLiteral("\\2.dbs"), "3,\"\",\"cut\",\"\"\r\n1\r\n\"a\"\r\n");
         survey.write(Folder + QStringLiteral("\\4.txt"), item("\"a\"", "\"a\""));
-        varn.NumWordforms = 1;
+        varn.NLocality = 2;
+        setNumWordforms(varn, 1);
         varn.NumSpecifyChars(1) = 1;
         varn.SpecifyChars(1, 1) = QStringLiteral("a");
         varn.TotalFileName = QStringLiteral("all");
@@ -60,6 +64,15 @@ protected:
     static QByteArray item(const QByteArray& first, const QByteArray& second)
     {
         return "2,\"\",\"\",\"\"\r\n1\r\n" + first + "\r\n1\r\n" + second + "\r\n";
+    }
+
+    AccumulationResult countAll(bool countAgain, const AccumulationProgress& mayProceed)
+    {
+        return accumulateItems(varn, {itemFiles(varn.Drive, Folder), countAgain}, 2, varn, mayProceed);
+    }
+    AccumulationResult countAll()
+    {
+        return countAll(false, [](int, int, const QString&) { return true; });
     }
 
     QByteArray saved() { return survey.read(Folder + QStringLiteral("\\all.ttl")); }
@@ -165,6 +178,24 @@ TEST(StatisticsPages, TwentyLevelsMakeAColumn)
     }
 }
 
+TEST(StatisticsPages, LargeNumbersKeepClearOfEachOther)
+{
+    CountedSurvey survey(1, 400, {1, 2, 399, 400});
+    survey.statistics.CumCount(0, 1) = 1000;
+    survey.statistics.FreqCount(100, 1) = 1000;
+    DrawSurface surface;
+    StatisticsPages(survey.table, survey.statistics, surface).DisplayStatsTable(1);
+    std::map<float, float> ends; // of the text before on each line
+    for (const TextOperation& text : operationsOf<TextOperation>(surface.drawing())) {
+        const TextFont& font = surface.drawing().fonts[static_cast<std::size_t>(text.font)];
+        const double width =
+            QFontMetricsF(twipFont(font)).horizontalAdvance(surface.drawing().texts[text.text]);
+        EXPECT_TRUE(text.y < 600 || text.x == 0 || text.x > ends[text.y]) << text.x << ' ' << text.y;
+        ends[text.y] = text.x + static_cast<float>(width);
+    }
+    EXPECT_EQ(ends.size(), 2U + 20);
+}
+
 TEST(SpecifyCharsEditor, StringsAreAddedReplacedAndSteppedThrough)
 {
     CumulativeData data;
@@ -185,6 +216,17 @@ TEST(SpecifyCharsEditor, StringsAreAddedReplacedAndSteppedThrough)
     editor.rewrite(QStringLiteral("B"));
     EXPECT_EQ(editor.strings(), QStringList({QStringLiteral("a"), QStringLiteral("B"), QStringLiteral("c")}));
     EXPECT_EQ(data.NumSpecifyChars(1), 0);
+    editor.previous();
+    editor.remove();
+    EXPECT_EQ(editor.text(), QStringLiteral("B")) << "the next one";
+    editor.next();
+    editor.remove();
+    EXPECT_EQ(editor.strings(), QStringList(QStringLiteral("B")));
+    EXPECT_EQ(editor.current(), 1);
+    editor.remove();
+    editor.remove();
+    EXPECT_EQ(editor.current(), 0);
+    editor.add(QStringLiteral("a"));
     editor.reset();
     EXPECT_EQ(editor.current(), 0);
     EXPECT_EQ(data.NumSpecifyChars(2), 0);
@@ -198,16 +240,15 @@ TEST_F(ItemFolder, ItemsAreCountedInTheOrderOfTheirNamesAndTheBadOneIsNamed)
 {
     QStringList names;
     std::vector<QByteArray> files;
-    const FolderAccumulation done =
-        accumulateFolder(varn, Folder, 3, varn, [&](int item, int items, const QString& name) {
-            EXPECT_EQ(item, names.size());
-            EXPECT_EQ(items, 3);
-            if (item > 0) {
-                files.push_back(saved());
-            }
-            names << name;
-            return true;
-        });
+    const AccumulationResult done = countAll(false, [&](int item, int items, const QString& name) {
+        EXPECT_EQ(item, names.size());
+        EXPECT_EQ(items, 3);
+        if (item > 0) {
+            files.push_back(saved());
+        }
+        names << name;
+        return true;
+    });
     EXPECT_EQ(names,
               QStringList({QStringLiteral("1.DBS"), QStringLiteral("2.dbs"), QStringLiteral("3.dbs")}));
     EXPECT_EQ(done.counted, 2);
@@ -215,74 +256,116 @@ TEST_F(ItemFolder, ItemsAreCountedInTheOrderOfTheirNamesAndTheBadOneIsNamed)
     ASSERT_EQ(done.uncounted.size(), 1U);
     EXPECT_EQ(done.uncounted[0].name, QStringLiteral("2.dbs"));
     EXPECT_TRUE(done.uncounted[0].reason.contains(QStringLiteral("Input past end of file")));
-    const QByteArray ofFirst = "1,1,\"\"\r\n\"\"\r\n0,0\r\n";
+    const QByteArray ofFirst = "1,1,\"\"\r\n\"\"\r\n12,12\r\n";
     ASSERT_EQ(files.size(), 2U);
     EXPECT_TRUE(files[0].startsWith(ofFirst)) << "saved after each item";
     EXPECT_EQ(files[1], files[0]) << "a bad one adds nothing";
     EXPECT_TRUE(saved().startsWith("1,2,"));
-    EXPECT_TRUE(saved().endsWith("2\r\n1\r\n0\r\n"));
+    EXPECT_TRUE(saved().endsWith("2\r\n1\r\n"));
 
     CumulativeData alone = varn;
-    clearCounts(3, alone);
+    clearCounts(2, alone);
     for (const char* name : {"\\1.DBS", "\\3.dbs"}) {
-        executeItem(varn, readWordData(varn, Folder + QLatin1String(name)), 3, alone);
+        executeItem(varn, readWordData(varn, Folder + QLatin1String(name)), 2, alone);
     }
-    for (int j = 1; j <= 3; ++j) {
+    for (int j = 1; j <= 2; ++j) {
         EXPECT_EQ(alone.Counts(1, j), varn.Counts(1, j));
     }
 }
 
 TEST_F(ItemFolder, StoppingKeepsWhatIsCountedAndAnOverflowIsPassedOver)
 {
-    FolderAccumulation done =
-        accumulateFolder(varn, Folder, 3, varn, [](int item, int, const QString&) { return item < 1; });
+    AccumulationResult done = countAll(false, [](int item, int, const QString&) { return item < 1; });
     EXPECT_TRUE(done.stopped);
     EXPECT_EQ(done.counted, 1);
     EXPECT_EQ(varn.NumItemsAccumulated, 1);
 
     varn.Counts(1, 2) = 32767;
-    done = accumulateFolder(varn, Folder, 3, varn, [](int, int, const QString&) { return true; });
+    done = countAll(true, [](int, int, const QString&) { return true; });
     EXPECT_EQ(done.counted, 1) << "1.DBS has no \"a\" at locality 2";
     ASSERT_EQ(done.uncounted.size(), 2U);
     EXPECT_TRUE(done.uncounted[1].reason.contains(QStringLiteral("Overflow")));
     EXPECT_EQ(varn.Counts(1, 1), 2);
 
-    EXPECT_EQ(errorOf([&] {
-                  accumulateFolder(varn, Folder + QStringLiteral("\\gone"), 3, varn,
-                                   [](int, int, const QString&) { return true; });
-              }).number(),
+    EXPECT_EQ(errorOf([&] { itemFiles(varn.Drive, Folder + QStringLiteral("\\gone")); }).number(),
               ErrorNumber::PathNotFound);
 }
 
 TEST_F(ItemFolder, ASaveThatFailsLeavesTheTableOfTheFile)
 {
     QDir().mkpath(survey.drive().hostPath(Folder + QStringLiteral("\\all.ttl\\in the way")));
-    const RunTimeError error = errorOf(
-        [&] { accumulateFolder(varn, Folder, 3, varn, [](int, int, const QString&) { return true; }); });
+    const RunTimeError error = errorOf([&] { countAll(); });
     EXPECT_TRUE(error.place().path.endsWith(QStringLiteral("all.ttl")));
     EXPECT_TRUE(error.detail().contains(QStringLiteral("0 of 3 items")));
     EXPECT_EQ(varn.NumItemsAccumulated, 0);
     EXPECT_EQ(varn.Counts(1, 1), 0);
-    EXPECT_FALSE(isTableUnsaved(varn, 3));
+    EXPECT_EQ(varn.CountedItems, QStringList());
+    EXPECT_FALSE(isTableUnsaved(varn, 2));
+}
+
+TEST_F(ItemFolder, AStoppedRunIsResumedWithTheTableReadAgain)
+{
+    countAll(false, [](int item, int, const QString&) { return item < 1; });
+    CumulativeData& data = varn;
+    data = {};
+    LoadTotalFile(survey.drive(), Folder + QStringLiteral("\\all.ttl"), 2, varn);
+    varn.NumSpecifyChars(1) = 1;
+    varn.SpecifyChars(1, 1) = QStringLiteral("a");
+    const AccumulationResult done = countAll();
+    EXPECT_EQ(done.countedBefore, QStringList(QStringLiteral("1.DBS")));
+    EXPECT_EQ(done.counted, 1);
+    EXPECT_EQ(varn.Counts(1, 1), 2) << "as in one run";
+    EXPECT_EQ(survey.read(Folder + QStringLiteral("\\all.itm")), "2,2\r\n\"1.DBS\"\r\n\"3.dbs\"\r\n");
+
+    clearCounts(2, varn);
+    SaveTotalFile(survey.drive(), Folder, 2, varn);
+    EXPECT_EQ(countAll().counted, 2) << "an emptied table knows no items";
+}
+
+TEST_F(ItemFolder, ATableThatAnotherProgramSavedIsNotSavedOver)
+{
+    countAll();
+    CumulativeData other;
+    const QString path = Folder + QStringLiteral("\\all.ttl");
+    LoadTotalFile(survey.drive(), path, 2, other);
+    other.MapCaption = QStringLiteral("theirs");
+    SaveTotalFile(survey.drive(), Folder, 2, other);
+    const RunTimeError error =
+        errorOf([&] { countAll(true, [](int, int, const QString&) { return true; }); });
+    EXPECT_EQ(error.number(), ErrorNumber::PermissionDenied);
+    EXPECT_TRUE(error.message().contains(QStringLiteral("changed by another program")));
+    EXPECT_TRUE(saved().contains("theirs"));
+    EXPECT_EQ(varn.CountedItems.size(), 2) << "memory holds what it held";
+
+    LoadTotalFile(survey.drive(), path, 2, varn);
+    SaveTotalFile(survey.drive(), Folder, 2, varn);
+    QFile::remove(survey.drive().hostPath(path));
+    SaveTotalFile(survey.drive(), Folder, 2, varn); // there is nothing to save over
+    EXPECT_TRUE(saved().contains("theirs"));
+    QFile::remove(survey.drive().hostPath(path + QStringLiteral(".lock")));
+    QLockFile theirs(survey.drive().hostPath(path) + QStringLiteral(".lock"));
+    ASSERT_TRUE(theirs.tryLock());
+    EXPECT_EQ(errorOf([&] { SaveTotalFile(survey.drive(), Folder, 2, varn); }).number(),
+              ErrorNumber::PermissionDenied);
 }
 
 TEST_F(ItemFolder, UnsavedIsWhatDiffersFromTheFile)
 {
-    EXPECT_FALSE(isTableUnsaved(varn, 3)) << "a number of word forms is nothing to lose";
+    EXPECT_FALSE(isTableUnsaved(varn, 2)) << "a number of word forms is nothing to lose";
     EXPECT_TRUE(areCharsUnsaved(varn));
     varn.WordformName(1) = QStringLiteral("w");
-    EXPECT_TRUE(isTableUnsaved(varn, 3));
-    SaveTotalFile(survey.drive(), Folder, 3, varn);
+    EXPECT_TRUE(isTableUnsaved(varn, 2));
+    SaveTotalFile(survey.drive(), Folder, 2, varn);
     SaveSetData(survey.drive(), Folder + QStringLiteral("\\all.sum"), varn);
-    EXPECT_FALSE(isTableUnsaved(varn, 3));
+    EXPECT_FALSE(isTableUnsaved(varn, 2));
     EXPECT_FALSE(areCharsUnsaved(varn));
-    varn.Counts(1, 3) = 1;
+    varn.Counts(1, 2) = 1;
     varn.SpecifyChars(1, 1) = QStringLiteral("A");
-    EXPECT_TRUE(isTableUnsaved(varn, 3));
+    EXPECT_TRUE(isTableUnsaved(varn, 2));
     EXPECT_TRUE(areCharsUnsaved(varn));
-    LoadTotalFile(survey.drive(), Folder + QStringLiteral("\\all.ttl"), 3, varn);
+    LoadTotalFile(survey.drive(), Folder + QStringLiteral("\\all.ttl"), 2, varn);
     LoadSetData(survey.drive(), Folder + QStringLiteral("\\all.sum"), varn);
-    EXPECT_FALSE(isTableUnsaved(varn, 3));
+    EXPECT_FALSE(isTableUnsaved(varn, 2));
     EXPECT_FALSE(areCharsUnsaved(varn));
 
     EXPECT_EQ(errorOf([&] { setNumWordforms(varn, 11); }).number(), ErrorNumber::SubscriptOutOfRange);

@@ -1,0 +1,115 @@
+#include "analysis/AccumulateItems.h"
+
+#include "analysis/Accumulation.h"
+#include "analysis/CumulativeFile.h"
+#include "lingdata/LinguisticFile.h"
+#include "lingdata/LocalityMismatch.h"
+
+#include <QDir>
+
+namespace {
+
+/// Adds the item and its name to the table.
+void countItem(const LinguisticData& item, int localities, CumulativeData& data)
+{
+    accumulateItem(item, localities, data);
+    data.CountedItems << item.ItemFileName;
+}
+
+/// Saves the table; where that fails, it becomes `before` again.
+void saveOrRestore(const Folders& folders, int localities, const CumulativeTable& before,
+                   CumulativeData& data)
+{
+    try {
+        SaveTotalFile(folders.Drive, folders.dataFolder(), localities, data);
+    } catch (const RunTimeError&) {
+        static_cast<CumulativeTable&>(data) = before;
+        throw;
+    }
+}
+
+QString fileName(const QString& path)
+{
+    return path.mid(path.lastIndexOf(QLatin1Char('\\')) + 1);
+}
+
+/// Counts the item at `path`; why it cannot be counted, or nothing. Its kinds are not needed.
+QString countFile(const DriveC& drive, const QString& path, int localities, CumulativeData& data)
+{
+    LinguisticData item;
+    item.ItemFileName = fileName(path);
+    try {
+        static_cast<ItemAnswers&>(item) = readSequentialFile(drive, path, readItem);
+        QString mismatch = localityMismatch(item.NLocate, localities);
+        if (mismatch.isEmpty()) {
+            countItem(item, localities, data);
+        }
+        return mismatch;
+    } catch (const RunTimeError& error) {
+        return error.message();
+    }
+}
+
+/// `error`, which says how far the items were done.
+RunTimeError failedAfter(const AccumulationResult& result, const RunTimeError& error)
+{
+    QStringList details = {
+        error.detail(),
+        QStringLiteral("%1 of %2 items had been counted and saved.").arg(result.counted).arg(result.items)};
+    details.removeAll(QString());
+    return RunTimeError(error.number(), details.join(QLatin1Char('\n'))).at(error.place());
+}
+
+} // namespace
+
+void executeItem(const Folders& folders, const LinguisticData& item, int localities, CumulativeData& data)
+{
+    const CumulativeTable before = data;
+    countItem(item, localities, data);
+    saveOrRestore(folders, localities, before, data);
+}
+
+QStringList itemFiles(const DriveC& drive, const QString& folder)
+{
+    const QDir dir(drive.hostPath(folder));
+    if (!dir.exists()) {
+        throw RunTimeError(ErrorNumber::PathNotFound).at({folder});
+    }
+    QStringList paths;
+    for (const QString& name :
+         dir.entryList({QStringLiteral("*.dbs")}, QDir::Files, QDir::Name | QDir::IgnoreCase)) {
+        paths << folder + QLatin1Char('\\') + name;
+    }
+    return paths;
+}
+
+AccumulationResult accumulateItems(const Folders& folders, const ItemsToCount& items, int localities,
+                                   CumulativeData& data, const AccumulationProgress& mayProceed)
+{
+    AccumulationResult result;
+    result.items = static_cast<int>(items.paths.size());
+    int done = 0;
+    for (const QString& path : items.paths) {
+        const QString name = fileName(path);
+        if (!mayProceed(done++, result.items, name)) {
+            result.stopped = true;
+            break;
+        }
+        if (!items.countAgain && isCounted(data, name)) {
+            result.countedBefore << name;
+            continue;
+        }
+        const CumulativeTable before = data;
+        if (const QString reason = countFile(folders.Drive, path, localities, data); !reason.isEmpty()) {
+            result.uncounted.push_back({name, reason});
+            continue;
+        }
+        try {
+            saveOrRestore(folders, localities, before, data);
+        } catch (const RunTimeError& error) {
+            throw failedAfter(result, error);
+        }
+        ++result.counted;
+    }
+    return result;
+}

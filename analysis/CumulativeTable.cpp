@@ -1,0 +1,81 @@
+#include "analysis/CumulativeTable.h"
+
+#include <array>
+
+namespace {
+
+constexpr int MostLocalities = 1000;
+
+/// Colours that differ from each other and from the paper.
+constexpr std::array FirstColors = {12, 9, 2, 5, 6, 3, 0, 4, 1, 8};
+
+void emptyWordform(CumulativeData& data, int k)
+{
+    data.WordformName(k).clear();
+    data.WordformSymbolColor(k) = 0;
+    data.WordformPaintColor(k) = 0;
+    data.WordformExtraValue(k) = QVariant();
+    data.WordformExtraInt(k) = 0;
+    for (int j = 0; j <= MostLocalities; ++j) {
+        data.Counts(k, j) = 0;
+    }
+    data.NumSpecifyChars(k) = 0;
+}
+
+void beginWordform(CumulativeData& data, int k)
+{
+    const int color = FirstColors.at(static_cast<std::size_t>(k) - 1);
+    emptyWordform(data, k);
+    data.WordformSymbolColor(k) = color;
+    data.WordformPaintColor(k) = static_cast<qint16>(color);
+}
+
+} // namespace
+
+void setNumWordforms(CumulativeData& data, int number)
+{
+    if (number != 0) {
+        static_cast<void>(data.WordformName(number));
+    }
+    for (int k = number + 1; k <= data.NumWordforms; ++k) {
+        emptyWordform(data, k);
+    }
+    for (int k = data.NumWordforms + 1; k <= number; ++k) {
+        beginWordform(data, k);
+    }
+    data.NumWordforms = number;
+    data.CurrentWordform = 1;
+}
+
+bool hasContents(const CumulativeData& data, int k)
+{
+    bool counted = false;
+    for (int j = 1; j <= MostLocalities; ++j) {
+        counted = counted || data.Counts(k, j) != 0;
+    }
+    return counted || !data.WordformName(k).isEmpty() || data.NumSpecifyChars(k) > 0;
+}
+
+bool hasIdentifyingStrings(const CumulativeData& data)
+{
+    for (int k = 1; k <= data.NumWordforms; ++k) {
+        if (data.NumSpecifyChars(k) > 0) {
+            return true;
+        }
+    }
+    return false;
+}
+
+bool isCounted(const CumulativeTable& table, const QString& itemName)
+{
+    return table.CountedItems.contains(itemName, Qt::CaseInsensitive);
+}
+
+QStringList wordformNames(const CumulativeTable& table)
+{
+    QStringList names;
+    for (int k = 1; k <= table.NumWordforms; ++k) {
+        names << table.WordformName(k);
+    }
+    return names;
+}
