@@ -36,7 +36,7 @@ std::optional<RunTimeError> countItem(const Folders& folders, const QString& pat
                                       CumulativeData& data)
 {
     try {
-        accumulateItem(readWordData(folders, path), localities, data);
+        accumulateItem(readItemAnswers(folders, path), localities, data);
     } catch (const RunTimeError& error) {
         return error;
     }

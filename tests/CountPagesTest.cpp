@@ -222,7 +222,7 @@ TEST_F(ItemFolder, ItemsAreCountedInTheOrderOfTheirNamesAndTheBadOneIsNamed)
     CumulativeData alone = varn;
     clearCounts(3, alone);
     for (const char* name : {"\\1.DBS", "\\3.dbs"}) {
-        executeItem(varn, readWordData(varn, Folder + QLatin1String(name)), 3, alone);
+        executeItem(varn, readItemAnswers(varn, Folder + QLatin1String(name)), 3, alone);
     }
     for (int j = 1; j <= 3; ++j) {
         EXPECT_EQ(alone.Counts(1, j), varn.Counts(1, j));
