@@ -145,8 +145,14 @@ void frmCalc::followSharedState()
     } else if (m_shownWordform != m_varn.CurrentWordform) {
         TotalSet(m_varn.CurrentWordform);
     }
-    if (m_listedItem != m_varn.ItemFileName) {
+    followItem();
+}
+
+void frmCalc::followItem()
+{
+    if (m_prepared && m_listedReading != m_varn.ItemReading) {
         SetKindWord();
+        refresh();
     }
 }
 
@@ -222,8 +228,8 @@ void frmCalc::SetTotalWordList()
 
 void frmCalc::SetKindWord()
 {
-    m_listedItem = m_varn.ItemFileName;
-    m_ui->txtWordFileName->setText(m_listedItem);
+    m_listedReading = m_varn.ItemReading;
+    m_ui->txtWordFileName->setText(m_varn.ItemFileName);
     QStringList entries;
     for (int w = 1; w <= m_varn.NKind; ++w) {
         entries << QString::number(w) + QLatin1Char(' ') + m_varn.KindWord(w);

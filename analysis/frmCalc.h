@@ -28,6 +28,8 @@ public:
     /// Prepares the form to be shown: shows the table, the strings and the item that are loaded.
     void Form_Load();
     void refresh() override;
+    /// Lists the kinds of the loaded item where it was loaded since they were listed.
+    void followItem();
 
 Q_SIGNALS:
     /// The user wants to go back to the main form.
@@ -125,7 +127,7 @@ private:
     WordformFields m_stored;
     /// The number of items that is shown.
     int m_shownItems = -1;
-    /// The item whose kinds are listed.
-    QString m_listedItem;
+    /// Which loading of an item the listed kinds are of.
+    int m_listedReading = 0;
     bool m_prepared = false;
 };

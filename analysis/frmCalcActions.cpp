@@ -123,7 +123,7 @@ void frmCalc::mnuGengoOpen_Click()
     if (!path) {
         return;
     }
-    LoadWordData(m_varn, *path, m_varn, m_varn);
+    LoadWordData(m_varn, *path, m_varn, m_varn, dialogs());
     SetKindWord();
     if (m_varn.NKind == 0) {
         dialogs().message(QStringLiteral("Specify Linguistic Data."), QStringLiteral("Input Wordform Data."));

@@ -2,18 +2,44 @@
 
 #include "lingdata/InputKindsFile.h"
 
+#include <algorithm>
 #include <set>
-#include <utility>
 
 namespace {
 
-void requireLocality(const ItemAnswers& item, int locality)
+/// A step that puts another value into its place; undone, it puts the old one back.
+template <typename Value>
+class Replacement : public QUndoCommand
 {
-    if (locality < 1 || locality > item.NLocate) {
-        throw RunTimeError(ErrorNumber::SubscriptOutOfRange,
-                           QStringLiteral("%1 is not in 1 to %2.").arg(locality).arg(item.NLocate));
+public:
+    Replacement(Value& place, Value value, QUndoCommand* parent = nullptr)
+        : QUndoCommand(parent), m_place(place), m_other(std::move(value))
+    {}
+
+    void redo() override { std::swap(m_place, m_other); }
+    void undo() override { std::swap(m_place, m_other); }
+
+protected:
+    Value& m_place;
+    Value m_other;
+};
+
+/// The typing of a text, which is one step until another one follows.
+class Typing : public Replacement<QString>
+{
+public:
+    using Replacement::Replacement;
+
+    int id() const override { return 1; }
+    bool mergeWith(const QUndoCommand* later) override
+    {
+        if (&static_cast<const Typing*>(later)->m_place != &m_place) {
+            return false;
+        }
+        setObsolete(m_other == m_place);
+        return true;
     }
-}
+};
 
 void append(ItemAnswers& item, int locality, const QString& word)
 {
@@ -30,42 +56,148 @@ void append(ItemAnswers& item, int locality, const QString& word)
 ItemEditor::ItemEditor(qint16 localities)
 {
     if (localities > 0) {
-        m_item.WordCount(localities) = 0; // raises beyond the capacity
+        m_entry->cells(localities, 1).reset(); // raises beyond the capacity
     }
-    m_item.NLocate = localities;
+    m_entry->localities = localities;
 }
 
-ItemEditor::ItemEditor(ItemAnswers item, QStringList kinds)
-    : m_item(std::move(item)), m_kinds(std::move(kinds))
-{}
-
-const QString& ItemEditor::word(int locality, int column) const
+ItemEditor::ItemEditor(const ItemAnswers& item, QStringList kinds) : ItemEditor(item.NLocate)
 {
-    requireLocality(m_item, locality);
-    return m_item.WordData(locality, column);
-}
-
-void ItemEditor::setWord(int locality, int column, const QString& word)
-{
-    requireLocality(m_item, locality);
-    change(m_item.WordData(locality, column), word.trimmed().isEmpty() ? QString() : word);
-}
-
-void ItemEditor::change(QString& value, const QString& newValue)
-{
-    if (value != newValue) {
-        value = newValue;
-        m_unsaved = true;
+    m_entry->caption = item.Hanrei;
+    m_entry->comment = item.Comment;
+    m_entry->kinds = std::move(kinds);
+    for (int i = 1; i <= item.NLocate; ++i) {
+        for (int j = 1; j <= item.WordCount(i); ++j) {
+            m_entry->cells(i, j) = item.WordData(i, j);
+        }
     }
+}
+
+void ItemEditor::requireLocality(int locality) const
+{
+    if (locality < 1 || locality > localities()) {
+        throw RunTimeError(ErrorNumber::SubscriptOutOfRange,
+                           QStringLiteral("%1 is not in 1 to %2.").arg(locality).arg(localities()));
+    }
+}
+
+// Changes
+
+template <typename Value>
+void ItemEditor::replace(Value& place, const Value& value)
+{
+    if (place != value) {
+        m_steps->push(new Replacement<Value>(place, value));
+    }
+}
+
+void ItemEditor::setText(QString& place, const QString& text)
+{
+    if (place != text) {
+        m_steps->push(new Typing(place, text));
+    }
+}
+
+std::optional<CellPlace> ItemEditor::undo()
+{
+    return changedBy(&QUndoStack::undo);
+}
+
+std::optional<CellPlace> ItemEditor::redo()
+{
+    return changedBy(&QUndoStack::redo);
+}
+
+std::optional<CellPlace> ItemEditor::changedBy(void (QUndoStack::*move)())
+{
+    const auto before = m_entry->cells;
+    (m_steps.get()->*move)();
+    for (int i = 1; i <= localities(); ++i) {
+        for (int j = 1; j <= MostWords; ++j) {
+            if (before(i, j) != m_entry->cells(i, j)) {
+                return CellPlace{i, j};
+            }
+        }
+    }
+    return std::nullopt;
+}
+
+// Cells
+
+void ItemEditor::addLocalities(qint16 localities)
+{
+    m_entry->cells(std::max<qint16>(localities, 1), 1); // raises beyond the capacity
+    replace(m_entry->localities, std::max(localities, m_entry->localities));
+}
+
+const WordCell& ItemEditor::cell(const CellPlace& place) const
+{
+    requireLocality(place.locality);
+    return m_entry->cells(place.locality, place.column);
+}
+
+void ItemEditor::setCells(const std::vector<std::pair<CellPlace, WordCell>>& cells)
+{
+    auto step = std::make_unique<QUndoCommand>();
+    for (const auto& [place, value] : cells) {
+        requireLocality(place.locality);
+        WordCell& old = m_entry->cells(place.locality, place.column);
+        if (old != value) {
+            new Replacement<WordCell>(old, value, step.get());
+        }
+    }
+    if (step->childCount() > 0) {
+        m_steps->push(step.release());
+    }
+}
+
+WordBlock ItemEditor::block(const CellPlace& first, const CellPlace& last) const
+{
+    WordBlock block;
+    for (int i = first.locality; i <= last.locality; ++i) {
+        block.emplace_back();
+        for (int j = first.column; j <= last.column; ++j) {
+            block.back().push_back(cell({i, j}));
+        }
+    }
+    return block;
+}
+
+bool ItemEditor::hasRoomFor(const WordBlock& block, const CellPlace& first) const
+{
+    for (std::size_t i = 0; i < block.size(); ++i) {
+        for (std::size_t j = 0; j < block[i].size(); ++j) {
+            const bool inside = first.locality + static_cast<int>(i) <= localities() &&
+                                first.column + static_cast<int>(j) <= MostWords;
+            if (block[i][j] && !inside) {
+                return false;
+            }
+        }
+    }
+    return true;
+}
+
+void ItemEditor::paste(const WordBlock& block, const CellPlace& first)
+{
+    std::vector<std::pair<CellPlace, WordCell>> cells;
+    for (std::size_t i = 0; i < block.size(); ++i) {
+        for (std::size_t j = 0; j < block[i].size(); ++j) {
+            const CellPlace place{first.locality + static_cast<int>(i), first.column + static_cast<int>(j)};
+            if (block[i][j] || (place.locality <= localities() && place.column <= MostWords)) {
+                cells.emplace_back(place, block[i][j]);
+            }
+        }
+    }
+    setCells(cells);
 }
 
 int ItemEditor::answeredLocalities() const
 {
     int answered = 0;
-    for (int i = 1; i <= m_item.NLocate; ++i) {
+    for (int i = 1; i <= localities(); ++i) {
         bool any = false;
         for (int j = 1; j <= MostWords; ++j) {
-            any = any || !m_item.WordData(i, j).isEmpty();
+            any = any || m_entry->cells(i, j);
         }
         answered += any ? 1 : 0;
     }
@@ -74,39 +206,33 @@ int ItemEditor::answeredLocalities() const
 
 int ItemEditor::wordForms() const
 {
-    int words = 0;
-    for (int i = 1; i <= m_item.NLocate; ++i) {
-        for (int j = 1; j <= MostWords; ++j) {
-            words += m_item.WordData(i, j).isEmpty() ? 0 : 1;
-        }
-    }
-    return words;
+    return answers().WordTotal;
 }
+
+// Kinds
 
 void ItemEditor::addKind(const QString& kind)
 {
-    if (!m_kinds.contains(kind)) {
-        setKinds(m_kinds + QStringList(kind));
+    if (!kinds().contains(kind)) {
+        setKinds(kinds() + QStringList(kind));
     }
 }
 
 void ItemEditor::removeKind(int index)
 {
-    QStringList kinds = m_kinds;
-    kinds.removeAt(index);
-    setKinds(std::move(kinds));
+    QStringList left = kinds();
+    left.removeAt(index);
+    setKinds(left);
 }
 
 QStringList ItemEditor::wordsMissingInKinds() const
 {
+    const ItemAnswers item = answers();
     std::set<QString> words;
-    for (int i = 1; i <= m_item.NLocate; ++i) {
-        for (int j = 1; j <= MostWords; ++j) {
-            words.insert(m_item.WordData(i, j));
-        }
+    for (int n = 1; n <= item.WordTotal; ++n) {
+        words.insert(item.WordList(n));
     }
-    words.erase(QString());
-    for (const QString& kind : m_kinds) {
+    for (const QString& kind : kinds()) {
         words.erase(kind);
     }
     return {words.begin(), words.end()};
@@ -114,27 +240,28 @@ QStringList ItemEditor::wordsMissingInKinds() const
 
 void ItemEditor::collectKinds()
 {
-    setKinds(m_kinds + wordsMissingInKinds());
+    setKinds(kinds() + wordsMissingInKinds());
 }
 
-void ItemEditor::setKinds(QStringList kinds)
+void ItemEditor::setKinds(const QStringList& kinds)
 {
     if (kinds.size() > MostInputKinds) {
         throw RunTimeError(ErrorNumber::SubscriptOutOfRange,
                            QStringLiteral("The list holds %1 kinds at most.").arg(MostInputKinds));
     }
-    m_unsaved = m_unsaved || kinds != m_kinds;
-    m_kinds = std::move(kinds);
+    replace(m_entry->kinds, kinds);
 }
+
+// The item as a whole
 
 std::vector<FaultyWord> ItemEditor::checkCodes() const
 {
     std::vector<FaultyWord> faults;
-    for (int i = 1; i <= m_item.NLocate; ++i) {
+    for (int i = 1; i <= localities(); ++i) {
         for (int j = 1; j <= MostWords; ++j) {
-            const QString& word = m_item.WordData(i, j);
+            const QString word = m_entry->cells(i, j).value_or(QString());
             if (const auto fault = findCodeFault(word)) {
-                faults.push_back({i, j, word, *fault});
+                faults.push_back({{i, j}, word, *fault});
             }
         }
     }
@@ -144,13 +271,13 @@ std::vector<FaultyWord> ItemEditor::checkCodes() const
 ItemAnswers ItemEditor::answers() const
 {
     ItemAnswers item;
-    item.NLocate = m_item.NLocate;
-    item.Hanrei = m_item.Hanrei;
-    item.Comment = m_item.Comment;
-    for (int i = 1; i <= m_item.NLocate; ++i) {
+    item.NLocate = m_entry->localities;
+    item.Hanrei = m_entry->caption;
+    item.Comment = m_entry->comment;
+    for (int i = 1; i <= localities(); ++i) {
         for (int j = 1; j <= MostWords; ++j) {
-            if (const QString& word = m_item.WordData(i, j); !word.isEmpty()) {
-                append(item, i, word);
+            if (const WordCell& cell = m_entry->cells(i, j)) {
+                append(item, i, *cell);
             }
         }
     }

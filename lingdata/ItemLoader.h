@@ -1,6 +1,7 @@
 #pragma once
 
 #include "lingdata/LinguisticData.h"
+#include "platform/Dialogs.h"
 #include "shell/Folders.h"
 #include "shell/LoadedState.h"
 
@@ -13,11 +14,22 @@ void InputWordData(const Folders& folders, const QString& path, WordKinds& kinds
 /// Derives and sorts the kinds of the loaded item, then writes them to the kinds file at `path`.
 void FileWordData(const Folders& folders, const QString& path, LinguisticData& data);
 
-/// The item at `itemPath` and its kinds: from its kinds file where there is one, otherwise derived from the
-/// item. Raises what reading them raises, and subscript out of range beyond 200 kinds.
-LinguisticData readWordData(const Folders& folders, const QString& itemPath);
+/// The answers of the item at `itemPath`, for whoever needs no kinds. Raises what reading raises.
+ItemAnswers readItemAnswers(const Folders& folders, const QString& itemPath);
 
 /// Loads the item at `itemPath` and its kinds: from its kinds file where there is one, otherwise derived from
-/// the item and written to that file. A load that fails leaves the loaded item as it was; where only the
-/// kinds file cannot be written, the item is loaded all the same.
-void LoadWordData(const Folders& folders, const QString& itemPath, LinguisticData& data, LoadedState& state);
+/// the item and written to that file. A kinds file that cannot be read is left as it is, and the kinds are
+/// derived; the item is loaded, too, where the kinds file cannot be written. Returns what the user is to be
+/// told of these two; empty where all went well. Raises what reading the item raises, and subscript out of
+/// range beyond 200 kinds; the loaded item is then as it was.
+QString LoadWordData(const Folders& folders, const QString& itemPath, LinguisticData& data,
+                     LoadedState& state);
+/// The same; tells the user.
+void LoadWordData(const Folders& folders, const QString& itemPath, LinguisticData& data, LoadedState& state,
+                  Dialogs& dialogs);
+
+/// Whether the item at `itemPath` is the loaded one.
+bool isLoadedItem(const QString& itemPath, const LinguisticData& data);
+
+/// From now on no item is loaded.
+void dropItem(LinguisticData& data, LoadedState& state);

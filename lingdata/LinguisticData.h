@@ -43,6 +43,10 @@ struct LinguisticData : ItemAnswers, WordKinds
 {
     /// Name of its file, without its folder.
     QString ItemFileName;
+    /// Path of its file.
+    QString ItemPath;
     /// Path of its kinds file.
     QString KindsPath;
+    /// How often an item was loaded or dropped; tells whoever shows the item that it is another one now.
+    int ItemReading = 0;
 };

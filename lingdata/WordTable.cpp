@@ -1,19 +1,40 @@
 #include "lingdata/WordTable.h"
 
+#include <QGuiApplication>
+#include <QPalette>
+
 #include <utility>
 
-WordTable::WordTable(ItemEditor& editor, QObject* parent) : QAbstractTableModel(parent), m_editor(editor) {}
+WordTable::WordTable(ItemEditor& editor, QObject* parent)
+    : QAbstractTableModel(parent), m_editor(editor), m_rows(editor.localities())
+{}
 
 void WordTable::replaceItem(ItemEditor item)
 {
     beginResetModel();
     m_editor = std::move(item);
+    m_rows = m_editor.localities();
     endResetModel();
+}
+
+void WordTable::showChanges()
+{
+    const int rows = m_editor.localities();
+    if (rows > m_rows) {
+        beginInsertRows({}, m_rows, rows - 1);
+        m_rows = rows;
+        endInsertRows();
+    } else if (rows < m_rows) {
+        beginRemoveRows({}, rows, m_rows - 1);
+        m_rows = rows;
+        endRemoveRows();
+    }
+    Q_EMIT dataChanged(index(0, 0), index(m_rows - 1, ItemEditor::MostWords - 1));
 }
 
 int WordTable::rowCount(const QModelIndex& parent) const
 {
-    return parent.isValid() ? 0 : m_editor.localities();
+    return parent.isValid() ? 0 : m_rows;
 }
 
 int WordTable::columnCount(const QModelIndex& parent) const
@@ -23,10 +44,14 @@ int WordTable::columnCount(const QModelIndex& parent) const
 
 QVariant WordTable::data(const QModelIndex& index, int role) const
 {
-    if (!index.isValid() || (role != Qt::DisplayRole && role != Qt::EditRole)) {
+    if (!index.isValid() || index.row() >= m_editor.localities()) {
         return {};
     }
-    return m_editor.word(index.row() + 1, index.column() + 1);
+    const WordCell& cell = m_editor.cell(place(index));
+    if (role == Qt::ForegroundRole && cell && cell->isEmpty()) {
+        return QGuiApplication::palette().placeholderText();
+    }
+    return role == Qt::DisplayRole || role == Qt::EditRole ? cellText(cell) : QVariant();
 }
 
 bool WordTable::setData(const QModelIndex& index, const QVariant& value, int role)
@@ -34,7 +59,10 @@ bool WordTable::setData(const QModelIndex& index, const QVariant& value, int rol
     if (!index.isValid() || role != Qt::EditRole) {
         return false;
     }
-    m_editor.setWord(index.row() + 1, index.column() + 1, value.toString());
+    const QString text = value.toString();
+    if (text != cellText(m_editor.cell(place(index)))) {
+        m_editor.setCell(place(index), typedCell(text));
+    }
     Q_EMIT dataChanged(index, index);
     return true;
 }

@@ -4,7 +4,8 @@
 
 #include <QAbstractTableModel>
 
-/// The cells of an item as a table: a row for each locality, a column for each of its word forms.
+/// The cells of an item as a table: a row for each locality, a column for each of its word forms. An empty
+/// word form reads as two double quotes.
 class WordTable : public QAbstractTableModel
 {
     Q_OBJECT
@@ -15,6 +16,8 @@ public:
 
     /// Puts another item into the table.
     void replaceItem(ItemEditor item);
+    /// Shows what was changed in the item otherwise than through the table.
+    void showChanges();
 
     int rowCount(const QModelIndex& parent = {}) const override;
     int columnCount(const QModelIndex& parent = {}) const override;
@@ -23,6 +26,11 @@ public:
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
     Qt::ItemFlags flags(const QModelIndex& index) const override;
 
+    /// The cell at `index`.
+    static CellPlace place(const QModelIndex& index) { return {index.row() + 1, index.column() + 1}; }
+
 private:
     ItemEditor& m_editor;
+    /// How many rows the views know of.
+    int m_rows = 0;
 };

@@ -7,6 +7,7 @@
 
 WordTableView::WordTableView(QWidget* parent) : QTableView(parent)
 {
+    setSelectionMode(ContiguousSelection);
     setEditTriggers(AnyKeyPressed | DoubleClicked | EditKeyPressed);
     setWordWrap(false);
     setVerticalScrollMode(ScrollPerItem);
@@ -42,11 +43,15 @@ void WordTableView::goByRows(int rows)
     goTo(locality() + rows, column());
 }
 
-void WordTableView::clearSelected()
+QItemSelectionModel::SelectionFlags WordTableView::selectionCommand(const QModelIndex& index,
+                                                                    const QEvent* event) const
 {
-    for (const QModelIndex& cell : selectionModel()->selectedIndexes()) {
-        model()->setData(cell, QString());
+    constexpr Qt::KeyboardModifiers ExtendFar = Qt::ShiftModifier | Qt::ControlModifier;
+    const bool isKey = event != nullptr && event->type() == QEvent::KeyPress;
+    if (isKey && static_cast<const QKeyEvent*>(event)->modifiers().testFlags(ExtendFar)) {
+        return QItemSelectionModel::SelectCurrent;
     }
+    return QTableView::selectionCommand(index, event);
 }
 
 void WordTableView::keyPressEvent(QKeyEvent* event)
@@ -61,7 +66,7 @@ void WordTableView::keyPressEvent(QKeyEvent* event)
         break;
     case Qt::Key_Delete:
     case Qt::Key_Backspace:
-        clearSelected();
+        Q_EMIT deletePressed();
         break;
     default:
         QTableView::keyPressEvent(event);

@@ -3,7 +3,7 @@
 #include <QTableView>
 
 /// The view of a table of words, made for entry from the keyboard: typing fills the current cell, Tab goes on
-/// to the next cell, Enter to the next locality, Delete empties the selected cells.
+/// to the next cell, Enter to the next locality. What is selected is one block of cells with the current one.
 class WordTableView : public QTableView
 {
     Q_OBJECT
@@ -22,10 +22,16 @@ public:
     /// The locality and the column of the current cell, from 1; 0 where there is none.
     int locality() const { return currentIndex().row() + 1; }
     int column() const { return currentIndex().column() + 1; }
-    /// Empties the selected cells.
-    void clearSelected();
+    /// The selected cells.
+    QItemSelectionRange selected() const { return selectionModel()->selection().value(0); }
+
+Q_SIGNALS:
+    /// The user wants the selected cells emptied.
+    void deletePressed();
 
 protected:
+    QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index,
+                                                         const QEvent* event) const override;
     void keyPressEvent(QKeyEvent* event) override;
     void closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint hint) override;
 };

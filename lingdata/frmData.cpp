@@ -5,6 +5,7 @@
 #include "shell/Printing.h"
 #include "ui_frmData.h"
 
+#include <QEvent>
 #include <QScrollBar>
 
 #include <utility>
@@ -59,6 +60,27 @@ void frmData::Form_Load()
     });
 }
 
+void frmData::followItem()
+{
+    if (m_shownReading == m_varn.ItemReading) {
+        return;
+    }
+    if (m_varn.ItemFileName.isEmpty()) {
+        displayNothing();
+    } else {
+        displayList(m_list);
+    }
+    refresh();
+}
+
+bool frmData::event(QEvent* event)
+{
+    if (event->type() == QEvent::WindowActivate) {
+        run([this] { followItem(); });
+    }
+    return VarnForm::event(event);
+}
+
 void frmData::refresh()
 {
     m_ui->picPage->refresh();
@@ -102,6 +124,16 @@ void frmData::displayList(List list)
     displayPage(pages, 1);
     m_pages.emplace(std::move(pages));
     m_list = list;
+    m_shownReading = m_varn.ItemReading;
+}
+
+void frmData::displayNothing()
+{
+    m_pages.reset();
+    m_page = 0;
+    m_paper.Cls();
+    statusBar()->clearMessage();
+    m_shownReading = m_varn.ItemReading;
 }
 
 void frmData::displayPage(const DataPages& pages, int page)
@@ -130,7 +162,7 @@ void frmData::mnuOpen_Click()
         return;
     }
     const WaitCursor wait;
-    LoadWordData(m_varn, m_varn.Drive.varnPath(*file), m_varn, m_varn);
+    LoadWordData(m_varn, m_varn.Drive.varnPath(*file), m_varn, m_varn, dialogs());
     Q_EMIT itemLoaded();
     displayList(List::Data);
 }
@@ -153,8 +185,9 @@ void frmData::mnuPrint_Click()
         return;
     }
     const WaitCursor wait;
-    const DataPages pages(m_varn, m_pages->list());
     beginDocument(m_varn);
+    // Laid out on the paper of this document, which may be another than that of the pages shown.
+    const DataPages pages(m_varn, m_pages->list());
     for (int page = 1; page <= pages.count(); ++page) {
         if (page > 1) {
             newPage(m_varn);

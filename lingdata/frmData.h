@@ -23,12 +23,17 @@ public:
     /// Shows the word forms of the loaded item, if there is one.
     void Form_Load();
     void refresh() override;
+    /// Shows the item that is loaded now, where it was loaded or dropped since it was shown.
+    void followItem();
 
 Q_SIGNALS:
     /// The user wants to go back to the main form.
     void toMain();
     /// An item was loaded here: other forms may do more than before.
     void itemLoaded();
+
+protected:
+    bool event(QEvent* event) override;
 
 private:
     enum class List { Data, Kinds };
@@ -43,6 +48,7 @@ private:
     void mnuPageNo_Click();
 
     void displayList(List list);
+    void displayNothing();
     /// Lays `page` of `pages` on the paper.
     void displayPage(const DataPages& pages, int page);
     void turnTo(int page);
@@ -57,4 +63,6 @@ private:
     std::optional<DataPages> m_pages;
     /// Number of the page shown, from 1; 0 where none is.
     int m_page = 0;
+    /// Which loading of an item is shown.
+    int m_shownReading = 0;
 };

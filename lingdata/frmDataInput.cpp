@@ -2,20 +2,20 @@
 
 #include "lingdata/LocalityMismatch.h"
 #include "platform/ThemeColors.h"
-#include "render/WordDelegate.h"
+#include "lingdata/WordEntryDelegate.h"
 #include "shell/VarnModule.h"
 #include "ui_frmDataInput.h"
 
 #include <QLabel>
-#include <QShortcut>
 #include <QSignalBlocker>
 
 #include <utility>
 
 frmDataInput::frmDataInput(VarnModule& varn, Dialogs& dialogs)
     : VarnForm(dialogs), m_ui(std::make_unique<Ui::frmDataInput>()), m_varn(varn),
-      m_delegate(new WordDelegate(varn, this)), m_kindDelegate(new WordDelegate(varn, this)),
-      m_progress(new QLabel(this)), m_warning(new QLabel(this))
+      m_kindDelegate(new WordDelegate(varn, this)),
+      m_delegate(new WordEntryDelegate(varn, *m_kindDelegate, this)), m_progress(new QLabel(this)),
+      m_warning(new QLabel(this))
 {
     m_ui->setupUi(this);
     m_ui->fraCheck->hide();
@@ -29,6 +29,7 @@ frmDataInput::frmDataInput(VarnModule& varn, Dialogs& dialogs)
     statusBar()->addWidget(m_warning, 1);
     setUpTable();
     connectMenus();
+    connectEditMenu();
     connectKinds();
     connectTexts();
 }
@@ -49,9 +50,10 @@ void frmDataInput::setUpTable()
     connect(words.selectionModel(), &QItemSelectionModel::currentChanged, this,
             [this] { run([this] { moved(); }); });
     connect(&m_table, &QAbstractItemModel::dataChanged, this, [this] { run([this] { moved(); }); });
-    connect(m_delegate, &WordDelegate::typed, this,
-            [this](const QString& word) { run([&] { drawWordShown(word); }); });
-    connect(m_delegate, &WordDelegate::left, &words, &WordTableView::goByRows);
+    connect(m_delegate, &WordEntryDelegate::typed, this,
+            [this](const QString& text) { run([&] { drawWordShown(text); }); });
+    connect(m_delegate, &WordEntryDelegate::left, &words, &WordTableView::goByRows);
+    handle(&words, &WordTableView::deletePressed, &frmDataInput::emptySelected);
     connect(m_ui->picMap, &LocalityView::localityClicked, this, [this](int locality) {
         m_ui->tblWords->goTo(locality, 1, QAbstractItemView::PositionAtCenter);
         m_ui->tblWords->setFocus();
@@ -67,6 +69,19 @@ void frmDataInput::connectMenus()
     handle(m_ui->mnuToAccumulate, &QAction::triggered, &frmDataInput::mnuToAccumulate_Click);
 }
 
+void frmDataInput::connectEditMenu()
+{
+    m_ui->mnuUndo->setShortcut(QStringLiteral("Ctrl+Z"));
+    m_ui->mnuRedo->setShortcuts({QStringLiteral("Ctrl+Y"), QStringLiteral("Ctrl+Shift+Z")});
+    handle(m_ui->mnuUndo, &QAction::triggered, &frmDataInput::mnuUndo_Click);
+    handle(m_ui->mnuRedo, &QAction::triggered, &frmDataInput::mnuRedo_Click);
+    handle(m_ui->mnuCut, &QAction::triggered, &frmDataInput::mnuCut_Click);
+    handle(m_ui->mnuCopy, &QAction::triggered, &frmDataInput::mnuCopy_Click);
+    handle(m_ui->mnuPaste, &QAction::triggered, &frmDataInput::mnuPaste_Click);
+    handle(m_ui->mnuGoTo, &QAction::triggered, &frmDataInput::mnuGoTo_Click);
+    handle(m_ui->mnuAddLocalities, &QAction::triggered, &frmDataInput::mnuAddLocalities_Click);
+}
+
 void frmDataInput::connectKinds()
 {
     handle(m_ui->cmdKindToData, &QPushButton::clicked, &frmDataInput::cmdKindToData_Click);
@@ -79,12 +94,8 @@ void frmDataInput::connectKinds()
     handle(m_ui->txtKind, &QLineEdit::returnPressed, &frmDataInput::cmdSetKind_Click);
     handle(m_ui->lstKind, &QListWidget::itemDoubleClicked, &frmDataInput::cmdKindToData_Click);
     m_ui->lstKind->setItemDelegate(m_kindDelegate);
-    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter}) {
-        handle(new QShortcut(key, m_ui->lstKind, nullptr, nullptr, Qt::WidgetShortcut), &QShortcut::activated,
-               &frmDataInput::cmdKindToData_Click);
-    }
-    handle(new QShortcut(Qt::Key_Delete, m_ui->lstKind, nullptr, nullptr, Qt::WidgetShortcut),
-           &QShortcut::activated, &frmDataInput::cmdDelKind_Click);
+    handle(m_ui->lstKind, &KindListView::kindEntered, &frmDataInput::cmdKindToData_Click);
+    handle(m_ui->lstKind, &KindListView::kindRemoved, &frmDataInput::cmdDelKind_Click);
 
     connect(m_ui->lstCheck, &QListWidget::currentRowChanged, this, &frmDataInput::goToFault);
     connect(m_ui->lstCheck, &QListWidget::itemClicked, this,
@@ -112,9 +123,9 @@ void frmDataInput::Form_Load()
     const bool otherMap = m_mapName != m_varn.VarnMapName;
     const bool untouched = m_fileName.isEmpty() && !m_editor.isUnsaved();
     if (otherMap && m_editor.isUnsaved() &&
-        !dialogs().askYesNo(QStringLiteral("The data of map %1 is not saved. Begin a new item of map %2 ?")
-                                .arg(m_mapName.mid(1), m_varn.VarnMapName.mid(1)),
-                            QStringLiteral("Input Linguistic Data"))) {
+        !dialogs().confirmLoss(QStringLiteral("The data of map %1 is not saved. Begin a new item of map %2 ?")
+                                   .arg(m_mapName.mid(1), m_varn.VarnMapName.mid(1)),
+                               QStringLiteral("Input Linguistic Data"))) {
         refresh();
         return;
     }
@@ -141,9 +152,7 @@ void frmDataInput::showItem(ItemEditor item, const QString& itemPath)
     m_ui->txtFileName->setText(m_fileName.endsWith(QLatin1String(".dbs"), Qt::CaseInsensitive)
                                    ? m_fileName.chopped(EndingLength)
                                    : m_fileName);
-    m_ui->txtHanrei->setText(m_editor.caption());
-    const QSignalBlocker silent(m_ui->txtComment);
-    m_ui->txtComment->setPlainText(m_editor.comment());
+    showTexts();
     m_ui->txtKind->clear();
     showKinds();
     m_ui->tblWords->goTo(1, 1);
@@ -165,8 +174,9 @@ void frmDataInput::moved()
     drawWordShown(words.currentIndex().data().toString());
 }
 
-void frmDataInput::drawWordShown(const QString& word)
+void frmDataInput::drawWordShown(const QString& text)
 {
+    const QString word = typedCell(text).value_or(QString());
     const auto fault = findCodeFault(word);
     m_ui->lblFault->setText(fault ? faultText(*fault) : QString());
     m_ui->picWord->setWord(drawWord(m_varn, m_varn, word));
@@ -190,5 +200,8 @@ void frmDataInput::showState()
                             .arg(QString::number(m_editor.answeredLocalities()),
                                  QString::number(m_editor.localities()),
                                  QString::number(m_editor.wordForms())));
+    m_ui->mnuUndo->setEnabled(m_editor.canUndo());
+    m_ui->mnuRedo->setEnabled(m_editor.canRedo());
+    m_ui->mnuAddLocalities->setEnabled(m_editor.localities() < m_varn.NLocality);
     m_warning->setText(localityMismatch(m_editor.localities(), m_varn.NLocality));
 }

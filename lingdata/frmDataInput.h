@@ -7,6 +7,7 @@
 
 class QLabel;
 class WordDelegate;
+class WordEntryDelegate;
 struct VarnModule;
 
 namespace Ui {
@@ -33,6 +34,8 @@ Q_SIGNALS:
     void toMain();
     /// The user wants to go on to the form where data is accumulated.
     void toAccumulateData();
+    /// The item that is loaded was saved here and loaded afresh.
+    void itemReloaded();
 
 protected:
     void closeEvent(QCloseEvent* event) override;
@@ -40,6 +43,7 @@ protected:
 private:
     void setUpTable();
     void connectMenus();
+    void connectEditMenu();
     void connectKinds();
     void connectTexts();
 
@@ -48,6 +52,13 @@ private:
     void mnuInitialize_Click();
     void mnuToMain_Click();
     void mnuToAccumulate_Click();
+    void mnuUndo_Click();
+    void mnuRedo_Click();
+    void mnuCut_Click();
+    void mnuCopy_Click();
+    void mnuPaste_Click();
+    void mnuGoTo_Click();
+    void mnuAddLocalities_Click();
     void cmdKindToData_Click();
     void cmdDataToKind_Click();
     void cmdSetKind_Click();
@@ -56,12 +67,17 @@ private:
 
     void LoadWordData();
     void SaveWord();
+    void renewKinds(const QString& itemPath);
     bool mayOpen();
     bool mayLeave();
     void newItem();
     void showItem(ItemEditor item, const QString& itemPath);
     void moved();
-    void drawWordShown(const QString& word);
+    void drawWordShown(const QString& text);
+    void emptySelected();
+    void showStep(const std::optional<CellPlace>& place);
+    void showEdited();
+    void showTexts();
     void showKinds();
     void showFaults();
     void goToFault(int index);
@@ -73,8 +89,8 @@ private:
     ItemEditor m_editor;
     WordTable m_table{m_editor};
     std::vector<FaultyWord> m_faults;
-    WordDelegate* m_delegate;
     WordDelegate* m_kindDelegate;
+    WordEntryDelegate* m_delegate;
     QLabel* m_progress;
     QLabel* m_warning;
     /// The map that the item belongs to.

@@ -1,12 +1,14 @@
 // What the menus and buttons of the data input form do.
 
 #include "lingdata/EnteredItem.h"
+#include "lingdata/WordEntryDelegate.h"
 #include "lingdata/frmDataInput.h"
 #include "platform/WholeFile.h"
 #include "shell/VarnModule.h"
 #include "ui_frmDataInput.h"
 
 #include <QCloseEvent>
+#include <QScopeGuard>
 #include <QSignalBlocker>
 
 #include <algorithm>
@@ -19,7 +21,7 @@ bool frmDataInput::mayOpen()
     const QString text = QStringLiteral("Data proccessed will be lost if Linguistic File is opened.");
     const QString title = QStringLiteral("Open Linguistic Data File");
     if (m_editor.isUnsaved()) {
-        return dialogs().askYesNo(text, title);
+        return dialogs().confirmLoss(text, title);
     }
     dialogs().message(text, title);
     return true;
@@ -42,9 +44,12 @@ void frmDataInput::LoadWordData()
         return;
     }
     const QString path = m_varn.Drive.varnPath(*file);
-    ItemEditor item = openItem(m_varn, path);
+    OpenedItem item = openItem(m_varn, path);
     m_mapName = m_varn.VarnMapName;
-    showItem(std::move(item), path);
+    showItem(std::move(item.editor), path);
+    if (!item.trouble.isEmpty()) {
+        dialogs().message(item.trouble, QStringLiteral("Open Linguistic Data File"));
+    }
 }
 
 void frmDataInput::mnuSave_Click()
@@ -62,8 +67,9 @@ void frmDataInput::SaveWord()
         m_ui->txtFileName->setFocus();
         return;
     }
-    if (fileExists(m_varn.Drive, path) && !dialogs().askYesNo(QStringLiteral("File Exist. Overwrite O.K.?"),
-                                                              QStringLiteral("Re-input of File Name"))) {
+    if (fileExists(m_varn.Drive, path) &&
+        !dialogs().confirmLoss(QStringLiteral("File Exist. Overwrite O.K.?"),
+                               QStringLiteral("Re-input of File Name"))) {
         m_ui->txtFileName->setFocus();
         m_ui->txtFileName->selectAll();
         return;
@@ -71,7 +77,17 @@ void frmDataInput::SaveWord()
     saveItem(m_varn, path, m_editor);
     m_fileName = path.mid(path.lastIndexOf(QLatin1Char('\\')) + 1);
     statusBar()->showMessage(QStringLiteral("Saved as %1").arg(path), 5000);
-    renewKindsFile(m_varn, path, m_editor);
+    renewKinds(path);
+}
+
+void frmDataInput::renewKinds(const QString& itemPath)
+{
+    if (!isLoadedItem(itemPath, m_varn)) {
+        renewKindsFile(m_varn, itemPath, m_editor);
+        return;
+    }
+    const auto tell = qScopeGuard([this] { Q_EMIT itemReloaded(); });
+    reloadItem(m_varn, itemPath, m_varn, m_varn, dialogs());
 }
 
 void frmDataInput::mnuInitialize_Click()
@@ -80,7 +96,7 @@ void frmDataInput::mnuInitialize_Click()
     const QString text =
         QStringLiteral("Data, kinds, captions and comments will be emptied. Initialize O.K.?");
     const QString unsaved = QStringLiteral("Linguistic data is not saved.\r\n");
-    if (dialogs().askYesNo(m_editor.isUnsaved() ? unsaved + text : text, QStringLiteral("Initialize"))) {
+    if (dialogs().confirmLoss(m_editor.isUnsaved() ? unsaved + text : text, QStringLiteral("Initialize"))) {
         newItem();
     }
 }
@@ -89,8 +105,8 @@ bool frmDataInput::mayLeave()
 {
     m_ui->tblWords->commitEdit();
     return !m_editor.isUnsaved() ||
-           dialogs().askYesNo(QStringLiteral("Linguistic data is not saved. Leave without saving O.K.?"),
-                              QStringLiteral("Input Linguistic Data"));
+           dialogs().confirmLoss(QStringLiteral("Linguistic data is not saved. Leave without saving O.K.?"),
+                                 QStringLiteral("Input Linguistic Data"));
 }
 
 void frmDataInput::mnuToMain_Click()
@@ -116,11 +132,12 @@ void frmDataInput::closeEvent(QCloseEvent* event)
 
 void frmDataInput::cmdKindToData_Click()
 {
-    const QListWidgetItem* kind = m_ui->lstKind->currentItem();
+    const int kind = m_ui->lstKind->currentRow();
     WordTableView& words = *m_ui->tblWords;
     words.commitEdit();
-    if (kind != nullptr && words.currentIndex().isValid()) {
-        m_table.setData(words.currentIndex(), kind->text(), Qt::EditRole);
+    if (kind >= 0 && words.currentIndex().isValid()) {
+        m_editor.setCell(WordTable::place(words.currentIndex()), m_editor.kinds()[kind]);
+        m_table.showChanges();
         words.goToNextLocality();
     }
 }
@@ -134,12 +151,12 @@ void frmDataInput::cmdDataToKind_Click()
 
 void frmDataInput::cmdSetKind_Click()
 {
-    const QString kind = m_ui->txtKind->text();
+    const WordCell kind = typedCell(m_ui->txtKind->text());
     m_ui->txtKind->setFocus();
-    if (!kind.trimmed().isEmpty()) {
-        m_editor.addKind(kind);
+    if (kind) {
+        m_editor.addKind(*kind);
         showKinds();
-        m_ui->lstKind->setCurrentRow(static_cast<int>(m_editor.kinds().indexOf(kind)));
+        m_ui->lstKind->setCurrentRow(static_cast<int>(m_editor.kinds().indexOf(*kind)));
         m_ui->txtKind->selectAll();
     }
 }
@@ -157,8 +174,14 @@ void frmDataInput::showKinds()
 {
     const int row = std::min(m_ui->lstKind->currentRow(), static_cast<int>(m_editor.kinds().size()) - 1);
     m_ui->lstKind->clear();
-    m_ui->lstKind->addItems(m_editor.kinds());
+    for (const QString& kind : m_editor.kinds()) {
+        auto* entry = new QListWidgetItem(cellText(kind), m_ui->lstKind);
+        if (kind.isEmpty()) {
+            entry->setForeground(palette().placeholderText());
+        }
+    }
     m_ui->lstKind->setCurrentRow(row);
+    m_delegate->setKinds(m_editor.kinds());
 }
 
 // Codes
@@ -188,8 +211,9 @@ void frmDataInput::showFaults()
     m_ui->lstCheck->clear();
     for (const FaultyWord& faulty : m_faults) {
         m_ui->lstCheck->addItem(QStringLiteral("Locality %1, word %2:   %3   (%4)")
-                                    .arg(QString::number(faulty.locality), QString::number(faulty.column),
-                                         faulty.word, faultText(faulty.fault)));
+                                    .arg(QString::number(faulty.place.locality),
+                                         QString::number(faulty.place.column), faulty.word,
+                                         faultText(faulty.fault)));
     }
     m_ui->lblCheck->setText(QStringLiteral("Word forms with illegal codes: %1").arg(m_faults.size()));
 }
@@ -198,7 +222,7 @@ void frmDataInput::goToFault(int index)
 {
     if (index >= 0 && index < static_cast<int>(m_faults.size())) {
         const FaultyWord& faulty = m_faults[static_cast<std::size_t>(index)];
-        m_ui->tblWords->goTo(faulty.locality, faulty.column, QAbstractItemView::PositionAtCenter);
+        m_ui->tblWords->goTo(faulty.place.locality, faulty.place.column, QAbstractItemView::PositionAtCenter);
     }
 }
 

@@ -5,8 +5,6 @@
 #include "render/PhoneticCheck.h"
 
 #include <QApplication>
-#include <QKeyEvent>
-#include <QLineEdit>
 #include <QPainter>
 
 #include <algorithm>
@@ -107,26 +105,4 @@ QSize WordDelegate::sizeHint(const QStyleOptionViewItem& option, const QModelInd
 {
     const QSize hint = QStyledItemDelegate::sizeHint(option, index);
     return {hint.width(), std::max(hint.height(), option.fontMetrics.height() + 2 * Margin)};
-}
-
-QWidget* WordDelegate::createEditor(QWidget* parent, const QStyleOptionViewItem&, const QModelIndex&) const
-{
-    auto* editor = new QLineEdit(parent);
-    connect(editor, &QLineEdit::textChanged, this, &WordDelegate::typed);
-    return editor;
-}
-
-bool WordDelegate::eventFilter(QObject* editor, QEvent* event)
-{
-    if (event->type() == QEvent::KeyPress) {
-        const int key = static_cast<QKeyEvent*>(event)->key();
-        if (key == Qt::Key_Up || key == Qt::Key_Down) {
-            auto* box = qobject_cast<QWidget*>(editor);
-            Q_EMIT commitData(box);
-            Q_EMIT closeEditor(box, NoHint);
-            Q_EMIT left(key == Qt::Key_Down ? 1 : -1);
-            return true;
-        }
-    }
-    return QStyledItemDelegate::eventFilter(editor, event);
 }

@@ -115,7 +115,7 @@ void frmMap::mnuInputWord_Click()
     const auto enableAgain = qScopeGuard([this] { enableMapLing(); });
     if (const auto path =
             askForFile(QStringLiteral("Load Linguistic File"), QStringLiteral("DBS Files (*.dbs)|*.dbs"))) {
-        LoadWordData(m_varn, *path, m_varn, m_varn);
+        LoadWordData(m_varn, *path, m_varn, m_varn, dialogs());
     }
 }
 

@@ -74,6 +74,7 @@ void frmMain::connectForms()
     handle(&m_setHanko, &frmSetHanko::toDrawMap, &frmMain::openMap);
     handle(&m_chizu, &frmChizu::mapChosen, &frmMain::showNewMap);
     connect(&m_data, &frmData::itemLoaded, &m_map, &frmMap::enableMapLing);
+    handle(&m_dataInput, &frmDataInput::itemReloaded, &frmMain::showReloadedItem);
 }
 
 void frmMain::connectAnalysisForms()
@@ -253,6 +254,15 @@ void frmMain::drawDiffusionSymbols()
 void frmMain::showNewMap()
 {
     m_preview.Cls();
+}
+
+void frmMain::showReloadedItem()
+{
+    m_data.followItem();
+    m_setHanko.followItem();
+    m_calc.followItem();
+    m_calExec.refresh();
+    m_map.enableMapLing();
 }
 
 void frmMain::cmdRegMap_Click()

@@ -63,6 +63,7 @@ private:
     void drawContrastMap();
     void drawDiffusionSymbols();
     void showNewMap();
+    void showReloadedItem();
 
     // Page set-up.
     void prepareSetMergin();

@@ -264,14 +264,20 @@ QString frmSetHanko::status() const
     return parts.join(QStringLiteral("    |    "));
 }
 
+void frmSetHanko::followItem()
+{
+    if (m_shownReading >= 0 && m_listedReading != m_varn.ItemReading) {
+        SetKindWord();
+        refresh();
+    }
+}
+
 bool frmSetHanko::event(QEvent* event)
 {
     if (event->type() == QEvent::WindowActivate && m_shownReading >= 0) {
         run([this] {
             followSharedState();
-            if (m_listedItem != m_varn.ItemFileName) {
-                SetKindWord();
-            }
+            followItem();
         });
     }
     return VarnForm::event(event);

@@ -31,6 +31,8 @@ public:
     /// loaded.
     void Form_Load();
     void refresh() override;
+    /// Lists the kinds of the loaded item where it was loaded since they were listed.
+    void followItem();
 
 Q_SIGNALS:
     /// The user wants to go back to the main form.
@@ -117,8 +119,8 @@ private:
     SymbolHistory m_history;
     /// The item that was loaded when the set was saved last.
     QString m_savedForItem;
-    /// The item whose kinds are listed.
-    QString m_listedItem;
+    /// Which loading of an item the listed kinds are of.
+    int m_listedReading = 0;
     /// Which reading of a symbol set is shown; -1 before the form was loaded.
     int m_shownReading = -1;
     /// Whether a preview is shown that can be drawn anew for another size.

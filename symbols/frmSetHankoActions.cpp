@@ -16,7 +16,7 @@
 void frmSetHanko::SetKindWord()
 {
     m_ui->lstKindWord->clear();
-    m_listedItem = m_varn.ItemFileName;
+    m_listedReading = m_varn.ItemReading;
     LoadSrtData();
     for (int k = 1; k <= m_varn.NKind; ++k) {
         m_ui->lstKindWord->addItem(QString::number(m_varn.KindCount(k)) + QLatin1Char(' ') +
@@ -212,7 +212,7 @@ void frmSetHanko::mnuInputWord_Click()
 {
     if (const auto path =
             askForFile(QStringLiteral("Load Linguistic File"), QStringLiteral("DBS Files (*.dbs)|*.dbs"))) {
-        LoadWordData(m_varn, *path, m_varn, m_varn);
+        LoadWordData(m_varn, *path, m_varn, m_varn, dialogs());
         SetKindWord();
     }
 }

@@ -8,6 +8,7 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QClipboard>
 #include <QCloseEvent>
 #include <QFile>
 #include <QFrame>
@@ -69,14 +70,20 @@ protected:
         return found;
     }
 
-    /// Strikes a key where a user would: in the cell being edited, else in the table.
-    void strike(Qt::Key key, const QString& text = {})
+    static void strikeIn(QWidget& target, Qt::Key key, const QString& text = {},
+                         Qt::KeyboardModifiers modifiers = {})
+    {
+        QKeyEvent press(QEvent::KeyPress, key, modifiers, text);
+        QApplication::sendEvent(&target, &press);
+        QApplication::processEvents();
+    }
+    /// Strikes a key where a user would: in the list of kinds offered, in the cell being edited, else in the
+    /// table.
+    void strike(Qt::Key key, const QString& text = {}, Qt::KeyboardModifiers modifiers = {})
     {
         QWidget* editor = table().indexWidget(table().currentIndex());
-        QWidget* target = editor != nullptr ? editor : &table();
-        QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier, text);
-        QApplication::sendEvent(target, &press);
-        QApplication::processEvents();
+        QWidget* list = QApplication::activePopupWidget();
+        strikeIn(list != nullptr ? *list : editor != nullptr ? *editor : table(), key, text, modifiers);
     }
     void type(const QString& text)
     {
@@ -97,6 +104,25 @@ protected:
         dialogs.yesNo = std::move(answers);
         control<QLineEdit>("txtFileName").setText(QLatin1String(name));
         menu("mnuSave").trigger();
+    }
+    /// The words of a locality as the table shows them.
+    QStringList words(int locality)
+    {
+        QStringList found;
+        for (int column = 1; column <= ItemEditor::MostWords; ++column) {
+            found << word(locality, column);
+        }
+        return found;
+    }
+    void setKind(const QString& kind)
+    {
+        control<QLineEdit>("txtKind").setText(kind);
+        click("cmdSetKind");
+    }
+    void paste(const QString& text)
+    {
+        QGuiApplication::clipboard()->setText(text);
+        menu("mnuPaste").trigger();
     }
     std::vector<Shown> shown() { return std::exchange(dialogs.shown, {}); }
 
@@ -221,16 +247,26 @@ TEST_F(DataInput, ItemOfAnotherSizeKeepsItsCount)
             survey.read(Folder + QStringLiteral("odd.dbs")).startsWith(QByteArray::number(localities) + ','));
     }
     EXPECT_EQ(dialogs.errors, std::vector<Shown>());
+
+    survey.write(Folder + QStringLiteral("odd.ipt"), "?");
+    survey.write(Folder + QStringLiteral("odd.dbs"), "1,\"\",\"\",\"\"\r\n1\r\n\"ame\"\r\n");
+    shown();
+    open("odd.dbs");
+    EXPECT_EQ(kinds(), QStringList("ame"));
+    EXPECT_TRUE(shown().back().text.contains(QStringLiteral("odd.ipt")));
+    menu("mnuAddLocalities").trigger();
+    EXPECT_EQ(table().model()->rowCount(), 3);
+    EXPECT_FALSE(menu("mnuAddLocalities").isEnabled());
+    EXPECT_TRUE(form.isWindowModified());
+    menu("mnuUndo").trigger();
+    EXPECT_EQ(table().model()->rowCount(), 1);
+    EXPECT_FALSE(form.isWindowModified());
 }
 
 TEST_F(DataInput, KindsAreSetDeletedAndPutIntoTheData)
 {
-    const auto set = [this](const char* kind) {
-        control<QLineEdit>("txtKind").setText(QLatin1String(kind));
-        click("cmdSetKind");
-    };
     for (const char* kind : {"b", "a", "b", "", "\\Q1"}) {
-        set(kind);
+        setKind(QLatin1String(kind));
     }
     EXPECT_EQ(kinds(), QStringList({"b", "a", "\\Q1"}));
     auto& list = control<QListWidget>("lstKind");
@@ -342,4 +378,187 @@ TEST_F(DataInput, MapFollowsTheTableAndLeadsIt)
     QApplication::sendEvent(&map, &press);
     EXPECT_EQ(cell(), std::pair(1, 1));
     EXPECT_EQ(map.grab().toImage(), first);
+}
+
+TEST_F(DataInput, DeleteEmptiesTheCurrentCellWhereverKeysLead)
+{
+    open("rain.dbs");
+    strike(Qt::Key_End, {}, Qt::ControlModifier);
+    EXPECT_EQ(cell(), std::pair(3, 5));
+    strike(Qt::Key_Delete);
+    EXPECT_EQ(word(1, 1), QStringLiteral("uyu"));
+    strike(Qt::Key_Home, {}, Qt::ControlModifier);
+    strike(Qt::Key_Delete);
+    EXPECT_EQ(words(1), QStringList({"", "ame", "", "", ""}));
+    strike(Qt::Key_End, {}, Qt::ControlModifier | Qt::ShiftModifier);
+    strike(Qt::Key_Delete);
+    EXPECT_EQ(words(1) + words(3), QStringList(10, QString()));
+    menu("mnuUndo").trigger();
+    EXPECT_EQ(word(1, 2) + word(3, 1), QStringLiteral("ameuyu")) << "one step";
+    EXPECT_EQ(cell(), std::pair(1, 2)) << "where something changed";
+}
+
+TEST_F(DataInput, EverythingIsUndoneAndTakenAgain)
+{
+    open("rain.dbs");
+    EXPECT_FALSE(menu("mnuUndo").isEnabled());
+    type(QStringLiteral("x"));
+    strike(Qt::Key_Return);
+    setKind(QStringLiteral("k"));
+    click("cmdKindToData");
+    control<QListWidget>("lstKind").setCurrentRow(0);
+    click("cmdDelKind");
+    Q_EMIT control<QLineEdit>("txtHanrei").textEdited(QStringLiteral("R"));
+    control<QPlainTextEdit>("txtComment").setPlainText(QStringLiteral("c"));
+    const auto all = [this] {
+        return words(1) + words(2) + kinds() +
+               QStringList({control<QLineEdit>("txtHanrei").text(),
+                            control<QPlainTextEdit>("txtComment").toPlainText()});
+    };
+    const QStringList opened = {"uyu", "ame", "", "",    "",    "",     "",
+                                "",    "",    "", "ame", "uyu", "Rain", "from 1950"};
+    const QStringList entered = {"x", "ame", "", "", "", "k", "", "", "", "", "uyu", "k", "R", "c"};
+    const auto stepsWhile = [this](const char* name) {
+        int steps = 0;
+        for (; menu(name).isEnabled(); ++steps) {
+            menu(name).trigger();
+        }
+        return steps;
+    };
+    for (int times = 1; times <= 2; ++times) {
+        EXPECT_EQ(stepsWhile("mnuUndo"), 6);
+        EXPECT_EQ(all(), opened);
+        EXPECT_FALSE(form.isWindowModified());
+        EXPECT_EQ(stepsWhile("mnuRedo"), 6);
+        EXPECT_EQ(all(), entered);
+        EXPECT_TRUE(form.isWindowModified());
+    }
+    EXPECT_EQ(menu("mnuUndo").shortcuts(), QList({QKeySequence("Ctrl+Z")}));
+    EXPECT_EQ(menu("mnuRedo").shortcuts(), QList({QKeySequence("Ctrl+Y"), QKeySequence("Ctrl+Shift+Z")}));
+}
+
+TEST_F(DataInput, EmptyWordFormsAreSeenAndEntered)
+{
+    survey.write(Folder + QStringLiteral("gap.dbs"),
+                 "3,\"\",\"\",\"\"\r\n2\r\n\"\"\r\n\"a\"\r\n0\r\n1\r\n\"\"\r\n");
+    open("gap.dbs");
+    EXPECT_EQ(words(1), QStringList({"\"\"", "a", "", "", ""}));
+    EXPECT_EQ(kinds(), QStringList({"\"\"", "a"}));
+    strike(Qt::Key_F2);
+    strike(Qt::Key_Return);
+    EXPECT_FALSE(form.isWindowModified()) << "looked at, not changed";
+    type(QStringLiteral("\"\""));
+    strike(Qt::Key_Return);
+    control<QListWidget>("lstKind").setCurrentRow(0);
+    table().goTo(3, 3);
+    click("cmdKindToData");
+    save("gap", {true});
+    EXPECT_EQ(survey.read(Folder + QStringLiteral("gap.dbs")),
+              "3,\"\",\"\",\"\"\r\n2\r\n\"\"\r\n\"a\"\r\n1\r\n\"\"\r\n2\r\n\"\"\r\n\"\"\r\n");
+    EXPECT_EQ(survey.read(Folder + QStringLiteral("gap.srt")), "2\r\n\"\",4\r\n\"a\",1\r\n");
+}
+
+TEST_F(DataInput, KindsAreEnteredByTheirLettersHoweverQuickly)
+{
+    for (const char* kind : {"b", "l", "lb", "w", "wa", "wl"}) {
+        setKind(QLatin1String(kind));
+    }
+    auto& list = control<QListWidget>("lstKind");
+    for (const char* letters : {"w", "l", "b"}) {
+        strikeIn(list, Qt::Key_unknown, QLatin1String(letters));
+        strikeIn(list, Qt::Key_Return);
+    }
+    EXPECT_EQ(word(1, 1) + ' ' + word(2, 1) + ' ' + word(3, 1), QStringLiteral("w l b"));
+    table().goTo(1, 2);
+    for (const char* letters : {"w", "l", "\r", "w", "a"}) {
+        strikeIn(list, *letters == '\r' ? Qt::Key_Return : Qt::Key_unknown, QLatin1String(letters));
+    }
+    EXPECT_EQ(word(1, 2), QStringLiteral("wl"));
+    EXPECT_EQ(list.currentItem()->text(), QStringLiteral("wa"));
+    strikeIn(list, Qt::Key_Delete);
+    EXPECT_FALSE(kinds().contains(QStringLiteral("wa")));
+}
+
+TEST_F(DataInput, KindsAreOfferedWhileAWordIsTyped)
+{
+    for (const char* kind : {"walk", "water", "b"}) {
+        setKind(QLatin1String(kind));
+    }
+    struct Row
+    {
+        const char* typed;
+        std::vector<Qt::Key> keys;
+        const char* word;
+        std::pair<int, int> cell;
+    };
+    const std::vector<Row> rows = {
+        {"wa", {Qt::Key_Return}, "wa", {2, 1}}, // what is typed, though kinds are listed
+        {"wa", {Qt::Key_Down, Qt::Key_Down, Qt::Key_Enter}, "water", {2, 1}},
+        {"W", {Qt::Key_Down, Qt::Key_Tab}, "walk", {1, 2}},
+        {"wa", {Qt::Key_Down, Qt::Key_Up, Qt::Key_Return}, "wa", {2, 1}},
+        {"wax", {Qt::Key_Down}, "wax", {2, 1}}, // no kind: the arrow leaves the cell
+        {"wa", {Qt::Key_Escape, Qt::Key_Return}, "wa", {2, 1}},
+        {"wa", {Qt::Key_Escape, Qt::Key_Escape}, "", {1, 1}},
+    };
+    for (const Row& row : rows) {
+        table().goTo(1, 1);
+        strike(Qt::Key_Delete);
+        type(QLatin1String(row.typed));
+        EXPECT_EQ(QApplication::activePopupWidget() != nullptr, QString(row.typed) != "wax");
+        for (const Qt::Key key : row.keys) {
+            strike(key);
+        }
+        EXPECT_EQ(word(1, 1), QLatin1String(row.word)) << row.typed;
+        EXPECT_EQ(cell(), row.cell) << row.typed;
+        EXPECT_EQ(QApplication::activePopupWidget(), nullptr) << row.typed;
+    }
+}
+
+TEST_F(DataInput, BlocksAreCutCopiedAndPasted)
+{
+    open("rain.dbs");
+    table().goTo(2, 2);
+    paste(QStringLiteral("a\tb\n\" c\nd\"\t\"\""));
+    EXPECT_EQ(words(2), QStringList({"", "a", "b", "", ""}));
+    EXPECT_EQ(words(3), QStringList({"uyu", "c d", "\"\"", "", ""}));
+    table().goTo(2, 5);
+    shown();
+    paste(QStringLiteral("a\tb\nc"));
+    EXPECT_EQ(shown().at(0).text,
+              QStringLiteral("There is no room for the 2 rows and 2 columns from locality 2, "
+                             "word 5 on. Nothing was pasted."));
+    EXPECT_EQ(word(2, 5), QString());
+
+    table().goTo(2, 2);
+    strike(Qt::Key_End, {}, Qt::ControlModifier | Qt::ShiftModifier);
+    menu("mnuCut").trigger();
+    EXPECT_EQ(QGuiApplication::clipboard()->text(), QStringLiteral("a\tb\t\t\nc d\t\"\"\t\t\n"));
+    EXPECT_EQ(words(2) + words(3), QStringList({"", "", "", "", "", "uyu", "", "", "", ""}));
+    menu("mnuUndo").trigger();
+    menu("mnuUndo").trigger();
+    EXPECT_FALSE(form.isWindowModified()) << "two steps: paste and cut";
+    menu("mnuCopy").trigger();
+
+    auto& caption = control<QLineEdit>("txtHanrei");
+    caption.setFocus();
+    caption.selectAll();
+    menu("mnuCopy").trigger();
+    EXPECT_EQ(QGuiApplication::clipboard()->text(), QStringLiteral("Rain"))
+        << "of the box that has the focus";
+}
+
+TEST_F(DataInput, GoToLeadsToALocality)
+{
+    const auto goTo = [this](const std::optional<QString>& answer) {
+        dialogs.inputs = {answer};
+        menu("mnuGoTo").trigger();
+        return shown().back().text;
+    };
+    goTo(QStringLiteral(" 3 "));
+    EXPECT_EQ(cell(), std::pair(3, 1));
+    for (const char* wrong : {"0", "4", "two", ""}) {
+        EXPECT_EQ(goTo(QLatin1String(wrong)), QStringLiteral("Locality No. must be a number from 1 to 3."));
+    }
+    EXPECT_EQ(goTo(std::nullopt), QStringLiteral("Locality No."));
+    EXPECT_EQ(cell(), std::pair(3, 1));
 }

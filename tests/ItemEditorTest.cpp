@@ -5,9 +5,8 @@
 #include "lingdata/ItemLoader.h"
 #include "lingdata/LinguisticFile.h"
 #include "render/LocalityMap.h"
+#include "tests/ScriptedDialogs.h"
 #include "tests/TestDrive.h"
-
-#include <QFileInfo>
 
 namespace {
 
@@ -22,14 +21,32 @@ QStringList words(const ItemAnswers& item, int locality)
     return found;
 }
 
+/// Types `text` into a cell.
+void set(ItemEditor& editor, int locality, int column, const QString& text)
+{
+    editor.setCell({locality, column}, typedCell(text));
+}
+
 /// An item of one locality for each of `first`, its only word form.
 ItemEditor editorWith(const QStringList& first)
 {
     ItemEditor editor(static_cast<qint16>(first.size()));
     for (int i = 1; i <= editor.localities(); ++i) {
-        editor.setWord(i, 1, first[i - 1]);
+        set(editor, i, 1, first[i - 1]);
     }
     return editor;
+}
+
+/// All that is entered.
+QStringList stateOf(const ItemEditor& editor)
+{
+    QStringList state = {editor.caption(), editor.comment(), editor.kinds().join('|')};
+    for (const auto& row : editor.block({1, 1}, {editor.localities(), ItemEditor::MostWords})) {
+        for (const WordCell& cell : row) {
+            state << cellText(cell);
+        }
+    }
+    return state;
 }
 
 QStringList numbered(int count)
@@ -43,24 +60,29 @@ QStringList numbered(int count)
 
 } // namespace
 
-TEST(ItemEditor, EmptyCellsAreNoWordForms)
+TEST(ItemEditor, CellsThatHoldNothingAreNoWordForms)
 {
     struct Row
     {
-        QStringList cells;
+        QStringList typed;
         QStringList expected;
     };
+    const QString empty = QStringLiteral("\"\"");
     const std::vector<Row> rows = {
-        {{"a", "", "", "", ""}, {"a"}},           {{"", "", "", "", ""}, {}},
-        {{"a", "", "b", "", ""}, {"a", "b"}},     {{"", "", "", "", "e"}, {"e"}},
-        {{"a", "  ", "\t", "a", ""}, {"a", "a"}}, {{"1", "2", "3", "4", " 5 "}, {"1", "2", "3", "4", " 5 "}},
+        {{"a", "  ", "\t", "a", ""}, {"a", "a"}},
+        {{"", "", "", "", ""}, {}},
+        {{"a", "", "b", "", ""}, {"a", "b"}},
+        {{"", "", "", "", "e"}, {"e"}},
+        {{empty, "a", "", empty, ""}, {"", "a", ""}},
+        {{"1", "2", "3", "4", " 5 "}, {"1", "2", "3", "4", " 5 "}},
     };
     ItemEditor editor(static_cast<qint16>(rows.size()));
     int total = 0;
     for (int i = 1; i <= editor.localities(); ++i) {
         const Row& row = rows[static_cast<std::size_t>(i - 1)];
         for (int j = 1; j <= ItemEditor::MostWords; ++j) {
-            editor.setWord(i, j, row.cells[j - 1]);
+            set(editor, i, j, row.typed[j - 1]);
+            EXPECT_EQ(typedCell(cellText(editor.cell({i, j}))), editor.cell({i, j}));
         }
         total += static_cast<int>(row.expected.size());
     }
@@ -71,9 +93,11 @@ TEST(ItemEditor, EmptyCellsAreNoWordForms)
     EXPECT_EQ(item.WordTotal, total);
     EXPECT_EQ(editor.wordForms(), total);
     EXPECT_EQ(editor.answeredLocalities(), 5);
-    EXPECT_EQ(item.WordList(3), QStringLiteral("b"));
-    EXPECT_EQ(item.WordLocate(3), 3);
-    EXPECT_EQ(item.WordSub(3), 2);
+    EXPECT_EQ(item.WordList(6), QString());
+    EXPECT_EQ(item.WordLocate(6), 5);
+    EXPECT_EQ(item.WordSub(6), 1);
+    EXPECT_EQ(editor.wordsMissingInKinds().first(), QString())
+        << "an empty word form is a kind like any other";
 }
 
 TEST(ItemEditor, CellsOutsideTheItemRaise)
@@ -81,14 +105,15 @@ TEST(ItemEditor, CellsOutsideTheItemRaise)
     ItemEditor editor(3);
     for (const auto& [locality, column] :
          {std::pair(0, 1), std::pair(4, 1), std::pair(1, 0), std::pair(1, 6)}) {
-        const auto set = [&, i = locality, j = column] { editor.setWord(i, j, QStringLiteral("a")); };
-        EXPECT_EQ(errorOf(set).number(), ErrorNumber::SubscriptOutOfRange) << locality << ' ' << column;
+        const auto fill = [&, i = locality, j = column] { set(editor, i, j, QStringLiteral("a")); };
+        EXPECT_EQ(errorOf(fill).number(), ErrorNumber::SubscriptOutOfRange) << locality << ' ' << column;
     }
     EXPECT_EQ(errorOf([] { ItemEditor(1001); }).number(), ErrorNumber::SubscriptOutOfRange);
+    EXPECT_EQ(errorOf([&] { editor.addLocalities(1001); }).number(), ErrorNumber::SubscriptOutOfRange);
     EXPECT_FALSE(editor.isUnsaved());
 }
 
-TEST(ItemEditor, OnlyRealChangesAreUnsaved)
+TEST(ItemEditor, EveryRealChangeIsAStepThatCanBeUndone)
 {
     const QString a = QStringLiteral("a");
     struct Row
@@ -96,23 +121,138 @@ TEST(ItemEditor, OnlyRealChangesAreUnsaved)
         const char* what;
         std::function<void(ItemEditor&)> change;
         bool unsaved;
+        std::optional<CellPlace> place;
     };
     const std::vector<Row> rows = {
-        {"the same word", [&](ItemEditor& e) { e.setWord(1, 1, a); }, false},
-        {"another word", [](ItemEditor& e) { e.setWord(1, 1, QStringLiteral("A")); }, true},
-        {"an empty cell emptied", [](ItemEditor& e) { e.setWord(1, 2, QStringLiteral(" ")); }, false},
-        {"the same caption", [](ItemEditor& e) { e.setCaption(QString()); }, false},
-        {"a comment", [](ItemEditor& e) { e.setComment(QStringLiteral("c")); }, true},
-        {"a kind that is there", [&](ItemEditor& e) { e.addKind(a); }, false},
-        {"a new kind", [](ItemEditor& e) { e.addKind(QStringLiteral("A")); }, true},
-        {"nothing collected", [](ItemEditor& e) { e.collectKinds(); }, false},
-        {"a kind removed", [](ItemEditor& e) { e.removeKind(0); }, true},
+        {"the same word", [&](ItemEditor& e) { set(e, 1, 1, a); }, false, {}},
+        {"another word", [](ItemEditor& e) { set(e, 1, 1, QStringLiteral("A")); }, true, CellPlace{1, 1}},
+        {"an empty word form",
+         [](ItemEditor& e) {
+             e.setCell({2, 3}, QString());
+         },
+         true, CellPlace{2, 3}},
+        {"an empty cell emptied", [](ItemEditor& e) { set(e, 1, 2, QStringLiteral(" ")); }, false, {}},
+        {"a block",
+         [&](ItemEditor& e) {
+             e.paste({{a, std::nullopt, a}, {a}}, {2, 3});
+         },
+         true, CellPlace{2, 3}},
+        {"the same caption", [](ItemEditor& e) { e.setCaption(QString()); }, false, {}},
+        {"a comment", [](ItemEditor& e) { e.setComment(QStringLiteral("c")); }, true, {}},
+        {"a caption typed and taken back",
+         [&](ItemEditor& e) {
+             e.setCaption(a);
+             e.setCaption({});
+         },
+         false,
+         {}},
+        {"a kind that is there", [&](ItemEditor& e) { e.addKind(a); }, false, {}},
+        {"a new kind", [](ItemEditor& e) { e.addKind(QStringLiteral("A")); }, true, {}},
+        {"nothing collected", [](ItemEditor& e) { e.collectKinds(); }, false, {}},
+        {"a kind removed", [](ItemEditor& e) { e.removeKind(0); }, true, {}},
+        {"more localities", [](ItemEditor& e) { e.addLocalities(7); }, true, {}},
+        {"fewer localities", [](ItemEditor& e) { e.addLocalities(2); }, false, {}},
     };
     for (const Row& row : rows) {
-        ItemEditor editor(editorWith({a}).answers(), {a});
+        ItemEditor editor(editorWith({a, {}, {}}).answers(), {a});
+        const QStringList before = stateOf(editor);
         row.change(editor);
+        const QStringList after = stateOf(editor);
         EXPECT_EQ(editor.isUnsaved(), row.unsaved) << row.what;
+        EXPECT_EQ(editor.canUndo(), row.unsaved) << row.what;
+        EXPECT_EQ(after != before, row.unsaved) << row.what;
+        EXPECT_EQ(editor.undo(), row.place) << row.what;
+        EXPECT_EQ(stateOf(editor), before) << row.what;
+        EXPECT_FALSE(editor.isUnsaved() || editor.canUndo()) << row.what;
+        EXPECT_EQ(editor.redo(), row.place) << row.what;
+        EXPECT_EQ(stateOf(editor), after) << row.what;
     }
+}
+
+TEST(ItemEditor, StepsGoBackBeyondWhatIsSaved)
+{
+    ItemEditor editor(2);
+    for (const char* typed : {"r", "ra", "rain"}) {
+        editor.setCaption(QLatin1String(typed));
+    }
+    editor.markSaved();
+    editor.setCaption(QStringLiteral("rainy"));
+    editor.setComment(QStringLiteral("c"));
+    editor.undo();
+    EXPECT_EQ(editor.caption(), QStringLiteral("rainy"));
+    editor.undo();
+    EXPECT_EQ(editor.caption(), QStringLiteral("rain"));
+    EXPECT_FALSE(editor.isUnsaved());
+    editor.undo();
+    EXPECT_EQ(editor.caption(), QString()) << "typing is one step";
+    EXPECT_TRUE(editor.isUnsaved());
+    editor.redo();
+    EXPECT_FALSE(editor.isUnsaved());
+}
+
+TEST(ItemEditor, BlocksArePastedWhereThereIsRoomForAllTheyHold)
+{
+    const WordCell a = QStringLiteral("a");
+    struct Row
+    {
+        WordBlock block;
+        CellPlace first;
+        bool fits;
+    };
+    const std::vector<Row> rows = {
+        {{{a, a}, {a, a}}, {2, 4}, true},
+        {{{a, a, a}}, {2, 4}, false},
+        {{{a}, {a}, {a}}, {2, 1}, false},
+        {{{a, a, {}}, {a}, {}, {{}, {}, {}}}, {2, 4}, true}, // blank cells beyond need no room
+        {{{a}, {}, {{}, QString()}}, {2, 1}, false},
+    };
+    for (const Row& row : rows) {
+        ItemEditor editor = editorWith({"1", "2", "3"});
+        set(editor, 3, 5, QStringLiteral("old"));
+        const QStringList before = stateOf(editor);
+        EXPECT_EQ(editor.hasRoomFor(row.block, row.first), row.fits);
+        if (row.fits) {
+            editor.paste(row.block, row.first);
+            EXPECT_EQ(editor.cell({2, 5}), a);
+            EXPECT_EQ(editor.cell({3, 5}), row.block[1].size() > 1 ? a : WordCell(QStringLiteral("old")));
+        } else {
+            EXPECT_EQ(errorOf([&] { editor.paste(row.block, row.first); }).number(),
+                      ErrorNumber::SubscriptOutOfRange);
+            EXPECT_EQ(stateOf(editor), before);
+        }
+    }
+}
+
+TEST(WordBlock, BlocksAreReadAsSpreadsheetsCopyThem)
+{
+    const auto shown = [](const WordBlock& block) {
+        QStringList rows;
+        for (const auto& row : block) {
+            QStringList cells;
+            for (const WordCell& cell : row) {
+                cells << (cell ? '<' + *cell + '>' : QStringLiteral("-"));
+            }
+            rows << cells.join(' ');
+        }
+        return rows.join('/');
+    };
+    const std::pair<QString, QString> rows[] = {
+        {"a\tb\r\nc\td\r\n", "<a> <b>/<c> <d>"},
+        {"a", "<a>"},
+        {"", ""},
+        {"a\t\n\t\n\n\tb", "<a> -/- -/-/- <b>"},
+        {" a b \t\u00a0 \t  c", "<a b> - <c>"},
+        {"\"two\r\nlines\"\t\"a\tb \"\n\" \n \"\r\n", "<two lines> <a b>/-"},
+        {"\"say \"\"a\"\"\"\t\"\"\tb", "<say \"a\"> <> <b>"},
+        {"\"a\" b\t\"c\n\"\"\"\"\"\"", "<\"a\" b> <\"c>/<>"}, // quotes that enclose no cell stay
+    };
+    for (const auto& [text, expected] : rows) {
+        const WordBlock block = readBlock(text);
+        EXPECT_EQ(shown(block), expected) << qPrintable(text);
+        EXPECT_EQ(shown(readBlock(blockText(block))), expected) << "what is copied";
+    }
+    EXPECT_EQ(blockText({{QStringLiteral("a\nb"), std::nullopt}, {QString(), QStringLiteral("c")}}),
+              QStringLiteral("\"a\nb\"\t\n\"\"\tc\n"));
 }
 
 TEST(ItemEditor, KindsAreCollectedBehindThoseThatAreThere)
@@ -136,7 +276,7 @@ TEST(ItemEditor, AFullListOfKindsStaysAsItIs)
     editor.addKind(QStringLiteral("w1"));
     EXPECT_EQ(errorOf([&] { editor.addKind(QStringLiteral("x")); }).number(),
               ErrorNumber::SubscriptOutOfRange);
-    editor.setWord(1, 2, QStringLiteral("x"));
+    set(editor, 1, 2, QStringLiteral("x"));
     EXPECT_EQ(errorOf([&] { editor.collectKinds(); }).number(), ErrorNumber::SubscriptOutOfRange);
     EXPECT_EQ(editor.kinds().size(), MostInputKinds);
 }
@@ -160,9 +300,9 @@ TEST(ItemEditor, IllegalCodesAreFoundWhereTheyStand)
     for (int i = 1; i <= editor.localities(); ++i) {
         const Row& row = rows[static_cast<std::size_t>(i - 1)];
         const int column = i % ItemEditor::MostWords + 1;
-        editor.setWord(i, column, row.word);
+        set(editor, i, column, row.word);
         if (!row.code.isEmpty()) {
-            expected.push_back({i, column, row.word, {row.code, row.cutShort}});
+            expected.push_back({{i, column}, row.word, {row.code, row.cutShort}});
         }
     }
     EXPECT_EQ(editor.checkCodes(), expected);
@@ -225,7 +365,7 @@ TEST(EnteredItem, WhatIsSavedOpensTheSame)
     const QString path = Folder + QStringLiteral("odd.dbs");
     const QStringList odd = {"a \"quoted\" word", "a, b", "two\nlines", "two\r\nlines", "\"", "雨 ɛ", " x"};
     ItemEditor editor = editorWith(odd);
-    editor.setWord(2, 3, QStringLiteral("moves up"));
+    set(editor, 2, 3, QStringLiteral("moves up"));
     editor.setCaption(QStringLiteral("caption, \"with\"\nall"));
     editor.setComment(QStringLiteral("1\n\n,2"));
     editor.addKind(odd[0]);
@@ -233,37 +373,57 @@ TEST(EnteredItem, WhatIsSavedOpensTheSame)
     saveItem(survey.varn, path, editor);
     EXPECT_FALSE(editor.isUnsaved());
 
-    const ItemEditor opened = openItem(survey.varn, path);
+    const ItemEditor opened = openItem(survey.varn, path).editor;
     EXPECT_FALSE(opened.isUnsaved());
     ASSERT_EQ(opened.localities(), odd.size());
     for (int i = 1; i <= opened.localities(); ++i) {
-        EXPECT_EQ(opened.word(i, 1), odd[i - 1]);
+        EXPECT_EQ(opened.cell({i, 1}), odd[i - 1]);
     }
-    EXPECT_EQ(opened.word(2, 2), QStringLiteral("moves up"));
+    EXPECT_EQ(opened.cell({2, 2}), QStringLiteral("moves up"));
     EXPECT_EQ(opened.caption(), editor.caption());
     EXPECT_EQ(opened.comment(), editor.comment());
     EXPECT_EQ(opened.kinds(), editor.kinds());
+}
+
+TEST(EnteredItem, EmptyWordFormsKeepTheirPlaces)
+{
+    const TestSurvey survey;
+    const QString path = Folder + QStringLiteral("rain.dbs");
+    const QByteArray text =
+        "3,\"\",\"\",\"\"\r\n3\r\n\"\"\r\n\"a\"\r\n\"\"\r\n1\r\n\"\"\r\n2\r\n\" \"\r\n\"\"\"\"\"\"\r\n";
+    survey.write(path, text);
+    ItemEditor editor = openItem(survey.varn, path).editor;
+    EXPECT_EQ(editor.answeredLocalities(), 3);
+    EXPECT_EQ(editor.wordForms(), 6);
+    EXPECT_EQ(editor.kinds(), QStringList({"", " ", "\"\"", "a"}));
+    saveItem(survey.varn, path, editor);
+    EXPECT_EQ(survey.read(path), text);
+    EXPECT_EQ(openItem(survey.varn, path).editor.kinds(), editor.kinds());
 }
 
 TEST(EnteredItem, KindsComeFromTheListOrElseFromTheData)
 {
     const TestSurvey survey;
     const QString path = Folder + QStringLiteral("rain.dbs");
+    const QString list = inputKindsPath(survey.varn, path);
     survey.write(path, "2,\"\",\"\",\"\"\r\n2\r\n\"b\"\r\n\"a\"\r\n1\r\n\"b\"\r\n");
-    EXPECT_EQ(openItem(survey.varn, path).kinds(), QStringList({"a", "b"}));
-    survey.write(inputKindsPath(survey.varn, path), "1\r\n\"mine\"\r\n");
-    EXPECT_EQ(openItem(survey.varn, path).kinds(), QStringList({"mine"}));
-    survey.write(inputKindsPath(survey.varn, path), "2\r\n\"mine\"\r\n");
-    EXPECT_EQ(errorOf([&] { openItem(survey.varn, path); }).place().path, inputKindsPath(survey.varn, path));
+    EXPECT_EQ(openItem(survey.varn, path).editor.kinds(), QStringList({"a", "b"}));
+    survey.write(list, "1\r\n\"mine\"\r\n");
+    EXPECT_EQ(openItem(survey.varn, path).editor.kinds(), QStringList({"mine"}));
+    EXPECT_EQ(openItem(survey.varn, path).trouble, QString());
+    survey.write(list, "2\r\n\"mine\"\r\n");
+    const OpenedItem opened = openItem(survey.varn, path);
+    EXPECT_EQ(opened.editor.kinds(), QStringList({"a", "b"})) << "a damaged list is no obstacle";
+    EXPECT_TRUE(opened.trouble.contains(list)) << qPrintable(opened.trouble);
+    EXPECT_EQ(survey.read(list), "2\r\n\"mine\"\r\n");
 
-    ItemEditor many = editorWith(numbered(600));
     const QString manyPath = Folder + QStringLiteral("many.dbs");
     survey.write(manyPath, [&] {
         SequentialWriter file;
-        writeItem(file, many.answers());
+        writeItem(file, editorWith(numbered(600)).answers());
         return file.bytes();
     }());
-    EXPECT_EQ(openItem(survey.varn, manyPath).kinds().size(), MostInputKinds);
+    EXPECT_EQ(openItem(survey.varn, manyPath).editor.kinds().size(), MostInputKinds);
 }
 
 TEST(EnteredItem, KindsFileOfASavedItemIsMadeAnew)
@@ -282,7 +442,41 @@ TEST(EnteredItem, KindsFileOfASavedItemIsMadeAnew)
     EXPECT_EQ(errorOf([&] { renewKindsFile(survey.varn, path, many); }).number(),
               ErrorNumber::SubscriptOutOfRange);
     EXPECT_FALSE(fileExists(survey.drive(), kinds)) << "no old kinds are taken for those of the item";
-    EXPECT_EQ(openItem(survey.varn, path).localities(), 201);
+    EXPECT_EQ(openItem(survey.varn, path).editor.localities(), 201);
+
+    survey.write(kinds + QStringLiteral("\\in.the.way"), "");
+    saveItem(survey.varn, path, editor);
+    EXPECT_EQ(errorOf([&] { renewKindsFile(survey.varn, path, editor); }).place().path, kinds);
+}
+
+TEST(EnteredItem, ASavedItemIsLoadedAfresh)
+{
+    TestSurvey survey;
+    VarnModule& varn = survey.varn;
+    ScriptedDialogs dialogs;
+    const QString path = Folder + QStringLiteral("rain.dbs");
+    const auto saveAndReload = [&](ItemEditor editor) {
+        saveItem(varn, path, editor);
+        reloadItem(varn, path, varn, varn, dialogs);
+    };
+    EXPECT_FALSE(isLoadedItem(path, varn));
+    saveAndReload(editorWith({"old", "a"}));
+    EXPECT_TRUE(isLoadedItem(path.toLower(), varn));
+    varn.LoadState = 2;
+    const int reading = varn.ItemReading;
+    saveAndReload(editorWith({"new", "a", "a"}));
+    EXPECT_EQ(varn.WordData(1, 1), QStringLiteral("new"));
+    EXPECT_EQ(varn.KindCount(1), 2);
+    EXPECT_EQ(varn.NLocate, 3);
+    EXPECT_EQ(varn.LoadState, 2);
+    EXPECT_GT(varn.ItemReading, reading);
+
+    EXPECT_EQ(errorOf([&] { saveAndReload(editorWith(numbered(201))); }).number(),
+              ErrorNumber::SubscriptOutOfRange);
+    EXPECT_EQ(varn.ItemFileName, QString()) << "nothing rather than what is no longer true";
+    EXPECT_EQ(varn.LoadState, 3);
+    EXPECT_GT(varn.ItemReading, reading + 1);
+    EXPECT_EQ(dialogs.shown.size(), 0U);
 }
 
 TEST(EnteredItem, ASaveThatFailsStaysUnsaved)

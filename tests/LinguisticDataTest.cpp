@@ -1,9 +1,10 @@
 #include "lingdata/ItemLoader.h"
 #include "lingdata/KindList.h"
 #include "lingdata/LinguisticFile.h"
+#include "tests/ScriptedDialogs.h"
 #include "tests/TestDrive.h"
 
-#include <QFileInfo>
+#include <QFile>
 
 #include <numeric>
 
@@ -134,9 +135,33 @@ TEST(ItemLoader, AFailedLoadLeavesTheLoadedItem)
     EXPECT_EQ(error.place().path, bad);
     EXPECT_EQ(varn.Hanrei, QStringLiteral("Rain"));
     EXPECT_EQ(varn.NKind, 3);
+}
 
-    survey.write(varn.dataFolder() + QStringLiteral("\\good.srt"), "9\r\n\"x\",1\r\n");
-    EXPECT_EQ(errorOf([&] { LoadWordData(varn, good, varn, varn); }).number(),
-              ErrorNumber::InputPastEndOfFile);
-    EXPECT_EQ(varn.NKind, 3);
+TEST(ItemLoader, AKindsFileThatIsNoGoodIsNoObstacle)
+{
+    TestSurvey survey;
+    VarnModule& varn = survey.varn;
+    ScriptedDialogs dialogs;
+    const QString item = varn.dataFolder() + QStringLiteral("\\rain.dbs");
+    const QString kinds = varn.dataFolder() + QStringLiteral("\\rain.srt");
+    survey.write(item, Small);
+    LoadWordData(varn, item, varn, varn, dialogs);
+    EXPECT_EQ(dialogs.shown.size(), 0U);
+    for (const char* text : {"9\r\n\"x\",1\r\n", "1\r\n\"x\",y\r\n", "201\r\n", ""}) {
+        survey.write(kinds, text);
+        varn.NKind = 0;
+        LoadWordData(varn, item, varn, varn, dialogs);
+        EXPECT_EQ(varn.NKind, 3) << text;
+        EXPECT_EQ(varn.KindWord(1), QStringLiteral("B")) << text;
+        EXPECT_EQ(survey.read(kinds), text) << "left as it is";
+        ASSERT_EQ(dialogs.shown.size(), 1U);
+        EXPECT_TRUE(std::exchange(dialogs.shown, {})[0].text.contains(kinds)) << text;
+    }
+    QFile::remove(survey.drive().hostPath(kinds));
+    survey.write(kinds + QStringLiteral("\\in.the.way"), "");
+    varn.Hanrei.clear();
+    LoadWordData(varn, item, varn, varn, dialogs);
+    EXPECT_EQ(varn.Hanrei, QStringLiteral("Rain"));
+    EXPECT_EQ(dialogs.shown.size(), 1U) << "it cannot be written";
+    EXPECT_EQ(readItemAnswers(varn, item).WordTotal, 4);
 }
