@@ -151,7 +151,7 @@ std::optional<RunTimeError> LoadTotalFile(const DriveC& drive, const QString& pa
     QByteArray bytes = readBytes(drive, path); // a change while it is read is a change since it was read
     auto table = readSequentialFile(
         drive, path, [localities](SequentialReader& file) { return readTotal(file, localities); });
-    const auto namesError = loadCountedItems(drive, path, table);
+    auto namesError = loadCountedItems(drive, path, table);
     static_cast<CumulativeTable&>(data) = std::move(table);
     data.TotalFileName = baseName(path);
     data.CurrentWordform = 1;

@@ -170,11 +170,6 @@ void frmCalc::closeEvent(QCloseEvent* event)
     event->setAccepted(mayGiveUpFields(question) && mayGiveUpTable(question) && mayGiveUpStrings(question));
 }
 
-TotalState frmCalc::state()
-{
-    return {m_varn, m_varn.NLocality, m_varn, m_varn};
-}
-
 // What is shown
 
 void frmCalc::SetTotal()
@@ -244,11 +239,6 @@ void frmCalc::showTable()
                                                            : QString::number(m_varn.NumWordforms));
     showText(*m_ui->txtTotalFileName, m_varn.TotalFileName);
     TotalSet(m_varn.CurrentWordform);
-}
-
-void frmCalc::showFileOfStrings()
-{
-    m_ui->txtSetFileName->setText(analysisFileStem(m_varn.SpecifyFileName, QStringLiteral(".sum")));
 }
 
 void frmCalc::showString()
