@@ -1,3 +1,4 @@
+#include "lingdata/ItemLoader.h"
 #include "lingdata/frmData.h"
 #include "platform/WholeFile.h"
 #include "shell/Printing.h"
@@ -7,6 +8,7 @@
 #include "tests/TestDrive.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QStatusBar>
 
 namespace {
@@ -142,6 +144,13 @@ TEST_F(DataForm, AllPagesArePrintedAsOneDocument)
     const QPointF corner = printedAt(documents[0][0], QStringLiteral("** PAGE = 1 / 3"));
     EXPECT_NEAR(corner.x(), varn.LeftMargin * TwipsPerMm, 1);
     EXPECT_NEAR(corner.y(), varn.TopMargin * TwipsPerMm, 1);
+
+    setPaper(varn, 1); // the pages shown lie across, those printed from now on are upright
+    dialogs.yesNo = {true};
+    menu("mnuPrint").trigger();
+    const double end = printedAt(documents.at(1)[0], QStringLiteral("many.dbs")).x();
+    EXPECT_LT(end, (varn.PaperWidth - varn.RightMargin) * TwipsPerMm);
+    EXPECT_GT(end, varn.PaperWidth * TwipsPerMm / 2);
 }
 
 TEST_F(DataForm, AnItemLoadedElsewhereIsShownWhenTheFormOpens)
@@ -153,4 +162,16 @@ TEST_F(DataForm, AnItemLoadedElsewhereIsShownWhenTheFormOpens)
     varn.ItemFileName = QStringLiteral("other.dbs");
     form.Form_Load();
     EXPECT_TRUE(statusBegins("Page 1 of 1    |    Word forms: 1"));
+
+    QEvent activated(QEvent::WindowActivate);
+    for (const auto& [file, status] :
+         {std::pair("many.dbs", "Page 1 of 3"), std::pair("rain.dbs", "Page 1 of 1")}) {
+        LoadWordData(varn, ling(file), varn, varn);
+        QApplication::sendEvent(&form, &activated);
+        EXPECT_TRUE(statusBegins(status)) << "it is brought to the front";
+    }
+    dropItem(varn, varn);
+    QApplication::sendEvent(&form, &activated);
+    EXPECT_EQ(form.statusBar()->currentMessage(), QString());
+    EXPECT_FALSE(menu("mnuPageNo").isEnabled());
 }

@@ -440,12 +440,15 @@ TEST_F(DataInput, EverythingIsUndoneAndTakenAgain)
 TEST_F(DataInput, EmptyWordFormsAreSeenAndEntered)
 {
     survey.write(Folder + QStringLiteral("gap.dbs"),
-                 "3,\"\",\"\",\"\"\r\n2\r\n\"\"\r\n\"a\"\r\n0\r\n1\r\n\"\"\r\n");
+                 "3,\"\",\"\",\"\"\r\n2\r\n\"\"\r\n\" \"\r\n0\r\n1\r\n\"\"\r\n");
     open("gap.dbs");
-    EXPECT_EQ(words(1), QStringList({"\"\"", "a", "", "", ""}));
-    EXPECT_EQ(kinds(), QStringList({"\"\"", "a"}));
-    strike(Qt::Key_F2);
-    strike(Qt::Key_Return);
+    EXPECT_EQ(words(1), QStringList({"\"\"", " ", "", "", ""}));
+    EXPECT_EQ(kinds(), QStringList({"\"\"", " "}));
+    for (const int column : {1, 2}) {
+        table().goTo(1, column);
+        strike(Qt::Key_F2);
+        strike(Qt::Key_Return);
+    }
     EXPECT_FALSE(form.isWindowModified()) << "looked at, not changed";
     type(QStringLiteral("\"\""));
     strike(Qt::Key_Return);
@@ -454,8 +457,8 @@ TEST_F(DataInput, EmptyWordFormsAreSeenAndEntered)
     click("cmdKindToData");
     save("gap", {true});
     EXPECT_EQ(survey.read(Folder + QStringLiteral("gap.dbs")),
-              "3,\"\",\"\",\"\"\r\n2\r\n\"\"\r\n\"a\"\r\n1\r\n\"\"\r\n2\r\n\"\"\r\n\"\"\r\n");
-    EXPECT_EQ(survey.read(Folder + QStringLiteral("gap.srt")), "2\r\n\"\",4\r\n\"a\",1\r\n");
+              "3,\"\",\"\",\"\"\r\n2\r\n\"\"\r\n\" \"\r\n1\r\n\"\"\r\n2\r\n\"\"\r\n\"\"\r\n");
+    EXPECT_EQ(survey.read(Folder + QStringLiteral("gap.srt")), "2\r\n\"\",4\r\n\" \",1\r\n");
 }
 
 TEST_F(DataInput, KindsAreEnteredByTheirLettersHoweverQuickly)
