@@ -154,7 +154,7 @@ void frmData::mnuPrint_Click()
     }
     const WaitCursor wait;
     const DataPages pages(m_varn, m_pages->list());
-    beginDocument(m_varn);
+    beginDocument(m_varn, m_varn, m_pages->list().fileName);
     for (int page = 1; page <= pages.count(); ++page) {
         if (page > 1) {
             newPage(m_varn);

@@ -2,7 +2,20 @@
 
 #include "platform/Drawing.h"
 
+#include <QString>
+
 #include <vector>
+
+/// What is printed as one job, on A4.
+struct PrintedDocument
+{
+    /// What the print system or the PDF file calls it.
+    QString name;
+    /// 1 portrait, 2 landscape.
+    int orientation = 2;
+    /// A drawing for each page, whose coordinates are twips from the paper's corner.
+    std::vector<Drawing> pages;
+};
 
 /// A printer that the user has chosen.
 class PrinterDevice
@@ -10,7 +23,10 @@ class PrinterDevice
 public:
     virtual ~PrinterDevice() = default;
 
-    /// Prints one document: a page for each drawing, whose coordinates are twips from the paper's corner.
-    /// Raises device I/O error where the document cannot be printed.
-    virtual void print(const std::vector<Drawing>& pages) = 0;
+    /// How the user left the paper in the printer dialog: 1 portrait, 2 landscape.
+    virtual int orientation() const = 0;
+
+    /// Prints one document. Raises device I/O error where the printer does not take it, and where it is
+    /// printed to a file, what writing a file raises.
+    virtual void print(const PrintedDocument& document) = 0;
 };

@@ -18,12 +18,17 @@ public:
     /// Shows the system's printer dialog, the default printer chosen at first; null where it was cancelled.
     static std::unique_ptr<PrinterDevice> choose(const PageLayout& layout);
 
-    void print(const std::vector<Drawing>& pages) override;
+    int orientation() const override;
+    void print(const PrintedDocument& document) override;
 
 private:
+    void printOnPaper(const std::vector<Drawing>& pages);
+    void printToFile(const PrintedDocument& document);
+
     std::unique_ptr<QPrinter> m_printer;
     /// The file that the first document goes to; empty for a printer of paper.
     QString m_firstFile;
+    /// How many documents have been printed to files.
     int m_documents = 0;
 };
 

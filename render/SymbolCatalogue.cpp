@@ -54,5 +54,5 @@ void PlotSymbol(VarnModule& varn, int page, MapSurfaces surfaces)
         XmaxYmax(x, y, x0, y0, surfaces.frmMap.Width, surfaces.frmMap.Height, cellWidth, cellHeight);
     }
     target.FontSize = fontSize;
-    surfaces.frmMap.DrawWidth = 1;
+    surfaces.thinLines();
 }

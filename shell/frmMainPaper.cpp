@@ -5,6 +5,8 @@
 #include "shell/frmMain.h"
 #include "ui_frmMain.h"
 
+#include <QScopeGuard>
+
 #include <array>
 #include <utility>
 
@@ -46,12 +48,13 @@ void frmMain::prepareSetMergin()
 void frmMain::recomputePaper()
 {
     setPaper(m_varn, m_ui->cboOrientation->currentIndex() == LandscapeIndex ? 2 : 1);
-    m_ui->cboPaperSize->setCurrentText(m_varn.PaperSizeName);
     displayPaper();
 }
 
 void frmMain::displayPaper()
 {
+    m_ui->cboPaperSize->setCurrentText(m_varn.PaperSizeName);
+    m_ui->cboOrientation->setCurrentIndex(m_varn.PaperOrientation == 2 ? LandscapeIndex : 0);
     m_ui->lblDisplayPaperSize->setText(paperLabel(m_varn));
     m_ui->lblPaperSpace->setText(paperSpaceLabel(m_varn));
 }
@@ -85,9 +88,12 @@ void frmMain::cmdExitSetMergin_Click()
 
 void frmMain::SetPrinter()
 {
+    const auto closed = qScopeGuard([this] {
+        displayPaper();
+        m_ui->fraSetMergin->hide();
+    });
     connectPrinter(m_varn, dialogs().choosePrinter(m_varn));
     if (!m_varn.PrinterConnected) {
         dialogs().message(QStringLiteral("Printer is not connected."), QStringLiteral("Set Printer"));
     }
-    m_ui->fraSetMergin->hide();
 }
