@@ -6,6 +6,8 @@
 
 #include <vector>
 
+struct PageLayout;
+
 /// What is printed as one job, on A4.
 struct PrintedDocument
 {
@@ -23,8 +25,8 @@ class PrinterDevice
 public:
     virtual ~PrinterDevice() = default;
 
-    /// How the user left the paper in the printer dialog: 1 portrait, 2 landscape.
-    virtual int orientation() const = 0;
+    /// Takes over into `layout` the orientation chosen in the printer dialog, and the margins changed there.
+    virtual void takeChoices(PageLayout& layout) const = 0;
 
     /// Prints one document. Raises device I/O error where the printer does not take it, and where it is
     /// printed to a file, what writing a file raises.

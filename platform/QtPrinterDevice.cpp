@@ -1,6 +1,7 @@
 #include "platform/QtPrinterDevice.h"
 
 #include "platform/DrawingPainter.h"
+#include "platform/Numbers.h"
 #include "platform/RunTimeError.h"
 #include "platform/WholeFile.h"
 #include "shell/PageSetup.h"
@@ -21,6 +22,19 @@ void setPaper(QPrinter& printer, int orientation)
 {
     printer.setPageSize(QPageSize(QPageSize::A4));
     printer.setPageOrientation(orientation == 2 ? QPageLayout::Landscape : QPageLayout::Portrait);
+}
+
+QMarginsF marginsOf(const QPrinter& printer)
+{
+    return printer.pageLayout().margins(QPageLayout::Millimeter);
+}
+
+/// Takes over a margin in whole millimetres where it was changed.
+void takeMargin(double shown, double chosen, qint16& margin)
+{
+    if (chosen != shown) {
+        margin = toInteger(chosen);
+    }
 }
 
 RunTimeError notPrinted(const QString& text, const QString& printer)
@@ -64,8 +78,9 @@ QString fileOfDocument(const QString& file, int document)
     return name;
 }
 
-QtPrinterDevice::QtPrinterDevice(std::unique_ptr<QPrinter> printer)
-    : m_printer(std::move(printer)), m_firstFile(m_printer->outputFileName())
+QtPrinterDevice::QtPrinterDevice(std::unique_ptr<QPrinter> printer, QMarginsF shownMargins)
+    : m_printer(std::move(printer)), m_shownMargins(shownMargins), m_chosenMargins(marginsOf(*m_printer)),
+      m_firstFile(m_printer->outputFileName())
 {
     m_printer->setFullPage(true);
     m_printer->setCreator(QStringLiteral("varn"));
@@ -77,17 +92,25 @@ std::unique_ptr<PrinterDevice> QtPrinterDevice::choose(const PageLayout& layout)
 {
     auto printer = std::make_unique<QPrinter>(QPrinter::HighResolution);
     setPaper(*printer, layout.PaperOrientation);
+    printer->setPageMargins(
+        QMarginsF(layout.LeftMargin, layout.TopMargin, layout.RightMargin, layout.BottomMargin),
+        QPageLayout::Millimeter); // a printer may refuse them
+    const QMarginsF shownMargins = marginsOf(*printer);
     QPrintDialog dialog(printer.get(), QApplication::activeWindow());
     dialog.setOption(QAbstractPrintDialog::PrintPageRange, false); // a map is one page
     if (dialog.exec() != QDialog::Accepted) {
         return nullptr;
     }
-    return std::make_unique<QtPrinterDevice>(std::move(printer));
+    return std::make_unique<QtPrinterDevice>(std::move(printer), shownMargins);
 }
 
-int QtPrinterDevice::orientation() const
+void QtPrinterDevice::takeChoices(PageLayout& layout) const
 {
-    return m_printer->pageLayout().orientation() == QPageLayout::Landscape ? 2 : 1;
+    layout.PaperOrientation = m_printer->pageLayout().orientation() == QPageLayout::Landscape ? 2 : 1;
+    takeMargin(m_shownMargins.left(), m_chosenMargins.left(), layout.LeftMargin);
+    takeMargin(m_shownMargins.top(), m_chosenMargins.top(), layout.TopMargin);
+    takeMargin(m_shownMargins.right(), m_chosenMargins.right(), layout.RightMargin);
+    takeMargin(m_shownMargins.bottom(), m_chosenMargins.bottom(), layout.BottomMargin);
 }
 
 void QtPrinterDevice::print(const PrintedDocument& document)

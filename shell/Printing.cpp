@@ -85,7 +85,8 @@ void connectPrinter(VarnModule& varn, std::unique_ptr<PrinterDevice> device)
         varn.PrintMode = false;
         return;
     }
-    setPaper(varn, varn.Device->orientation());
+    varn.Device->takeChoices(varn);
+    setPaper(varn, varn.PaperOrientation);
     preparePage(varn, varn);
     SettingPrinterScale(varn, varn);
 }

@@ -16,8 +16,8 @@ QString printModeLabel(const PageSetup& page);
 /// without extent.
 void SettingPrinterScale(PageSetup& page, MapGeometry& geometry);
 
-/// Makes `device` the printer and takes over the orientation that was chosen with it; with null there is
-/// none, and print mode goes off.
+/// Makes `device` the printer and takes over the page that was chosen with it; with null there is none, and
+/// print mode goes off.
 void connectPrinter(VarnModule& varn, std::unique_ptr<PrinterDevice> device);
 
 /// Called before a drawing command: the command draws on a fresh page of the printer, a document called

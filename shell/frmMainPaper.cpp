@@ -7,9 +7,6 @@
 
 #include <QScopeGuard>
 
-#include <array>
-#include <utility>
-
 namespace {
 
 constexpr int LandscapeIndex = 1;
@@ -24,15 +21,8 @@ void frmMain::prepareSetMergin()
     m_ui->cboOrientation->addItems({QStringLiteral("Portrait"), QStringLiteral("Landscape")});
     m_ui->cboOrientation->setCurrentIndex(LandscapeIndex);
 
-    using MarginBox = std::pair<QLineEdit*, qint16 PageLayout::*>;
-    const std::array<MarginBox, 4> boxes = {{
-        {m_ui->txtTopMergin, &PageLayout::TopMargin},
-        {m_ui->txtBottomMergin, &PageLayout::BottomMargin},
-        {m_ui->txtLeftMergin, &PageLayout::LeftMargin},
-        {m_ui->txtRightMergin, &PageLayout::RightMargin},
-    }};
-    for (const auto& [box, margin] : boxes) {
-        box->setText(QString::number(m_varn.*margin));
+    displayMargins();
+    for (const auto& [box, margin] : marginBoxes()) {
         connect(box, &QLineEdit::textChanged, this, [this, box = box, margin = margin] {
             run([this, box, margin] { txtMergin_Change(*box, margin); });
         });
@@ -43,6 +33,23 @@ void frmMain::prepareSetMergin()
     handle(m_ui->cmdSettingPrinter, &QPushButton::clicked, &frmMain::cmdSettingPrinter_Click);
     handle(m_ui->cmdPrinter, &QPushButton::clicked, &frmMain::SetPrinter);
     handle(m_ui->cmdExitSetMergin, &QPushButton::clicked, &frmMain::cmdExitSetMergin_Click);
+}
+
+std::array<frmMain::MarginBox, 4> frmMain::marginBoxes() const
+{
+    return {{
+        {m_ui->txtTopMergin, &PageLayout::TopMargin},
+        {m_ui->txtBottomMergin, &PageLayout::BottomMargin},
+        {m_ui->txtLeftMergin, &PageLayout::LeftMargin},
+        {m_ui->txtRightMergin, &PageLayout::RightMargin},
+    }};
+}
+
+void frmMain::displayMargins()
+{
+    for (const auto& [box, margin] : marginBoxes()) {
+        box->setText(QString::number(m_varn.*margin));
+    }
 }
 
 void frmMain::recomputePaper()
@@ -90,6 +97,7 @@ void frmMain::SetPrinter()
 {
     const auto closed = qScopeGuard([this] {
         displayPaper();
+        displayMargins();
         m_ui->fraSetMergin->hide();
     });
     connectPrinter(m_varn, dialogs().choosePrinter(m_varn));

@@ -35,9 +35,9 @@ protected:
         return *program.map().findChild<QPushButton*>(QStringLiteral("lblInsatsumode"));
     }
 
-    void choosePrinter(int orientation = 2)
+    void choosePrinter(const PageLayout& chosen = {})
     {
-        program.dialogs.printer = std::make_unique<RecordingPrinter>(documents, orientation);
+        program.dialogs.printer = std::make_unique<RecordingPrinter>(documents, chosen);
         control<QPushButton>("cmdPrinter").click();
     }
 
@@ -126,9 +126,13 @@ TEST_F(LoadedProgram, AMapLargerThanThePaperIsPrintedOnRequestOnly)
     EXPECT_EQ(documents.size(), 1U);
 }
 
-TEST_F(LoadedProgram, TheOrientationOfThePrinterIsTakenOverAndMayBeChangedAfterwards)
+TEST_F(LoadedProgram, ThePageOfThePrinterIsTakenOverAndMayBeChangedAfterwards)
 {
-    choosePrinter(1);
+    PageLayout chosen;
+    chosen.PaperOrientation = 1;
+    chosen.LeftMargin = 10;
+    choosePrinter(chosen);
+    EXPECT_EQ(control<QLineEdit>("txtLeftMergin").text(), QStringLiteral("10"));
     EXPECT_EQ(control<QPushButton>("lblDisplayPaperSize").text(),
               QStringLiteral("A4 Portrait(297 X 210) mm"));
     EXPECT_EQ(control<QComboBox>("cboOrientation").currentText(), QStringLiteral("Portrait"));
@@ -179,6 +183,23 @@ TEST_F(LoadedProgram, TheMapFormInFrontShowsWhatOtherFormsChanged)
     EXPECT_TRUE(loaded->text().startsWith(QStringLiteral("No linguistic file loaded")));
     EXPECT_TRUE(program.menu("mnuMapLing").isEnabled());
     EXPECT_FALSE(program.menu("mnuRank").isEnabled());
+}
+
+TEST_F(LoadedProgram, TheTabKeyGoesFromTheMapToThePrintSwitch)
+{
+    QStringList visited;
+    const QWidget* const map = program.map().findChild<QWidget*>(QStringLiteral("scrMap"));
+    const QWidget* widget = map;
+    do {
+        if ((widget->focusPolicy() & Qt::TabFocus) != 0) {
+            visited << widget->objectName();
+        }
+        widget = widget->nextInFocusChain();
+    } while (widget != map);
+    EXPECT_EQ(visited, QStringList({QStringLiteral("scrMap"), QStringLiteral("optHankoCenter"),
+                                    QStringLiteral("optHankoRight"), QStringLiteral("optHankoLeft"),
+                                    QStringLiteral("optHankoUp"), QStringLiteral("optHankoDown"),
+                                    QStringLiteral("lblInsatsumode")}));
 }
 
 TEST_F(LoadedProgram, PaperAndMarginsFollowTheirBoxes)

@@ -116,9 +116,23 @@ TEST(PrinterDevice, TheOrientationIsThatOfTheDocument)
     const QTemporaryDir folder;
     const QString file = folder.filePath(QStringLiteral("map.pdf"));
     QtPrinterDevice device(printerTo(file));
-    EXPECT_EQ(device.orientation(), 2) << "as chosen with the printer";
     PrintedDocument upright = onePage();
     upright.orientation = 1;
     device.print(upright);
     EXPECT_TRUE(bytesOf(file).contains("/MediaBox [0 0 595"));
+}
+
+TEST(PrinterDevice, WhatIsChangedInThePrinterDialogIsTakenOver)
+{
+    auto printer = printerTo(QStringLiteral("map.pdf"));
+    printer->setPageMargins({30, 12, 14, 16}, QPageLayout::Millimeter);
+    PageLayout layout;
+    layout.PaperOrientation = 1;
+    layout.BottomMargin = 2;
+    QtPrinterDevice(std::move(printer), {20, 15, 15, 16}).takeChoices(layout);
+    EXPECT_EQ(layout.PaperOrientation, 2);
+    EXPECT_EQ(layout.LeftMargin, 30);
+    EXPECT_EQ(layout.TopMargin, 12);
+    EXPECT_EQ(layout.RightMargin, 14);
+    EXPECT_EQ(layout.BottomMargin, 2) << "left as the dialog showed it";
 }

@@ -81,7 +81,9 @@ TEST(Printing, APageHasThePaperAndTheFontChosenWhenItBegins)
     TestSurvey survey;
     VarnModule& varn = survey.varn;
     RecordingPrinter::Documents documents;
-    connectPrinter(varn, std::make_unique<RecordingPrinter>(documents, 1));
+    PageLayout chosen;
+    chosen.PaperOrientation = 1;
+    connectPrinter(varn, std::make_unique<RecordingPrinter>(documents, chosen));
     EXPECT_EQ(paperLabel(varn), QStringLiteral("A4 Portrait(297 X 210) mm")) << "as chosen with the printer";
     EXPECT_EQ(varn.Printer.FontSize, 10);
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/PrinterDevice.h"
+#include "shell/PageSetup.h"
 
 /// A printer that keeps the documents printed on it.
 class RecordingPrinter : public PrinterDevice
@@ -14,12 +14,12 @@ public:
     };
     using Documents = std::vector<Document>;
 
-    /// `orientation` is what the user left in the printer dialog.
-    explicit RecordingPrinter(Documents& documents, int orientation = 2)
-        : m_documents(documents), m_orientation(orientation)
+    /// `chosen` is the page that the user left in the printer dialog.
+    explicit RecordingPrinter(Documents& documents, PageLayout chosen = {})
+        : m_documents(documents), m_chosen(std::move(chosen))
     {}
 
-    int orientation() const override { return m_orientation; }
+    void takeChoices(PageLayout& layout) const override { layout = m_chosen; }
     void print(const PrintedDocument& document) override
     {
         m_documents.push_back({document.pages, document.name, document.orientation});
@@ -27,5 +27,5 @@ public:
 
 private:
     Documents& m_documents;
-    int m_orientation;
+    PageLayout m_chosen;
 };
