@@ -56,12 +56,14 @@ QPointF captionOrigin(const VarnModule& varn)
 
 void ClsHanrei(const VarnModule& varn, DrawSurface& target, const QString& title)
 {
+    constexpr auto Edge = static_cast<float>(2 * TwipsPerPixel); // letters are painted at whole pixels
+
     const QPointF origin = captionOrigin(varn);
     const float width = std::max(target.TextWidth(title), target.TextWidth(varn.KanjiText(1)));
     const auto x = static_cast<float>(origin.x());
     const auto y = static_cast<float>(origin.y());
     target.DrawWidth = 1;
-    target.FilledBox(x, y, x + Margin + width, y + Margin + target.TextHeight(), QBColor(15));
+    target.FilledBox(x, y, x + Margin + width + Edge, y + Margin + target.TextHeight() + Edge, QBColor(15));
 }
 
 void PlotHanrei(VarnModule& varn, MapSurfaces surfaces)

@@ -79,8 +79,9 @@ TEST(Legend, TheTitleLineIsErasedFirst)
         EXPECT_EQ(QPointF(box.x, box.y), QPointF(200, 300));
         const float longer = std::max(survey.frmMap.TextWidth(survey.varn.KanjiText(1)),
                                       survey.frmMap.TextWidth(survey.varn.Hanrei));
-        EXPECT_FLOAT_EQ(box.x + box.width, 250 + longer) << "to the end of the longer one and no further";
-        EXPECT_FLOAT_EQ(box.y + box.height, 350 + survey.frmMap.TextHeight());
+        const float pixels = 2 * 15; // for the edges of painted letters
+        EXPECT_FLOAT_EQ(box.x + box.width, 250 + longer + pixels) << "to the end of the longer one only";
+        EXPECT_FLOAT_EQ(box.y + box.height, 350 + survey.frmMap.TextHeight() + pixels);
     }
 }
 
