@@ -135,8 +135,6 @@ std::optional<QString> frmMap::askForFile(const QString& title, const QString& f
 
 void frmMap::mnuInputWord_Click()
 {
-    m_ui->mnuMapLing->setEnabled(false);
-    const auto enableAgain = qScopeGuard([this] { enableMapLing(); });
     if (const auto path =
             askForFile(QStringLiteral("Load Linguistic File"), QStringLiteral("DBS Files (*.dbs)|*.dbs"))) {
         LoadWordData(m_varn, *path, m_varn, m_varn);
@@ -154,7 +152,6 @@ void frmMap::mnuHankoInput_Click()
             askForFile(QStringLiteral("Load Symbol File"), QStringLiteral("HAN files (*.han)|*.han"))) {
         LoadHankoData(m_varn.Drive, *path, m_varn);
         symbolSetLoaded(m_varn);
-        enableMapLing();
     }
 }
 
