@@ -185,7 +185,7 @@ void frmData::mnuPrint_Click()
         return;
     }
     const WaitCursor wait;
-    beginDocument(m_varn);
+    beginDocument(m_varn, m_varn, m_pages->list().fileName);
     // Laid out on the paper of this document, which may be another than that of the pages shown.
     const DataPages pages(m_varn, m_pages->list());
     for (int page = 1; page <= pages.count(); ++page) {

@@ -2,7 +2,22 @@
 
 #include "platform/Drawing.h"
 
+#include <QString>
+
 #include <vector>
+
+struct PageLayout;
+
+/// What is printed as one job, on A4.
+struct PrintedDocument
+{
+    /// What the print system or the PDF file calls it.
+    QString name;
+    /// 1 portrait, 2 landscape.
+    int orientation = 2;
+    /// A drawing for each page, whose coordinates are twips from the paper's corner.
+    std::vector<Drawing> pages;
+};
 
 /// A printer that the user has chosen.
 class PrinterDevice
@@ -10,7 +25,10 @@ class PrinterDevice
 public:
     virtual ~PrinterDevice() = default;
 
-    /// Prints one document: a page for each drawing, whose coordinates are twips from the paper's corner.
-    /// Raises device I/O error where the document cannot be printed.
-    virtual void print(const std::vector<Drawing>& pages) = 0;
+    /// Takes over into `layout` the orientation chosen in the printer dialog, and the margins changed there.
+    virtual void takeChoices(PageLayout& layout) const = 0;
+
+    /// Prints one document. Raises device I/O error where the printer does not take it, and where it is
+    /// printed to a file, what writing a file raises.
+    virtual void print(const PrintedDocument& document) = 0;
 };

@@ -2,6 +2,7 @@
 
 #include "platform/PrinterDevice.h"
 
+#include <QMarginsF>
 #include <QString>
 
 class QPrinter;
@@ -11,19 +12,27 @@ struct PageLayout;
 class QtPrinterDevice : public PrinterDevice
 {
 public:
-    /// Prints on `printer`, whose paper is addressed from its corner.
-    explicit QtPrinterDevice(std::unique_ptr<QPrinter> printer);
+    /// Prints on `printer`, whose paper is addressed from its corner. The printer dialog, through which the
+    /// user may have changed its page, showed `shownMargins` at first, in millimetres.
+    explicit QtPrinterDevice(std::unique_ptr<QPrinter> printer, QMarginsF shownMargins = {});
     ~QtPrinterDevice() override;
 
     /// Shows the system's printer dialog, the default printer chosen at first; null where it was cancelled.
     static std::unique_ptr<PrinterDevice> choose(const PageLayout& layout);
 
-    void print(const std::vector<Drawing>& pages) override;
+    void takeChoices(PageLayout& layout) const override;
+    void print(const PrintedDocument& document) override;
 
 private:
+    void printOnPaper(const std::vector<Drawing>& pages);
+    void printToFile(const PrintedDocument& document);
+
     std::unique_ptr<QPrinter> m_printer;
+    QMarginsF m_shownMargins;
+    QMarginsF m_chosenMargins;
     /// The file that the first document goes to; empty for a printer of paper.
     QString m_firstFile;
+    /// How many documents have been printed to files.
     int m_documents = 0;
 };
 

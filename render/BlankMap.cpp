@@ -4,6 +4,8 @@
 #include "platform/StandardColors.h"
 #include "render/SymbolShapes.h"
 
+#include <utility>
+
 namespace {
 
 void copyFont(const DrawSurface& from, DrawSurface& to)
@@ -50,7 +52,7 @@ void plotScaleBar(const PlaceNames& map, const MapGeometry& geometry, DrawSurfac
 void PlotLineData(const MapLines& map, MapGeometry& geometry, MapSurfaces surfaces)
 {
     geometry.Scale = FindMinMax(map, surfaces.frmMap, geometry);
-    surfaces.frmMap.DrawWidth = 1;
+    surfaces.thinLines();
     for (int i = 1; i <= map.NLine; ++i) {
         for (int j = 1; j <= map.LinePoints(i); ++j) {
             for (int k = 0; k <= 1; ++k) {
@@ -71,10 +73,14 @@ void PlotLocateData(const BaseMap& map, const MapStyle& style, MapGeometry& geom
     if (!style.PlotDots) {
         return;
     }
+    DrawSurface& target = surfaces.DrawTarget;
+    const int fillStyle = std::exchange(target.FillStyle, 0);
+    target.FillColor = QBColor(0);
     for (int i = 1; i <= map.NLocality; ++i) {
         placeLocality(map, i, geometry);
-        surfaces.DrawTarget.Circle(geometry.ScreenXY(i, 0), geometry.ScreenXY(i, 1), DotRadius, QBColor(0));
+        target.Circle(geometry.ScreenXY(i, 0), geometry.ScreenXY(i, 1), DotRadius, QBColor(0));
     }
+    target.FillStyle = fillStyle;
 }
 
 void PlotLocateCircle(const Localities& map, MapGeometry& geometry, DrawSurface& target)

@@ -174,7 +174,7 @@ void DrawHankoMap(VarnModule& varn, int k, int row, MapSurfaces surfaces)
             shapes.DrawHanko(hanko, x, y);
         }
     });
-    surfaces.frmMap.DrawWidth = 1;
+    surfaces.thinLines();
     ClsHanrei(varn, surfaces.DrawTarget, varn.MapCaption);
     if (row == 0) {
         return;
@@ -184,7 +184,7 @@ void DrawHankoMap(VarnModule& varn, int k, int row, MapSurfaces surfaces)
     const float y = static_cast<float>(origin.y()) + 600 + 400 * static_cast<float>(row - 1);
     PhoneticText(varn, varn, varn, varn.Pictures, surfaces).PlotChar(x + 200, y, varn.DiffusionCaption(k));
     shapes.DrawHanko(hanko, x, y + 80);
-    surfaces.frmMap.DrawWidth = 1;
+    surfaces.thinLines();
 }
 
 void drawSingleGraph(VarnModule& varn, DiffusionGraph graph, MapSurfaces surfaces)

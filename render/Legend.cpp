@@ -56,11 +56,14 @@ QPointF captionOrigin(const VarnModule& varn)
 
 void ClsHanrei(const VarnModule& varn, DrawSurface& target, const QString& title)
 {
+    constexpr auto Edge = static_cast<float>(2 * TwipsPerPixel); // letters are painted at whole pixels
+
     const QPointF origin = captionOrigin(varn);
     const float width = std::max(target.TextWidth(title), target.TextWidth(varn.KanjiText(1)));
     const auto x = static_cast<float>(origin.x());
     const auto y = static_cast<float>(origin.y());
-    target.FilledBox(x, y, x + width + 2 * Margin, y + target.TextHeight() + 2 * Margin, QBColor(15));
+    target.DrawWidth = 1;
+    target.FilledBox(x, y, x + Margin + width + Edge, y + Margin + target.TextHeight() + Edge, QBColor(15));
 }
 
 void PlotHanrei(VarnModule& varn, MapSurfaces surfaces)
@@ -92,5 +95,5 @@ void PlotHanrei(VarnModule& varn, MapSurfaces surfaces)
         shapes.DrawHanko(varn.Hanko(k), cells.column(), top + SymbolDrop);
         cells.noteTextEnd(phonetic.PlotChar(cells.column() + TextIndent, top, caption));
     }
-    surfaces.frmMap.DrawWidth = 1;
+    surfaces.thinLines();
 }

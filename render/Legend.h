@@ -10,5 +10,6 @@ void PlotHanrei(VarnModule& varn, MapSurfaces surfaces);
 /// Where the caption block starts on the drawing, in twips.
 QPointF captionOrigin(const VarnModule& varn);
 
-/// Paints the title line of the caption block white, as far as `title` and the place name there reach.
+/// Paints the title line of the caption block white, as far as `title` and the place name there reach and no
+/// further, so that the map stays whole.
 void ClsHanrei(const VarnModule& varn, DrawSurface& target, const QString& title);

@@ -54,7 +54,7 @@ void PlotLinguisticData(VarnModule& varn, MapSurfaces surfaces)
             }
         }
     }
-    surfaces.frmMap.DrawWidth = 1;
+    surfaces.thinLines();
 }
 
 void drawLinguisticMap(VarnModule& varn, MapSurfaces surfaces)

@@ -33,6 +33,9 @@ struct MapSurfaces
 {
     DrawSurface& DrawTarget;
     DrawSurface& frmMap;
+
+    /// Makes lines thin again after symbols, whose last one leaves its own width.
+    void thinLines() const { DrawTarget.DrawWidth = frmMap.DrawWidth = 1; }
 };
 
 /// Measures the extent of the lines and returns the scale at which its height fills 98 % of `form`, the map

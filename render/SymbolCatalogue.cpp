@@ -59,5 +59,5 @@ void PlotSymbol(VarnModule& varn, int page, MapSurfaces surfaces)
     }
     target.ScaleLeft = scaleLeft;
     target.FontSize = fontSize;
-    surfaces.frmMap.DrawWidth = 1;
+    surfaces.thinLines();
 }

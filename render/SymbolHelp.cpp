@@ -2,48 +2,99 @@
 
 #include "render/PhoneticText.h"
 
+#include <algorithm>
+
 namespace {
+
+constexpr float Margin = MapGeometry::Margin;
+
+/// The places of the code list on its page for one size of letters, in twips.
+struct SymbolHelpLayout
+{
+    int fontSize;
+    /// From the code of an entry to its glyph, on to the letter, and on to the letter's name.
+    float partStep;
+    float rowStep;
+    float columnGap;
+    int rowsPerColumn;
+    /// Whether all columns stand on the page.
+    bool fits;
+
+    float firstRow() const { return Margin + 2 * rowStep; }
+};
+
+SymbolHelpLayout layoutOf(const std::vector<PhoneticSymbol>& symbols, int fontSize, MapSurfaces surfaces)
+{
+    float dx = 0;
+    qint16 dy = 0;
+    X0Y0(static_cast<qint16>(fontSize), false, dx, dy);
+    surfaces.DrawTarget.FontSize = fontSize;
+    float nameWidth = 0;
+    for (const PhoneticSymbol& symbol : symbols) {
+        nameWidth = std::max(nameWidth, surfaces.DrawTarget.TextWidth(symbol.name));
+    }
+    SymbolHelpLayout layout{fontSize, 2 * dx, static_cast<float>(dy), dx, 1, false};
+    const float height = surfaces.frmMap.Height - layout.firstRow();
+    layout.rowsPerColumn = std::max(1, static_cast<int>(height / layout.rowStep));
+    const auto codes = static_cast<int>(symbols.size());
+    const auto columns = static_cast<float>((codes + layout.rowsPerColumn - 1) / layout.rowsPerColumn);
+    const float width = columns * (3 * layout.partStep + nameWidth) + (columns - 1) * layout.columnGap;
+    layout.fits = Margin + width <= surfaces.frmMap.Width;
+    return layout;
+}
+
+/// The layout with the largest letters, up to those of the map, with which all codes stand on the page; that
+/// with the least ones where none does.
+SymbolHelpLayout fittingLayout(const std::vector<PhoneticSymbol>& symbols, int fontSize, MapSurfaces surfaces)
+{
+    constexpr int LeastFontSize = 8; // a row is then as high as a glyph
+
+    SymbolHelpLayout layout = layoutOf(symbols, fontSize, surfaces);
+    while (!layout.fits && layout.fontSize > LeastFontSize) {
+        layout = layoutOf(symbols, layout.fontSize - 1, surfaces);
+    }
+    return layout;
+}
 
 /// Writes the entries of the code list down the page, column after column.
 class SymbolHelpPage
 {
 public:
-    SymbolHelpPage(VarnModule& varn, MapSurfaces surfaces)
-        : m_target(surfaces.DrawTarget), m_height(surfaces.frmMap.Height),
+    SymbolHelpPage(VarnModule& varn, const SymbolHelpLayout& layout, MapSurfaces surfaces)
+        : m_target(surfaces.DrawTarget), m_layout(layout),
           m_phonetic(varn, varn, varn, varn.Pictures, surfaces)
-    {
-        X0Y0(varn.MapFontSize, false, m_dx, m_dy);
-        m_y = firstRow();
-    }
+    {}
 
     void writeHeading()
     {
-        print(MapGeometry::Margin, MapGeometry::Margin,
-              QStringLiteral("** List of VARN Format Data and Phonetic Alphabets **"));
+        print(Margin, Margin, QStringLiteral("** List of VARN Format Data and Phonetic Alphabets **"));
+        if (!m_layout.fits) {
+            print(Margin, Margin + m_layout.rowStep,
+                  QStringLiteral("Make the map form larger to see all codes."));
+        }
     }
 
     /// The code, the glyph that it is drawn with, the letter, and the letter's name.
     void write(const PhoneticSymbol& symbol)
     {
-        if (m_y + static_cast<float>(m_dy) > m_height) {
-            m_x = m_widestEnd + m_dx;
-            m_y = firstRow();
+        if (m_row == m_layout.rowsPerColumn) {
+            m_row = 0;
+            m_x = m_widestEnd + m_layout.columnGap;
         }
+        const float y = m_layout.firstRow() + static_cast<float>(m_row) * m_layout.rowStep;
         float x = m_x;
-        print(x, m_y, symbol.code);
-        XYPosition(m_target, x, m_widestEnd, 2 * m_dx);
-        m_phonetic.PlotChar(x, m_y, symbol.code);
-        XYPosition(m_target, x, m_widestEnd, 2 * m_dx);
-        print(x, m_y, symbol.letter);
-        XYPosition(m_target, x, m_widestEnd, 2 * m_dx);
-        print(x, m_y, symbol.name);
+        print(x, y, symbol.code);
+        XYPosition(m_target, x, m_widestEnd, m_layout.partStep);
+        m_phonetic.PlotChar(x, y, symbol.code);
+        XYPosition(m_target, x, m_widestEnd, m_layout.partStep);
+        print(x, y, symbol.letter);
+        XYPosition(m_target, x, m_widestEnd, m_layout.partStep);
+        print(x, y, symbol.name);
         XYPosition(m_target, x, m_widestEnd, 0);
-        m_y += static_cast<float>(m_dy);
+        ++m_row;
     }
 
 private:
-    float firstRow() const { return MapGeometry::Margin + 2 * static_cast<float>(m_dy); }
-
     void print(float x, float y, const QString& text)
     {
         m_target.CurrentX = x;
@@ -52,12 +103,10 @@ private:
     }
 
     DrawSurface& m_target;
-    float m_height;
+    const SymbolHelpLayout& m_layout;
     PhoneticText m_phonetic;
-    float m_dx = 0;
-    qint16 m_dy = 0;
-    float m_x = MapGeometry::Margin;
-    float m_y = 0;
+    int m_row = 0;
+    float m_x = Margin;
     float m_widestEnd = 0;
 };
 
@@ -66,9 +115,12 @@ private:
 void WriteSymbolHelp(VarnModule& varn, MapSurfaces surfaces)
 {
     surfaces.frmMap.Cls();
-    SymbolHelpPage page(varn, surfaces);
+    const int fontSize = surfaces.DrawTarget.FontSize;
+    const SymbolHelpLayout layout = fittingLayout(varn.ExpSymbols, varn.MapFontSize, surfaces);
+    SymbolHelpPage page(varn, layout, surfaces);
     page.writeHeading();
     for (const PhoneticSymbol& symbol : varn.ExpSymbols) {
         page.write(symbol);
     }
+    surfaces.DrawTarget.FontSize = fontSize;
 }

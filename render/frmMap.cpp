@@ -1,5 +1,6 @@
 #include "render/frmMap.h"
 
+#include "lingdata/LocalityMismatch.h"
 #include "render/MapSize.h"
 #include "shell/Printing.h"
 #include "ui_frmMap.h"
@@ -30,6 +31,7 @@ frmMap::frmMap(VarnModule& varn, Dialogs& dialogs)
     m_lblInsatsumode->setFlat(true);
     m_lblInsatsumode->setToolTip(QStringLiteral("Turn printing on or off"));
     statusBar()->addPermanentWidget(m_lblInsatsumode);
+    nameControls();
     connectMenus();
     connectOptions();
     move(screen()->availableGeometry().topLeft());
@@ -37,6 +39,13 @@ frmMap::frmMap(VarnModule& varn, Dialogs& dialogs)
 }
 
 frmMap::~frmMap() = default;
+
+void frmMap::nameControls()
+{
+    m_loaded->setAccessibleName(QStringLiteral("Loaded files"));
+    m_lblInsatsumode->setAccessibleDescription(m_lblInsatsumode->toolTip());
+    setTabOrder(m_ui->optHankoDown, m_lblInsatsumode);
+}
 
 void frmMap::connectMenus()
 {
@@ -86,7 +95,6 @@ void frmMap::connectOptions()
 void frmMap::Form_Load()
 {
     m_varn.DrawTarget = &m_surface;
-    enableMapLing();
     applyMapFont();
     refresh();
 }
@@ -110,9 +118,23 @@ MapSurfaces frmMap::surfaces()
 void frmMap::refresh()
 {
     m_ui->picMap->refresh();
+    showState();
+}
+
+void frmMap::showState()
+{
     showLoaded();
     DisplayInsatsu();
+    enableMapLing();
     enableTotal();
+}
+
+void frmMap::changeEvent(QEvent* event)
+{
+    VarnForm::changeEvent(event);
+    if (event->type() == QEvent::ActivationChange) {
+        showState(); // other forms may have changed it meanwhile
+    }
 }
 
 void frmMap::showLoaded()
@@ -122,15 +144,19 @@ void frmMap::showLoaded()
     title.removeAll(QString());
     setWindowTitle(title.join(QStringLiteral(" - ")));
 
+    const bool haveItem = !m_varn.ItemFileName.isEmpty();
+    const QString mismatch = haveItem ? localityMismatch(m_varn.NLocate, m_varn.NLocality) : QString();
     const QString item =
-        m_varn.ItemFileName.isEmpty()
+        !haveItem
             ? QStringLiteral("No linguistic file loaded")
             : QStringLiteral("Item: %1 (%2 localities)").arg(m_varn.Hanrei, QString::number(m_varn.NLocate));
     const QString symbols = m_varn.SymbolFileName.isEmpty()
                                 ? QStringLiteral("No symbol file loaded")
                                 : QStringLiteral("Symbols: %1 (%2 captions)")
                                       .arg(m_varn.SymbolFileName, QString::number(m_varn.NHanrei));
-    m_loaded->setText(item + QStringLiteral("    |    ") + symbols);
+    QStringList parts = {mismatch, item, symbols};
+    parts.removeAll(QString());
+    m_loaded->setText(parts.join(QStringLiteral("    |    ")));
 }
 
 void frmMap::enableTotal()

@@ -42,6 +42,7 @@ Q_SIGNALS:
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
+    void changeEvent(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
@@ -70,8 +71,9 @@ private:
     void mnuHankoNext_Click();
     void mnuHankoPrevious_Click();
 
-    /// Runs `draw` on the form or, in print mode, on a document of its own.
-    void drawOnTarget(const std::function<void()>& draw);
+    /// Runs `draw` on the form or, in print mode, on a document of its own, named for the map and `subject`.
+    void drawOnTarget(const QString& subject, const std::function<void()>& draw);
+    void printDocument(const QString& name);
     void DisplayInsatsu();
     void enableTotal();
     void hideStyle();
@@ -79,8 +81,10 @@ private:
     std::optional<QString> askForFile(const QString& title, const QString& filter);
 
     void applyMapFont();
+    void nameControls();
     void showArea();
     void followWindow();
+    void showState();
     void showLoaded();
 
     std::unique_ptr<Ui::frmMap> m_ui;

@@ -22,17 +22,41 @@
 #include <QGuiApplication>
 #include <QMimeData>
 #include <QScopeGuard>
+#include <QStatusBar>
 
 #include <algorithm>
 #include <memory>
 
-void frmMap::drawOnTarget(const std::function<void()>& draw)
+void frmMap::drawOnTarget(const QString& subject, const std::function<void()>& draw)
 {
-    const WaitCursor wait;
+    QStringList name = {m_varn.VarnMapName.mid(1), subject};
+    name.removeAll(QString());
+    const QString document = name.join(QStringLiteral(" - "));
+    const auto backToForm = qScopeGuard([this] { m_varn.DrawTarget = &m_surface; });
     hideStyle();
-    PrintYesNo(m_varn, m_surface);
-    draw();
+    {
+        const WaitCursor wait;
+        PrintYesNo(m_varn, m_surface, document);
+        draw();
+    }
+    if (m_varn.PrintMode) {
+        printDocument(document);
+    }
+}
+
+void frmMap::printDocument(const QString& name)
+{
+    constexpr int MessageTime = 10000; // milliseconds
+
+    if (!fitsPaper(m_varn) &&
+        !dialogs().confirmLoss(QStringLiteral("The drawing is larger than the paper within its margins and "
+                                              "will be cut. Print it ?"),
+                               QStringLiteral("Print"))) {
+        return;
+    }
+    const WaitCursor wait;
     PrintEnd(m_varn);
+    statusBar()->showMessage(QStringLiteral("Printed: ") + name, MessageTime);
 }
 
 // File
@@ -111,8 +135,6 @@ std::optional<QString> frmMap::askForFile(const QString& title, const QString& f
 
 void frmMap::mnuInputWord_Click()
 {
-    m_ui->mnuMapLing->setEnabled(false);
-    const auto enableAgain = qScopeGuard([this] { enableMapLing(); });
     if (const auto path =
             askForFile(QStringLiteral("Load Linguistic File"), QStringLiteral("DBS Files (*.dbs)|*.dbs"))) {
         LoadWordData(m_varn, *path, m_varn, m_varn, dialogs());
@@ -130,7 +152,6 @@ void frmMap::mnuHankoInput_Click()
             askForFile(QStringLiteral("Load Symbol File"), QStringLiteral("HAN files (*.han)|*.han"))) {
         LoadHankoData(m_varn.Drive, *path, m_varn);
         symbolSetLoaded(m_varn);
-        enableMapLing();
     }
 }
 
@@ -144,15 +165,13 @@ void frmMap::enableMapLing()
 
 void frmMap::mnuMapLing_Click()
 {
-    drawOnTarget([this] { drawLinguisticMap(m_varn, surfaces()); });
+    drawOnTarget(QFileInfo(m_varn.ItemFileName).completeBaseName(),
+                 [this] { drawLinguisticMap(m_varn, surfaces()); });
 }
 
 void frmMap::mnuMapBlank_Click()
 {
-    drawOnTarget([this] {
-        PlotHanrei(m_varn, surfaces());
-        DrawBlankMap(m_varn, surfaces());
-    });
+    drawOnTarget(QStringLiteral("Blank Map"), [this] { DrawBlankMap(m_varn, surfaces()); });
 }
 
 void frmMap::mnuHanrei_Click()
@@ -165,39 +184,44 @@ void frmMap::mnuHanrei_Click()
 
 void frmMap::mnuSymbols_Click()
 {
-    drawOnTarget([this] { WriteSymbolHelp(m_varn, surfaces()); });
+    drawOnTarget(QStringLiteral("Phonetic Alphabets"), [this] { WriteSymbolHelp(m_varn, surfaces()); });
 }
 
 // Diffusion Map
 
 void frmMap::mnuTotalBar_Click()
 {
-    drawOnTarget([this] { drawSingleGraph(m_varn, DiffusionGraph::Bar, surfaces()); });
+    drawOnTarget(QStringLiteral("Diffusion Map"),
+                 [this] { drawSingleGraph(m_varn, DiffusionGraph::Bar, surfaces()); });
 }
 
 void frmMap::mnuTotalSBar_Click()
 {
-    drawOnTarget([this] { drawLayeredGraph(m_varn, DiffusionGraph::Bar, surfaces()); });
+    drawOnTarget(QStringLiteral("Diffusion Map"),
+                 [this] { drawLayeredGraph(m_varn, DiffusionGraph::Bar, surfaces()); });
 }
 
 void frmMap::mnuTotalCircle_Click()
 {
-    drawOnTarget([this] { drawSingleGraph(m_varn, DiffusionGraph::Circle, surfaces()); });
+    drawOnTarget(QStringLiteral("Diffusion Map"),
+                 [this] { drawSingleGraph(m_varn, DiffusionGraph::Circle, surfaces()); });
 }
 
 void frmMap::mnuTotalSCircle_Click()
 {
-    drawOnTarget([this] { drawLayeredGraph(m_varn, DiffusionGraph::Circle, surfaces()); });
+    drawOnTarget(QStringLiteral("Diffusion Map"),
+                 [this] { drawLayeredGraph(m_varn, DiffusionGraph::Circle, surfaces()); });
 }
 
 void frmMap::mnuTotalHanko_Click()
 {
-    drawOnTarget([this] { drawLayeredGraph(m_varn, DiffusionGraph::Symbol, surfaces()); });
+    drawOnTarget(QStringLiteral("Diffusion Map"),
+                 [this] { drawLayeredGraph(m_varn, DiffusionGraph::Symbol, surfaces()); });
 }
 
 void frmMap::mnuRank_Click()
 {
-    drawOnTarget([this] { drawContrastMap(m_varn, surfaces()); });
+    drawOnTarget(QStringLiteral("Contrast Map"), [this] { drawContrastMap(m_varn, surfaces()); });
 }
 
 // Set Map
@@ -270,5 +294,5 @@ void frmMap::mnuHankoPrevious_Click()
 
 void frmMap::plotSymbolPage()
 {
-    drawOnTarget([this] { PlotSymbol(m_varn, m_symbolPage, surfaces()); });
+    drawOnTarget(QStringLiteral("Symbols"), [this] { PlotSymbol(m_varn, m_symbolPage, surfaces()); });
 }

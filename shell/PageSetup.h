@@ -6,7 +6,6 @@
 #include <QString>
 
 #include <memory>
-#include <vector>
 
 /// Paper and margins of printed pages, in whole millimetres.
 struct PageLayout
@@ -37,6 +36,6 @@ struct PageSetup : PageLayout
     std::unique_ptr<PrinterDevice> Device;
     /// The page being drawn: its origin lies at the margins.
     DrawSurface Printer;
-    /// Finished pages of the document being drawn.
-    std::vector<Drawing> PrintedPages;
+    /// The document being drawn, with its finished pages.
+    PrintedDocument Document;
 };

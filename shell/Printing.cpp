@@ -1,7 +1,9 @@
 #include "shell/Printing.h"
 
+#include "platform/DrawnArea.h"
 #include "platform/Numbers.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace {
@@ -9,6 +11,24 @@ namespace {
 QString orientationName(const PageLayout& layout)
 {
     return layout.PaperOrientation == 2 ? QStringLiteral("Landscape") : QStringLiteral("Portrait");
+}
+
+/// An empty page with the paper, the margins and the font chosen now.
+void preparePage(PageSetup& page, const MapFont& font)
+{
+    DrawSurface& printer = page.Printer;
+    printer.Width = toSingle(page.PaperWidth * TwipsPerMm);
+    printer.Height = toSingle(page.PaperHeight * TwipsPerMm);
+    printer.ScaleLeft = toSingle(-page.LeftMargin * TwipsPerMm);
+    printer.ScaleTop = toSingle(-page.TopMargin * TwipsPerMm);
+    printer.FontName = font.MapFontName;
+    printer.FontSize = font.MapFontSize;
+    printer.FontBold = font.MapFontBold;
+    printer.FontItalic = font.MapFontItalic;
+    printer.DrawWidth = 1;
+    printer.DrawStyle = 0;
+    printer.FillStyle = 1;
+    printer.Cls();
 }
 
 } // namespace
@@ -61,17 +81,20 @@ void connectPrinter(VarnModule& varn, std::unique_ptr<PrinterDevice> device)
 {
     varn.Device = std::move(device);
     varn.PrinterConnected = varn.Device != nullptr;
+    if (!varn.PrinterConnected) {
+        varn.PrintMode = false;
+        return;
+    }
+    varn.Device->takeChoices(varn);
+    setPaper(varn, varn.PaperOrientation);
+    preparePage(varn, varn);
     SettingPrinterScale(varn, varn);
-    varn.Printer.FontName = varn.MapFontName;
-    varn.Printer.FontSize = varn.MapFontSize;
-    varn.Printer.Width = toSingle(varn.PaperWidth * TwipsPerMm);
-    varn.Printer.Height = toSingle(varn.PaperHeight * TwipsPerMm);
 }
 
-void PrintYesNo(VarnModule& varn, DrawSurface& frmMap)
+void PrintYesNo(VarnModule& varn, DrawSurface& frmMap, const QString& name)
 {
     if (varn.PrintMode) {
-        beginDocument(varn);
+        beginDocument(varn, varn, name);
         varn.DrawTarget = &varn.Printer;
     } else {
         varn.DrawTarget = &frmMap;
@@ -80,7 +103,7 @@ void PrintYesNo(VarnModule& varn, DrawSurface& frmMap)
 
 void newPage(PageSetup& page)
 {
-    page.PrintedPages.push_back(page.Printer.drawing());
+    page.Document.pages.push_back(page.Printer.drawing());
     page.Printer.Cls();
 }
 
@@ -91,23 +114,30 @@ void PrintEnd(VarnModule& varn)
     }
 }
 
-void beginDocument(PageSetup& page)
+void beginDocument(PageSetup& page, const MapFont& font, const QString& name)
 {
-    page.PrintedPages.clear();
-    page.Printer.ScaleLeft = toSingle(-page.LeftMargin * TwipsPerMm);
-    page.Printer.ScaleTop = toSingle(-page.TopMargin * TwipsPerMm);
-    page.Printer.Cls();
-    page.Printer.DrawWidth = 1;
-    page.Printer.DrawStyle = 0;
-    page.Printer.FillStyle = 1;
+    page.Document = {name, page.PaperOrientation, {}};
+    preparePage(page, font);
+}
+
+bool fitsPaper(const PageSetup& page)
+{
+    const QRectF paper(0, 0, page.PaperWidth * TwipsPerMm, page.PaperHeight * TwipsPerMm);
+    const QRectF area = paper.adjusted(page.LeftMargin * TwipsPerMm, page.TopMargin * TwipsPerMm,
+                                       -page.RightMargin * TwipsPerMm, -page.BottomMargin * TwipsPerMm);
+    const auto fits = [&area](const Drawing& drawing) {
+        return drawing.operations.empty() || area.contains(drawnArea(drawing));
+    };
+    return fits(page.Printer.drawing()) &&
+           std::all_of(page.Document.pages.begin(), page.Document.pages.end(), fits);
 }
 
 void endDocument(PageSetup& page)
 {
     newPage(page);
-    const std::vector<Drawing> pages = std::exchange(page.PrintedPages, {});
+    const PrintedDocument document = std::exchange(page.Document, {});
     if (page.Device == nullptr) {
         throw RunTimeError(ErrorNumber::DeviceIOError, QStringLiteral("No printer is chosen."));
     }
-    page.Device->print(pages);
+    page.Device->print(document);
 }

@@ -11,6 +11,9 @@
 #include "render/frmMap.h"
 #include "symbols/frmSetHanko.h"
 
+#include <array>
+#include <utility>
+
 class QLineEdit;
 struct MapFont;
 struct PageLayout;
@@ -69,6 +72,9 @@ private:
     void prepareSetMergin();
     void recomputePaper();
     void displayPaper();
+    using MarginBox = std::pair<QLineEdit*, qint16 PageLayout::*>;
+    std::array<MarginBox, 4> marginBoxes() const;
+    void displayMargins();
     void SetPrinter();
     void txtMergin_Change(const QLineEdit& box, qint16 PageLayout::*margin);
     void cboPaper_Click();

@@ -5,8 +5,7 @@
 #include "shell/frmMain.h"
 #include "ui_frmMain.h"
 
-#include <array>
-#include <utility>
+#include <QScopeGuard>
 
 namespace {
 
@@ -22,15 +21,8 @@ void frmMain::prepareSetMergin()
     m_ui->cboOrientation->addItems({QStringLiteral("Portrait"), QStringLiteral("Landscape")});
     m_ui->cboOrientation->setCurrentIndex(LandscapeIndex);
 
-    using MarginBox = std::pair<QLineEdit*, qint16 PageLayout::*>;
-    const std::array<MarginBox, 4> boxes = {{
-        {m_ui->txtTopMergin, &PageLayout::TopMargin},
-        {m_ui->txtBottomMergin, &PageLayout::BottomMargin},
-        {m_ui->txtLeftMergin, &PageLayout::LeftMargin},
-        {m_ui->txtRightMergin, &PageLayout::RightMargin},
-    }};
-    for (const auto& [box, margin] : boxes) {
-        box->setText(QString::number(m_varn.*margin));
+    displayMargins();
+    for (const auto& [box, margin] : marginBoxes()) {
         connect(box, &QLineEdit::textChanged, this, [this, box = box, margin = margin] {
             run([this, box, margin] { txtMergin_Change(*box, margin); });
         });
@@ -43,15 +35,33 @@ void frmMain::prepareSetMergin()
     handle(m_ui->cmdExitSetMergin, &QPushButton::clicked, &frmMain::cmdExitSetMergin_Click);
 }
 
+std::array<frmMain::MarginBox, 4> frmMain::marginBoxes() const
+{
+    return {{
+        {m_ui->txtTopMergin, &PageLayout::TopMargin},
+        {m_ui->txtBottomMergin, &PageLayout::BottomMargin},
+        {m_ui->txtLeftMergin, &PageLayout::LeftMargin},
+        {m_ui->txtRightMergin, &PageLayout::RightMargin},
+    }};
+}
+
+void frmMain::displayMargins()
+{
+    for (const auto& [box, margin] : marginBoxes()) {
+        box->setText(QString::number(m_varn.*margin));
+    }
+}
+
 void frmMain::recomputePaper()
 {
     setPaper(m_varn, m_ui->cboOrientation->currentIndex() == LandscapeIndex ? 2 : 1);
-    m_ui->cboPaperSize->setCurrentText(m_varn.PaperSizeName);
     displayPaper();
 }
 
 void frmMain::displayPaper()
 {
+    m_ui->cboPaperSize->setCurrentText(m_varn.PaperSizeName);
+    m_ui->cboOrientation->setCurrentIndex(m_varn.PaperOrientation == 2 ? LandscapeIndex : 0);
     m_ui->lblDisplayPaperSize->setText(paperLabel(m_varn));
     m_ui->lblPaperSpace->setText(paperSpaceLabel(m_varn));
 }
@@ -85,9 +95,13 @@ void frmMain::cmdExitSetMergin_Click()
 
 void frmMain::SetPrinter()
 {
+    const auto closed = qScopeGuard([this] {
+        displayPaper();
+        displayMargins();
+        m_ui->fraSetMergin->hide();
+    });
     connectPrinter(m_varn, dialogs().choosePrinter(m_varn));
     if (!m_varn.PrinterConnected) {
         dialogs().message(QStringLiteral("Printer is not connected."), QStringLiteral("Set Printer"));
     }
-    m_ui->fraSetMergin->hide();
 }

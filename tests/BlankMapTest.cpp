@@ -4,6 +4,8 @@
 #include "render/MapSize.h"
 #include "tests/TestDrive.h"
 
+#include <QLineF>
+
 TEST(BlankMap, TheHeightOfTheFormSetsTheScale)
 {
     TestSurvey survey;
@@ -56,6 +58,8 @@ TEST(BlankMap, LayersAreDrawnAtScaleWithAMargin)
     ASSERT_EQ(dots.size(), 3U);
     EXPECT_FLOAT_EQ(dots[1].x, 300 * 8.82F + 50);
     EXPECT_EQ(dots[1].halfWidth, 2);
+    EXPECT_EQ(dots[1].fill, QBColor(0)) << "a black point";
+    EXPECT_EQ(survey.frmMap.FillStyle, 1) << "what follows is not filled";
 }
 
 TEST(BlankMap, TheScaleBarHasATickForEachDivision)
@@ -63,18 +67,20 @@ TEST(BlankMap, TheScaleBarHasATickForEachDivision)
     TestSurvey survey;
     DrawBlankMap(survey.varn, survey.surfaces);
     const Drawing& drawing = survey.frmMap.drawing();
-    const float y0 = 900 * 8.82F + 50;
-    EXPECT_NEAR(printedAt(drawing, QStringLiteral("0")).y(), y0 - 300, 0.01);
-    EXPECT_NEAR(printedAt(drawing, QStringLiteral("20 km")).y(), y0 - 300, 0.01);
-    int endTicks = 0;
-    int innerTicks = 0;
-    for (std::size_t i = 1; i < drawing.points.size(); ++i) {
-        const QPointF rise = drawing.points[i - 1] - drawing.points[i];
-        endTicks += std::abs(rise.y() - 250) < 0.01 && rise.x() == 0 ? 1 : 0;
-        innerTicks += std::abs(rise.y() - 250.0 / 3) < 0.01 && rise.x() == 0 ? 1 : 0;
+    const QPointF left(100 * 8.82 + 50, 900 * 8.82 + 50);
+    const double length = 200 * 8.82;
+    const auto near = [](QPointF a, QPointF b) { return QLineF(a, b).length() < 0.01; };
+    EXPECT_TRUE(near(printedAt(drawing, QStringLiteral("0")), left + QPointF(50, -300)));
+    EXPECT_TRUE(near(printedAt(drawing, QStringLiteral("20 km")), left + QPointF(length + 50, -300)));
+    const auto lines = operationsOf<PolylineOperation>(drawing);
+    ASSERT_EQ(lines.size(), 1U + 1 + 5) << "coast, bar, ticks";
+    for (int i = -1; i <= 4; ++i) {
+        const QPointF* points = &drawing.points[lines[static_cast<std::size_t>(i + 2)].firstPoint];
+        const QPointF foot = i < 0 ? left : left + QPointF(i * length / 4, 0);
+        const QPointF rise = i < 0 ? QPointF(length, 0) : QPointF(0, i == 0 || i == 4 ? -250 : -250.0 / 3);
+        EXPECT_TRUE(near(points[0], foot)) << i;
+        EXPECT_TRUE(near(points[1], foot + rise)) << i;
     }
-    EXPECT_EQ(endTicks, 2);
-    EXPECT_EQ(innerTicks, 3);
 
     survey.varn.ScaleDivisions = 0;
     EXPECT_EQ(errorOf([&] { DrawBlankMap(survey.varn, survey.surfaces); }).number(),

@@ -130,7 +130,7 @@ TEST_F(DataForm, AllPagesArePrintedAsOneDocument)
               QStringLiteral("Printer is not connected. Please connect the printer in the Main Form."));
 
     connectPrinter(varn, std::make_unique<RecordingPrinter>(documents));
-    varn.Printer.FontSize = 23;
+    varn.MapFontSize = 23;
     dialogs.yesNo = {false, true};
     menu("mnuPrint").trigger();
     EXPECT_TRUE(documents.empty());

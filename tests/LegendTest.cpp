@@ -67,13 +67,22 @@ TEST(Legend, TheTitleLineIsErasedFirst)
 {
     LegendSurvey survey;
     survey.varn.KanjiText(1) = QStringLiteral("A survey's long title");
-    PlotHanrei(survey.varn, survey.surfaces);
-    const auto box = operationsOf<BoxOperation>(survey.frmMap.drawing()).at(0);
-    EXPECT_EQ(box.fill, QBColor(15));
-    EXPECT_EQ(box.x, 200);
-    EXPECT_EQ(box.y, 300);
-    EXPECT_GT(box.x + box.width, 250 + survey.frmMap.TextWidth(survey.varn.KanjiText(1)));
-    EXPECT_GT(box.y + box.height, 350 + survey.frmMap.TextHeight());
+    survey.frmMap.DrawWidth = 5; // as a symbol leaves it
+    for (const char* title : {"Rain", "An item's title that is longer than the survey's"}) {
+        survey.frmMap.Cls();
+        survey.varn.Hanrei = QString::fromLatin1(title);
+        PlotHanrei(survey.varn, survey.surfaces);
+        const Drawing& drawing = survey.frmMap.drawing();
+        const auto box = operationsOf<BoxOperation>(drawing).at(0);
+        EXPECT_EQ(box.fill, QBColor(15));
+        EXPECT_EQ(drawing.pens.at(static_cast<std::size_t>(box.pen)), (LinePen{QBColor(15), 1, 0}));
+        EXPECT_EQ(QPointF(box.x, box.y), QPointF(200, 300));
+        const float longer = std::max(survey.frmMap.TextWidth(survey.varn.KanjiText(1)),
+                                      survey.frmMap.TextWidth(survey.varn.Hanrei));
+        const float pixels = 2 * 15; // for the edges of painted letters
+        EXPECT_FLOAT_EQ(box.x + box.width, 250 + longer + pixels) << "to the end of the longer one only";
+        EXPECT_FLOAT_EQ(box.y + box.height, 350 + survey.frmMap.TextHeight() + pixels);
+    }
 }
 
 TEST(Legend, AFormOfOneRowDividesByZero)

@@ -1,6 +1,10 @@
 #include "render/LinguisticMap.h"
 
+#include "render/BlankMap.h"
+#include "render/Legend.h"
 #include "tests/TestDrive.h"
+
+#include <functional>
 
 namespace {
 
@@ -58,7 +62,30 @@ TEST(LinguisticMap, WordFormsStandInTheirSlots)
         EXPECT_EQ(plottedCircles(survey), (Circles{{150, 250, 100}, row.third})) << row.position;
     }
     EXPECT_EQ(survey.varn.ScreenXY(1, 0), 150);
-    EXPECT_EQ(survey.frmMap.DrawWidth, 1);
+}
+
+TEST(LinguisticMap, AThickSymbolLeavesThinLinesOnFormAndPrinter)
+{
+    TestSurvey survey;
+    setWords(survey.varn, 1, {QStringLiteral("a")});
+    addSymbol(survey.varn, QStringLiteral("a"), 1);
+    survey.varn.Hanko(1).LineThick = 2;
+    survey.varn.HankoCaption(1) = QStringLiteral("a");
+    DrawSurface printer;
+    const MapSurfaces surfaces{printer, survey.frmMap};
+    const std::function<void()> steps[] = {
+        [&] { PlotLinguisticData(survey.varn, surfaces); },
+        [&] { PlotHanrei(survey.varn, surfaces); },
+        [&] { PlotLineData(survey.varn, survey.varn, surfaces); },
+    };
+    for (const auto& draw : steps) {
+        printer.DrawWidth = 7;
+        survey.frmMap.DrawWidth = 7;
+        draw();
+        EXPECT_EQ(printer.DrawWidth, 1);
+        EXPECT_EQ(survey.frmMap.DrawWidth, 1);
+    }
+    EXPECT_EQ(printer.drawing().pens.at(0).width, 5) << "the symbol was thick";
 }
 
 TEST(LinguisticMap, ARecordMarksEveryFormThatContainsItsKind)

@@ -1,5 +1,6 @@
 #include "render/PhoneticText.h"
 
+#include "platform/DrawnArea.h"
 #include "render/SymbolHelp.h"
 #include "tests/TestDrive.h"
 
@@ -134,21 +135,30 @@ TEST(PhoneticText, AMissingOrBrokenBitmapIsAnErrorThatNamesIt)
     EXPECT_EQ(errorOf([&] { survey.plot("\\A2"); }).number(), ErrorNumber::TypeMismatch);
 }
 
-TEST(SymbolHelp, TheCodeListFillsColumns)
+TEST(SymbolHelp, AllCodesStandOnThePageWhateverTheFontOfTheMap)
 {
     GlyphSurvey survey;
-    QByteArray list = "60\r\n";
-    for (int i = 1; i <= 60; ++i) {
-        list += "\"\\A1\",\"a\",\"name " + QByteArray::number(i) + "\"\r\n";
+    for (int i = 1; i <= 54; ++i) {
+        survey.varn.ExpSymbols.push_back(
+            {QStringLiteral("\\A1"), QStringLiteral("a"), QStringLiteral("a long name of vowel %1").arg(i)});
     }
-    survey.write(survey.varn.VarnPath + QStringLiteral("\\VarnData\\ExpSymbol.txt"), list);
-    survey.varn.ExpSymbols = LoadSymbols(survey.varn);
+    const QString note = QStringLiteral("Make the map form larger to see all codes.");
+    const QRectF paper(0, 0, survey.frmMap.Width, survey.frmMap.Height);
+    for (const int size : {8, 10, 12, 18, 36}) {
+        survey.varn.MapFontSize = static_cast<qint16>(size);
+        survey.frmMap.FontSize = size;
+        WriteSymbolHelp(survey.varn, survey.surfaces);
+        const Drawing& drawing = survey.frmMap.drawing();
+        EXPECT_TRUE(paper.contains(drawnArea(drawing))) << size;
+        EXPECT_EQ(operationsOf<PictureOperation>(drawing).size(), 54U);
+        const QPointF first = printedAt(drawing, QStringLiteral("a long name of vowel 1"));
+        const QPointF second = printedAt(drawing, QStringLiteral("a long name of vowel 2"));
+        EXPECT_GE(second.y() - first.y(), 240) << "as far apart as glyphs are high, size " << size;
+        EXPECT_GT(printedAt(drawing, QStringLiteral("a long name of vowel 54")).x(), first.x());
+        EXPECT_FALSE(wasPrinted(drawing, note));
+        EXPECT_EQ(survey.frmMap.FontSize, size);
+    }
+    survey.frmMap.Height = 3000;
     WriteSymbolHelp(survey.varn, survey.surfaces);
-    const Drawing& drawing = survey.frmMap.drawing();
-    EXPECT_TRUE(wasPrinted(drawing, QStringLiteral("** List of VARN Format Data and Phonetic Alphabets **")));
-    const QPointF first = printedAt(drawing, QStringLiteral("name 1"));
-    const QPointF last = printedAt(drawing, QStringLiteral("name 60"));
-    EXPECT_EQ(printedAt(drawing, QStringLiteral("name 2")).y() - first.y(), 288);
-    EXPECT_GT(last.x(), first.x()) << "a second column";
-    EXPECT_LT(last.y(), survey.frmMap.Height - 288);
+    EXPECT_TRUE(wasPrinted(survey.frmMap.drawing(), note)) << "there is no room for them";
 }

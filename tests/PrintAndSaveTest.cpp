@@ -6,8 +6,10 @@
 #include <QFile>
 #include <QGroupBox>
 #include <QImage>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMimeData>
+#include <QStatusBar>
 
 namespace {
 
@@ -30,11 +32,13 @@ protected:
 
     QPushButton& printSwitch() const { return child<QPushButton>(program.map(), "lblInsatsumode"); }
 
-    void choosePrinter()
+    void choosePrinter(const PageLayout& chosen = {})
     {
-        program.dialogs.printer = std::make_unique<RecordingPrinter>(documents);
+        program.dialogs.printer = std::make_unique<RecordingPrinter>(documents, chosen);
         control<QPushButton>("cmdPrinter").click();
     }
+
+    QString status() const { return program.map().statusBar()->currentMessage(); }
 
     RecordingPrinter::Documents documents;
 };
@@ -68,15 +72,131 @@ TEST_F(LoadedProgram, TheSwitchSendsEveryDrawingToThePrinter)
     program.menu("mnuFilePrint").trigger();
     EXPECT_EQ(printSwitch().text(), QStringLiteral("Print A4 Landscape"));
     program.menu("mnuMapLing").trigger();
+    EXPECT_EQ(status(), QStringLiteral("Printed: Test - rain"));
     program.menu("mnuHankoList").trigger();
     ASSERT_EQ(documents.size(), 2U);
     EXPECT_TRUE(wasPrinted(documents[0].at(0), QStringLiteral("UYU")));
+    EXPECT_EQ(documents[0].name, QStringLiteral("Test - rain"));
     EXPECT_TRUE(wasPrinted(documents[1].at(0), QStringLiteral("1")));
+    EXPECT_EQ(documents[1].name, QStringLiteral("Test - Symbols"));
 
     printSwitch().click();
     program.menu("mnuMapLing").trigger();
     EXPECT_EQ(documents.size(), 2U);
     EXPECT_TRUE(wasPrinted(program.drawing(), QStringLiteral("UYU")));
+}
+
+TEST_F(LoadedProgram, ABlankMapIsTheSameOnPaperAndOnScreen)
+{
+    program.menu("mnuMapBlank").trigger();
+    const std::vector<QString> shown = program.drawing().texts;
+    choosePrinter();
+    printSwitch().click();
+    program.menu("mnuMapBlank").trigger();
+    ASSERT_EQ(documents.size(), 1U);
+    EXPECT_EQ(documents[0].at(0).texts, shown);
+    EXPECT_EQ(documents[0].name, QStringLiteral("Test - Blank Map"));
+    EXPECT_TRUE(wasPrinted(documents[0][0], QStringLiteral("Title")));
+    EXPECT_FALSE(wasPrinted(documents[0][0], QStringLiteral("UYU"))) << "no legend";
+
+    const QString names = survey.hostPath(QStringLiteral("names.map"));
+    survey.write(QStringLiteral("C:\\names.map"), "1\r\n5,5\r\n\"Cape\"\r\n5,9\r\n\"1 km\",1,10\r\n");
+    program.dialogs.files = {names};
+    program.main.findChild<QAction*>(QStringLiteral("mnuImportPlaceNames"))->trigger();
+    EXPECT_TRUE(wasPrinted(program.drawing(), QStringLiteral("Cape"))) << "the form is drawn on again";
+}
+
+TEST_F(LoadedProgram, AMapLargerThanThePaperIsPrintedOnRequestOnly)
+{
+    choosePrinter();
+    printSwitch().click();
+    program.dialogs.inputs = {QStringLiteral("250")};
+    program.menu("mnuMapSize").trigger();
+    program.dialogs.yesNo = {false, true};
+    program.menu("mnuMapBlank").trigger();
+    EXPECT_EQ(program.dialogs.shown.back().text,
+              QStringLiteral(
+                  "The drawing is larger than the paper within its margins and will be cut. Print it ?"));
+    EXPECT_TRUE(documents.empty());
+    EXPECT_EQ(status(), QString());
+    program.menu("mnuMapBlank").trigger();
+    EXPECT_EQ(documents.size(), 1U);
+}
+
+TEST_F(LoadedProgram, ThePageOfThePrinterIsTakenOverAndMayBeChangedAfterwards)
+{
+    PageLayout chosen;
+    chosen.PaperOrientation = 1;
+    chosen.LeftMargin = 10;
+    choosePrinter(chosen);
+    EXPECT_EQ(control<QLineEdit>("txtLeftMergin").text(), QStringLiteral("10"));
+    EXPECT_EQ(control<QPushButton>("lblDisplayPaperSize").text(),
+              QStringLiteral("A4 Portrait(297 X 210) mm"));
+    EXPECT_EQ(control<QComboBox>("cboOrientation").currentText(), QStringLiteral("Portrait"));
+    printSwitch().click();
+    EXPECT_EQ(printSwitch().text(), QStringLiteral("Print A4 Portrait"));
+    control<QPushButton>("lblDisplayPaperSize").click();
+    EXPECT_EQ(printSwitch().text(), QStringLiteral("Print A4 Landscape"));
+    program.menu("mnuMapLing").trigger();
+    ASSERT_EQ(documents.size(), 1U);
+    EXPECT_EQ(documents[0].orientation, 2);
+}
+
+TEST_F(LoadedProgram, CancellingThePrinterDialogTurnsPrintingOff)
+{
+    choosePrinter();
+    printSwitch().click();
+    control<QPushButton>("cmdPrinter").click(); // the dialog is cancelled
+    EXPECT_EQ(printSwitch().text(), QStringLiteral("Don't print"));
+    program.menu("mnuMapLing").trigger();
+    EXPECT_TRUE(wasPrinted(program.drawing(), QStringLiteral("UYU")));
+    EXPECT_EQ(program.dialogs.errors, std::vector<Shown>());
+}
+
+TEST_F(LoadedProgram, TheMapFormInFrontShowsWhatOtherFormsChanged)
+{
+    const QLabel* loaded = nullptr;
+    for (const QLabel* label : program.map().statusBar()->findChildren<QLabel*>()) {
+        loaded = label->accessibleName() == QStringLiteral("Loaded files") ? label : loaded;
+    }
+    ASSERT_NE(loaded, nullptr);
+    const auto bringToFront = [] {
+        QEvent event(QEvent::ActivationChange);
+        QCoreApplication::sendEvent(&Program::map(), &event);
+    };
+    EXPECT_TRUE(loaded->text().startsWith(QStringLiteral("Item: Rain (3 localities)")));
+    program.varn.NLocality = 4;
+    program.varn.LoadState = 0;
+    program.varn.ContrastAnalysed = true;
+    bringToFront();
+    EXPECT_TRUE(loaded->text().startsWith(
+        QStringLiteral("The item has 3 localities, the map has 4.    |    Item: Rain")));
+    EXPECT_FALSE(program.menu("mnuMapLing").isEnabled());
+    EXPECT_TRUE(program.menu("mnuRank").isEnabled());
+    program.varn.ItemFileName.clear();
+    program.varn.LoadState = 2;
+    program.varn.ContrastAnalysed = false;
+    bringToFront();
+    EXPECT_TRUE(loaded->text().startsWith(QStringLiteral("No linguistic file loaded")));
+    EXPECT_TRUE(program.menu("mnuMapLing").isEnabled());
+    EXPECT_FALSE(program.menu("mnuRank").isEnabled());
+}
+
+TEST_F(LoadedProgram, TheTabKeyGoesFromTheMapToThePrintSwitch)
+{
+    QStringList visited;
+    const QWidget* const map = program.map().findChild<QWidget*>(QStringLiteral("scrMap"));
+    const QWidget* widget = map;
+    do {
+        if ((widget->focusPolicy() & Qt::TabFocus) != 0) {
+            visited << widget->objectName();
+        }
+        widget = widget->nextInFocusChain();
+    } while (widget != map);
+    EXPECT_EQ(visited, QStringList({QStringLiteral("scrMap"), QStringLiteral("optHankoCenter"),
+                                    QStringLiteral("optHankoRight"), QStringLiteral("optHankoLeft"),
+                                    QStringLiteral("optHankoUp"), QStringLiteral("optHankoDown"),
+                                    QStringLiteral("lblInsatsumode")}));
 }
 
 TEST_F(LoadedProgram, PaperAndMarginsFollowTheirBoxes)

@@ -17,7 +17,7 @@ struct PrintedSurvey : TestSurvey
 
     void drawMap()
     {
-        PrintYesNo(varn, frmMap);
+        PrintYesNo(varn, frmMap, QStringLiteral("Test - Town"));
         DrawBlankMap(varn, {*varn.DrawTarget, frmMap});
         PrintEnd(varn);
     }
@@ -76,10 +76,62 @@ TEST(Printing, EachDrawingCommandIsADocument)
     EXPECT_NEAR(second.y(), onForm.y() + 25 * 56.7, 0.01);
 }
 
+TEST(Printing, APageHasThePaperAndTheFontChosenWhenItBegins)
+{
+    TestSurvey survey;
+    VarnModule& varn = survey.varn;
+    RecordingPrinter::Documents documents;
+    PageLayout chosen;
+    chosen.PaperOrientation = 1;
+    connectPrinter(varn, std::make_unique<RecordingPrinter>(documents, chosen));
+    EXPECT_EQ(paperLabel(varn), QStringLiteral("A4 Portrait(297 X 210) mm")) << "as chosen with the printer";
+    EXPECT_EQ(varn.Printer.FontSize, 10);
+
+    setPaper(varn, 2);
+    varn.MapFontSize = 14;
+    varn.MapFontName = QStringLiteral("Courier");
+    varn.MapFontItalic = true;
+    varn.Printer.FontBold = true;
+    varn.Printer.DrawWidth = 5; // as a symbol leaves it
+    varn.Printer.FillStyle = 0;
+    beginDocument(varn, varn, QStringLiteral("Test - List"));
+    varn.Printer.PrintAt(0, 0, QStringLiteral("list"));
+    varn.Printer.Box(0, 0, 10, 10, qRgb(0, 0, 0));
+    endDocument(varn);
+    ASSERT_EQ(documents.size(), 1U);
+    EXPECT_EQ(documents[0].name, QStringLiteral("Test - List"));
+    EXPECT_EQ(documents[0].orientation, 2);
+    const TextFont font{QStringLiteral("Courier"), 14, false, true};
+    EXPECT_EQ(documents[0].at(0).fonts.at(0), font);
+    EXPECT_EQ(documents[0][0].pens.at(0).width, 1);
+    EXPECT_EQ(operationsOf<BoxOperation>(documents[0][0]).at(0).fill, 0U);
+    EXPECT_FLOAT_EQ(varn.Printer.Width, 297 * 56.7F);
+}
+
+TEST(Printing, WhatIsLargerThanThePaperWithinItsMarginsIsNoticed)
+{
+    PrintedSurvey survey;
+    VarnModule& varn = survey.varn;
+    const float width = (297 - 20 - 15) * 56.7F;
+    const float height = (210 - 15 - 15) * 56.7F;
+    const auto fits = [&varn](float left, float top, float right, float bottom) {
+        beginDocument(varn, varn, {});
+        varn.Printer.FilledBox(left, top, right, bottom, qRgb(0, 0, 0));
+        return fitsPaper(varn);
+    };
+    EXPECT_TRUE(fits(30, 30, width - 30, height - 30));
+    EXPECT_FALSE(fits(-30, 30, 60, 60));
+    EXPECT_FALSE(fits(30, -30, 60, 60));
+    EXPECT_FALSE(fits(30, 30, width + 30, 60));
+    EXPECT_FALSE(fits(30, 30, 60, height + 30));
+    newPage(varn);
+    EXPECT_FALSE(fitsPaper(varn)) << "any page";
+}
+
 TEST(Printing, ADocumentMayHaveManyPages)
 {
     PrintedSurvey survey;
-    beginDocument(survey.varn);
+    beginDocument(survey.varn, survey.varn, {});
     survey.varn.Printer.Print(QStringLiteral("one"));
     newPage(survey.varn);
     survey.varn.Printer.Print(QStringLiteral("two"));
@@ -92,9 +144,12 @@ TEST(Printing, ADocumentMayHaveManyPages)
 
 TEST(Printing, WithoutAPrinterADocumentIsAnError)
 {
-    TestSurvey survey;
+    PrintedSurvey survey;
+    survey.varn.PrintMode = true;
     connectPrinter(survey.varn, nullptr);
     EXPECT_FALSE(survey.varn.PrinterConnected);
-    beginDocument(survey.varn);
+    survey.drawMap();
+    EXPECT_TRUE(wasPrinted(survey.frmMap.drawing(), QStringLiteral("Town"))) << "print mode is off";
+    beginDocument(survey.varn, survey.varn, {});
     EXPECT_EQ(errorOf([&] { endDocument(survey.varn); }).number(), ErrorNumber::DeviceIOError);
 }

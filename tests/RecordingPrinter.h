@@ -1,17 +1,31 @@
 #pragma once
 
-#include "platform/PrinterDevice.h"
+#include "shell/PageSetup.h"
 
-/// A printer that keeps the documents printed on it, or refuses them.
+/// A printer that keeps the documents printed on it.
 class RecordingPrinter : public PrinterDevice
 {
 public:
-    using Documents = std::vector<std::vector<Drawing>>;
+    /// The pages of a document, with its name and orientation.
+    struct Document : std::vector<Drawing>
+    {
+        QString name;
+        int orientation;
+    };
+    using Documents = std::vector<Document>;
 
-    explicit RecordingPrinter(Documents& documents) : m_documents(documents) {}
+    /// `chosen` is the page that the user left in the printer dialog.
+    explicit RecordingPrinter(Documents& documents, PageLayout chosen = {})
+        : m_documents(documents), m_chosen(std::move(chosen))
+    {}
 
-    void print(const std::vector<Drawing>& pages) override { m_documents.push_back(pages); }
+    void takeChoices(PageLayout& layout) const override { layout = m_chosen; }
+    void print(const PrintedDocument& document) override
+    {
+        m_documents.push_back({document.pages, document.name, document.orientation});
+    }
 
 private:
     Documents& m_documents;
+    PageLayout m_chosen;
 };
