@@ -27,6 +27,7 @@ public:
     /// Prepares the form to be shown: shows the table, the strings and the item that are loaded.
     void Form_Load();
     void refresh() override;
+    void showNewState() override;
 
 Q_SIGNALS:
     /// The user wants to go back to the main form.
@@ -101,7 +102,7 @@ private:
     void followSharedState();
 
     WordformFields fields() const;
-    bool isEdited() const { return fields() != m_stored; }
+    bool isEdited() const { return m_prepared && fields() != m_stored; }
     /// Whether the user gives up what is unsaved; `question` ends the text that tells of it.
     bool mayGiveUpFields(const QString& question);
     bool mayRegister(const QString& text);

@@ -66,6 +66,7 @@ public:
 
     bool isUnsaved() const { return m_unsaved; }
     void markSaved() { m_unsaved = false; }
+    void markUnsaved() { m_unsaved = true; }
 
 private:
     void change(QString& value, const QString& newValue);

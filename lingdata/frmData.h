@@ -23,6 +23,7 @@ public:
     /// Shows the word forms of the loaded item, if there is one.
     void Form_Load();
     void refresh() override;
+    void showNewState() override;
 
 Q_SIGNALS:
     /// The user wants to go back to the main form.

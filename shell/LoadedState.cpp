@@ -9,6 +9,15 @@ void dataLoaded(LoadedState& state)
     }
 }
 
+void dataDropped(LoadedState& state)
+{
+    if (state.LoadState == 1) {
+        state.LoadState = 0;
+    } else if (state.LoadState == 2 || state.LoadState == 4) {
+        state.LoadState = 3;
+    }
+}
+
 void symbolSetLoaded(LoadedState& state)
 {
     if (state.LoadState == 1) {

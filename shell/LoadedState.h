@@ -12,6 +12,8 @@ struct LoadedState
 
 /// Notes that an item's data was loaded.
 void dataLoaded(LoadedState& state);
+/// Notes that no item is loaded any more.
+void dataDropped(LoadedState& state);
 /// Notes that a symbol set was loaded.
 void symbolSetLoaded(LoadedState& state);
 /// Whether a linguistic map can be drawn.

@@ -11,7 +11,10 @@
 #include "render/frmMap.h"
 #include "symbols/frmSetHanko.h"
 
+#include <QTimer>
+
 class QLineEdit;
+class Recovery;
 struct MapFont;
 struct PageLayout;
 
@@ -42,6 +45,8 @@ private:
     void VarnDrive();
     void askForFont(MapFont& font);
     void loadBaseMap();
+    void loadParts(const QStringList& missing);
+    void offerToMakeMap();
     void SetMapName();
     void drawPreview();
 
@@ -62,7 +67,16 @@ private:
     void openTotalHanko();
     void drawContrastMap();
     void drawDiffusionSymbols();
+    /// Shows the current map in all forms, after it was changed.
     void showNewMap();
+    std::vector<VarnForm*> workingForms();
+
+    // Unsaved work.
+    void startKeeping();
+    void keepWork();
+    void offerKeptWork();
+    bool openKeptWork(const QString& folder);
+    bool mayChangeMap();
 
     // Page set-up.
     void prepareSetMergin();
@@ -102,4 +116,6 @@ private:
     frmTotalHanko m_totalHanko;
     /// The form's own drawing: the preview of the map.
     DrawSurface m_preview;
+    std::unique_ptr<Recovery> m_recovery;
+    QTimer m_keeping{this};
 };

@@ -29,6 +29,7 @@ public:
     /// loaded.
     void Form_Load();
     void refresh() override;
+    void showNewState() override;
 
 Q_SIGNALS:
     /// The user wants to go back to the main form.
