@@ -15,6 +15,7 @@
 
 class QLineEdit;
 class Recovery;
+struct UnsavedWork;
 struct MapFont;
 struct PageLayout;
 
@@ -76,6 +77,7 @@ private:
     void keepWork();
     void offerKeptWork();
     bool openKeptWork(const QString& folder);
+    void showKept(const UnsavedWork& work);
     bool mayChangeMap();
 
     // Page set-up.

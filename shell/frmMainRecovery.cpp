@@ -52,17 +52,27 @@ bool frmMain::openKeptWork(const QString& folder)
     const QString question =
         QStringLiteral("Unsaved work of map %1 was kept when the program ended: %2. Open it?")
             .arg(work.map.VarnMapName.mid(1), describe(work));
-    const bool open = dialogs().askYesNo(question, QStringLiteral("Unsaved Work"));
-    if (open) {
+    const bool opened = dialogs().askYesNo(question, QStringLiteral("Unsaved Work"));
+    if (opened) {
         restoreWork(work, m_varn);
         showNewMap();
-        if (work.item) {
-            m_dataInput.enterUnsaved(*work.item);
-        }
+        showKept(work);
         m_recovery->keep(work);
     }
     removeLeftBehind(m_varn.Drive, folder);
-    return open;
+    return opened;
+}
+
+/// Opens the forms that the restored work is edited in; symbols are set with an item, which is not loaded.
+void frmMain::showKept(const UnsavedWork& work)
+{
+    if (work.item) {
+        m_dataInput.enterUnsaved(*work.item);
+        open(m_dataInput);
+    }
+    if (work.table) {
+        open(m_calc);
+    }
 }
 
 bool frmMain::mayChangeMap()

@@ -349,6 +349,7 @@ TEST_F(Forms, UnsavedWorkIsOfferedWhenTheProgramStartsAgain)
                       QStringLiteral("Unsaved work of map Test was kept when the program ended: item without "
                                      "a name. Open it?"));
             EXPECT_EQ(form<frmDataInput>().isWindowModified(), open);
+            EXPECT_EQ(form<frmDataInput>().isVisible(), open);
             EXPECT_EQ(enteredWords().index(1, 0).data().toString(), open ? word : QString());
         }
         Program program(survey);
@@ -474,6 +475,7 @@ TEST_F(StartedForms, AFlatButtonShowsThatItHasTheFocus)
         auto* button = window->findChild<QPushButton*>(QLatin1String(name));
         window->show();
         window->activateWindow();
+        QApplication::processEvents();
         button->clearFocus();
         const QImage without = button->grab().toImage();
         button->setFocus();
