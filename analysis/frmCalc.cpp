@@ -307,3 +307,13 @@ QString frmCalc::status() const
     }
     return parts.join(QStringLiteral("    |    "));
 }
+
+void frmCalc::showNewState()
+{
+    if (m_prepared) {
+        showTable();
+        m_ui->txtSetFileName->setText(analysisFileStem(m_varn.SpecifyFileName, QStringLiteral(".sum")));
+        SetKindWord();
+    }
+    refresh();
+}

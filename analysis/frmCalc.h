@@ -30,6 +30,7 @@ public:
     void refresh() override;
     /// Lists the kinds of the loaded item where it was loaded since they were listed.
     void followItem();
+    void showNewState() override;
 
 Q_SIGNALS:
     /// The user wants to go back to the main form.
@@ -108,7 +109,7 @@ private:
     void followSharedState();
 
     WordformFields fields() const;
-    bool isEdited() const { return fields() != m_stored; }
+    bool isEdited() const { return m_prepared && fields() != m_stored; }
     /// Whether the user gives up what is unsaved; `question` ends the text that tells of it.
     bool mayGiveUpFields(const QString& question);
     bool mayRegister(const QString& text);

@@ -84,7 +84,7 @@ private:
     void DisplayON(int page);
     void DisplayOff();
 
-    bool isEdited() const { return m_groupsEdited || boxes() != m_savedBoxes; }
+    bool isEdited() const { return m_prepared && (m_groupsEdited || boxes() != m_savedBoxes); }
     bool mayGiveUpWork(const QString& question);
     void showStatus();
 

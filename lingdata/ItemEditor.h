@@ -96,6 +96,7 @@ public:
 
     bool isUnsaved() const { return !m_steps->isClean(); }
     void markSaved() { m_steps->setClean(); }
+    void markUnsaved() { m_steps->resetClean(); }
 
 private:
     struct Entry

@@ -233,3 +233,12 @@ void frmData::mnuPageNo_Click()
     }
     turnTo(page);
 }
+
+void frmData::showNewState()
+{
+    m_pages.reset();
+    m_page = 0;
+    m_paper.Cls();
+    statusBar()->clearMessage();
+    refresh();
+}

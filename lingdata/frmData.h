@@ -25,6 +25,7 @@ public:
     void refresh() override;
     /// Shows the item that is loaded now, where it was loaded or dropped since it was shown.
     void followItem();
+    void showNewState() override;
 
 Q_SIGNALS:
     /// The user wants to go back to the main form.

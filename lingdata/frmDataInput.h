@@ -1,9 +1,11 @@
 #pragma once
 
+#include "lingdata/UnsavedItem.h"
 #include "lingdata/WordTable.h"
 #include "platform/VarnForm.h"
 
 #include <memory>
+#include <optional>
 
 class QLabel;
 class WordDelegate;
@@ -28,6 +30,12 @@ public:
     /// which makes way for a new one; that is asked about where it is unsaved.
     void Form_Load();
     void refresh() override;
+
+    /// Begins a new item where another map is the current one now.
+    void showNewState() override;
+    /// The item being entered, where it is not saved; and the other way round, an item that was kept.
+    std::optional<UnsavedItem> unsavedItem() const;
+    void enterUnsaved(const UnsavedItem& item);
 
 Q_SIGNALS:
     /// The user wants to go back to the main form.

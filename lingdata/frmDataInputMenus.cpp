@@ -230,3 +230,28 @@ void frmDataInput::hideFaults()
 {
     m_ui->fraCheck->hide();
 }
+
+// Unsaved work
+
+void frmDataInput::showNewState()
+{
+    if (m_mapName != m_varn.VarnMapName) {
+        newItem();
+    }
+    refresh();
+}
+
+std::optional<UnsavedItem> frmDataInput::unsavedItem() const
+{
+    return m_editor.isUnsaved() ? std::optional(UnsavedItem{m_fileName, m_editor.answers(), m_editor.kinds()})
+                                : std::nullopt;
+}
+
+void frmDataInput::enterUnsaved(const UnsavedItem& item)
+{
+    ItemEditor editor(item.answers, item.kinds);
+    editor.markUnsaved();
+    m_mapName = m_varn.VarnMapName;
+    showItem(std::move(editor), item.fileName);
+    refresh();
+}

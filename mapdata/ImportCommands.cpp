@@ -2,10 +2,10 @@
 
 #include "mapdata/MapFiles.h"
 #include "mapdata/MapImport.h"
+#include "mapdata/MapSearch.h"
+#include "platform/Folder.h"
 #include "platform/SequentialFile.h"
 #include "render/BlankMap.h"
-
-#include <QDir>
 
 #include <utility>
 
@@ -35,7 +35,7 @@ QString currentMapFile(const VarnModule& varn, const char* name)
 
 std::optional<QString> askForSource(const VarnModule& varn, Dialogs& dialogs, const ImportedFile& file)
 {
-    const QString folder = varn.Drive.hostPath(mapFolder(varn.VarnPath, varn.VarnMapName));
+    const QString folder = nearestFolder(varn.Drive, mapFolder(varn.VarnPath, varn.VarnMapName));
     const auto source = dialogs.openFile(QStringLiteral("Import ") + file.what, folder,
                                          file.sources + QStringLiteral("|All files (*.*)|*.*"));
     return source ? std::optional(varn.Drive.varnPath(*source)) : std::nullopt;
@@ -44,10 +44,18 @@ std::optional<QString> askForSource(const VarnModule& varn, Dialogs& dialogs, co
 std::optional<QString> askForTarget(const VarnModule& varn, Dialogs& dialogs, const ImportedFile& file)
 {
     const qsizetype slash = file.current.lastIndexOf(QLatin1Char('\\'));
-    const auto target =
-        dialogs.saveFile(QStringLiteral("Save ") + file.what, varn.Drive.hostPath(file.current.left(slash)),
-                         file.targets, file.current.mid(slash + 1));
+    const auto target = dialogs.saveFile(QStringLiteral("Save ") + file.what,
+                                         nearestFolder(varn.Drive, file.current.left(slash)), file.targets,
+                                         file.current.mid(slash + 1));
     return target ? std::optional(varn.Drive.varnPath(*target)) : std::nullopt;
+}
+
+/// Makes the folders of the current map, if there is one, so that files can be saved there.
+void makeCurrentMap(const VarnModule& varn)
+{
+    if (varn.hasMap()) {
+        makeMap(varn);
+    }
 }
 
 /// Imports what `read`, a function of a path, reads, and saves it with `write`. Returns whether the file of
@@ -60,6 +68,7 @@ bool importFile(const VarnModule& varn, Dialogs& dialogs, const ImportedFile& fi
         return false;
     }
     const auto map = read(*source);
+    makeCurrentMap(varn);
     const std::optional<QString> target = askForTarget(varn, dialogs, file);
     if (!target) {
         return false;
@@ -68,12 +77,15 @@ bool importFile(const VarnModule& varn, Dialogs& dialogs, const ImportedFile& fi
     return varn.Drive.hostPath(*target) == varn.Drive.hostPath(file.current);
 }
 
-void makeFolder(const DriveC& drive, const QString& folder)
+/// Gives the current map, if there is one, the place names where it has none of its own.
+void keepAsOwnNames(const VarnModule& varn, const QString& path, const PlaceNames& names)
 {
-    if (!QDir().mkpath(drive.hostPath(folder))) {
-        throw RunTimeError(ErrorNumber::PermissionDenied, QStringLiteral("The folder cannot be made."))
-            .at({folder});
+    if (!varn.hasMap() || fileExists(varn.Drive, path)) {
+        return;
     }
+    makeMap(varn);
+    writeSequentialFile(varn.Drive, path,
+                        [&names](SequentialWriter& writer) { writePlaceNames(writer, names); });
 }
 
 } // namespace
@@ -125,6 +137,9 @@ void SaveKanjiData(VarnModule& varn, Dialogs& dialogs, MapSurfaces surfaces)
     makeFolder(varn.Drive, folder);
     writeSequentialFile(varn.Drive, folder + QStringLiteral("\\TarkaKanji.map"),
                         [&names](SequentialWriter& writer) { writePlaceNames(writer, names); });
+    keepAsOwnNames(varn, file.current, names);
     static_cast<PlaceNames&>(varn) = std::move(names);
-    DrawBlankMap(varn, surfaces);
+    if (varn.NLine > 0) {
+        DrawBlankMap(varn, surfaces);
+    }
 }

@@ -4,8 +4,9 @@
 #include "shell/VarnModule.h"
 
 // The import commands. Each asks for a file, reads it, asks where to save it, and writes it there as a file
-// of the base map. Where that is a file of the current map, the map is loaded from it. A cancelled dialog
-// ends the command; an error leaves file and map as they were.
+// of the base map; the folders of the current map are made where they are missing. Where that is a file of
+// the current map, the map is loaded from it. A cancelled dialog ends the command; an error leaves file and
+// map as they were.
 
 /// Localities, from a localities file or a table of x and y.
 void SaveLocateData(VarnModule& varn, Dialogs& dialogs);
@@ -15,5 +16,6 @@ void SaveLineData(VarnModule& varn, Dialogs& dialogs);
 void SaveSquareData(VarnModule& varn, Dialogs& dialogs);
 
 /// Asks for a file of place names, writes it as the installation's special place names, makes them the
-/// current place names, and draws the base map anew with them.
+/// current place names, and draws the base map anew with them where it has lines. A map without place names
+/// of its own keeps them as its own.
 void SaveKanjiData(VarnModule& varn, Dialogs& dialogs, MapSurfaces surfaces);

@@ -2,9 +2,9 @@
 
 #include "mapdata/MapChoiceFile.h"
 #include "mapdata/MapFiles.h"
-#include "mapdata/MapSearch.h"
 #include "platform/SequentialFile.h"
 #include "render/BlankMap.h"
+#include "shell/MapChange.h"
 #include "shell/VarnModule.h"
 #include "ui_frmChizu.h"
 
@@ -27,9 +27,10 @@ void colorAsReadOnly(QLineEdit& box)
 
 } // namespace
 
-frmChizu::frmChizu(VarnModule& varn, Dialogs& dialogs, std::function<MapSurfaces()> mapSurfaces)
+frmChizu::frmChizu(VarnModule& varn, Dialogs& dialogs, std::function<MapSurfaces()> mapSurfaces,
+                   std::function<bool()> mayChangeMap)
     : VarnForm(dialogs), m_ui(std::make_unique<Ui::frmChizu>()), m_varn(varn),
-      m_mapSurfaces(std::move(mapSurfaces))
+      m_mapSurfaces(std::move(mapSurfaces)), m_mayChangeMap(std::move(mayChangeMap))
 {
     m_ui->setupUi(this);
     m_ui->picMap->setSurface(m_surface, SurfaceView::Fit::WholePaper);
@@ -115,8 +116,21 @@ bool frmChizu::SearchLocateData()
         dialogs().message(QStringLiteral("The file is not in the folder of a map under \\VarnData."), title);
         return false;
     }
-    chooseMap(*place, m_varn);
+    if (!isCurrentMap(*place, m_varn) && !m_mayChangeMap()) {
+        return false;
+    }
+    changeMap(*place, m_varn);
     return true;
+}
+
+void frmChizu::tellMissingParts()
+{
+    const QStringList missing = missingParts(m_varn.Drive, {m_varn.VarnPath, m_varn.VarnMapName});
+    if (!missing.isEmpty()) {
+        dialogs().message(QStringLiteral("The map lacks these files; what they hold stays empty:\r\n") +
+                              missing.join(QStringLiteral("\r\n")),
+                          QStringLiteral("Set Map Name"));
+    }
 }
 
 void frmChizu::LoadLocate()
@@ -185,8 +199,12 @@ void frmChizu::cmdRegMapName_Click()
         return;
     }
     Q_EMIT mapChosen();
-    FindMinMax(m_varn.Scale);
-    SetMapName();
+    tellMissingParts();
+    cls();
+    if (m_varn.NLine > 0) {
+        FindMinMax(m_varn.Scale);
+        SetMapName();
+    }
     printPath();
     refresh();
     if (dialogs().askYesNo(QStringLiteral("Will you use this map ?"), QStringLiteral("Name of Map"))) {

@@ -19,8 +19,9 @@ class frmChizu : public VarnForm
 
 public:
     /// `mapSurfaces` gives the map form's surface beside the current drawing target: maps are drawn here as
-    /// large as there.
-    frmChizu(VarnModule& varn, Dialogs& dialogs, std::function<MapSurfaces()> mapSurfaces);
+    /// large as there. `mayChangeMap` asks whether the user gives up unsaved work on the current map.
+    frmChizu(VarnModule& varn, Dialogs& dialogs, std::function<MapSurfaces()> mapSurfaces,
+             std::function<bool()> mayChangeMap);
     ~frmChizu() override;
 
     /// Clears the form's drawing.
@@ -46,6 +47,7 @@ private:
 
     void FindMinMax(float& scale) const;
     bool SearchLocateData();
+    void tellMissingParts();
     void LoadLocate();
     void SetMapName();
     void PlotLocateCircle();
@@ -58,5 +60,6 @@ private:
     std::unique_ptr<Ui::frmChizu> m_ui;
     VarnModule& m_varn;
     std::function<MapSurfaces()> m_mapSurfaces;
+    std::function<bool()> m_mayChangeMap;
     DrawSurface m_surface;
 };

@@ -2,7 +2,13 @@
 
 #include "platform/RunTimeError.h"
 
+#include <QEvent>
 #include <QGuiApplication>
+#include <QLayout>
+#include <QPushButton>
+#include <QScreen>
+#include <QScrollArea>
+#include <QStyle>
 
 #include <new>
 #include <optional>
@@ -36,13 +42,60 @@ void VarnForm::bringToFront()
     activateWindow();
 }
 
-void VarnForm::run(const std::function<void()>& handler)
+bool VarnForm::event(QEvent* event)
+{
+    const bool done = QMainWindow::event(event);
+    if (event->type() == QEvent::Show && !isMaximized()) {
+        resize(size().boundedTo(roomOnScreen()));
+    }
+    if (event->type() == QEvent::Show || event->type() == QEvent::LayoutRequest) {
+        fitScreen();
+    }
+    return done;
+}
+
+QSize VarnForm::roomOnScreen() const
+{
+    // The system tells how wide its frames are only after the window was shown.
+    const QSize frame(2 * style()->pixelMetric(QStyle::PM_MdiSubWindowFrameWidth),
+                      style()->pixelMetric(QStyle::PM_TitleBarHeight));
+    return screen()->availableGeometry().size() - frame.expandedTo(frameGeometry().size() - size());
+}
+
+/// Gives the form scroll bars where it cannot be as small as the screen.
+void VarnForm::fitScreen()
+{
+    const QSize room = roomOnScreen();
+    const QSize least = minimumSizeHint();
+    const bool fits = least.width() <= room.width() && least.height() <= room.height();
+    if (fits || !isVisible() || qobject_cast<QScrollArea*>(centralWidget()) != nullptr) {
+        return;
+    }
+    auto* scroll = new QScrollArea(this);
+    scroll->setFrameShape(QFrame::NoFrame);
+    scroll->setWidgetResizable(true);
+    scroll->setAccessibleName(windowTitle());
+    scroll->setWidget(takeCentralWidget());
+    setCentralWidget(scroll);
+    layout()->activate();
+    resize(size().boundedTo(room));
+}
+
+void VarnForm::frameFocus(QPushButton& flat)
+{
+    flat.setStyleSheet(
+        QStringLiteral("QPushButton { border: 1px solid transparent; border-radius: 3px; padding: 3px 6px; }"
+                       "QPushButton:focus { border-color: palette(highlight); }"));
+}
+
+bool VarnForm::run(const std::function<void()>& handler)
 {
     const std::optional<RunTimeError> error = errorOf(handler);
     refresh();
     if (error) {
         m_dialogs.error(error->title(), error->where());
     }
+    return !error;
 }
 
 WaitCursor::WaitCursor()

@@ -6,6 +6,8 @@
 
 #include <functional>
 
+class QPushButton;
+
 /// Base of the program's forms. Every event handler runs through `run`, so that one that ends with a run-time
 /// error tells the user what happened and leaves the program going on with the state it had.
 class VarnForm : public QMainWindow
@@ -21,9 +23,22 @@ public:
     /// Shows what the shared state and the form's drawing hold now; called after every handler.
     virtual void refresh() {}
 
+    /// Shows the shared state after it was replaced as a whole, by that of another map or by work that was
+    /// kept.
+    virtual void showNewState() { refresh(); }
+
 protected:
-    /// Runs `handler`, shows the error where it ends with one, and refreshes the form.
-    void run(const std::function<void()>& handler);
+    bool event(QEvent* event) override;
+
+    /// The largest size that the form can have on its screen, in its frame.
+    QSize roomOnScreen() const;
+
+    /// Frames `flat`, a flat button, while it has the keyboard focus; no style does.
+    static void frameFocus(QPushButton& flat);
+
+    /// Runs `handler`, shows the error where it ends with one, and refreshes the form. Returns whether it
+    /// ended without one.
+    bool run(const std::function<void()>& handler);
 
     /// Runs `handler`, a member function of the form, whenever `sender` emits `signal`.
     template <typename Sender, typename Signal, typename Form>
@@ -37,6 +52,8 @@ protected:
     Dialogs& dialogs() const { return m_dialogs; }
 
 private:
+    void fitScreen();
+
     Dialogs& m_dialogs;
 };
 

@@ -107,7 +107,10 @@ void PlotKanjiData(const PlaceNames& map, const MapGeometry& geometry, MapSurfac
         surfaces.DrawTarget.PrintAt(geometry.toScreen(map.KanjiXY(i, 0)),
                                     geometry.toScreen(map.KanjiXY(i, 1)), map.KanjiText(i));
     }
-    plotScaleBar(map, geometry, surfaces.DrawTarget);
+    const bool hasScaleBar = map.ScaleDivisions != 0 || map.ScaleLength != 0 || !map.ScaleLabel.isEmpty();
+    if (hasScaleBar) {
+        plotScaleBar(map, geometry, surfaces.DrawTarget);
+    }
 }
 
 void PlotDate(const QString& fileName, const QDateTime& time, MapSurfaces surfaces)

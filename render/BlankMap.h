@@ -15,7 +15,8 @@ void PlotLocateData(const BaseMap& map, const MapStyle& style, MapGeometry& geom
 /// A mark of two circles at every locality, a disc in a ring, on `target`.
 void PlotLocateCircle(const Localities& map, MapGeometry& geometry, DrawSurface& target);
 
-/// The place names and the scale bar. Raises division by zero for a scale bar without divisions.
+/// The place names and the scale bar; a map without place names has none. Raises division by zero for a scale
+/// bar without divisions.
 void PlotKanjiData(const PlaceNames& map, const MapGeometry& geometry, MapSurfaces surfaces);
 
 /// The stamp in the lower right corner: a file name, and the date and time of drawing under it.

@@ -29,6 +29,7 @@ frmMap::frmMap(VarnModule& varn, Dialogs& dialogs)
     statusBar()->addWidget(m_loaded, 1);
     m_lblInsatsumode->setObjectName(QStringLiteral("lblInsatsumode"));
     m_lblInsatsumode->setFlat(true);
+    frameFocus(*m_lblInsatsumode);
     m_lblInsatsumode->setToolTip(QStringLiteral("Turn printing on or off"));
     statusBar()->addPermanentWidget(m_lblInsatsumode);
     nameControls();
@@ -184,9 +185,7 @@ void frmMap::showArea()
         return;
     }
     const QSize bars(0, menuBar()->sizeHint().height() + statusBar()->sizeHint().height());
-    const QSize frame = frameGeometry().size() - size();
-    m_sizeOfArea =
-        (area + bars).boundedTo(screen()->availableGeometry().size() - frame).expandedTo(minimumSizeHint());
+    m_sizeOfArea = (area + bars).boundedTo(roomOnScreen()).expandedTo(minimumSizeHint());
     resize(m_sizeOfArea);
 }
 
@@ -217,4 +216,11 @@ void frmMap::keyPressEvent(QKeyEvent* event)
     } else {
         VarnForm::keyPressEvent(event);
     }
+}
+
+void frmMap::showNewState()
+{
+    m_surface.Cls();
+    enableMapLing();
+    refresh();
 }

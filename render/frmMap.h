@@ -35,6 +35,7 @@ public:
     /// The surfaces of a drawing command, with the form's place on the screen as it is now.
     MapSurfaces surfaces();
     void refresh() override;
+    void showNewState() override;
 
 Q_SIGNALS:
     /// The user wants to go back to the main form.

@@ -12,6 +12,8 @@ struct Folders
     QString VarnPath = QStringLiteral("C:\\Varn62E\\Varn");
     /// The current map: a backslash and its name.
     QString VarnMapName;
+    /// Whether a map is current.
+    bool hasMap() const { return VarnMapName.size() > 1; }
     /// The current map's folder of items and symbol files, relative to `VarnPath`.
     QString LingFolder;
     /// Path of the file whose existence says that the program has been set up.

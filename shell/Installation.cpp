@@ -1,5 +1,6 @@
 #include "shell/Installation.h"
 
+#include "platform/Folder.h"
 #include "platform/RunTimeError.h"
 #include "platform/WholeFile.h"
 #include "shell/MapChoice.h"
@@ -18,11 +19,7 @@ bool exists(const Folders& folders, const QString& path)
 
 void makeFolderOf(const Folders& folders, const QString& path)
 {
-    const QString folder = QFileInfo(folders.Drive.hostPath(path)).absolutePath();
-    if (!QDir().mkpath(folder)) {
-        throw RunTimeError(ErrorNumber::PermissionDenied, QStringLiteral("The folder cannot be made."))
-            .at({folders.Drive.varnPath(folder)});
-    }
+    makeFolder(folders.Drive, path.left(path.lastIndexOf(QLatin1Char('\\'))));
 }
 
 void copyFile(const QString& source, const QString& path, const Folders& folders)

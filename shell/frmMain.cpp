@@ -1,12 +1,8 @@
 #include "shell/frmMain.h"
 
 #include "mapdata/ImportCommands.h"
-#include "mapdata/MapFiles.h"
-#include "platform/Numbers.h"
-#include "platform/WholeFile.h"
 #include "render/BlankMap.h"
-#include "shell/Installation.h"
-#include "shell/MapChoice.h"
+#include "shell/Recovery.h"
 #include "shell/VarnModule.h"
 #include "ui_frmMain.h"
 
@@ -28,9 +24,10 @@ void colorAsReadOnly(QLineEdit& box)
 
 frmMain::frmMain(VarnModule& varn, Dialogs& dialogs)
     : VarnForm(dialogs), m_ui(std::make_unique<Ui::frmMain>()), m_varn(varn), m_map(varn, dialogs),
-      m_chizu(varn, dialogs, [this] { return m_map.surfaces(); }), m_dataInput(varn, dialogs),
-      m_data(varn, dialogs), m_setHanko(varn, dialogs), m_calc(varn, dialogs), m_calExec(varn, dialogs),
-      m_rankData(varn, dialogs), m_totalHanko(varn, dialogs)
+      m_chizu(
+          varn, dialogs, [this] { return m_map.surfaces(); }, [this] { return mayChangeMap(); }),
+      m_dataInput(varn, dialogs), m_data(varn, dialogs), m_setHanko(varn, dialogs), m_calc(varn, dialogs),
+      m_calExec(varn, dialogs), m_rankData(varn, dialogs), m_totalHanko(varn, dialogs)
 {
     m_ui->setupUi(this);
     m_preview.Width = m_map.surface().Width;
@@ -93,84 +90,6 @@ void frmMain::connectAnalysisForms()
     handle(&m_rankData, &frmRankData::toDrawMap, &frmMain::drawContrastMap);
     handle(&m_totalHanko, &frmTotalHanko::toAnalysis, &frmMain::openCalExec);
     handle(&m_totalHanko, &frmTotalHanko::toDrawMap, &frmMain::drawDiffusionSymbols);
-}
-
-void frmMain::Form_Load(const QString& installation)
-{
-    fixPaths(m_varn);
-    recomputePaper();
-    run([&] { layDownInstallation(installation, m_varn); });
-    applyMapChoice({}, m_varn);
-    run([this] {
-        if (fileExists(m_varn.Drive, m_varn.DriveFileName)) {
-            InputVarnDrive();
-        } else {
-            VarnDrive();
-        }
-    });
-    m_map.Form_Load();
-    m_varn.MapFormWidth = m_map.surface().Width;
-    m_varn.MapFormHeight = toInteger(m_map.surface().Height);
-    fixLingFolder(m_varn);
-    loadBaseMap();
-    m_varn.AnalysisMode = 0;
-    m_varn.PlotDots = false;
-    m_varn.WriteFileName = false;
-    refresh();
-}
-
-void frmMain::InputVarnDrive()
-{
-    applyMapChoice(loadMapChoice(m_varn), m_varn);
-    if (!dialogs().askYesNo(mapChoiceQuestion(currentMapChoice(m_varn)), QStringLiteral("Map Name, Font"))) {
-        VarnDrive();
-    }
-}
-
-void frmMain::VarnDrive()
-{
-    saveDriveFile(m_varn);
-    saveMapChoice(m_varn, currentMapChoice(m_varn));
-    MapChoice choice = currentMapChoice(m_varn);
-    if (const auto name = dialogs().input(QStringLiteral("Input Map Name"),
-                                          QStringLiteral("Map Name of Varn"), choice.VarnMapName.mid(1))) {
-        choice.VarnMapName = QLatin1Char('\\') + *name;
-    }
-    if (dialogs().askYesNo(QStringLiteral("Input Font Name"), QStringLiteral("Setting of Fonts"))) {
-        askForFont(choice);
-    }
-    applyMapChoice(choice, m_varn);
-    saveMapChoice(m_varn, choice);
-}
-
-void frmMain::askForFont(MapFont& font)
-{
-    if (const auto chosen = dialogs().chooseFont(
-            {font.MapFontName, font.MapFontSize, font.MapFontBold, font.MapFontItalic})) {
-        font.MapFontName = chosen->name;
-        font.MapFontSize = toInteger(chosen->size);
-        font.MapFontBold = chosen->bold;
-        font.MapFontItalic = chosen->italic;
-    }
-    if (const auto shift = dialogs().input(
-            QStringLiteral("Input Vertical Position of Special Fonts.  Input (-3.0 to 3.0).  Default (0)\r\n"
-                           "Move Upper for Smaller Number"),
-            QStringLiteral("Vertical Position of Special Fonts"), QString::number(font.SpecialFontShift))) {
-        font.SpecialFontShift = toSingle(Val(*shift));
-    }
-}
-
-void frmMain::loadBaseMap()
-{
-    run([this] { LoadSquareData(m_varn.Drive, m_varn.VarnPath, m_varn); });
-    run([this] { m_varn.ExpSymbols = LoadSymbols(m_varn); });
-    if (m_varn.VarnMapName.isEmpty()) {
-        return; // the user has been told, or did not choose a map
-    }
-    run([this] { LoadLineData(m_varn.Drive, m_varn.VarnPath, m_varn.VarnMapName, m_varn); });
-    run([this] { LoadLocateData(m_varn.Drive, m_varn.VarnPath, m_varn.VarnMapName, m_varn); });
-    run([this] { LoadKanjiData(m_varn.Drive, m_varn.VarnPath, m_varn.VarnMapName, m_varn); });
-    findStartExtent(m_varn, m_varn);
 }
 
 void frmMain::SetMapName()
@@ -254,6 +173,16 @@ void frmMain::drawDiffusionSymbols()
 void frmMain::showNewMap()
 {
     m_preview.Cls();
+    for (VarnForm* form : workingForms()) {
+        form->showNewState();
+    }
+}
+
+std::vector<VarnForm*> frmMain::workingForms()
+{
+    // Those that may have unsaved work come first.
+    return {&m_dataInput, &m_setHanko, &m_calc,  &m_totalHanko, &m_rankData,
+            &m_calExec,   &m_data,     &m_chizu, &m_map};
 }
 
 void frmMain::showReloadedItem()
@@ -298,20 +227,23 @@ void frmMain::cmdSumUp_Click()
 
 void frmMain::cmdExit_Click()
 {
+    keepWork();
     QCoreApplication::exit();
 }
 
 void frmMain::closeEvent(QCloseEvent* event)
 {
     // Whoever has unsaved work there may still change his mind.
-    for (VarnForm* form :
-         std::initializer_list<VarnForm*>{&m_dataInput, &m_setHanko, &m_calc, &m_totalHanko, &m_rankData,
-                                          &m_calExec, &m_data, &m_chizu, &m_map}) {
-        if (form->isVisible() && !form->close()) {
+    for (VarnForm* form : workingForms()) {
+        if (!form->close()) {
             event->ignore();
             return;
         }
     }
+    if (m_recovery) {
+        run([this] { m_recovery->keep({}); }); // whatever is unsaved now was given up
+    }
+    m_keeping.stop();
     event->accept();
 }
 

@@ -13,8 +13,11 @@
 
 #include <array>
 #include <utility>
+#include <QTimer>
 
 class QLineEdit;
+class Recovery;
+struct UnsavedWork;
 struct MapFont;
 struct PageLayout;
 
@@ -45,6 +48,8 @@ private:
     void VarnDrive();
     void askForFont(MapFont& font);
     void loadBaseMap();
+    void loadParts(const QStringList& missing);
+    void offerToMakeMap();
     void SetMapName();
     void drawPreview();
 
@@ -65,8 +70,18 @@ private:
     void openTotalHanko();
     void drawContrastMap();
     void drawDiffusionSymbols();
+    /// Shows the current map in all forms, after it was changed.
     void showNewMap();
     void showReloadedItem();
+    std::vector<VarnForm*> workingForms();
+
+    // Unsaved work.
+    void startKeeping();
+    void keepWork();
+    void offerKeptWork();
+    bool openKeptWork(const QString& folder);
+    void showKept(const UnsavedWork& work);
+    bool mayChangeMap();
 
     // Page set-up.
     void prepareSetMergin();
@@ -109,4 +124,6 @@ private:
     frmTotalHanko m_totalHanko;
     /// The form's own drawing: the preview of the map.
     DrawSurface m_preview;
+    std::unique_ptr<Recovery> m_recovery;
+    QTimer m_keeping{this};
 };

@@ -16,6 +16,7 @@ constexpr int LandscapeIndex = 1;
 void frmMain::prepareSetMergin()
 {
     m_ui->fraSetMergin->hide();
+    frameFocus(*m_ui->lblDisplayPaperSize);
     m_ui->cboPaperSize->addItems(
         {QStringLiteral("B5"), QStringLiteral("A4"), QStringLiteral("B4"), QStringLiteral("A3")});
     m_ui->cboOrientation->addItems({QStringLiteral("Portrait"), QStringLiteral("Landscape")});

@@ -306,3 +306,9 @@ void frmSetHanko::closeEvent(QCloseEvent* event)
 {
     event->setAccepted(mayGiveUpWork(QStringLiteral("Close the form all the same?")));
 }
+
+void frmSetHanko::showNewState()
+{
+    SetKindWord();
+    refresh();
+}

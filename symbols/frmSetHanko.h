@@ -33,6 +33,7 @@ public:
     void refresh() override;
     /// Lists the kinds of the loaded item where it was loaded since they were listed.
     void followItem();
+    void showNewState() override;
 
 Q_SIGNALS:
     /// The user wants to go back to the main form.

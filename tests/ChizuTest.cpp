@@ -45,7 +45,12 @@ protected:
     TestSurvey survey;
     VarnModule& varn = survey.varn;
     ScriptedDialogs dialogs;
-    frmChizu form{varn, dialogs, [this] { return MapSurfaces{*varn.DrawTarget, survey.frmMap}; }};
+    frmChizu form{varn, dialogs,
+                  [this] {
+                      return MapSurfaces{*varn.DrawTarget, survey.frmMap};
+                  },
+                  [this] { return mayChangeMap; }};
+    bool mayChangeMap = true;
 };
 
 } // namespace
@@ -143,6 +148,10 @@ TEST_F(Chizu, AFileOfNoMapAndABadMapChangeNothing)
     chooseMap(QStringLiteral("C:\\elsewhere\\Loc.map"), {});
     EXPECT_EQ(dialogs.shown.back().text,
               QStringLiteral("The file is not in the folder of a map under \\VarnData."));
+    mayChangeMap = false;
+    chooseMap(Data + QStringLiteral("Isle\\Map\\Loc.map"), {});
+    EXPECT_EQ(dialogs.errors, std::vector<Shown>()) << "the user keeps his work on the current map";
+    mayChangeMap = true;
     QFile::remove(varn.Drive.hostPath(Data + QStringLiteral("Isle\\Map\\Loc.map")));
     chooseMap(Data + QStringLiteral("Isle\\Map\\Line.map"), {});
     ASSERT_EQ(dialogs.errors.size(), 1U);
@@ -153,4 +162,23 @@ TEST_F(Chizu, AFileOfNoMapAndABadMapChangeNothing)
     EXPECT_EQ(varn.LinePoints(1), 5);
     EXPECT_EQ(text("txtMapName"), QStringLiteral("Test"));
     EXPECT_EQ(signalled, 0);
+}
+
+TEST_F(Chizu, AMapNeedsOnlyItsLocalities)
+{
+    const QString folder = Data + QStringLiteral("Isle\\Map\\");
+    QFile::remove(varn.Drive.hostPath(folder + QStringLiteral("kanji.map")));
+    chooseMap(folder + QStringLiteral("Loc.map"), {true});
+    EXPECT_EQ(dialogs.shown[1].text,
+              QStringLiteral("The map lacks these files; what they hold stays empty:\r\n") + folder +
+                  QStringLiteral("kanji.map"));
+    EXPECT_EQ(operationsOf<PolylineOperation>(drawing()).size(), 1U) << "the lines, and no scale bar";
+
+    QFile::remove(varn.Drive.hostPath(folder + QStringLiteral("Line.map")));
+    chooseMap(folder + QStringLiteral("Loc.map"), {true});
+    EXPECT_TRUE(dialogs.shown[dialogs.shown.size() - 2].text.contains(QStringLiteral("Line.map")));
+    EXPECT_EQ(varn.NLine + varn.NKanji, 0);
+    EXPECT_EQ(varn.NLocality, 1);
+    EXPECT_EQ(dialogs.errors, std::vector<Shown>());
+    EXPECT_TRUE(fileExists(varn.Drive, mapChoiceFile()));
 }

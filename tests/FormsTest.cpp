@@ -2,11 +2,16 @@
 #include "render/SurfaceView.h"
 #include "tests/TestProgram.h"
 
+#include <QAbstractItemView>
 #include <QFile>
 #include <QFrame>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QRadioButton>
+#include <QScopeGuard>
+#include <QScreen>
 #include <QScrollArea>
+#include <QTimer>
 
 TEST(FirstStart, NewUserGetsTheSampleAndKeepsWhatIsChanged)
 {
@@ -35,14 +40,15 @@ TEST(FirstStart, NewUserGetsTheSampleAndKeepsWhatIsChanged)
     drive.write(codes, "0\r\n");
     drive.write(MapNameFile, "\"\\Other\",\"Arial\",14,#FALSE#,#FALSE#,0\r\n");
     Program program(drive);
-    program.dialogs.yesNo = {true};
+    program.dialogs.yesNo = {true, false};
     program.start(InstallationFolder);
     EXPECT_EQ(drive.read(glyph), glyphBytes) << "a missing glyph is laid down again";
     EXPECT_FALSE(fileExists(drive.drive(), localities)) << "the sample is laid down only as a whole";
     EXPECT_EQ(drive.read(places), "mine");
     EXPECT_EQ(drive.read(codes), "0\r\n");
     EXPECT_EQ(program.varn.VarnMapName, QStringLiteral("\\Other"));
-    EXPECT_EQ(program.dialogs.errors.size(), 3U) << "one for each file that the other map lacks";
+    EXPECT_EQ(program.dialogs.shown.back().text, QStringLiteral("There is no map Other. Make a new one?"));
+    EXPECT_EQ(program.dialogs.errors, std::vector<Shown>()) << "a map that is not there is told once";
     EXPECT_EQ(program.main.windowTitle(), QStringLiteral("VARN - Other"));
 }
 
@@ -93,29 +99,76 @@ TEST_F(Forms, NoToTheConfirmationAsksAgainAndACancelledDialogKeepsTheMap)
     EXPECT_TRUE(program.map().surface().FontBold);
 }
 
-TEST_F(Forms, FilesMissingAtStartAreToldOnceEachAndTheFormOpens)
+TEST_F(Forms, FilesMissingAtStartAreToldOnceAndTheFormOpens)
 {
     const QString folder = survey.drive().hostPath(VarnPath + QStringLiteral("\\VarnData\\Test\\Map\\"));
     QFile::remove(folder + QStringLiteral("/Loc.map"));
     QFile::remove(folder + QStringLiteral("/Line.map"));
-    {
-        Program program(survey);
-        start(program);
-        ASSERT_EQ(program.dialogs.errors.size(), 2U);
-        EXPECT_EQ(program.dialogs.errors[1],
-                  (Shown{QStringLiteral("File: C:\\Varn62E\\Varn\\VarnData\\Test\\Map\\Loc.map"),
-                         QStringLiteral("Run-time error '53': File not found")}));
-        EXPECT_EQ(program.varn.NKanji, 2);
-
-        program.click("cmdMapName");
-        EXPECT_EQ(program.dialogs.errors.back().title,
-                  QStringLiteral("Run-time error '11': Division by zero"));
-        EXPECT_EQ(program.varn.DrawTarget, &program.map().surface()) << "also after a preview that failed";
-    }
-    QFile::remove(survey.drive().hostPath(MapNameFile));
     Program program(survey);
-    program.start(nothing.path());
-    EXPECT_EQ(program.dialogs.errors.size(), 1U) << "no map, no files of a map";
+    start(program);
+    ASSERT_EQ(program.dialogs.errors.size(), 1U);
+    EXPECT_EQ(program.dialogs.errors[0].title, QStringLiteral("Run-time error '53': File not found"));
+    for (const char* name : {"Map\\Line.map", "Map\\Loc.map"}) {
+        EXPECT_TRUE(program.dialogs.errors[0].text.contains(QLatin1String(name))) << name;
+    }
+    EXPECT_EQ(program.varn.NKanji, 2);
+
+    program.click("cmdMapName");
+    EXPECT_EQ(program.dialogs.errors.back().title, QStringLiteral("Run-time error '11': Division by zero"));
+    EXPECT_EQ(program.varn.DrawTarget, &program.map().surface()) << "also after a preview that failed";
+}
+
+TEST_F(Forms, AMapNameFileThatCannotBeReadIsToldAndReplacedIfTheUserWants)
+{
+    const std::pair<QByteArray, const char*> rows[] = {
+        {"\"\\Test\",\"Arial\"", "Run-time error '62': Input past end of file"},
+        {QByteArray(), "Run-time error '53': File not found"}};
+    for (const auto& [contents, error] : rows) {
+        QFile::remove(survey.drive().hostPath(MapNameFile));
+        if (!contents.isEmpty()) {
+            survey.write(MapNameFile, contents);
+        }
+        for (const bool now : {false, true}) {
+            Program program(survey);
+            program.dialogs.yesNo = {now, false};
+            program.dialogs.inputs = {QStringLiteral("Test")};
+            program.start(nothing.path());
+            ASSERT_EQ(program.dialogs.errors.size(), 1U) << "no map, no files of a map";
+            EXPECT_EQ(program.dialogs.errors[0].title, QLatin1String(error));
+            EXPECT_EQ(program.dialogs.shown[0].text,
+                      QStringLiteral("The map name could not be read. Input map name and font now?"));
+            EXPECT_EQ(program.varn.NLocality, now ? 3 : 0);
+        }
+        EXPECT_EQ(survey.read(MapNameFile), "\"\\Test\",\"Arial\",10,#FALSE#,#FALSE#,0\r\n");
+    }
+}
+
+TEST_F(Forms, MapNameAndDriveFileAreThereBeforeTheNameIsAskedFor)
+{
+    /// Notes what the map-name file holds while the map's name is asked for.
+    struct Witness : ScriptedDialogs
+    {
+        std::optional<QString> input(const QString&, const QString&, const QString& initial) override
+        {
+            EXPECT_EQ(drive->read(DriveFile), "\"C:\\Varn62E\\\"\r\n");
+            held = drive->read(MapNameFile);
+            EXPECT_EQ(initial, QString());
+            return QStringLiteral("Test");
+        }
+        const TestDrive* drive = nullptr;
+        QByteArray held;
+    };
+    QFile::remove(survey.drive().hostPath(DriveFile));
+    QFile::remove(survey.drive().hostPath(MapNameFile));
+    Witness dialogs;
+    dialogs.drive = &survey;
+    dialogs.yesNo = {false};
+    VarnModule varn;
+    varn.Drive = survey.drive();
+    frmMain main(varn, dialogs);
+    main.Form_Load(nothing.path());
+    EXPECT_EQ(dialogs.held, "\"\",\"Arial\",10,#FALSE#,#FALSE#,0\r\n");
+    EXPECT_EQ(survey.read(MapNameFile), "\"\\Test\",\"Arial\",10,#FALSE#,#FALSE#,0\r\n");
 }
 
 TEST_F(StartedForms, CheckMapNameDrawsThePreviewAndAsks)
@@ -250,5 +303,182 @@ TEST_F(Forms, CatalogueStaysWithinItsPages)
     for (const auto& [menu, first] : steps) {
         program.menu(menu).trigger();
         EXPECT_EQ(program.drawing().texts.at(0), QLatin1String(first)) << menu;
+    }
+}
+
+namespace {
+
+QAbstractItemModel& enteredWords()
+{
+    return *control<frmDataInput, QAbstractItemView>("tblWords").model();
+}
+
+void enterWord(const Program& program, const QString& word)
+{
+    program.click("cmdInputData");
+    EXPECT_TRUE(enteredWords().setData(enteredWords().index(1, 0), word));
+}
+
+} // namespace
+
+TEST_F(Forms, UnsavedWorkIsOfferedWhenTheProgramStartsAgain)
+{
+    const QString word = QStringLiteral("mi");
+    const auto endProgram = [](const Program& program, bool byExit) {
+        if (byExit) {
+            program.click("cmdExit");
+        } else { // a while passes, then a crash
+            program.main.findChild<QTimer*>()->setInterval(0);
+            QApplication::processEvents();
+        }
+    };
+    for (const bool byExit : {true, false}) {
+        {
+            Program program(survey);
+            start(program);
+            enterWord(program, word);
+            endProgram(program, byExit);
+        }
+        for (const bool open : {true, false}) {
+            Program program(survey);
+            program.dialogs.yesNo = {true, open};
+            program.start(nothing.path());
+            ASSERT_EQ(program.dialogs.shown.size(), 2U) << byExit << open;
+            EXPECT_EQ(program.dialogs.shown[1].text,
+                      QStringLiteral("Unsaved work of map Test was kept when the program ended: item without "
+                                     "a name. Open it?"));
+            EXPECT_EQ(form<frmDataInput>().isWindowModified(), open);
+            EXPECT_EQ(form<frmDataInput>().isVisible(), open);
+            EXPECT_EQ(enteredWords().index(1, 0).data().toString(), open ? word : QString());
+        }
+        Program program(survey);
+        start(program);
+        EXPECT_EQ(program.dialogs.shown.size(), 1U) << "No removes it";
+    }
+}
+
+TEST_F(Forms, ClosingAsksForUnsavedWorkOfHiddenFormsAndKeepsNoneThatWasGivenUp)
+{
+    {
+        Program program(survey);
+        start(program);
+        enterWord(program, QStringLiteral("mi"));
+        form<frmDataInput>().hide();
+        program.main.findChild<QTimer*>()->setInterval(0);
+        QApplication::processEvents();
+        program.dialogs.yesNo = {false, true};
+        program.main.show();
+        EXPECT_FALSE(program.main.close());
+        EXPECT_TRUE(program.main.close());
+    }
+    Program program(survey);
+    start(program);
+    EXPECT_EQ(program.dialogs.shown.size(), 1U);
+}
+
+TEST_F(Forms, KeptWorkThatCannotBeReadIsToldAndDoesNotBlockTheStart)
+{
+    survey.write(VarnPath + QStringLiteral("\\Recovery\\old\\contents.dat"), "\"C:");
+    for (const std::size_t messages : {2U, 1U}) {
+        Program program(survey);
+        start(program);
+        EXPECT_EQ(program.dialogs.shown.size(), messages) << "told once";
+        EXPECT_EQ(program.dialogs.errors.size(), messages - 1);
+        EXPECT_EQ(program.varn.NLocality, 3);
+    }
+}
+
+TEST_F(StartedForms, AChangeOfMapIsSeenInAllForms)
+{
+    const QString isle = VarnPath + QStringLiteral("\\VarnData\\Isle\\Map\\");
+    survey.write(isle + QStringLiteral("Loc.map"), "1\r\n7,8\r\n");
+    survey.write(isle + QStringLiteral("Line.map"), "1\r\n0,2,0,0,0,0\r\n0,0\r\n800,1000\r\n");
+    survey.write(isle + QStringLiteral("kanji.map"), "0\r\n1,2\r\n\"km\",1,100\r\n");
+    program.load("mnuInputWord", "rain.dbs");
+    program.load("mnuHankoInput", "rain.han");
+    program.menu("mnuMapLing").trigger();
+    for (const char* button : {"cmdData", "cmdHanko", "cmdSumUp"}) {
+        program.click(button);
+    }
+    control<frmCalc, QLineEdit>("txtTotalNumber").setText(QStringLiteral("2"));
+    press<frmCalc>("cmdTotalNumber");
+    control<frmCalc, QLineEdit>("txtExplain").setText(QStringLiteral("unsaved"));
+    enterWord(program, QStringLiteral("mi"));
+
+    for (const bool lose : {false, true}) {
+        program.dialogs.files = {survey.drive().hostPath(isle + QStringLiteral("Loc.map"))};
+        program.dialogs.yesNo = {lose};
+        if (lose) {
+            program.dialogs.yesNo.push_back(true);
+        }
+        press<frmChizu>("cmdRegMapName");
+        EXPECT_EQ(program.varn.VarnMapName, lose ? QStringLiteral("\\Isle") : QStringLiteral("\\Test"));
+        EXPECT_EQ(enteredWords().rowCount(), lose ? 1 : 3);
+        EXPECT_EQ(program.varn.NumWordforms, lose ? 0 : 2);
+        EXPECT_EQ(program.drawing().operations.empty(), lose);
+    }
+    EXPECT_EQ(program.dialogs.shown[program.dialogs.shown.size() - 2].text,
+              QStringLiteral("Unsaved work belongs to map Test and will be lost: item without a name, "
+                             "cumulative data without a name. Choose the other map?"));
+    EXPECT_FALSE(program.menu("mnuMapLing").isEnabled());
+    const std::pair<QWidget*, const char*> titles[] = {
+        {&program.main, "VARN - Isle"},
+        {&program.map(), "VARN Map - Isle - rain.han"},
+        {&form<frmDataInput>(), "VARN Input Linguistic Data - Isle[*]"},
+        {&form<frmData>(), "VARN Display Data - Isle"},
+        {&form<frmSetHanko>(), "Set Symbols for Kinds - Isle - rain.han[*]"},
+        {&form<frmCalc>(), "Accumulate Data - Isle[*]"}};
+    for (const auto& [window, title] : titles) {
+        EXPECT_EQ(window->windowTitle(), QLatin1String(title));
+    }
+    EXPECT_EQ((control<frmSetHanko, QListWidget>("lstKindWord").count()), 0);
+    EXPECT_EQ((control<frmCalc, QLineEdit>("txtExplain").text()), QString());
+    EXPECT_EQ((control<frmCalc, QListWidget>("lstTotal").count()), 0);
+}
+
+TEST_F(Forms, FormsFitTheScreenAndTheirButtonsHoldTheirTextsInALargeFont)
+{
+    const QFont before = QApplication::font();
+    const auto back = qScopeGuard([&before] { QApplication::setFont(before); });
+    QFont large = before;
+    large.setPointSize(24);
+    QApplication::setFont(large);
+    Program program(survey);
+    start(program);
+    int buttons = 0;
+    for (QWidget* window : QApplication::topLevelWidgets()) {
+        if (qobject_cast<VarnForm*>(window) == nullptr) {
+            continue;
+        }
+        window->show();
+        QApplication::processEvents();
+        const QSize screen = window->screen()->availableSize();
+        EXPECT_LE(window->width(), screen.width()) << qPrintable(window->windowTitle());
+        EXPECT_LE(window->height(), screen.height()) << qPrintable(window->windowTitle());
+        for (const QPushButton* button : window->findChildren<QPushButton*>()) {
+            const QSize text = button->fontMetrics().size(Qt::TextShowMnemonic, button->text());
+            EXPECT_TRUE(!button->isVisible() || button->width() > text.width()) << qPrintable(button->text());
+            EXPECT_TRUE(!button->isVisible() || button->height() > text.height());
+            ++buttons;
+        }
+    }
+    EXPECT_GT(buttons, 50);
+}
+
+TEST_F(StartedForms, AFlatButtonShowsThatItHasTheFocus)
+{
+    const std::pair<QMainWindow*, const char*> buttons[] = {{&program.main, "lblDisplayPaperSize"},
+                                                            {&program.map(), "lblInsatsumode"}};
+    program.click("cmdSettingPrinter");
+    for (const auto& [window, name] : buttons) {
+        auto* button = window->findChild<QPushButton*>(QLatin1String(name));
+        window->show();
+        window->activateWindow();
+        QApplication::processEvents();
+        button->clearFocus();
+        const QImage without = button->grab().toImage();
+        button->setFocus();
+        ASSERT_TRUE(button->hasFocus()) << name;
+        EXPECT_NE(button->grab().toImage(), without) << name;
     }
 }

@@ -1,5 +1,6 @@
 #include "shell/MapChoice.h"
 
+#include "shell/MapChange.h"
 #include "tests/TestDrive.h"
 
 TEST(MapChoice, SixFieldsAreWrittenAndReadBack)
@@ -48,5 +49,55 @@ TEST(MapChoice, QuestionTellsTheFontStyle)
                   QStringLiteral("C:\\Varn62E\\\r\nMap Name Sample\r\nFont Arial\r\nFont Style '%1'\r\n"
                                  "Size of Fonts 10 OK?")
                       .arg(QLatin1String(row.style)));
+    }
+}
+
+#ifndef Q_OS_WIN
+TEST(DriveC, IsAFolderOfTheUsersData)
+{
+    const TestDrive home;
+    const QByteArray before = qgetenv("XDG_DATA_HOME");
+    qputenv("XDG_DATA_HOME", home.root().toLocal8Bit());
+    const QString path = DriveC().hostPath(QStringLiteral("C:\\Varn62E"));
+    before.isNull() ? qunsetenv("XDG_DATA_HOME") : qputenv("XDG_DATA_HOME", before);
+    EXPECT_EQ(path, home.hostPath(QStringLiteral("varn/drive_c/Varn62E")));
+}
+#endif
+
+TEST(MapChange, AnotherMapDropsWhatBelongsToTheOldOne)
+{
+    const std::pair<int, int> states[] = {{0, 0}, {1, 0}, {2, 3}, {3, 3}, {4, 3}};
+    for (const auto& [before, after] : states) {
+        TestSurvey survey;
+        VarnModule& varn = survey.varn;
+        const MapPlace place{varn.VarnPath, QStringLiteral("\\Isle")};
+        survey.write(varn.VarnPath + QStringLiteral("\\VarnData\\Isle\\Map\\Loc.map"), "1\r\n7,8\r\n");
+        varn.LoadState = before;
+        varn.ItemFileName = QStringLiteral("rain.dbs");
+        varn.NKind = 2;
+        varn.NumWordforms = 2;
+        varn.Counts(1, 1) = 5;
+        varn.NumSpecifyChars(1) = 1;
+        varn.StatsWordforms = 2;
+        varn.ContrastAnalysed = true;
+        varn.NHanrei = 2;
+
+        changeMap({varn.VarnPath.toUpper(), varn.VarnMapName.toLower()}, varn);
+        EXPECT_EQ(varn.LoadState, before) << "the same map drops nothing";
+        EXPECT_EQ(varn.NKind + varn.Counts(1, 1) + varn.StatsWordforms, 2 + 5 + 2);
+        EXPECT_EQ(errorOf([&] {
+                      changeMap({varn.VarnPath, QStringLiteral("\\Gone")}, varn);
+                  }).number(),
+                  ErrorNumber::PathNotFound);
+        EXPECT_EQ(varn.ItemFileName, QStringLiteral("rain.dbs")) << "nor does a map that cannot be read";
+
+        changeMap(place, varn);
+        EXPECT_EQ(varn.LoadState, after) << "from " << before;
+        EXPECT_EQ(varn.ItemFileName, QString());
+        EXPECT_EQ(varn.NKind + varn.NumWordforms + varn.Counts(1, 1) + varn.NumSpecifyChars(1), 0);
+        EXPECT_EQ(varn.StatsWordforms, 0);
+        EXPECT_FALSE(varn.ContrastAnalysed);
+        EXPECT_EQ(varn.NHanrei, 2) << "symbols belong to no map";
+        EXPECT_EQ(varn.NLine, 0);
     }
 }

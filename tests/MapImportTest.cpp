@@ -165,20 +165,20 @@ TEST(MapSearch, AMapIsChosenAsAWholeOrNotAtAll)
     write("Isle\\Map\\Line.map", Lines);
     write("Isle\\Map\\Loc.map", "1\r\n7,8\r\n");
     write("Isle\\Map\\kanji.map", "1\r\n20,");
-    EXPECT_EQ(errorOf([&] { chooseMap(isle, varn); }).number(), ErrorNumber::InputPastEndOfFile);
+    EXPECT_EQ(errorOf([&] { chooseMap(isle, varn, varn); }).number(), ErrorNumber::InputPastEndOfFile);
     EXPECT_EQ(varn.VarnMapName, QStringLiteral("\\Test"));
     EXPECT_EQ(varn.NLine, 1);
     EXPECT_EQ(varn.NLocality, 3);
 
     write("Isle\\Map\\kanji.map", Names);
-    chooseMap(isle, varn);
+    chooseMap(isle, varn, varn);
     EXPECT_EQ(varn.dataFolder(), isle.VarnPath + QStringLiteral("\\VarnData\\Isle\\Ling"));
     EXPECT_EQ(varn.NLine, 2);
     EXPECT_EQ(varn.LocXY(1, 1), 8);
     EXPECT_EQ(varn.NKanji, 1);
     EXPECT_EQ(varn.Nsquare, 2) << "a folder without polygon designs leaves those that are loaded";
     write("Square.sbl", "1\r\n1\r\n1,2,0\r\n3,4\r\n");
-    chooseMap(isle, varn);
+    chooseMap(isle, varn, varn);
     EXPECT_EQ(varn.Nsquare, 1);
 }
 

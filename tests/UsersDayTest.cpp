@@ -6,6 +6,7 @@
 
 #include <QAbstractItemView>
 #include <QComboBox>
+#include <QDir>
 #include <QFile>
 #include <QLineEdit>
 #include <QListWidget>
@@ -143,4 +144,48 @@ TEST_F(UsersDay, FromTheSurveyToThePrintedMapAndBack)
     EXPECT_EQ(program.drawing().texts, drawn.texts);
     EXPECT_EQ(program.drawing().points, drawn.points);
     EXPECT_EQ(program.dialogs.errors, std::vector<Shown>());
+}
+
+TEST_F(Forms, ANewMapIsMadeInsideTheProgram)
+{
+    const QString map = VarnPath + QStringLiteral("\\VarnData\\New\\Map\\");
+    const QString source = QStringLiteral("C:\\import\\source.txt");
+    QFile::remove(survey.drive().hostPath(DriveFile));
+    {
+        Program program(survey);
+        program.dialogs.inputs = {QStringLiteral("New")};
+        program.dialogs.yesNo = {false, true};
+        program.start(nothing.path());
+        EXPECT_EQ(program.dialogs.shown.back().text, QStringLiteral("There is no map New. Make a new one?"));
+        QDir(survey.hostPath(QStringLiteral("Varn62E/Varn/VarnData/New"))).removeRecursively();
+
+        const std::tuple<const char*, const char*, QByteArray> imports[] = {
+            {"mnuImportLocalities", "Loc.map", "x,y\n10,20\n30,40\n"},
+            {"mnuImportLines", "Line.map", "1\r\n0,2,0,0,0,0\r\n0,0\r\n80,100\r\n"},
+            {"mnuImportPlaceNames", nullptr, "1\r\n2,3\r\n\"New town\"\r\n5,90\r\n\"km\",2,10\r\n"}};
+        for (const auto& [entry, name, contents] : imports) {
+            survey.write(source, contents);
+            program.dialogs.files = {survey.drive().hostPath(source)};
+            if (name != nullptr) {
+                program.dialogs.savedFiles = {survey.drive().hostPath(map + QLatin1String(name))};
+            }
+            trigger<frmMain>(entry);
+        }
+        EXPECT_EQ(program.varn.NLocality, 2);
+        program.menu("mnuMapBlank").trigger();
+        EXPECT_TRUE(wasPrinted(program.drawing(), QStringLiteral("New town")));
+
+        program.click("cmdInputData");
+        auto& words = *control<frmDataInput, QAbstractItemView>("tblWords").model();
+        EXPECT_TRUE(words.setData(words.index(1, 0), QStringLiteral("mi")));
+        control<frmDataInput, QLineEdit>("txtFileName").setText(QStringLiteral("hand"));
+        trigger<frmDataInput>("mnuSave");
+        EXPECT_EQ(survey.read(VarnPath + QStringLiteral("\\VarnData\\New\\Ling\\hand.dbs")),
+                  "2,\"\",\"\",\"\"\r\n0\r\n1\r\n\"mi\"\r\n");
+        EXPECT_EQ(program.dialogs.errors, std::vector<Shown>());
+    }
+    Program program(survey);
+    start(program);
+    EXPECT_EQ(program.dialogs.errors, std::vector<Shown>()) << "the map is whole at the next start";
+    EXPECT_EQ(program.varn.KanjiText(1), QStringLiteral("New town"));
 }
