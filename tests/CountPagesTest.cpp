@@ -266,7 +266,9 @@ TEST_F(ItemFolder, ItemsAreCountedInTheOrderOfTheirNamesAndTheBadOneIsNamed)
     CumulativeData alone = varn;
     clearCounts(2, alone);
     for (const char* name : {"\\1.DBS", "\\3.dbs"}) {
-        executeItem(varn, readWordData(varn, Folder + QLatin1String(name)), 2, alone);
+        LinguisticData item;
+        static_cast<ItemAnswers&>(item) = readItemAnswers(varn, Folder + QLatin1String(name));
+        executeItem(varn, item, 2, alone);
     }
     for (int j = 1; j <= 2; ++j) {
         EXPECT_EQ(alone.Counts(1, j), varn.Counts(1, j));

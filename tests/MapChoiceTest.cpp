@@ -52,18 +52,6 @@ TEST(MapChoice, QuestionTellsTheFontStyle)
     }
 }
 
-#ifndef Q_OS_WIN
-TEST(DriveC, IsAFolderOfTheUsersData)
-{
-    const TestDrive home;
-    const QByteArray before = qgetenv("XDG_DATA_HOME");
-    qputenv("XDG_DATA_HOME", home.root().toLocal8Bit());
-    const QString path = DriveC().hostPath(QStringLiteral("C:\\Varn62E"));
-    before.isNull() ? qunsetenv("XDG_DATA_HOME") : qputenv("XDG_DATA_HOME", before);
-    EXPECT_EQ(path, home.hostPath(QStringLiteral("varn/drive_c/Varn62E")));
-}
-#endif
-
 TEST(MapChange, AnotherMapDropsWhatBelongsToTheOldOne)
 {
     const std::pair<int, int> states[] = {{0, 0}, {1, 0}, {2, 3}, {3, 3}, {4, 3}};
