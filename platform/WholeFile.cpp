@@ -7,6 +7,8 @@
 #include <QSaveFile>
 #include <QStringDecoder>
 
+#include <cerrno>
+
 namespace {
 
 constexpr qint64 MaxFileSize = 64LL * 1024 * 1024;
@@ -16,10 +18,23 @@ constexpr qint64 MaxFileSize = 64LL * 1024 * 1024;
     throw RunTimeError(number, detail).at({path});
 }
 
+/// Raises the error that the last step of writing `file` ended with. A disk can be full at every step: where
+/// the file is made, written, and put in its place.
 [[noreturn]] void raiseWriteError(const QSaveFile& file, ErrorNumber otherwise, const QString& path)
 {
-    const bool full = file.error() == QFileDevice::ResourceError;
+    const bool full = file.error() == QFileDevice::ResourceError || errno == ENOSPC || errno == EDQUOT;
     raise(full ? ErrorNumber::DiskFull : otherwise, path, file.errorString());
+}
+
+/// A device or a pipe has no end to read up to, and would not be one any more after a file took its place.
+void requireRegular(const QFileInfo& file, const QString& path)
+{
+    if (file.isDir()) {
+        raise(ErrorNumber::PermissionDenied, path, QStringLiteral("It is a folder."));
+    }
+    if (file.exists() && !file.isFile()) {
+        raise(ErrorNumber::PermissionDenied, path, QStringLiteral("It is a device or a pipe, not a file."));
+    }
 }
 
 void requireReadable(const QFileInfo& file, const QString& path)
@@ -28,9 +43,7 @@ void requireReadable(const QFileInfo& file, const QString& path)
         const bool folderExists = QFileInfo::exists(file.absolutePath());
         raise(folderExists ? ErrorNumber::FileNotFound : ErrorNumber::PathNotFound, path);
     }
-    if (file.isDir()) {
-        raise(ErrorNumber::PermissionDenied, path, QStringLiteral("It is a folder."));
-    }
+    requireRegular(file, path);
     if (file.size() > MaxFileSize) {
         raise(ErrorNumber::OutOfMemory, path, QStringLiteral("The file is larger than 64 MiB."));
     }
@@ -92,9 +105,8 @@ void replaceHostFile(const QString& hostPath, const QString& path, const QByteAr
     if (!QFileInfo::exists(target.absolutePath())) {
         raise(ErrorNumber::PathNotFound, path);
     }
-    if (target.isDir()) {
-        raise(ErrorNumber::PermissionDenied, path, QStringLiteral("It is a folder."));
-    }
+    requireRegular(target, path);
+    errno = 0;
     QSaveFile file(target.absoluteFilePath());
     if (!file.open(QIODevice::WriteOnly)) {
         raiseWriteError(file, ErrorNumber::PermissionDenied, path);
@@ -107,7 +119,8 @@ void replaceHostFile(const QString& hostPath, const QString& path, const QByteAr
         }
         written += taken;
     }
-    if (!file.commit()) {
+    // What is still in the buffer would be lost without a word by `commit`.
+    if (!file.flush() || file.error() != QFileDevice::NoError || !file.commit()) {
         raiseWriteError(file, ErrorNumber::DeviceIOError, path);
     }
 }
