@@ -1,11 +1,11 @@
 #include "platform/WholeFile.h"
 
 #include "platform/RunTimeError.h"
+#include "platform/TextEncoding.h"
 
 #include <QFile>
 #include <QFileInfo>
 #include <QSaveFile>
-#include <QStringDecoder>
 
 #include <cerrno>
 
@@ -49,31 +49,7 @@ void requireReadable(const QFileInfo& file, const QString& path)
     }
 }
 
-/// Whether all of `bytes` is valid in the decoder's encoding; the text goes to `text`.
-bool decodeWhole(QStringDecoder decoder, const QByteArray& bytes, QString& text)
-{
-    if (!decoder.isValid()) {
-        return false;
-    }
-    text = decoder(bytes);
-    return !decoder.hasError();
-}
-
 } // namespace
-
-QString decodeText(const QByteArray& bytes)
-{
-    if (bytes.contains('\0')) {
-        throw RunTimeError(ErrorNumber::TypeMismatch, QStringLiteral("The file does not hold text."));
-    }
-    QString text;
-    if (decodeWhole(QStringDecoder(QStringDecoder::Utf8), bytes, text) ||
-        decodeWhole(QStringDecoder("Shift_JIS"), bytes, text) ||
-        decodeWhole(QStringDecoder("windows-1252"), bytes, text)) {
-        return text;
-    }
-    return QString::fromLatin1(bytes);
-}
 
 QByteArray readBytes(const DriveC& drive, const QString& path)
 {

@@ -7,17 +7,6 @@
 
 #include <sys/stat.h>
 
-TEST(WholeFile, TextIsReadInTheEncodingItIsValidIn)
-{
-    const QString word = QString::fromUtf8("\xE6\x96\xB9\xE8\xA8\x80"); // "dialect" in Japanese
-    EXPECT_EQ(decodeText("\xE6\x96\xB9\xE8\xA8\x80"), word);
-    EXPECT_EQ(decodeText("\xEF\xBB\xBF\xE6\x96\xB9\xE8\xA8\x80"), word) << "with a byte order mark";
-    EXPECT_EQ(decodeText("\x95\xFB\x8C\xBE"), word) << "Shift-JIS";
-    EXPECT_EQ(decodeText("\"caf\xE9\",1\r\n"), QString::fromUtf8("\"caf\xC3\xA9\",1\r\n")) << "Windows-1252";
-    EXPECT_EQ(decodeText("plain"), QStringLiteral("plain"));
-    EXPECT_EQ(errorOf([] { decodeText(QByteArray("MZ\0\1", 4)); }).number(), ErrorNumber::TypeMismatch);
-}
-
 TEST(WholeFile, NamesMatchWithoutRegardToCase)
 {
     const TestDrive drive;
