@@ -21,6 +21,16 @@ void ofWordform(const CumulativeTable& table, int k, const char* figure, Compute
     }
 }
 
+/// Raises subscript out of range for more items than the statistics have room for.
+void requireRoom(const Statistics& statistics, int items)
+{
+    try {
+        static_cast<void>(statistics.CumCount(items, 1));
+    } catch (const RunTimeError& error) {
+        throw error.during(QStringLiteral("The number of items."));
+    }
+}
+
 void distribute(const CumulativeTable& table, int k, int localities, Statistics& statistics)
 {
     for (int v = 0; v <= table.NumItemsAccumulated; ++v) {
@@ -93,6 +103,7 @@ double Rnd(double x, int n)
 
 void Stats(const CumulativeTable& table, int localities, Statistics& statistics)
 {
+    requireRoom(statistics, table.NumItemsAccumulated);
     Statistics fresh = statistics;
     for (int k = 1; k <= table.NumWordforms; ++k) {
         distribute(table, k, localities, fresh);
@@ -149,7 +160,8 @@ Statistics readStatistics(SequentialReader& file)
     Statistics read;
     read.StatsWordforms = file.readCount();
     read.StatsItems = file.readCount();
-    static_cast<void>(read.CumCount(read.StatsItems, read.StatsWordforms));
+    requireRoom(read, read.StatsItems);
+    static_cast<void>(read.Median(read.StatsWordforms));
     for (int n = 1; n <= read.StatsWordforms; ++n) {
         const int k = file.readInteger();
         read.Median(k) = file.readNumber();

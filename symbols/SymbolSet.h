@@ -32,8 +32,9 @@ struct SymbolSet
     BoundedArray<QString, Bounds{0, 100}> HankoWord;
     BoundedArray<QString, Bounds{0, 100}> HankoCaption;
     BoundedArray<HankoStyle, Bounds{0, 100}> Hanko;
-    /// Name of the symbol file last opened, without its folder.
+    /// Name of the symbol file last opened, without its folder, and its path.
     QString SymbolFileName;
+    QString SymbolFilePath;
 
     /// The record that is being edited, 0..100; beyond `NHanrei` a new one.
     int CurrentHanko = 0;
