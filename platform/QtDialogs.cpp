@@ -1,10 +1,12 @@
 #include "platform/QtDialogs.h"
 
+#include "platform/DriveC.h"
 #include "platform/Numbers.h"
 #include "platform/QtPrinterDevice.h"
 
 #include <QApplication>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QFontDialog>
 #include <QFontInfo>
 #include <QFontMetrics>
@@ -48,6 +50,20 @@ int showBox(QMessageBox::Icon icon, const QString& text, const QString& more, co
     box.setDefaultButton(defaultButton);
     widenToText(box, displayed(more));
     return box.exec();
+}
+
+/// The existing file that `chosen` names without regard to letter case, which the program would write over;
+/// `chosen` itself where there is none. The file dialog asks only about a file of exactly that name.
+QString fileInAnyCase(const QString& chosen)
+{
+    const DriveC drive;
+    const QString found = drive.hostPath(drive.varnPath(chosen));
+    return !QFileInfo::exists(chosen) && QFileInfo(found).isFile() ? found : chosen;
+}
+
+QString overwriteQuestion(const QString& path)
+{
+    return QStringLiteral("%1 already exists.\nDo you want to replace it?").arg(QFileInfo(path).fileName());
 }
 
 } // namespace
@@ -140,10 +156,14 @@ std::optional<QString> QtDialogs::saveFile(const QString& title, const QString& 
     QObject::connect(&dialog, &QFileDialog::filterSelected, &dialog, useSuffix);
     useSuffix(dialog.selectedNameFilter());
     dialog.selectFile(initial);
-    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) {
-        return std::nullopt;
+    while (dialog.exec() == QDialog::Accepted && !dialog.selectedFiles().isEmpty()) {
+        const QString chosen = dialog.selectedFiles().constFirst();
+        const QString target = fileInAnyCase(chosen);
+        if (target == chosen || confirmLoss(overwriteQuestion(target), title)) {
+            return target;
+        }
     }
-    return dialog.selectedFiles().constFirst();
+    return std::nullopt;
 }
 
 std::unique_ptr<PrinterDevice> QtDialogs::choosePrinter(const PageLayout& layout)

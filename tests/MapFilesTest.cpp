@@ -4,8 +4,6 @@
 
 namespace {
 
-const QString MapFolder = QStringLiteral("C:\\Varn62E\\Varn\\VarnData\\Test\\Map\\");
-
 template <typename Map>
 ErrorNumber errorOfReading(Map (*read)(SequentialReader&), const QByteArray& text)
 {
@@ -87,22 +85,14 @@ TEST(MapFiles, FilesAtTheirBoundsLoadAndOneRecordMoreDoesNot)
     EXPECT_EQ(errorOfReading(readLines, "1\r\n" + line(501)), Subscript);
     EXPECT_EQ(errorOfReading(readPolygons, "201\r\n" + repeated(polygon(2), 201)), Subscript);
     EXPECT_EQ(errorOfReading(readPolygons, "1\r\n" + polygon(21)), Subscript);
+    const QByteArray scaleBar = "0\r\n1,2\r\n\"km\",";
+    reads(readPlaceNames, scaleBar + "1000,1\r\n");
+    reads(readPlaceNames, scaleBar + "0,1\r\n");
+    EXPECT_EQ(errorOfReading(readPlaceNames, scaleBar + "1001,1\r\n"), Subscript);
     EXPECT_EQ(errorOfReading(readLocalities, "-1\r\n"), Subscript);
     EXPECT_EQ(errorOfReading(readLines, "-1\r\n"), Subscript);
     EXPECT_EQ(errorOfReading(readLocalities, "40000\r\n"), ErrorNumber::Overflow);
     EXPECT_EQ(errorOfReading(readLocalities, "3\r\n1,2\r\n3"), ErrorNumber::InputPastEndOfFile);
     EXPECT_EQ(errorOfReading(readPlaceNames, "0\r\n"), ErrorNumber::InputPastEndOfFile);
     EXPECT_EQ(errorOfReading(readLines, "1\r\n0,1,0,0,0,0\r\nx,1\r\n"), ErrorNumber::TypeMismatch);
-}
-
-TEST(MapFiles, AFailedLoadLeavesTheOldMap)
-{
-    TestSurvey survey;
-    VarnModule& varn = survey.varn;
-    survey.write(MapFolder + QStringLiteral("Loc.map"), "3\r\n7,7\r\n8,8\r\n");
-    const RunTimeError error =
-        errorOf([&] { LoadLocateData(varn.Drive, varn.VarnPath, varn.VarnMapName, varn); });
-    EXPECT_EQ(error.number(), ErrorNumber::InputPastEndOfFile);
-    EXPECT_EQ(error.place().path, MapFolder + QStringLiteral("Loc.map"));
-    EXPECT_EQ(varn.LocXY(1, 0), 100);
 }

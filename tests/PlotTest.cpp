@@ -76,6 +76,14 @@ QStringList words(const char* line)
     return QString::fromLatin1(line).split(QLatin1Char(' '), Qt::SkipEmptyParts);
 }
 
+/// The first compressed part of a PDF: what is painted on its first page.
+QByteArray firstStream(const QByteArray& pdf)
+{
+    const QByteArray begin = "stream\n";
+    const QByteArray anyLength(4, '\1');
+    return qUncompress(anyLength + pdf.mid(pdf.indexOf(begin) + begin.size()));
+}
+
 } // namespace
 
 TEST(PlotOptions, TheCommandLineIsRead)
@@ -126,7 +134,9 @@ TEST(Plot, TextStaysTextAndShapesStayVectors)
 
     const QByteArray pdf = survey.plotted(PlotOptions::Command::LinguisticMap, QStringLiteral("map.pdf"));
     EXPECT_TRUE(pdf.startsWith("%PDF-"));
-    EXPECT_TRUE(pdf.contains("/MediaBox [0 0 600"));
+    EXPECT_TRUE(pdf.contains("/MediaBox [0 0 600.000000 450.000000]"));
+    EXPECT_TRUE(firstStream(pdf).contains("\n0.050000000 0 0 -0.050000000 0 450 cm\n"))
+        << "a twip is a twentieth of a point, and the drawing begins at the corner of the page";
     EXPECT_TRUE(pdf.contains("/FontFile2")) << "the text's font is embedded";
     EXPECT_FALSE(pdf.contains("/Subtype /Image"));
 }
@@ -143,10 +153,14 @@ TEST(Plot, APictureCoversTheDrawingArea)
     EXPECT_EQ(first.pixel(pixel(100), pixel(200)), qRgb(255, 0, 0));
     EXPECT_EQ(first.pixel(pixel(300), pixel(400)), qRgb(255, 255, 255)) << "no answer there";
 
+    EXPECT_EQ(first.dotsPerMeterX(), 7559) << "192 dots per inch";
+    EXPECT_EQ(first.dotsPerMeterY(), 7559);
+
     options.height = 100;
     options.dotsPerInch = 96;
     plotQuietly(options);
     EXPECT_EQ(QImage(options.output).size(), QSize(504, 378));
+    EXPECT_EQ(QImage(options.output).dotsPerMeterY(), 3780);
 }
 
 TEST(Plot, AnAtlasHasAPageForEachItemWithSymbols)

@@ -27,12 +27,6 @@ TEST(SymbolFile, ItIsWrittenAsItIsRead)
     EXPECT_EQ(survey.read(copy), Two);
 }
 
-TEST(SymbolFile, AnEmptySetIsASet)
-{
-    SequentialReader file(QStringLiteral("\"\"\r\n0\r\n"));
-    EXPECT_EQ(readSymbolSet(file).NHanrei, 0);
-}
-
 TEST(SymbolFile, AFailedLoadLeavesTheLoadedSet)
 {
     struct Row
