@@ -22,6 +22,20 @@ int readPlainCount(SequentialReader& file)
     return static_cast<int>(count);
 }
 
+/// The number of divisions of a scale bar, whole or not, as it stands in the file.
+double readDivisions(SequentialReader& file)
+{
+    constexpr double MostDivisions = 1000; // on any map, more ticks than that are one black bar
+    const double divisions = file.readNumber();
+    if (divisions > MostDivisions) {
+        throw RunTimeError(ErrorNumber::SubscriptOutOfRange,
+                           QStringLiteral("A scale bar has at most %1 divisions, not %2.")
+                               .arg(MostDivisions)
+                               .arg(divisions));
+    }
+    return divisions;
+}
+
 /// Makes the vertices relative to the reference points.
 void makeRelative(PolygonTable& table)
 {
@@ -100,7 +114,7 @@ PlaceNames readPlaceNames(SequentialReader& file)
         }
     }
     map.ScaleLabel = file.readString();
-    map.ScaleDivisions = file.readNumber();
+    map.ScaleDivisions = readDivisions(file);
     map.ScaleLength = file.readNumber();
     map.HanreiX = map.KanjiXY(1, 0);
     map.HanreiY = toInteger(map.KanjiXY(1, 1));

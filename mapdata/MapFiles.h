@@ -15,8 +15,8 @@ void writeLocalities(SequentialWriter& file, const Localities& map);
 MapLines readLines(SequentialReader& file);
 void writeLines(SequentialWriter& file, const MapLines& map);
 
-/// `kanji.map`: the count, then position and text of each name, then position, label, divisions and length of
-/// the scale bar.
+/// `kanji.map`: the count, then position and text of each name, then position, label, divisions (at most
+/// 1000) and length of the scale bar.
 PlaceNames readPlaceNames(SequentialReader& file);
 void writePlaceNames(SequentialWriter& file, const PlaceNames& map);
 

@@ -51,11 +51,19 @@ float coordinate(const QStringList& columns, int column)
     return toSingle(*value);
 }
 
-void addLocality(const QStringList& columns, Localities& map)
+void addLocality(const QStringList& columns, const FilePlace& line, Localities& map)
 {
     const int i = map.NLocality + 1;
-    map.LocXY(i, 0) = coordinate(columns, 0);
-    map.LocXY(i, 1) = coordinate(columns, 1);
+    FilePlace place = line;
+    try {
+        for (int column = 0; column <= 1; ++column) {
+            float& target = map.LocXY(i, column);
+            place.field = column + 1;
+            target = coordinate(columns, column);
+        }
+    } catch (const RunTimeError& error) {
+        throw error.at(place);
+    }
     map.NLocality = static_cast<qint16>(i);
 }
 
@@ -73,11 +81,7 @@ Localities localitiesOfTable(const QStringList& lines, const QString& path)
         if (heading) {
             continue;
         }
-        try {
-            addLocality(columns, map);
-        } catch (const RunTimeError& error) {
-            throw error.at({path, static_cast<int>(line + 1)});
-        }
+        addLocality(columns, {path, static_cast<int>(line + 1)}, map);
     }
     if (map.NLocality == 0) {
         throw RunTimeError(ErrorNumber::InputPastEndOfFile, QStringLiteral("The file has no localities."))

@@ -8,6 +8,6 @@
 /// semicolons, tabs or blanks; a first line without numbers is passed over as the heading.
 ///
 /// Raises type mismatch for a line without two numbers, overflow, subscript out of range beyond 1000
-/// localities, and input past end of file where there is no locality, each with the line; and the errors of
-/// reading a file.
+/// localities, and input past end of file where there is no locality, each with the line and, where a
+/// coordinate is at fault, the field; and the errors of reading a file.
 Localities importLocalities(const DriveC& drive, const QString& path);

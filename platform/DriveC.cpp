@@ -68,6 +68,15 @@ QString DriveC::hostPath(const QString& path) const
 #endif
 }
 
+std::optional<QString> DriveC::knownHostPath(const QString& path) const
+{
+    try {
+        return hostPath(path);
+    } catch (const RunTimeError&) {
+        return std::nullopt;
+    }
+}
+
 QString DriveC::varnPath(const QString& hostPath) const
 {
     const QString absolute = QDir::cleanPath(QFileInfo(hostPath).absoluteFilePath());

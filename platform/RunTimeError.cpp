@@ -79,7 +79,10 @@ QString RunTimeError::where() const
     if (hasPlace()) {
         QString file = QStringLiteral("File: ") + m_place.path;
         if (m_place.line > 0) {
-            file += QStringLiteral("\nLine %1, field %2").arg(m_place.line).arg(m_place.field);
+            file += QStringLiteral("\nLine %1").arg(m_place.line);
+        }
+        if (m_place.field > 0) {
+            file += QStringLiteral(", field %1").arg(m_place.field);
         }
         lines << file;
     }

@@ -23,7 +23,7 @@ enum class ErrorNumber {
 };
 
 /// A place in a text file: the path as the program writes it, and the line and the field on it, both counted
-/// from 1. Line 0 stands for the file as a whole.
+/// from 1. Line 0 stands for the file as a whole, field 0 for a whole line.
 struct FilePlace
 {
     QString path;

@@ -1,5 +1,6 @@
 #include "platform/VarnForm.h"
 
+#include "platform/DriveC.h"
 #include "platform/RunTimeError.h"
 
 #include <QEvent>
@@ -26,6 +27,15 @@ std::optional<RunTimeError> errorOf(const std::function<void()>& handler)
         return RunTimeError(ErrorNumber::OutOfMemory);
     }
     return std::nullopt;
+}
+
+/// What is known of the error. Its file is named a second time where this machine has another path for it.
+QString detailOf(const RunTimeError& error)
+{
+    const QString& path = error.place().path;
+    const QString realPath = DriveC().knownHostPath(path).value_or(path);
+    return realPath == path ? error.where()
+                            : error.where() + QStringLiteral("\nOn this machine: ") + realPath;
 }
 
 } // namespace
@@ -93,7 +103,7 @@ bool VarnForm::run(const std::function<void()>& handler)
     const std::optional<RunTimeError> error = errorOf(handler);
     refresh();
     if (error) {
-        m_dialogs.error(error->title(), error->where());
+        m_dialogs.error(error->title(), detailOf(*error));
     }
     return !error;
 }

@@ -1,11 +1,13 @@
 #include "platform/WholeFile.h"
 
 #include "platform/RunTimeError.h"
+#include "platform/TextEncoding.h"
 
 #include <QFile>
 #include <QFileInfo>
 #include <QSaveFile>
-#include <QStringDecoder>
+
+#include <cerrno>
 
 namespace {
 
@@ -16,10 +18,23 @@ constexpr qint64 MaxFileSize = 64LL * 1024 * 1024;
     throw RunTimeError(number, detail).at({path});
 }
 
+/// Raises the error that the last step of writing `file` ended with. A disk can be full at every step: where
+/// the file is made, written, and put in its place.
 [[noreturn]] void raiseWriteError(const QSaveFile& file, ErrorNumber otherwise, const QString& path)
 {
-    const bool full = file.error() == QFileDevice::ResourceError;
+    const bool full = file.error() == QFileDevice::ResourceError || errno == ENOSPC || errno == EDQUOT;
     raise(full ? ErrorNumber::DiskFull : otherwise, path, file.errorString());
+}
+
+/// A device or a pipe has no end to read up to, and would not be one any more after a file took its place.
+void requireRegular(const QFileInfo& file, const QString& path)
+{
+    if (file.isDir()) {
+        raise(ErrorNumber::PermissionDenied, path, QStringLiteral("It is a folder."));
+    }
+    if (file.exists() && !file.isFile()) {
+        raise(ErrorNumber::PermissionDenied, path, QStringLiteral("It is a device or a pipe, not a file."));
+    }
 }
 
 void requireReadable(const QFileInfo& file, const QString& path)
@@ -28,39 +43,13 @@ void requireReadable(const QFileInfo& file, const QString& path)
         const bool folderExists = QFileInfo::exists(file.absolutePath());
         raise(folderExists ? ErrorNumber::FileNotFound : ErrorNumber::PathNotFound, path);
     }
-    if (file.isDir()) {
-        raise(ErrorNumber::PermissionDenied, path, QStringLiteral("It is a folder."));
-    }
+    requireRegular(file, path);
     if (file.size() > MaxFileSize) {
         raise(ErrorNumber::OutOfMemory, path, QStringLiteral("The file is larger than 64 MiB."));
     }
 }
 
-/// Whether all of `bytes` is valid in the decoder's encoding; the text goes to `text`.
-bool decodeWhole(QStringDecoder decoder, const QByteArray& bytes, QString& text)
-{
-    if (!decoder.isValid()) {
-        return false;
-    }
-    text = decoder(bytes);
-    return !decoder.hasError();
-}
-
 } // namespace
-
-QString decodeText(const QByteArray& bytes)
-{
-    if (bytes.contains('\0')) {
-        throw RunTimeError(ErrorNumber::TypeMismatch, QStringLiteral("The file does not hold text."));
-    }
-    QString text;
-    if (decodeWhole(QStringDecoder(QStringDecoder::Utf8), bytes, text) ||
-        decodeWhole(QStringDecoder("Shift_JIS"), bytes, text) ||
-        decodeWhole(QStringDecoder("windows-1252"), bytes, text)) {
-        return text;
-    }
-    return QString::fromLatin1(bytes);
-}
 
 QByteArray readBytes(const DriveC& drive, const QString& path)
 {
@@ -92,9 +81,8 @@ void replaceHostFile(const QString& hostPath, const QString& path, const QByteAr
     if (!QFileInfo::exists(target.absolutePath())) {
         raise(ErrorNumber::PathNotFound, path);
     }
-    if (target.isDir()) {
-        raise(ErrorNumber::PermissionDenied, path, QStringLiteral("It is a folder."));
-    }
+    requireRegular(target, path);
+    errno = 0;
     QSaveFile file(target.absoluteFilePath());
     if (!file.open(QIODevice::WriteOnly)) {
         raiseWriteError(file, ErrorNumber::PermissionDenied, path);
@@ -107,7 +95,8 @@ void replaceHostFile(const QString& hostPath, const QString& path, const QByteAr
         }
         written += taken;
     }
-    if (!file.commit()) {
+    // What is still in the buffer would be lost without a word by `commit`.
+    if (!file.flush() || file.error() != QFileDevice::NoError || !file.commit()) {
         raiseWriteError(file, ErrorNumber::DeviceIOError, path);
     }
 }

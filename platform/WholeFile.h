@@ -5,20 +5,17 @@
 #include <QByteArray>
 #include <QString>
 
-/// All bytes of the file at `path`. Raises file not found, path not found, permission denied, device I/O
-/// error, and out of memory for a file beyond 64 MiB.
+/// All bytes of the file at `path`. Raises file not found, path not found, permission denied (also for a
+/// folder, a device or a pipe), device I/O error, and out of memory for a file beyond 64 MiB.
 QByteArray readBytes(const DriveC& drive, const QString& path);
 
-/// The whole text of the file at `path`. UTF-8; what is not valid UTF-8 is read as Shift-JIS, and if it is
-/// not that either, as Windows-1252. Raises type mismatch for a file that holds no text, and what `readBytes`
-/// raises.
+/// The whole text of the file at `path`, in the encoding that its bytes speak for. Raises type mismatch for a
+/// file that holds no text, and what `readBytes` raises.
 QString readTextFile(const DriveC& drive, const QString& path);
 
-/// The text that the bytes of a file stand for, as `readTextFile` decides.
-QString decodeText(const QByteArray& bytes);
-
 /// Writes `bytes` to the file at `path` in one step: the file holds either all of them or what it held
-/// before. Raises path not found, permission denied, disk full, device I/O error.
+/// before. Raises path not found, permission denied (also for a folder, a device or a pipe), disk full,
+/// device I/O error.
 void replaceFile(const DriveC& drive, const QString& path, const QByteArray& bytes);
 
 /// The same for the file at `hostPath`, a path of this machine; `path` names it in errors.

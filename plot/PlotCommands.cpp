@@ -3,6 +3,7 @@
 #include "analysis/Accumulation.h"
 #include "analysis/CumulativeFile.h"
 #include "lingdata/LinguisticFile.h"
+#include "lingdata/LocalityMismatch.h"
 #include "mapdata/MapFiles.h"
 #include "plot/DrawingFile.h"
 #include "render/BlankMap.h"
@@ -17,6 +18,7 @@
 #include <QFileInfo>
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -24,7 +26,7 @@ namespace {
 class MapPlot
 {
 public:
-    explicit MapPlot(const PlotOptions& options)
+    MapPlot(const PlotOptions& options, PlotListener& listener) : m_listener(listener)
     {
         m_varn.VarnPath = m_varn.Drive.varnPath(options.installation);
         m_varn.VarnMapName = QLatin1Char('\\') + options.map;
@@ -44,6 +46,10 @@ public:
     const Drawing& linguisticMap(const QString& dataPath, const QString& symbolPath)
     {
         static_cast<ItemAnswers&>(m_varn) = readSequentialFile(m_varn.Drive, dataPath, readItem);
+        if (const QString mismatch = localityMismatch(m_varn.NLocate, m_varn.NLocality);
+            !mismatch.isEmpty()) {
+            m_listener.warning(m_varn.Drive.hostPath(dataPath) + QStringLiteral(": ") + mismatch);
+        }
         LoadHankoData(m_varn.Drive, symbolPath, m_varn);
         drawLinguisticMap(m_varn, surfaces());
         return m_frmMap.drawing();
@@ -103,6 +109,7 @@ private:
 
     VarnModule m_varn;
     DrawSurface m_frmMap;
+    PlotListener& m_listener;
 };
 
 /// The items of a map that have a symbol file of the same name, in name order, without their endings.
@@ -124,7 +131,7 @@ QStringList itemsWithSymbols(const Folders& folders)
     return names;
 }
 
-void plotAtlas(MapPlot& map, const QString& output, const PlotProgress& progress)
+void plotAtlas(MapPlot& map, const QString& output, PlotListener& listener)
 {
     const QStringList names = itemsWithSymbols(map.folders());
     if (names.isEmpty()) {
@@ -135,17 +142,20 @@ void plotAtlas(MapPlot& map, const QString& output, const PlotProgress& progress
     const auto pages = static_cast<int>(names.size());
     const auto drawPage = [&](int page) -> const Drawing& {
         const QString& name = names[page];
-        progress(page + 1, pages, name);
+        listener.page(page + 1, pages, name);
         const QString path = map.folders().dataFolder() + QLatin1Char('\\') + name;
         return map.linguisticMap(path + QStringLiteral(".dbs"), path + QStringLiteral(".han"));
     };
     savePdfPages(pages, drawPage, map.size(), output);
 }
 
-/// Adds each item to the table, which is saved after each.
-void accumulate(VarnModule& varn, const QStringList& items, const QString& counts, const QString& characters)
+void loadCounts(VarnModule& varn, const QString& counts)
 {
-    const QString path = varn.Drive.varnPath(counts);
+    LoadTotalFile(varn.Drive, varn.Drive.varnPath(counts), varn.NLocality, varn);
+}
+
+void loadCharacters(VarnModule& varn, const QString& characters)
+{
     const int wordforms = varn.NumWordforms;
     LoadSetData(varn.Drive, varn.Drive.varnPath(characters), varn);
     if (varn.NumWordforms != wordforms) {
@@ -155,11 +165,75 @@ void accumulate(VarnModule& varn, const QStringList& items, const QString& count
                                .arg(varn.NumWordforms))
             .at({characters});
     }
-    for (const QString& item : items) {
-        accumulateItem(readSequentialFile(varn.Drive, varn.Drive.varnPath(item), readItem), varn.NLocality,
-                       varn);
-        SaveTotalFile(varn.Drive, path.left(path.lastIndexOf(QLatin1Char('\\'))), varn.NLocality, varn);
+}
+
+/// The folder of the table at `counts`. Raises bad file name where saving the table there, with its ending in
+/// small letters, would write another file.
+QString folderOfTable(const VarnModule& varn, const QString& counts)
+{
+    const QString path = varn.Drive.varnPath(counts);
+    const QString folder = path.left(path.lastIndexOf(QLatin1Char('\\')));
+    const QString saved = folder + QLatin1Char('\\') + varn.TotalFileName + QStringLiteral(".ttl");
+    if (varn.Drive.hostPath(saved) != varn.Drive.hostPath(path)) {
+        throw RunTimeError(ErrorNumber::BadFileName,
+                           QStringLiteral("There is another file of this name in small letters."))
+            .at({path});
     }
+    return folder;
+}
+
+/// Adds items to a table, which is saved after each.
+class ItemCounting
+{
+public:
+    ItemCounting(VarnModule& varn, QString folder, PlotListener& listener)
+        : m_varn(varn), m_folder(std::move(folder)), m_listener(listener)
+    {}
+
+    /// Returns whether all items were counted: an item of another map is left out.
+    bool add(const QStringList& items)
+    {
+        try {
+            for (const QString& item : items) {
+                add(item);
+            }
+        } catch (const RunTimeError& error) {
+            throw error.during(done(items));
+        }
+        if (m_counted < items.size()) {
+            m_listener.warning(done(items));
+        }
+        return m_counted == items.size();
+    }
+
+private:
+    void add(const QString& path)
+    {
+        const ItemAnswers item = readSequentialFile(m_varn.Drive, m_varn.Drive.varnPath(path), readItem);
+        if (const QString mismatch = localityMismatch(item.NLocate, m_varn.NLocality); !mismatch.isEmpty()) {
+            m_listener.warning(path + QStringLiteral(": ") + mismatch + QStringLiteral(" It is left out."));
+            return;
+        }
+        accumulateItem(item, m_varn.NLocality, m_varn);
+        SaveTotalFile(m_varn.Drive, m_folder, m_varn.NLocality, m_varn);
+        ++m_counted;
+    }
+
+    QString done(const QStringList& items) const
+    {
+        return QStringLiteral("%1 of %2 items counted and saved.").arg(m_counted).arg(items.size());
+    }
+
+    VarnModule& m_varn;
+    QString m_folder;
+    PlotListener& m_listener;
+    qsizetype m_counted = 0;
+};
+
+bool accumulate(VarnModule& varn, const PlotOptions& options, PlotListener& listener)
+{
+    loadCharacters(varn, options.characters);
+    return ItemCounting(varn, folderOfTable(varn, options.counts), listener).add(options.data);
 }
 
 void saveStatistics(VarnModule& varn, const QString& output)
@@ -169,16 +243,11 @@ void saveStatistics(VarnModule& varn, const QString& output)
                         [&varn](SequentialWriter& file) { writeStatistics(file, varn, varn); });
 }
 
-void loadCounts(VarnModule& varn, const QString& counts)
-{
-    LoadTotalFile(varn.Drive, varn.Drive.varnPath(counts), varn.NLocality, varn);
-}
-
 } // namespace
 
-void plot(const PlotOptions& options, const PlotProgress& progress)
+bool plot(const PlotOptions& options, PlotListener& listener)
 {
-    MapPlot map(options);
+    MapPlot map(options, listener);
     const DriveC drive;
     const auto save = [&](const Drawing& drawing) {
         saveDrawing(drawing, map.size(), options.output, options.dotsPerInch);
@@ -199,11 +268,10 @@ void plot(const PlotOptions& options, const PlotProgress& progress)
             map.size(), options.output);
         break;
     case PlotOptions::Command::Atlas:
-        plotAtlas(map, options.output, progress);
+        plotAtlas(map, options.output, listener);
         break;
     case PlotOptions::Command::Accumulate:
-        accumulate(map.varn(), options.data, options.counts, options.characters);
-        break;
+        return accumulate(map.varn(), options, listener);
     case PlotOptions::Command::Statistics:
         saveStatistics(map.varn(), options.output);
         break;
@@ -217,4 +285,5 @@ void plot(const PlotOptions& options, const PlotProgress& progress)
         save(map.contrastMap(drive.varnPath(options.contrast)));
         break;
     }
+    return true;
 }

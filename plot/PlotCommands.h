@@ -2,11 +2,22 @@
 
 #include "plot/PlotOptions.h"
 
-#include <functional>
+/// Is told what goes on while a command runs.
+class PlotListener
+{
+public:
+    PlotListener() = default;
+    PlotListener(const PlotListener&) = delete;
+    PlotListener& operator=(const PlotListener&) = delete;
+    virtual ~PlotListener() = default;
 
-/// Called before each page of an atlas with its number, from 1, the number of pages, and the item's name.
-using PlotProgress = std::function<void(int page, int pages, const QString& name)>;
+    /// Before each page of an atlas: its number, from 1, the number of pages, and the item's name.
+    virtual void page(int page, int pages, const QString& name) = 0;
+    /// What the user should know, one line.
+    virtual void warning(const QString& text) = 0;
+};
 
-/// Draws what `options` ask for into their output file. Raises the run-time's errors; the file is then as it
-/// was.
-void plot(const PlotOptions& options, const PlotProgress& progress);
+/// Draws what `options` ask for into their output file, or counts what they ask for. Returns whether
+/// everything was done: false where items were left out of an accumulation. Raises the run-time's errors; a
+/// file that was drawn into is then as it was.
+bool plot(const PlotOptions& options, PlotListener& listener);

@@ -104,19 +104,48 @@ double readPositive(const QCommandLineParser& parser, const QString& name, doubl
     return value;
 }
 
-/// The endings that the output of a command may have; none where it writes no file of its own.
-QStringList outputEndings(PlotOptions::Command command)
+/// The endings that the file of an option may have in a command.
+struct FileEndings
 {
-    switch (command) {
-    case PlotOptions::Command::Symbols:
-    case PlotOptions::Command::Atlas:
-        return list({"pdf"});
-    case PlotOptions::Command::Statistics:
-        return list({"stt"});
-    case PlotOptions::Command::Accumulate:
-        return {};
-    default:
-        return list({"svg", "pdf", "png"});
+    PlotOptions::Command command;
+    const char* option;
+    QStringList endings;
+};
+
+std::vector<FileEndings> fileEndings()
+{
+    using Command = PlotOptions::Command;
+    const QStringList picture = list({"svg", "pdf", "png"});
+    return {
+        {Command::LinguisticMap, "data", list({"dbs"})},
+        {Command::LinguisticMap, "symbols", list({"han"})},
+        {Command::LinguisticMap, "output", picture},
+        {Command::BlankMap, "output", picture},
+        {Command::Symbols, "output", list({"pdf"})},
+        {Command::Atlas, "output", list({"pdf"})},
+        {Command::Accumulate, "counts", list({"ttl"})},
+        {Command::Accumulate, "characters", list({"sum"})},
+        {Command::Accumulate, "data", list({"dbs"})},
+        {Command::Statistics, "counts", list({"ttl"})},
+        {Command::Statistics, "output", list({"stt"})},
+        {Command::DiffusionMap, "counts", list({"ttl"})},
+        {Command::DiffusionMap, "output", picture},
+        {Command::SymbolDiffusionMap, "counts", list({"ttl"})},
+        {Command::SymbolDiffusionMap, "symbols", list({"htl"})},
+        {Command::SymbolDiffusionMap, "output", picture},
+        {Command::ContrastMap, "counts", list({"ttl"})},
+        {Command::ContrastMap, "contrast", list({"rnk"})},
+        {Command::ContrastMap, "output", picture},
+    };
+}
+
+void checkEndings(const FileEndings& rule, const QStringList& files)
+{
+    for (const QString& file : files) {
+        if (!rule.endings.contains(QFileInfo(file).suffix().toLower())) {
+            throw UsageError(QStringLiteral("--%1 must end in .%2")
+                                 .arg(QLatin1String(rule.option), rule.endings.join(QStringLiteral(", ."))));
+        }
     }
 }
 
@@ -129,15 +158,6 @@ void readGraph(const QString& name, PlotOptions& options)
     }
     options.graph = graph < 2 ? DiffusionGraph::Bar : DiffusionGraph::Circle;
     options.layered = graph % 2 == 1;
-}
-
-void checkOutput(const PlotOptions& options)
-{
-    const QString ending = QFileInfo(options.output).suffix().toLower();
-    const QStringList endings = outputEndings(options.command);
-    if (!endings.isEmpty() && !endings.contains(ending)) {
-        throw UsageError(QStringLiteral("--output must end in .%1").arg(endings.join(QStringLiteral(", ."))));
-    }
 }
 
 } // namespace
@@ -189,7 +209,12 @@ std::optional<PlotOptions> readPlotOptions(const QStringList& arguments)
     if (parser.isSet(QStringLiteral("word-form"))) {
         options.wordForm = static_cast<int>(readPositive(parser, QStringLiteral("word-form"), MostWordForms));
     }
-    checkOutput(options);
+    for (const FileEndings& rule : fileEndings()) {
+        if (rule.command == options.command) {
+            const QString name = QLatin1String(rule.option);
+            checkEndings(rule, name == QLatin1String("data") ? options.data : parser.values(name));
+        }
+    }
     return options;
 }
 
@@ -213,7 +238,10 @@ QString plotUsage()
            [--locality-dots] [--height MM] [--dpi N]
 
 DIR is the folder with VarnData and VarnSymbol. FILE ends in .svg, .pdf or .png.
-accumulate adds the items to the table in FILE.ttl and saves it after each.
+accumulate adds the items to the table in FILE.ttl and saves it after each. An item whose number of localities
+is not the map's is left out and named; a map of such an item is drawn with a warning.
 --height is the height of the map in millimetres, --dpi the resolution of a PNG (192).
+
+Exit code: 0 all is done, 1 an error or items left out, 2 the command line is not understood.
 )");
 }

@@ -7,27 +7,42 @@
 #include <QLoggingCategory>
 
 #include <cstdio>
+#include <new>
+#include <stdexcept>
 #include <unistd.h>
 
 namespace {
 
 enum ExitCode { Done = 0, Failed = 1, WrongUsage = 2 };
 
-void showProgress(int page, int pages, const QString& name)
+/// Tells on stderr what goes on.
+class StderrListener : public PlotListener
 {
-    if (isatty(STDERR_FILENO) != 0) {
-        std::fprintf(stderr, "\r\033[K%d/%d %s%s", page, pages, qPrintable(name), page == pages ? "\n" : "");
+public:
+    void page(int page, int pages, const QString& name) override
+    {
+        if (isatty(STDERR_FILENO) != 0) {
+            std::fprintf(stderr, "\r\033[K%d/%d %s%s", page, pages, qPrintable(name),
+                         page == pages ? "\n" : "");
+        }
     }
-}
 
-/// The same error, its file named as on this machine.
-RunTimeError onThisMachine(const RunTimeError& error)
+    void warning(const QString& text) override
+    {
+        std::fprintf(stderr, "%svarnplot: %s\n", isatty(STDERR_FILENO) != 0 ? "\r\033[K" : "",
+                     qPrintable(text));
+    }
+};
+
+/// Shows the error, its file named as on this machine.
+int failed(const RunTimeError& error)
 {
     FilePlace place = error.place();
-    if (place.path.contains(QLatin1Char('\\'))) {
-        place.path = DriveC().hostPath(place.path);
+    if (const auto hostPath = DriveC().knownHostPath(place.path)) {
+        place.path = *hostPath;
     }
-    return error.at(place);
+    std::fprintf(stderr, "%s\n", error.at(place).what());
+    return Failed;
 }
 
 int run(const QStringList& arguments)
@@ -38,14 +53,17 @@ int run(const QStringList& arguments)
             std::fputs(qPrintable(plotUsage()), stdout);
             return Done;
         }
-        plot(*options, showProgress);
-        return Done;
+        StderrListener listener;
+        return plot(*options, listener) ? Done : Failed;
     } catch (const UsageError& error) {
         std::fprintf(stderr, "varnplot: %s\n%s", error.what(), qPrintable(plotUsage()));
         return WrongUsage;
     } catch (const RunTimeError& error) {
-        std::fprintf(stderr, "%s\n", onThisMachine(error).what());
-        return Failed;
+        return failed(error);
+    } catch (const std::bad_alloc&) {
+        return failed(RunTimeError(ErrorNumber::OutOfMemory));
+    } catch (const std::length_error&) {
+        return failed(RunTimeError(ErrorNumber::OutOfMemory));
     }
 }
 

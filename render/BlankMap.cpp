@@ -35,16 +35,17 @@ void plotScaleBar(const PlaceNames& map, const MapGeometry& geometry, DrawSurfac
     const float x0 = geometry.toScreen(map.KanjiXY(slot, 0));
     const float y0 = geometry.toScreen(map.KanjiXY(slot, 1));
     const float length = toSingle(geometry.Scale * map.ScaleLength);
+    const float x1 = toSingle(x0 + length);
     const double step = divide(length, map.ScaleDivisions);
 
-    target.Line(x0, y0, x0 + length, y0, target.ForeColor);
+    target.Line(x0, y0, x1, y0, target.ForeColor);
     for (int i = 0; i <= map.ScaleDivisions; ++i) {
         const bool end = i == 0 || i >= map.ScaleDivisions;
         const float x = x0 + toSingle(i * step);
         target.Line(x, y0, x, y0 - (end ? EndTick : InnerTick), target.ForeColor);
     }
     target.PrintAt(x0 + LabelGap, y0 - LabelRise, QStringLiteral("0"));
-    target.PrintAt(x0 + length + LabelGap, y0 - LabelRise, map.ScaleLabel);
+    target.PrintAt(x1 + LabelGap, y0 - LabelRise, map.ScaleLabel);
 }
 
 } // namespace

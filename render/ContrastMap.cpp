@@ -74,8 +74,8 @@ void DrawRankGraph(VarnModule& varn, MapSurfaces surfaces)
     const int H = toInteger((varn.ContrastSteps - 1) / 2);
     for (int j = 1; j <= varn.NLocality; ++j) {
         // Without the margin that the base map has.
-        plotCircle(varn, varn.ContrastSum(0, j), varn.Scale * varn.LocXY(j, 0), varn.Scale * varn.LocXY(j, 1),
-                   radiusAt(varn, j), surfaces.DrawTarget);
+        plotCircle(varn, varn.ContrastSum(0, j), toSingle(varn.Scale * varn.LocXY(j, 0)),
+                   toSingle(varn.Scale * varn.LocXY(j, 1)), radiusAt(varn, j), surfaces.DrawTarget);
     }
     ClsHanrei(varn, surfaces.DrawTarget, varn.ContrastTitle);
     plotLegend(varn, H, surfaces.DrawTarget);

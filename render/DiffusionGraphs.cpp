@@ -39,11 +39,16 @@ void atEachLocality(VarnModule& varn, int k, Draw draw)
 }
 
 /// Fill and outline of word form k.
-QRgb useColors(const CumulativeTable& table, int k, DrawSurface& target)
+QRgb useColors(const CumulativeData& data, int k, DrawSurface& target)
 {
-    target.FillStyle = 0;
-    target.FillColor = QBColor(table.WordformPaintColor(k));
-    return QBColor(table.WordformSymbolColor(k));
+    try {
+        target.FillStyle = 0;
+        target.FillColor = QBColor(data.WordformPaintColor(k));
+        return QBColor(data.WordformSymbolColor(k));
+    } catch (const RunTimeError& error) {
+        throw error.at({data.TotalFilePath})
+            .during(QStringLiteral("Word form %1 (%2).").arg(k).arg(data.WordformName(k)));
+    }
 }
 
 /// Printed once on a map, with its first graph.

@@ -4,8 +4,10 @@
 #include "platform/StandardColors.h"
 #include "render/PhoneticText.h"
 #include "render/SymbolShapes.h"
+#include "symbols/SymbolFile.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace {
 
@@ -20,11 +22,15 @@ int rowStep(const MapFont& font)
 class LegendCells
 {
 public:
-    LegendCells(float firstColumn, int rowsPerColumn) : m_column(firstColumn), m_rowsPerColumn(rowsPerColumn)
+    LegendCells(float firstColumn, float height, int rowStep)
+        : m_column(firstColumn), m_rowStep(rowStep),
+          m_rowsPerColumn(integerDivide(static_cast<int>(height), rowStep) - 1)
     {}
 
+    /// Raises division by zero where the title's row is the only one.
     void next()
     {
+        requireRows();
         ++m_row;
         if (modulo(m_row, m_rowsPerColumn) == 0) {
             m_row = 1;
@@ -41,9 +47,19 @@ public:
 private:
     static constexpr float ColumnGap = 400;
 
+    void requireRows() const
+    {
+        if (m_rowsPerColumn == 0) {
+            const double smallest = std::ceil(20 * m_rowStep / TwipsPerMm) / 10;
+            throw RunTimeError(ErrorNumber::DivisionByZero,
+                               QStringLiteral("The legend needs a map at least %1 mm high.").arg(smallest));
+        }
+    }
+
     int m_row = 1;
     float m_widestEnd = 1;
     float m_column;
+    int m_rowStep;
     int m_rowsPerColumn;
 };
 
@@ -74,7 +90,6 @@ void PlotHanrei(VarnModule& varn, MapSurfaces surfaces)
 
     DrawSurface& target = surfaces.DrawTarget;
     const int step = rowStep(varn);
-    const int rowsPerColumn = integerDivide(static_cast<int>(surfaces.frmMap.Height), step) - 1;
     const QPointF origin = captionOrigin(varn);
     const auto x0 = static_cast<float>(origin.x());
     const auto y0 = static_cast<float>(origin.y());
@@ -84,7 +99,7 @@ void PlotHanrei(VarnModule& varn, MapSurfaces surfaces)
 
     SymbolShapes shapes(varn, varn, surfaces);
     PhoneticText phonetic(varn, varn, varn, varn.Pictures, surfaces);
-    LegendCells cells(x0 + SymbolIndent, rowsPerColumn);
+    LegendCells cells(x0 + SymbolIndent, surfaces.frmMap.Height, step);
     for (int k = 1; k <= varn.NHanrei; ++k) {
         const QString& caption = varn.HankoCaption(k);
         if (caption.contains(QLatin1Char('-'))) {
@@ -92,7 +107,11 @@ void PlotHanrei(VarnModule& varn, MapSurfaces surfaces)
         }
         cells.next();
         const float top = y0 + static_cast<float>(step * cells.row()) + Margin;
-        shapes.DrawHanko(varn.Hanko(k), cells.column(), top + SymbolDrop);
+        try {
+            shapes.DrawHanko(varn.Hanko(k), cells.column(), top + SymbolDrop);
+        } catch (const RunTimeError& error) {
+            throw ofRecord(error, varn, k);
+        }
         cells.noteTextEnd(phonetic.PlotChar(cells.column() + TextIndent, top, caption));
     }
     surfaces.thinLines();

@@ -26,6 +26,12 @@ bool widenExtent(const MapLines& map, MapGeometry& geometry)
 
 } // namespace
 
+float MapGeometry::raiseTooFar(float coordinate)
+{
+    throw RunTimeError(ErrorNumber::Overflow,
+                       QStringLiteral("The map's coordinate %1 is too far out to be drawn.").arg(coordinate));
+}
+
 float FindMinMax(const MapLines& map, const DrawSurface& form, MapGeometry& geometry, float startMaxY)
 {
     geometry.MinX = 1000000;

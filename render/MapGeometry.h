@@ -3,6 +3,8 @@
 #include "mapdata/BaseMap.h"
 #include "platform/DrawSurface.h"
 
+#include <cmath>
+
 /// How map units become drawing units (twips), and the extent of the base map.
 struct MapGeometry
 {
@@ -20,11 +22,19 @@ struct MapGeometry
     BoundedArray<float, Bounds{0, 1000}, Bounds{0, 1}> ScreenXY;
 
     /// The drawing position of a coordinate of the map: a margin of 50 is kept at the left and at the top.
-    float toScreen(float coordinate) const { return Scale * coordinate + Margin; }
+    /// Raises overflow for a coordinate too large to be drawn.
+    float toScreen(float coordinate) const
+    {
+        const float position = Scale * coordinate + Margin;
+        return std::isfinite(position) ? position : raiseTooFar(coordinate);
+    }
 
     static constexpr float Margin = 50;
     /// Below every coordinate: where the search for `MaxY` starts.
     static constexpr float StartMaxY = -999999;
+
+private:
+    [[noreturn]] static float raiseTooFar(float coordinate);
 };
 
 /// The surfaces of one drawing command: the one that is drawn on, and the map form's own, which gives the

@@ -8,7 +8,7 @@ PhoneticText::PhoneticText(const Folders& folders, const MapFont& font, const Ma
       m_frmMap(surfaces.frmMap)
 {}
 
-float PhoneticText::PlotChar(float x, float y, const QString& text)
+float PhoneticText::PlotChar(float x, float y, QStringView text)
 {
     qsizetype position = 0;
     while (position < text.size()) {
@@ -27,7 +27,7 @@ float PhoneticText::PlotChar(float x, float y, const QString& text)
     return x;
 }
 
-float PhoneticText::One(float x, float y, const QString& text, int& consumed)
+float PhoneticText::One(float x, float y, QStringView text, int& consumed)
 {
     consumed = 0;
     if (text.isEmpty()) {
@@ -41,17 +41,18 @@ float PhoneticText::One(float x, float y, const QString& text, int& consumed)
     case PhoneticUnit::Kind::Glyph:
         return PlotOneSymbol(x, y, unit.series, unit.number);
     case PhoneticUnit::Kind::Illegal:
-        m_frmMap.Print(text.left(unit.consumed) + QStringLiteral(" Illegal Data for Phonetic Alphabet."));
+        m_frmMap.Print(text.left(unit.consumed).toString() +
+                       QStringLiteral(" Illegal Data for Phonetic Alphabet."));
         break;
     }
     return x;
 }
 
-float PhoneticText::PlotWord(float x, float y, const QString& text)
+float PhoneticText::PlotWord(float x, float y, QStringView text)
 {
     m_target.CurrentX = x;
     m_target.CurrentY = y;
-    m_target.Print(text, DrawSurface::LineEnd::Stay);
+    m_target.Print(text.toString(), DrawSurface::LineEnd::Stay);
     return m_target.CurrentX;
 }
 

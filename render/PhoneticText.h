@@ -19,14 +19,14 @@ public:
     /// Writes `text` from (x, y), its top left corner in twips, and returns the x where it ended. An escape
     /// in no code is written with a message on the map form itself. Raises file not found for a missing
     /// bitmap.
-    float PlotChar(float x, float y, const QString& text);
+    float PlotChar(float x, float y, QStringView text);
 
     /// Writes the first unit of `text` and returns the x where it ended; `consumed` is how many characters
     /// the unit took, 0 where the text is empty.
-    float One(float x, float y, const QString& text, int& consumed);
+    float One(float x, float y, QStringView text, int& consumed);
 
 private:
-    float PlotWord(float x, float y, const QString& text);
+    float PlotWord(float x, float y, QStringView text);
     float PlotOneSymbol(float x, float y, GlyphSeries series, int number);
     QString glyphFolder() const;
 

@@ -47,6 +47,7 @@ void LoadHankoData(const DriveC& drive, const QString& path, SymbolSet& set)
 {
     SymbolSet fresh = readSequentialFile(drive, path, readSymbolSet);
     fresh.SymbolFileName = path.mid(path.lastIndexOf(QLatin1Char('\\')) + 1);
+    fresh.SymbolFilePath = path;
     fresh.CurrentHanko = fresh.NHanrei;
     fresh.HankoReading = set.HankoReading + 1;
     set = std::move(fresh);
@@ -55,6 +56,13 @@ void LoadHankoData(const DriveC& drive, const QString& path, SymbolSet& set)
 void SaveHankoData(const DriveC& drive, const QString& path, const SymbolSet& set)
 {
     writeSequentialFile(drive, path, [&set](SequentialWriter& file) { writeSymbolSet(file, set); });
+}
+
+RunTimeError ofRecord(const RunTimeError& error, const SymbolSet& set, int k)
+{
+    return error.hasPlace() ? error
+                            : error.at({set.SymbolFilePath})
+                                  .during(QStringLiteral("Record %1 (%2).").arg(k).arg(set.HankoWord(k)));
 }
 
 QString symbolFileStem(const QString& name)

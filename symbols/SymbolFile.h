@@ -22,6 +22,10 @@ void LoadHankoData(const DriveC& drive, const QString& path, SymbolSet& set);
 /// Writes the symbol set to the file at `path` in one step.
 void SaveHankoData(const DriveC& drive, const QString& path, const SymbolSet& set);
 
+/// `error`, which was raised while record k of the set was drawn, with the set's file and the record; as it
+/// is where it names a file already.
+RunTimeError ofRecord(const RunTimeError& error, const SymbolSet& set, int k);
+
 /// The name of a symbol file without its ending `.han`.
 QString symbolFileStem(const QString& name);
 

@@ -39,8 +39,9 @@ struct SymbolRecords
 /// A symbol set that is being edited.
 struct SymbolSet : SymbolRecords
 {
-    /// Name of the symbol file last opened, without its folder.
+    /// Name of the symbol file last opened, without its folder, and its path.
     QString SymbolFileName;
+    QString SymbolFilePath;
 
     /// The record that is being edited, 0..100; beyond `NHanrei` a new one.
     int CurrentHanko = 0;

@@ -102,7 +102,7 @@ TEST_F(Chizu, MissingFilesAreToldAndTheTargetIsTheMapFormAgain)
         click(button);
         ASSERT_FALSE(dialogs.errors.empty());
         EXPECT_EQ(dialogs.errors.back().title, QStringLiteral("Run-time error '53': File not found"));
-        EXPECT_TRUE(dialogs.errors.back().text.endsWith(QStringLiteral("Map\\") + QLatin1String(file)));
+        EXPECT_TRUE(dialogs.errors.back().text.contains(QStringLiteral("Map\\") + QLatin1String(file)));
         EXPECT_EQ(varn.NLine * varn.NLocality * varn.NKanji, 6) << "what was loaded stays";
     }
     varn.NLine = 0;

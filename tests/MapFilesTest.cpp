@@ -85,6 +85,10 @@ TEST(MapFiles, FilesAtTheirBoundsLoadAndOneRecordMoreDoesNot)
     EXPECT_EQ(errorOfReading(readLines, "1\r\n" + line(501)), Subscript);
     EXPECT_EQ(errorOfReading(readPolygons, "201\r\n" + repeated(polygon(2), 201)), Subscript);
     EXPECT_EQ(errorOfReading(readPolygons, "1\r\n" + polygon(21)), Subscript);
+    const QByteArray scaleBar = "0\r\n1,2\r\n\"km\",";
+    reads(readPlaceNames, scaleBar + "1000,1\r\n");
+    reads(readPlaceNames, scaleBar + "0,1\r\n");
+    EXPECT_EQ(errorOfReading(readPlaceNames, scaleBar + "1001,1\r\n"), Subscript);
     EXPECT_EQ(errorOfReading(readLocalities, "-1\r\n"), Subscript);
     EXPECT_EQ(errorOfReading(readLines, "-1\r\n"), Subscript);
     EXPECT_EQ(errorOfReading(readLocalities, "40000\r\n"), ErrorNumber::Overflow);

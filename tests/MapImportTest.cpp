@@ -107,20 +107,21 @@ TEST(MapImport, BadTablesAreRefusedWithTheirLine)
         QByteArray text;
         ErrorNumber number;
         int line;
+        int field = 0;
     };
     const Row rows[] = {
-        {"x,y\n1,2\n3,four\n", ErrorNumber::TypeMismatch, 3},
-        {"1,y\n", ErrorNumber::TypeMismatch, 1},
-        {"x,y\nx,y\n1,2\n", ErrorNumber::TypeMismatch, 2},
-        {"1 2\n3\n", ErrorNumber::TypeMismatch, 2},
-        {"x;y\n1,5;2,5\n", ErrorNumber::TypeMismatch, 2},
-        {"1,nan\n", ErrorNumber::TypeMismatch, 1},
-        {"1,2\n1,1e39\n", ErrorNumber::Overflow, 2},
+        {"x,y\n1,2\n3,four\n", ErrorNumber::TypeMismatch, 3, 2},
+        {"1,y\n", ErrorNumber::TypeMismatch, 1, 2},
+        {"x,y\nx,y\n1,2\n", ErrorNumber::TypeMismatch, 2, 1},
+        {"1 2\n3\n", ErrorNumber::TypeMismatch, 2, 2},
+        {"x;y\n1,5;2,5\n", ErrorNumber::TypeMismatch, 2, 1},
+        {"1,nan\n", ErrorNumber::TypeMismatch, 1, 2},
+        {"1,2\n1,1e39\n", ErrorNumber::Overflow, 2, 2},
         {"x,y\n" + QByteArray("1,2\n").repeated(1001), ErrorNumber::SubscriptOutOfRange, 1002},
         {"", ErrorNumber::InputPastEndOfFile, 1},
         {"x,y\n", ErrorNumber::InputPastEndOfFile, 2},
-        {"3\n1,2\n3,4\n", ErrorNumber::InputPastEndOfFile, 4},
-        {"2\n1,2\n3,x\n", ErrorNumber::TypeMismatch, 3},
+        {"3\n1,2\n3,4\n", ErrorNumber::InputPastEndOfFile, 4, 1},
+        {"2\n1,2\n3,x\n", ErrorNumber::TypeMismatch, 3, 2},
     };
     const TestDrive drive;
     for (const Row& row : rows) {
@@ -128,6 +129,8 @@ TEST(MapImport, BadTablesAreRefusedWithTheirLine)
         const RunTimeError error = errorOf([&] { importLocalities(drive.drive(), Source); });
         EXPECT_EQ(error.number(), row.number) << row.text.left(30).constData();
         EXPECT_EQ(error.place().line, row.line) << row.text.left(30).constData();
+        EXPECT_EQ(error.place().field, row.field) << row.text.left(30).constData();
+        EXPECT_FALSE(error.where().contains(QStringLiteral("field 0")));
         EXPECT_EQ(error.place().path, Source);
     }
 }

@@ -12,6 +12,27 @@ namespace {
 const QString Item = QStringLiteral("C:\\Varn62E\\Varn\\VarnData\\Test\\Ling\\rain.dbs");
 const QString Symbols = QStringLiteral("C:\\Varn62E\\Varn\\VarnData\\Test\\Ling\\rain.han");
 
+/// Keeps what is told.
+struct KeptTales : PlotListener
+{
+    void page(int page, int pages, const QString& name) override
+    {
+        pagesTold << QStringLiteral("%1/%2 %3").arg(page).arg(pages).arg(name);
+    }
+    void warning(const QString& text) override { warnings << text; }
+
+    QStringList pagesTold;
+    QStringList warnings;
+};
+
+/// Plots and expects that nothing had to be said.
+void plotQuietly(const PlotOptions& options)
+{
+    KeptTales tales;
+    EXPECT_TRUE(plot(options, tales));
+    EXPECT_EQ(tales.warnings, QStringList());
+}
+
 /// A survey with one item, and the options that draw it.
 struct PlotSurvey : TestSurvey
 {
@@ -35,7 +56,7 @@ struct PlotSurvey : TestSurvey
 
     QByteArray plotted(PlotOptions::Command command, const QString& output) const
     {
-        plot(options(command, output), {});
+        plotQuietly(options(command, output));
         return read(QStringLiteral("C:\\") + output);
     }
 };
@@ -53,6 +74,14 @@ std::string usageErrorOf(const QStringList& arguments)
 QStringList words(const char* line)
 {
     return QString::fromLatin1(line).split(QLatin1Char(' '), Qt::SkipEmptyParts);
+}
+
+/// The first compressed part of a PDF: what is painted on its first page.
+QByteArray firstStream(const QByteArray& pdf)
+{
+    const QByteArray begin = "stream\n";
+    const QByteArray anyLength(4, '\1');
+    return qUncompress(anyLength + pdf.mid(pdf.indexOf(begin) + begin.size()));
 }
 
 } // namespace
@@ -105,7 +134,9 @@ TEST(Plot, TextStaysTextAndShapesStayVectors)
 
     const QByteArray pdf = survey.plotted(PlotOptions::Command::LinguisticMap, QStringLiteral("map.pdf"));
     EXPECT_TRUE(pdf.startsWith("%PDF-"));
-    EXPECT_TRUE(pdf.contains("/MediaBox [0 0 600"));
+    EXPECT_TRUE(pdf.contains("/MediaBox [0 0 600.000000 450.000000]"));
+    EXPECT_TRUE(firstStream(pdf).contains("\n0.050000000 0 0 -0.050000000 0 450 cm\n"))
+        << "a twip is a twentieth of a point, and the drawing begins at the corner of the page";
     EXPECT_EQ(pdf.contains("/FontFile2"), anyFont()) << "the text's font is embedded";
     EXPECT_FALSE(pdf.contains("/Subtype /Image"));
 }
@@ -114,7 +145,7 @@ TEST(Plot, APictureCoversTheDrawingArea)
 {
     const PlotSurvey survey;
     PlotOptions options = survey.options(PlotOptions::Command::LinguisticMap, QStringLiteral("map.png"));
-    plot(options, {});
+    plotQuietly(options);
     const QImage first(options.output);
     EXPECT_EQ(first.size(), QSize(1600, 1200));
     // Locality 1 at 100, 200: a symbol filled light red there.
@@ -122,10 +153,14 @@ TEST(Plot, APictureCoversTheDrawingArea)
     EXPECT_EQ(first.pixel(pixel(100), pixel(200)), qRgb(255, 0, 0));
     EXPECT_EQ(first.pixel(pixel(300), pixel(400)), qRgb(255, 255, 255)) << "no answer there";
 
+    EXPECT_EQ(first.dotsPerMeterX(), 7559) << "192 dots per inch";
+    EXPECT_EQ(first.dotsPerMeterY(), 7559);
+
     options.height = 100;
     options.dotsPerInch = 96;
-    plot(options, {});
+    plotQuietly(options);
     EXPECT_EQ(QImage(options.output).size(), QSize(504, 378));
+    EXPECT_EQ(QImage(options.output).dotsPerMeterY(), 3780);
 }
 
 TEST(Plot, AnAtlasHasAPageForEachItemWithSymbols)
@@ -135,13 +170,9 @@ TEST(Plot, AnAtlasHasAPageForEachItemWithSymbols)
     survey.write(ling + QStringLiteral("alone.dbs"), "0,\"\",\"\",\"\"\r\n");
     survey.write(ling + QStringLiteral("Able.DBS"), survey.read(Item));
     survey.write(ling + QStringLiteral("able.HAN"), survey.read(Symbols));
-    QStringList names;
-    plot(survey.options(PlotOptions::Command::Atlas, QStringLiteral("atlas.pdf")),
-         [&names](int, int pages, const QString& name) {
-             EXPECT_EQ(pages, 2);
-             names << name;
-         });
-    EXPECT_EQ(names, QStringList({QStringLiteral("Able"), QStringLiteral("rain")}));
+    KeptTales tales;
+    EXPECT_TRUE(plot(survey.options(PlotOptions::Command::Atlas, QStringLiteral("atlas.pdf")), tales));
+    EXPECT_EQ(tales.pagesTold, QStringList({QStringLiteral("1/2 Able"), QStringLiteral("2/2 rain")}));
     EXPECT_EQ(survey.read(QStringLiteral("C:\\atlas.pdf")).count("/Type /Page\n"), 2);
 }
 
@@ -158,20 +189,20 @@ TEST(Plot, AFailedPlotLeavesTheOldFile)
     survey.write(QStringLiteral("C:\\map.pdf"), "old");
     survey.write(survey.varn.dataFolder() + QStringLiteral("\\zz.dbs"), "not a number");
     survey.write(survey.varn.dataFolder() + QStringLiteral("\\zz.han"), survey.read(Symbols));
-    const RunTimeError error = errorOf([&] {
-        plot(survey.options(PlotOptions::Command::Atlas, QStringLiteral("map.pdf")), [](auto...) {});
-    });
+    const RunTimeError error =
+        errorOf([&] { plotQuietly(survey.options(PlotOptions::Command::Atlas, QStringLiteral("map.pdf"))); });
     EXPECT_EQ(error.number(), ErrorNumber::TypeMismatch);
     EXPECT_TRUE(error.place().path.endsWith(QStringLiteral("zz.dbs")));
     EXPECT_EQ(survey.read(QStringLiteral("C:\\map.pdf")), "old");
 
     EXPECT_EQ(errorOf([&] {
-                  plot(survey.options(PlotOptions::Command::BlankMap, QStringLiteral("no/such/map.png")), {});
+                  plotQuietly(
+                      survey.options(PlotOptions::Command::BlankMap, QStringLiteral("no/such/map.png")));
               }).number(),
               ErrorNumber::PathNotFound);
     PlotOptions noMap = survey.options(PlotOptions::Command::BlankMap, QStringLiteral("new.png"));
     noMap.map = QStringLiteral("Nowhere");
-    EXPECT_EQ(errorOf([&] { plot(noMap, {}); }).number(), ErrorNumber::PathNotFound);
+    EXPECT_EQ(errorOf([&] { plotQuietly(noMap); }).number(), ErrorNumber::PathNotFound);
     EXPECT_FALSE(QFile::exists(noMap.output));
 }
 
@@ -192,7 +223,7 @@ TEST(Plot, CountsAreAccumulatedAndDrawn)
         options.symbols = survey.hostPath(QStringLiteral("all.htL"));
         options.contrast = survey.hostPath(contrast.isEmpty() ? QStringLiteral("all.rnk") : contrast);
         options.data << options.data;
-        plot(options, {});
+        plotQuietly(options);
         return output.isEmpty() ? QByteArray() : survey.read(QStringLiteral("C:\\") + output);
     };
     run(PlotOptions::Command::Accumulate, {});
