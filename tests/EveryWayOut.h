@@ -22,10 +22,12 @@ protected:
         const char* form;
         const char* name;
         /// What a person sees of it: a text that appears; after a minus one that disappears; "*" where the
-        /// form looks different.
+        /// form looks different, "*name" where that part of it does.
         const char* change;
         /// What is done before, answers included.
         std::function<void(EveryWayOut&)> before = [](EveryWayOut&) {};
+        /// What is done; where there is none, the entry, button or shortcut of that name is used.
+        std::function<void(EveryWayOut&)> act = {};
     };
 
     EveryWayOut()
@@ -42,7 +44,9 @@ protected:
     void open()
     {
         program.reset();
-        QFile::remove(survey.drive().hostPath(ling("rain.srt")));
+        for (const char* written : {"rain.srt", "west.rnk", "all.stt"}) {
+            QFile::remove(survey.drive().hostPath(ling(written)));
+        }
         program = std::make_unique<Program>(survey);
         start(*program);
         program->load("mnuInputWord", "rain.dbs");
@@ -109,6 +113,18 @@ protected:
         return lines;
     }
 
+    void act(const Way& way, const VarnForm& form)
+    {
+        if (way.act) {
+            way.act(*this);
+            return;
+        }
+        const auto ways = waysOut(form);
+        const auto found = ways.find(QLatin1String(way.name));
+        ASSERT_NE(found, ways.end()) << "there is no such thing";
+        use(*found->second);
+    }
+
     void expectChange(const Way& way)
     {
         SCOPED_TRACE(std::string(way.form) + " " + way.name);
@@ -118,20 +134,19 @@ protected:
         way.before(*this);
         QApplication::processEvents();
         program->dialogs.shown.clear();
-        const auto ways = waysOut(form);
-        const auto found = ways.find(QLatin1String(way.name));
-        ASSERT_NE(found, ways.end()) << "there is no such thing";
-
         const QString before = seen(form).join(QLatin1Char('\n'));
         const bool looks = way.change[0] == '*';
-        const QImage picture = looks ? form.grab().toImage() : QImage();
-        use(*found->second);
+        const auto picture = [&] {
+            return (way.change[1] == 0 ? form : child<QWidget>(form, way.change + 1)).grab().toImage();
+        };
+        const QImage pictureBefore = looks ? picture() : QImage();
+        act(way, form);
         QApplication::processEvents();
         const QString after = seen(form).join(QLatin1Char('\n'));
         const bool appears = way.change[0] != '-';
         const QString text = QString::fromUtf8(way.change + (appears ? 0 : 1));
         if (looks) {
-            EXPECT_NE(form.grab().toImage(), picture) << "nothing looks different";
+            EXPECT_NE(picture(), pictureBefore) << "nothing looks different";
         } else {
             EXPECT_EQ(before.contains(text), !appears) << qPrintable(before);
             EXPECT_EQ(after.contains(text), appears) << qPrintable(after);
@@ -142,4 +157,6 @@ protected:
     std::unique_ptr<Program> program;
     /// A row for each menu entry, button and shortcut, but for Exit.
     static std::vector<Way> ways();
+    /// What a form shows at once of what is typed and chosen on it.
+    static std::vector<Way> fields();
 };

@@ -25,6 +25,15 @@ TEST_P(WaysOutOf, DoWhatTheySay)
     }
 }
 
+TEST_P(WaysOutOf, FollowTheirFields)
+{
+    for (const Way& field : fields()) {
+        if (std::string(field.form) == GetParam()) {
+            expectChange(field);
+        }
+    }
+}
+
 INSTANTIATE_TEST_SUITE_P(Forms, WaysOutOf,
                          testing::Values("frmMain", "frmMap", "frmChizu", "frmData", "frmDataInput",
                                          "frmSetHanko", "frmCalc", "frmCalExec", "frmRankData",
@@ -148,4 +157,15 @@ TEST_F(EveryWayOut, EscapeClosesThePositionPanelOnly)
     QApplication::sendEvent(&Program::map(), &escape);
     EXPECT_FALSE(shownOn(Program::map()).contains(QStringLiteral("<fraStyle>")));
     EXPECT_TRUE(Program::map().isVisible());
+}
+
+TEST_F(EveryWayOut, AnItemOpenedInTheDataDisplayCanBeDrawn)
+{
+    program = std::make_unique<Program>(survey);
+    start(*program);
+    program->load("mnuHankoInput", "rain.han");
+    EXPECT_FALSE(Program::menu("mnuMapLing").isEnabled());
+    choose("rain.dbs");
+    trigger<frmData>("mnuOpen");
+    EXPECT_TRUE(Program::menu("mnuMapLing").isEnabled());
 }

@@ -116,6 +116,9 @@ QStringList visibleWindows()
 QStringList shownOn(const VarnForm& form)
 {
     QStringList lines = {form.windowTitle()};
+    if (form.isWindowModified()) {
+        lines << QStringLiteral("<modified>");
+    }
     for (const auto* widget : form.findChildren<QWidget*>()) {
         if (widget->isVisible()) {
             lines << QStringLiteral("<%1>").arg(widget->objectName())
