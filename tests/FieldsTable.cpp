@@ -4,6 +4,7 @@
 #include "tests/EveryWayOut.h"
 
 #include <QAbstractItemView>
+#include <QCheckBox>
 #include <QComboBox>
 
 std::vector<EveryWayOut::Way> EveryWayOut::fields()
@@ -53,6 +54,12 @@ std::vector<EveryWayOut::Way> EveryWayOut::fields()
         {"frmSetHanko", "txtHankoNumber", "*picSample", nothing,
          [](Test&) { type<frmSetHanko>("txtHankoNumber", "93"); }},
         {"frmSetHanko", "cboColor", "*picSample", nothing, chooseColor("frmSetHanko", "cboColor")},
+        {"frmSetHanko", "chkPat", "*picSample",
+         [](Test&) {
+             type<frmSetHanko>("txtHankoNumber", "16");
+             control<frmSetHanko, QComboBox>("cboBack").setCurrentIndex(12);
+         },
+         [](Test&) { control<frmSetHanko, QCheckBox>("chkPat").click(); }},
         {"frmRankData", "txtRankFileName", "west.rnk", nothing,
          [](Test&) { type<frmRankData>("txtRankFileName", "west"); }},
         {"frmRankData", "txtSetColor1", "<modified>", savedContrast,
