@@ -172,7 +172,7 @@ void loadCharacters(VarnModule& varn, const QString& characters)
 QString folderOfTable(const VarnModule& varn, const QString& counts)
 {
     const QString path = varn.Drive.varnPath(counts);
-    const QString folder = path.left(path.lastIndexOf(QLatin1Char('\\')));
+    QString folder = path.left(path.lastIndexOf(QLatin1Char('\\')));
     const QString saved = folder + QLatin1Char('\\') + varn.TotalFileName + QStringLiteral(".ttl");
     if (varn.Drive.hostPath(saved) != varn.Drive.hostPath(path)) {
         throw RunTimeError(ErrorNumber::BadFileName,

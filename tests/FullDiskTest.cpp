@@ -71,7 +71,7 @@ extern "C" int rename(const char* from, const char* to)
 
 TEST(FullDisk, FilesOfEverySizeAreKept)
 {
-    constexpr long long Buffer = 16 * 1024;
+    constexpr long long Buffer = 16LL * 1024;
     const TestDrive drive;
     const QString path = QStringLiteral("C:\\item.dbs");
     const auto save = [&](long long size) {
