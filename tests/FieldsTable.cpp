@@ -1,6 +1,6 @@
 // What the forms show at once of what is typed and chosen on them.
 
-#include "render/WordDelegate.h"
+#include "lingdata/WordEntryDelegate.h"
 #include "tests/EveryWayOut.h"
 
 #include <QAbstractItemView>
@@ -71,7 +71,7 @@ std::vector<EveryWayOut::Way> EveryWayOut::fields()
         {"frmDataInput", "tblWords", "-lblFault=\n", nothing,
          [](Test&) {
              auto* editor = control<frmDataInput, QAbstractItemView>("tblWords").itemDelegate();
-             Q_EMIT dynamic_cast<WordDelegate&>(*editor).typed(QStringLiteral("a\\Q"));
+             Q_EMIT dynamic_cast<WordEntryDelegate&>(*editor).typed(QStringLiteral("a\\Q"));
          }},
         {"frmDataInput", "txtKind", "-lblFault=\n", nothing,
          [](Test&) { control<frmDataInput, QLineEdit>("txtKind").insert(QStringLiteral("a\\Q")); }},
