@@ -1,8 +1,8 @@
 #include "analysis/CumulativeFile.h"
 #include "analysis/frmCalExec.h"
 #include "analysis/frmCalc.h"
-#include "tests/Controls.h"
 #include "shell/MapChoice.h"
+#include "tests/Controls.h"
 #include "tests/ScriptedDialogs.h"
 #include "tests/TestDrive.h"
 
@@ -322,7 +322,7 @@ TEST_F(LoadedCalcForms, ExecutingCountsTheItemAndSavesTheTable)
 
     varn.Counts(1, 2) = 4;
     varn.TotalFileName = QStringLiteral("blocked");
-    dialogs.yesNo = {true, true};
+    dialogs.yesNo = {true};
     QDir().mkpath(survey.drive().hostPath(ling("blocked.ttl\\in the way")));
     execute("mnuExecCalc");
     EXPECT_EQ(dialogs.errors.size(), 2U);

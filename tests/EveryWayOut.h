@@ -56,9 +56,8 @@ protected:
         }
         control<frmMain, QPushButton>("cmdRegMap").click();
         choose("all.ttl");
+        program->dialogs.yesNo = {true}; // with its strings
         trigger<frmCalc>("mnuFileOpen");
-        choose("all.sum");
-        trigger<frmCalc>("mnuSetFileLoad");
         trigger<frmCalc>("mnuTotalForm");
         trigger<frmCalExec>("mnuStatsExec");
         trigger<frmCalExec>("mnuStatsSymbols");
@@ -107,6 +106,7 @@ protected:
         if (!QGuiApplication::clipboard()->image().isNull()) {
             lines << QStringLiteral("clipboard: picture");
         }
+        lines << QStringLiteral("clipboard: ") + QGuiApplication::clipboard()->text().trimmed();
         for (QDirIterator files(survey.root(), QDir::Files, QDirIterator::Subdirectories); files.hasNext();) {
             lines << QStringLiteral("file: ") + QFileInfo(files.next()).fileName();
         }

@@ -130,8 +130,11 @@ TEST_F(Forms, AMapNameFileThatCannotBeReadIsToldAndReplacedIfTheUserWants)
         }
         for (const bool now : {false, true}) {
             Program program(survey);
-            program.dialogs.yesNo = {now, false};
-            program.dialogs.inputs = {QStringLiteral("Test")};
+            program.dialogs.yesNo = {now};
+            if (now) {
+                program.dialogs.yesNo.push_back(false);
+                program.dialogs.inputs = {QStringLiteral("Test")};
+            }
             program.start(nothing.path());
             ASSERT_EQ(program.dialogs.errors.size(), 1U) << "no map, no files of a map";
             EXPECT_EQ(program.dialogs.errors[0].title, QLatin1String(error));
@@ -326,7 +329,8 @@ TEST_F(Forms, UnsavedWorkIsOfferedWhenTheProgramStartsAgain)
     const QString word = QStringLiteral("mi");
     const auto endProgram = [](const Program& program, bool byExit) {
         if (byExit) {
-            program.click("cmdExit");
+            QTimer::singleShot(0, [&program] { program.click("cmdExit"); });
+            QApplication::exec();
         } else { // a while passes, then a crash
             program.main.findChild<QTimer*>()->setInterval(0);
             QApplication::processEvents();

@@ -115,7 +115,10 @@ TEST(FullDisk, EveryWriterKeepsTheOldFile)
         {folder + QStringLiteral("a.han"),
          [&](const QString& path) { SaveHankoData(varn.Drive, path, varn); }},
         {folder + QStringLiteral("all.ttl"),
-         [&](const QString&) { SaveTotalFile(varn.Drive, varn.dataFolder(), varn.NLocality, varn); }},
+         [&](const QString&) {
+             varn.TotalFilePath.clear(); // the old file is none that was read
+             SaveTotalFile(varn.Drive, varn.dataFolder(), varn.NLocality, varn);
+         }},
         {folder + QStringLiteral("a.sum"), [&](const QString& path) { SaveSetData(varn.Drive, path, varn); }},
         {folder + QStringLiteral("a.stt"),
          [&](const QString& path) { SaveStats(varn.Drive, path, varn, varn); }},

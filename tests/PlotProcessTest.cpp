@@ -200,7 +200,7 @@ TEST_F(PlotProcess, ErrorsNameTheirFileOnThisMachine)
                   {file(QStringLiteral("all.ttl")), QStringLiteral("Word form 1 (am words).")});
     write("all.ttl", QByteArray(Table).replace("1,0", "1,401"));
     expectFailure("statistics --counts all.ttl --output all.stt", 1,
-                  {QStringLiteral("The number of items.")});
+                  {QStringLiteral("at most 400 items, not of 401")});
 
     write("Map/Loc.map", "1\r\n3e38,1\r\n");
     expectFailure("blank-map --locality-dots --output o.svg", 1,

@@ -41,7 +41,10 @@ protected:
     {
         auto& table = control<frmDataInput, WordTableView>("tblWords");
         table.model()->setData(table.model()->index(0, 0), QLatin1String(text));
-        program.dialogs.yesNo = {true};
+        if (QFile::exists(survey.drive().hostPath(
+                Ling + control<frmDataInput, QLineEdit>("txtFileName").text() + QStringLiteral(".dbs")))) {
+            program.dialogs.yesNo = {true};
+        }
         trigger<frmDataInput>("mnuSave");
     }
     template <typename Form>
