@@ -17,11 +17,10 @@ void countItem(const LinguisticData& item, int localities, CumulativeData& data)
 }
 
 /// Saves the table; where that fails, it becomes `before` again.
-void saveOrRestore(const Folders& folders, int localities, const CumulativeTable& before,
-                   CumulativeData& data)
+void saveOrRestore(const TableFile& file, int localities, const CumulativeTable& before, CumulativeData& data)
 {
     try {
-        SaveTotalFile(folders.Drive, folders.dataFolder(), localities, data);
+        SaveTotalFile(file.drive, file.path, localities, data);
     } catch (const RunTimeError&) {
         static_cast<CumulativeTable&>(data) = before;
         throw;
@@ -46,7 +45,9 @@ QString countFile(const DriveC& drive, const QString& path, int localities, Cumu
         }
         return mismatch;
     } catch (const RunTimeError& error) {
-        return error.message();
+        FilePlace place = error.place();
+        place.path = drive.hostPath(path);
+        return error.at(place).message();
     }
 }
 
@@ -62,11 +63,11 @@ RunTimeError failedAfter(const AccumulationResult& result, const RunTimeError& e
 
 } // namespace
 
-void executeItem(const Folders& folders, const LinguisticData& item, int localities, CumulativeData& data)
+void executeItem(const TableFile& file, const LinguisticData& item, int localities, CumulativeData& data)
 {
     const CumulativeTable before = data;
     countItem(item, localities, data);
-    saveOrRestore(folders, localities, before, data);
+    saveOrRestore(file, localities, before, data);
 }
 
 QStringList itemFiles(const DriveC& drive, const QString& folder)
@@ -83,7 +84,7 @@ QStringList itemFiles(const DriveC& drive, const QString& folder)
     return paths;
 }
 
-AccumulationResult accumulateItems(const Folders& folders, const ItemsToCount& items, int localities,
+AccumulationResult accumulateItems(const TableFile& file, const ItemsToCount& items, int localities,
                                    CumulativeData& data, const AccumulationProgress& mayProceed)
 {
     AccumulationResult result;
@@ -100,12 +101,12 @@ AccumulationResult accumulateItems(const Folders& folders, const ItemsToCount& i
             continue;
         }
         const CumulativeTable before = data;
-        if (const QString reason = countFile(folders.Drive, path, localities, data); !reason.isEmpty()) {
+        if (const QString reason = countFile(file.drive, path, localities, data); !reason.isEmpty()) {
             result.uncounted.push_back({name, reason});
             continue;
         }
         try {
-            saveOrRestore(folders, localities, before, data);
+            saveOrRestore(file, localities, before, data);
         } catch (const RunTimeError& error) {
             throw failedAfter(result, error);
         }

@@ -2,14 +2,21 @@
 
 #include "analysis/CumulativeTable.h"
 #include "lingdata/LinguisticData.h"
-#include "shell/Folders.h"
+#include "platform/DriveC.h"
 
 #include <functional>
 #include <vector>
 
+/// The file that a table is saved to.
+struct TableFile
+{
+    const DriveC& drive;
+    QString path;
+};
+
 /// Adds one item to the table, notes its name, and saves the table to its file. Raises what counting and
 /// saving raise; table and file are then as they were.
-void executeItem(const Folders& folders, const LinguisticData& item, int localities, CumulativeData& data);
+void executeItem(const TableFile& file, const LinguisticData& item, int localities, CumulativeData& data);
 
 /// The paths of the items in `folder`, its `.dbs` files, in the order of their names. Raises path not found
 /// for a folder that is not there.
@@ -48,5 +55,5 @@ using AccumulationProgress = std::function<bool(int done, int items, const QStri
 /// Adds items to the table in the order given, each as if it were the only one: the table is saved after
 /// each. A file that cannot be read or counted, or whose number of localities is not `localities`, is passed
 /// over. Raises what saving the table raises; the table then holds what its file holds.
-AccumulationResult accumulateItems(const Folders& folders, const ItemsToCount& items, int localities,
+AccumulationResult accumulateItems(const TableFile& file, const ItemsToCount& items, int localities,
                                    CumulativeData& data, const AccumulationProgress& mayProceed);

@@ -159,9 +159,13 @@ std::optional<RunTimeError> LoadTotalFile(const DriveC& drive, const QString& pa
     return namesError;
 }
 
-void SaveTotalFile(const DriveC& drive, const QString& dataFolder, int localities, CumulativeData& data)
+QString totalFilePath(const QString& folder, const CumulativeData& data)
 {
-    const QString path = dataFolder + QLatin1Char('\\') + data.TotalFileName + QStringLiteral(".ttl");
+    return folder + QLatin1Char('\\') + data.TotalFileName + QStringLiteral(".ttl");
+}
+
+void SaveTotalFile(const DriveC& drive, const QString& path, int localities, CumulativeData& data)
+{
     const QString namesPath = countedItemsPath(path);
     const bool isStaleBeside = data.NumItemsAccumulated == 0 || !isOwnFile(data, path);
     const SaveLock lock(drive, path);

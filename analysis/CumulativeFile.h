@@ -26,10 +26,13 @@ void writeSpecifyChars(SequentialWriter& file, const CumulativeData& data);
 std::optional<RunTimeError> LoadTotalFile(const DriveC& drive, const QString& path, int localities,
                                           CumulativeData& data);
 
-/// Saves the table to the `.ttl` file of its name in `dataFolder`, and the names of its items beside it.
-/// Raises permission denied where the file is the one that was loaded or saved last and holds something else
-/// by now: another program has counted there, and its items would be lost. Only one program saves at a time.
-void SaveTotalFile(const DriveC& drive, const QString& dataFolder, int localities, CumulativeData& data);
+/// Path of the `.ttl` file of the table's name in `folder`.
+QString totalFilePath(const QString& folder, const CumulativeData& data);
+
+/// Saves the table to the `.ttl` file at `path`, and the names of its items beside it. Raises permission
+/// denied where the file is the one that was loaded or saved last and holds something else by now: another
+/// program has counted there, and its items would be lost. Only one program saves at a time.
+void SaveTotalFile(const DriveC& drive, const QString& path, int localities, CumulativeData& data);
 
 /// Whether `path` is that of the file that was loaded or saved last.
 bool isOwnFile(const CumulativeData& data, const QString& path);

@@ -1,5 +1,6 @@
 #include "analysis/ExecuteCommands.h"
 
+#include "analysis/CumulativeFile.h"
 #include "lingdata/LocalityMismatch.h"
 #include "platform/Dialogs.h"
 
@@ -53,7 +54,8 @@ void executeLoadedItem(const LinguisticData& item, const TotalState& state, Dial
         !mayCountAgain(item, state.data, dialogs)) {
         return;
     }
-    executeItem(state.folders, item, state.localities, state.data);
+    executeItem({state.folders.Drive, totalFilePath(state.folders.dataFolder(), state.data)}, item,
+                state.localities, state.data);
     outdateSums(state.contrast);
     dialogs.message(QStringLiteral("Analyse of Linguistic Data File is completed."), Title);
 }

@@ -18,7 +18,8 @@ bool hasName(const CumulativeData& data, Dialogs& dialogs)
 
 void save(const TotalState& state)
 {
-    SaveTotalFile(state.folders.Drive, state.folders.dataFolder(), state.localities, state.data);
+    SaveTotalFile(state.folders.Drive, totalFilePath(state.folders.dataFolder(), state.data),
+                  state.localities, state.data);
 }
 
 } // namespace

@@ -1,5 +1,6 @@
 // What the menu entries of the execution form do to the counts and the statistics.
 
+#include "analysis/CumulativeFile.h"
 #include "analysis/ExecuteCommands.h"
 #include "analysis/frmCalExec.h"
 #include "shell/VarnModule.h"
@@ -54,7 +55,8 @@ AccumulationResult frmCalExec::accumulate(const ItemsToCount& items)
         return !progress.wasCanceled();
     };
     outdateSums(m_varn);
-    return accumulateItems(m_varn, items, m_varn.NLocality, m_varn, mayProceed);
+    return accumulateItems({m_varn.Drive, totalFilePath(m_varn.dataFolder(), m_varn)}, items,
+                           m_varn.NLocality, m_varn, mayProceed);
 }
 
 void frmCalExec::report(const AccumulationResult& done)

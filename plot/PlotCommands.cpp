@@ -1,6 +1,6 @@
 #include "plot/PlotCommands.h"
 
-#include "analysis/Accumulation.h"
+#include "analysis/AccumulateItems.h"
 #include "analysis/CumulativeFile.h"
 #include "lingdata/LinguisticFile.h"
 #include "lingdata/LocalityMismatch.h"
@@ -167,73 +167,29 @@ void loadCharacters(VarnModule& varn, const QString& characters)
     }
 }
 
-/// The folder of the table at `counts`. Raises bad file name where saving the table there, with its ending in
-/// small letters, would write another file.
-QString folderOfTable(const VarnModule& varn, const QString& counts)
-{
-    const QString path = varn.Drive.varnPath(counts);
-    QString folder = path.left(path.lastIndexOf(QLatin1Char('\\')));
-    const QString saved = folder + QLatin1Char('\\') + varn.TotalFileName + QStringLiteral(".ttl");
-    if (varn.Drive.hostPath(saved) != varn.Drive.hostPath(path)) {
-        throw RunTimeError(ErrorNumber::BadFileName,
-                           QStringLiteral("There is another file of this name in small letters."))
-            .at({path});
-    }
-    return folder;
-}
-
-/// Adds items to a table, which is saved after each.
-class ItemCounting
-{
-public:
-    ItemCounting(VarnModule& varn, QString folder, PlotListener& listener)
-        : m_varn(varn), m_folder(std::move(folder)), m_listener(listener)
-    {}
-
-    /// Returns whether all items were counted: an item of another map is left out.
-    bool add(const QStringList& items)
-    {
-        try {
-            for (const QString& item : items) {
-                add(item);
-            }
-        } catch (const RunTimeError& error) {
-            throw error.during(done(items));
-        }
-        if (m_counted < items.size()) {
-            m_listener.warning(done(items));
-        }
-        return m_counted == items.size();
-    }
-
-private:
-    void add(const QString& path)
-    {
-        const ItemAnswers item = readSequentialFile(m_varn.Drive, m_varn.Drive.varnPath(path), readItem);
-        if (const QString mismatch = localityMismatch(item.NLocate, m_varn.NLocality); !mismatch.isEmpty()) {
-            m_listener.warning(path + QStringLiteral(": ") + mismatch + QStringLiteral(" It is left out."));
-            return;
-        }
-        accumulateItem(item, m_varn.NLocality, m_varn);
-        SaveTotalFile(m_varn.Drive, m_folder, m_varn.NLocality, m_varn);
-        ++m_counted;
-    }
-
-    QString done(const QStringList& items) const
-    {
-        return QStringLiteral("%1 of %2 items counted and saved.").arg(m_counted).arg(items.size());
-    }
-
-    VarnModule& m_varn;
-    QString m_folder;
-    PlotListener& m_listener;
-    qsizetype m_counted = 0;
-};
-
+/// Adds the items to the table, which is saved after each; returns whether all were counted.
 bool accumulate(VarnModule& varn, const PlotOptions& options, PlotListener& listener)
 {
     loadCharacters(varn, options.characters);
-    return ItemCounting(varn, folderOfTable(varn, options.counts), listener).add(options.data);
+    ItemsToCount items;
+    items.countAgain = options.countAgain;
+    for (const QString& item : options.data) {
+        items.paths << varn.Drive.varnPath(item);
+    }
+    const auto goOn = [](int, int, const QString&) { return true; };
+    const AccumulationResult done =
+        accumulateItems({varn.Drive, varn.TotalFilePath}, items, varn.NLocality, varn, goOn);
+    for (const UncountedItem& item : done.uncounted) {
+        listener.warning(QStringLiteral("%1 is left out: %2").arg(item.name, item.reason));
+    }
+    for (const QString& name : done.countedBefore) {
+        listener.warning(QStringLiteral("%1 is left out: the table holds it already.").arg(name));
+    }
+    if (done.counted < done.items) {
+        listener.warning(
+            QStringLiteral("%1 of %2 items counted and saved.").arg(done.counted).arg(done.items));
+    }
+    return done.counted == done.items;
 }
 
 void saveStatistics(VarnModule& varn, const QString& output)

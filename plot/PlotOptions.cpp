@@ -36,10 +36,8 @@ std::vector<CommandForm> commandForms()
         {"blank-map", Command::BlankMap, map, picture},
         {"symbols", Command::Symbols, map, {}},
         {"atlas", Command::Atlas, map, size + list({"location"})},
-        {"accumulate",
-         Command::Accumulate,
-         list({"installation", "map", "counts", "characters", "data"}),
-         {}},
+        {"accumulate", Command::Accumulate, list({"installation", "map", "counts", "characters", "data"}),
+         list({"count-again"})},
         {"statistics", Command::Statistics, map + list({"counts"}), {}},
         {"diffusion-map", Command::DiffusionMap, map + list({"counts", "graph"}),
          picture + list({"word-form"})},
@@ -67,6 +65,7 @@ void addOptions(QCommandLineParser& parser)
         parser.addOption({QLatin1String(name), {}, QStringLiteral("value")});
     }
     parser.addOption(QCommandLineOption(QStringLiteral("locality-dots")));
+    parser.addOption(QCommandLineOption(QStringLiteral("count-again")));
     parser.addOption(QCommandLineOption(QStringList{QStringLiteral("h"), QStringLiteral("help")}));
 }
 
@@ -194,6 +193,7 @@ std::optional<PlotOptions> readPlotOptions(const QStringList& arguments)
     options.characters = parser.value(QStringLiteral("characters"));
     options.contrast = parser.value(QStringLiteral("contrast"));
     options.localityDots = parser.isSet(QStringLiteral("locality-dots"));
+    options.countAgain = parser.isSet(QStringLiteral("count-again"));
     if (parser.isSet(QStringLiteral("location"))) {
         options.location = readLocation(parser.value(QStringLiteral("location")));
     }
@@ -228,6 +228,7 @@ QString plotUsage()
   varnplot atlas     --installation DIR --map NAME --output FILE.pdf
            [--location center|right|left|top|bottom] [--locality-dots] [--height MM]
   varnplot accumulate --installation DIR --map NAME --counts FILE.ttl --characters FILE.sum --data FILE.dbs ...
+           [--count-again]
   varnplot statistics --installation DIR --map NAME --counts FILE.ttl --output FILE.stt
   varnplot diffusion-map --installation DIR --map NAME --counts FILE.ttl
            --graph bar|layered-bar|circle|layered-circle --output FILE
@@ -238,8 +239,9 @@ QString plotUsage()
            [--locality-dots] [--height MM] [--dpi N]
 
 DIR is the folder with VarnData and VarnSymbol. FILE ends in .svg, .pdf or .png.
-accumulate adds the items to the table in FILE.ttl and saves it after each. An item whose number of localities
-is not the map's is left out and named; a map of such an item is drawn with a warning.
+accumulate adds the items to the table in FILE.ttl and saves it after each. Items are left out and named that
+cannot be read, whose number of localities is not the map's, or that the table holds already; --count-again counts
+the last once more. A map of an item with another number of localities is drawn with a warning.
 --height is the height of the map in millimetres, --dpi the resolution of a PNG (192).
 
 Exit code: 0 all is done, 1 an error or items left out, 2 the command line is not understood.

@@ -111,7 +111,7 @@ TEST(CumulativeFile, ItReadsBackWithTheMapsLocalities)
     EXPECT_EQ(data.Counts(2, 3), 6);
     EXPECT_EQ(data.WordformPaintColor(2), 15);
     data.TotalFileName = QStringLiteral("copy");
-    SaveTotalFile(survey.drive(), Folder, 3, data);
+    SaveTotalFile(survey.drive(), totalFilePath(Folder, data), 3, data);
     EXPECT_EQ(survey.read(Folder + QStringLiteral("\\copy.ttl")), text);
 
     data.MapCaption = QStringLiteral("mine");
@@ -157,7 +157,7 @@ TEST(CumulativeFile, TheNamesOfItemsAreThoseThatTheTableCounts)
     EXPECT_TRUE(error->place().path.endsWith(QStringLiteral("all.itm")));
     EXPECT_EQ(data.CountedItems, QStringList());
     EXPECT_EQ(data.NumItemsAccumulated, 7);
-    SaveTotalFile(survey.drive(), Folder, 1, data);
+    SaveTotalFile(survey.drive(), totalFilePath(Folder, data), 1, data);
     EXPECT_EQ(survey.read(Folder + QStringLiteral("\\all.itm")), "damaged");
 }
 

@@ -68,7 +68,8 @@ protected:
 
     AccumulationResult countAll(bool countAgain, const AccumulationProgress& mayProceed)
     {
-        return accumulateItems(varn, {itemFiles(varn.Drive, Folder), countAgain}, 2, varn, mayProceed);
+        return accumulateItems({varn.Drive, totalFilePath(varn.dataFolder(), varn)},
+                               {itemFiles(varn.Drive, Folder), countAgain}, 2, varn, mayProceed);
     }
     AccumulationResult countAll()
     {
@@ -268,7 +269,7 @@ TEST_F(ItemFolder, ItemsAreCountedInTheOrderOfTheirNamesAndTheBadOneIsNamed)
     for (const char* name : {"\\1.DBS", "\\3.dbs"}) {
         LinguisticData item;
         static_cast<ItemAnswers&>(item) = readItemAnswers(varn, Folder + QLatin1String(name));
-        executeItem(varn, item, 2, alone);
+        executeItem({varn.Drive, totalFilePath(varn.dataFolder(), alone)}, item, 2, alone);
     }
     for (int j = 1; j <= 2; ++j) {
         EXPECT_EQ(alone.Counts(1, j), varn.Counts(1, j));
@@ -320,7 +321,7 @@ TEST_F(ItemFolder, AStoppedRunIsResumedWithTheTableReadAgain)
     EXPECT_EQ(survey.read(Folder + QStringLiteral("\\all.itm")), "2,2\r\n\"1.DBS\"\r\n\"3.dbs\"\r\n");
 
     clearCounts(2, varn);
-    SaveTotalFile(survey.drive(), Folder, 2, varn);
+    SaveTotalFile(survey.drive(), totalFilePath(Folder, varn), 2, varn);
     EXPECT_EQ(countAll().counted, 2) << "an emptied table knows no items";
 }
 
@@ -331,7 +332,7 @@ TEST_F(ItemFolder, ATableThatAnotherProgramSavedIsNotSavedOver)
     const QString path = Folder + QStringLiteral("\\all.ttl");
     LoadTotalFile(survey.drive(), path, 2, other);
     other.MapCaption = QStringLiteral("theirs");
-    SaveTotalFile(survey.drive(), Folder, 2, other);
+    SaveTotalFile(survey.drive(), totalFilePath(Folder, other), 2, other);
     const RunTimeError error =
         errorOf([&] { countAll(true, [](int, int, const QString&) { return true; }); });
     EXPECT_EQ(error.number(), ErrorNumber::PermissionDenied);
@@ -340,14 +341,14 @@ TEST_F(ItemFolder, ATableThatAnotherProgramSavedIsNotSavedOver)
     EXPECT_EQ(varn.CountedItems.size(), 2) << "memory holds what it held";
 
     LoadTotalFile(survey.drive(), path, 2, varn);
-    SaveTotalFile(survey.drive(), Folder, 2, varn);
+    SaveTotalFile(survey.drive(), totalFilePath(Folder, varn), 2, varn);
     QFile::remove(survey.drive().hostPath(path));
-    SaveTotalFile(survey.drive(), Folder, 2, varn); // there is nothing to save over
+    SaveTotalFile(survey.drive(), totalFilePath(Folder, varn), 2, varn); // there is nothing to save over
     EXPECT_TRUE(saved().contains("theirs"));
     QFile::remove(survey.drive().hostPath(path + QStringLiteral(".lock")));
     QLockFile theirs(survey.drive().hostPath(path) + QStringLiteral(".lock"));
     ASSERT_TRUE(theirs.tryLock());
-    EXPECT_EQ(errorOf([&] { SaveTotalFile(survey.drive(), Folder, 2, varn); }).number(),
+    EXPECT_EQ(errorOf([&] { SaveTotalFile(survey.drive(), totalFilePath(Folder, varn), 2, varn); }).number(),
               ErrorNumber::PermissionDenied);
 }
 
@@ -357,7 +358,7 @@ TEST_F(ItemFolder, UnsavedIsWhatDiffersFromTheFile)
     EXPECT_TRUE(areCharsUnsaved(varn));
     varn.WordformName(1) = QStringLiteral("w");
     EXPECT_TRUE(isTableUnsaved(varn, 2));
-    SaveTotalFile(survey.drive(), Folder, 2, varn);
+    SaveTotalFile(survey.drive(), totalFilePath(Folder, varn), 2, varn);
     SaveSetData(survey.drive(), Folder + QStringLiteral("\\all.sum"), varn);
     EXPECT_FALSE(isTableUnsaved(varn, 2));
     EXPECT_FALSE(areCharsUnsaved(varn));

@@ -117,7 +117,7 @@ TEST(FullDisk, EveryWriterKeepsTheOldFile)
         {folder + QStringLiteral("all.ttl"),
          [&](const QString&) {
              varn.TotalFilePath.clear(); // the old file is none that was read
-             SaveTotalFile(varn.Drive, varn.dataFolder(), varn.NLocality, varn);
+             SaveTotalFile(varn.Drive, totalFilePath(varn.dataFolder(), varn), varn.NLocality, varn);
          }},
         {folder + QStringLiteral("a.sum"), [&](const QString& path) { SaveSetData(varn.Drive, path, varn); }},
         {folder + QStringLiteral("a.stt"),

@@ -5,7 +5,6 @@
 #include "tests/TestDrive.h"
 
 #include <QBuffer>
-#include <QElapsedTimer>
 
 #include <utility>
 
@@ -124,16 +123,6 @@ TEST(PhoneticText, AnIllegalEscapeIsReportedOnTheMapForm)
         wasPrinted(survey.frmMap.drawing(), QStringLiteral("\\Q1x Illegal Data for Phonetic Alphabet.")));
     EXPECT_TRUE(wasPrinted(printer.drawing(), QStringLiteral("y")));
     EXPECT_TRUE(operationsOf<PictureOperation>(printer.drawing()).empty());
-}
-
-TEST(PhoneticText, AMillionCharactersAreWrittenInAMoment)
-{
-    constexpr qint64 AMoment = 15000; // milliseconds; copying the rest for every unit takes minutes
-    GlyphSurvey survey;
-    QElapsedTimer timer;
-    timer.start();
-    EXPECT_GT(survey.plot(QByteArray("\\A1\\Q1x").repeated(150000).constData()), 0);
-    EXPECT_LT(timer.elapsed(), AMoment);
 }
 
 TEST(PhoneticText, AMissingOrBrokenBitmapIsAnErrorThatNamesIt)

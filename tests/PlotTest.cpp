@@ -223,6 +223,7 @@ TEST(Plot, CountsAreAccumulatedAndDrawn)
         options.symbols = survey.hostPath(QStringLiteral("all.htL"));
         options.contrast = survey.hostPath(contrast.isEmpty() ? QStringLiteral("all.rnk") : contrast);
         options.data << options.data;
+        options.countAgain = true;
         plotQuietly(options);
         return output.isEmpty() ? QByteArray() : survey.read(QStringLiteral("C:\\") + output);
     };

@@ -81,7 +81,7 @@ TEST_F(RecoveryOf, AllKindsOfWorkComeBackAsUnsaved)
 
 TEST_F(RecoveryOf, ATableIsUnsavedAgainstItsFile)
 {
-    SaveTotalFile(varn.Drive, varn.dataFolder(), varn.NLocality, varn);
+    SaveTotalFile(varn.Drive, totalFilePath(varn.dataFolder(), varn), varn.NLocality, varn);
     varn.Counts(2, 3) = 8;
     varn.HankoUnsaved = false;
     const UnsavedWork work = unsavedWork(varn, std::nullopt);
