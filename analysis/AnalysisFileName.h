@@ -1,7 +1,7 @@
 #pragma once
 
+#include "mapdata/Folders.h"
 #include "platform/Dialogs.h"
-#include "shell/Folders.h"
 
 /// The name of a file of the analysis as it is shown: of `path` what stands behind the last backslash,
 /// without `ending`, such as ".rnk".

@@ -3,7 +3,7 @@
 #include "analysis/ContrastData.h"
 #include "analysis/CumulativeTable.h"
 #include "analysis/Statistics.h"
-#include "shell/Folders.h"
+#include "mapdata/Folders.h"
 
 class Dialogs;
 

@@ -2,6 +2,7 @@
 #include "platform/DrawingPainter.h"
 #include "render/LinguisticMap.h"
 #include "render/MapSize.h"
+#include "shell/MapParts.h"
 
 #include <QPainter>
 #include <QPen>
@@ -33,7 +34,7 @@ struct FullMap
     void record()
     {
         frmMap.Cls();
-        PlotLinguisticData(*varn, {frmMap, frmMap});
+        PlotLinguisticData(linguisticMapParts(*varn), {frmMap, frmMap});
     }
 
     std::unique_ptr<VarnModule> varn;

@@ -2,7 +2,7 @@
 
 #include "lingdata/ItemEditor.h"
 #include "lingdata/ItemLoader.h"
-#include "shell/Folders.h"
+#include "mapdata/Folders.h"
 
 // The files that an item is opened from for entry, and saved to.
 

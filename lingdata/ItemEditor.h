@@ -1,8 +1,8 @@
 #pragma once
 
 #include "lingdata/LinguisticData.h"
+#include "lingdata/PhoneticCheck.h"
 #include "lingdata/WordBlock.h"
-#include "render/PhoneticCheck.h"
 
 #include <QStringList>
 #include <QUndoStack>

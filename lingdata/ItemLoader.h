@@ -1,9 +1,9 @@
 #pragma once
 
 #include "lingdata/LinguisticData.h"
+#include "lingdata/LoadedState.h"
+#include "mapdata/Folders.h"
 #include "platform/Dialogs.h"
-#include "shell/Folders.h"
-#include "shell/LoadedState.h"
 
 /// Path of the kinds file of the item at `itemPath`: in the current map's data folder, with the item's name.
 QString kindsFilePath(const Folders& folders, const QString& itemPath);

@@ -3,7 +3,6 @@
 #include "mapdata/MapFiles.h"
 #include "platform/FileName.h"
 #include "platform/Folder.h"
-#include "shell/MapChoice.h"
 
 #include <utility>
 

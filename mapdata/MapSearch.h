@@ -1,7 +1,7 @@
 #pragma once
 
 #include "mapdata/BaseMap.h"
-#include "shell/Folders.h"
+#include "mapdata/Folders.h"
 
 #include <QStringList>
 

@@ -21,7 +21,7 @@ QImage inkOnly(const QImage& picture)
 
 } // namespace
 
-const QImage& PictureStore::picture(const DriveC& drive, const QString& path)
+const QImage& PictureStore::picture(const DriveC& drive, const QString& path) const
 {
     const auto known = m_pictures.constFind(path);
     if (known != m_pictures.constEnd()) {

@@ -12,8 +12,8 @@ class PictureStore
 public:
     /// The picture of the bitmap file at `path`. Raises file not found, path not found, permission denied,
     /// out of memory, and type mismatch for a file that is no picture.
-    const QImage& picture(const DriveC& drive, const QString& path);
+    const QImage& picture(const DriveC& drive, const QString& path) const;
 
 private:
-    QHash<QString, QImage> m_pictures;
+    mutable QHash<QString, QImage> m_pictures;
 };

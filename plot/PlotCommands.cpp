@@ -1,17 +1,19 @@
 #include "plot/PlotCommands.h"
 
 #include "analysis/AccumulateItems.h"
+#include "analysis/ContrastMap.h"
 #include "analysis/CumulativeFile.h"
+#include "analysis/DiffusionGraphs.h"
 #include "lingdata/LinguisticFile.h"
 #include "lingdata/LocalityMismatch.h"
 #include "mapdata/MapFiles.h"
 #include "plot/DrawingFile.h"
 #include "render/BlankMap.h"
-#include "render/ContrastMap.h"
-#include "render/DiffusionGraphs.h"
 #include "render/LinguisticMap.h"
 #include "render/MapSize.h"
 #include "render/SymbolCatalogue.h"
+#include "shell/MapParts.h"
+#include "shell/VarnModule.h"
 #include "symbols/SymbolFile.h"
 
 #include <QDir>
@@ -51,17 +53,17 @@ public:
             m_listener.warning(m_varn.Drive.hostPath(dataPath) + QStringLiteral(": ") + mismatch);
         }
         LoadHankoData(m_varn.Drive, symbolPath, m_varn);
-        drawLinguisticMap(m_varn, surfaces());
+        drawLinguisticMap(linguisticMapParts(m_varn), surfaces());
         return m_frmMap.drawing();
     }
 
     const Drawing& diffusionMap(DiffusionGraph graph, bool layered, int wordForm)
     {
         if (layered) {
-            drawLayeredGraph(m_varn, graph, surfaces());
+            drawLayeredGraph(countMapParts(m_varn), graph, surfaces());
         } else {
             m_varn.CurrentWordform = std::max(1, wordForm);
-            drawSingleGraph(m_varn, graph, surfaces());
+            drawSingleGraph(countMapParts(m_varn), graph, m_varn.CurrentWordform, surfaces());
         }
         return m_frmMap.drawing();
     }
@@ -71,10 +73,10 @@ public:
         static_cast<DiffusionSymbols&>(m_varn) =
             readSequentialFile(m_varn.Drive, symbolPath, readDiffusionSymbols);
         if (wordForm == 0) {
-            drawLayeredGraph(m_varn, DiffusionGraph::Symbol, surfaces());
+            drawLayeredGraph(countMapParts(m_varn), DiffusionGraph::Symbol, surfaces());
         } else {
-            DrawBlankMap(m_varn, surfaces());
-            DrawHankoMap(m_varn, wordForm, 1, surfaces());
+            DrawBlankMap(blankMapParts(m_varn), surfaces());
+            DrawHankoMap(countMapParts(m_varn), wordForm, 1, surfaces());
         }
         return m_frmMap.drawing();
     }
@@ -83,19 +85,19 @@ public:
     {
         LoadRankFile(m_varn.Drive, contrastPath, m_varn);
         analyseContrast(m_varn, m_varn.NLocality, m_varn);
-        drawContrastMap(m_varn, surfaces());
+        drawContrastMap(countMapParts(m_varn), surfaces());
         return m_frmMap.drawing();
     }
 
     const Drawing& blankMap()
     {
-        DrawBlankMap(m_varn, surfaces());
+        DrawBlankMap(blankMapParts(m_varn), surfaces());
         return m_frmMap.drawing();
     }
 
     const Drawing& symbolPage(int page)
     {
-        PlotSymbol(m_varn, page, surfaces());
+        PlotSymbol(m_varn, m_varn, page, surfaces());
         return m_frmMap.drawing();
     }
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "render/DiffusionGraphs.h"
+#include "analysis/DiffusionGraphs.h"
 #include "render/MapStyle.h"
 
 #include <QString>

@@ -126,13 +126,13 @@ void PlotDate(const QString& fileName, const QDateTime& time, MapSurfaces surfac
     target.FontSize = fontSize;
 }
 
-void DrawBlankMap(VarnModule& varn, MapSurfaces surfaces)
+void DrawBlankMap(const BlankMapParts& parts, MapSurfaces surfaces)
 {
     surfaces.frmMap.Cls();
-    PlotLineData(varn, varn, surfaces);
-    PlotLocateData(varn, varn, varn, surfaces);
-    PlotKanjiData(varn, varn, surfaces);
-    if (varn.WriteFileName) {
-        PlotDate(varn.SymbolFileName, QDateTime::currentDateTime(), surfaces);
+    PlotLineData(parts.map, parts.geometry, surfaces);
+    PlotLocateData(parts.map, parts.style, parts.geometry, surfaces);
+    PlotKanjiData(parts.map, parts.geometry, surfaces);
+    if (parts.style.WriteFileName) {
+        PlotDate(parts.stampedFile, QDateTime::currentDateTime(), surfaces);
     }
 }

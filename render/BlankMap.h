@@ -1,6 +1,6 @@
 #pragma once
 
-#include "shell/VarnModule.h"
+#include "render/MapParts.h"
 
 #include <QDateTime>
 
@@ -23,4 +23,4 @@ void PlotKanjiData(const PlaceNames& map, const MapGeometry& geometry, MapSurfac
 void PlotDate(const QString& fileName, const QDateTime& time, MapSurfaces surfaces);
 
 /// Clears the map form and draws the base map.
-void DrawBlankMap(VarnModule& varn, MapSurfaces surfaces);
+void DrawBlankMap(const BlankMapParts& parts, MapSurfaces surfaces);

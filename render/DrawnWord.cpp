@@ -1,7 +1,10 @@
 #include "render/DrawnWord.h"
 
-DrawnWord drawWord(VarnModule& varn, const MapFont& font, const QString& word)
+#include "render/PhoneticText.h"
+
+DrawnWord drawWord(const TextParts& parts, const QString& word)
 {
+    const MapFont& font = parts.font;
     DrawSurface surface;
     surface.FontName = font.MapFontName;
     surface.FontSize = font.MapFontSize;
@@ -9,7 +12,7 @@ DrawnWord drawWord(VarnModule& varn, const MapFont& font, const QString& word)
     surface.FontItalic = font.MapFontItalic;
     DrawSurface traces;
     try {
-        PhoneticText text(varn, font, varn, varn.Pictures, {surface, traces});
+        PhoneticText text(parts, {surface, traces});
         const float width = text.PlotChar(0, 0, word);
         return {surface.drawing(), width, surface.TextHeight()};
     } catch (const RunTimeError&) {

@@ -1,6 +1,7 @@
 #pragma once
 
-#include "shell/VarnModule.h"
+#include "platform/Drawing.h"
+#include "render/MapParts.h"
 
 /// A coded word drawn by itself, as maps show it: with letters for its phonetic escapes.
 struct DrawnWord
@@ -11,6 +12,6 @@ struct DrawnWord
     float Height = 0;
 };
 
-/// Draws `word` from the origin in `font`. Escapes that are in no code are left out. Nothing is drawn where
-/// the installation lacks a glyph.
-DrawnWord drawWord(VarnModule& varn, const MapFont& font, const QString& word);
+/// Draws `word` from the origin in the font of `parts`. Escapes that are in no code are left out. Nothing is
+/// drawn where the installation lacks a glyph.
+DrawnWord drawWord(const TextParts& parts, const QString& word);

@@ -65,52 +65,54 @@ private:
 
 } // namespace
 
-QPointF captionOrigin(const VarnModule& varn)
+QPointF captionOrigin(const BlankMapParts& parts)
 {
-    return {varn.Scale * varn.HanreiX, varn.Scale * static_cast<double>(varn.HanreiY)};
+    const float scale = parts.geometry.Scale;
+    return {scale * parts.map.HanreiX, scale * static_cast<double>(parts.map.HanreiY)};
 }
 
-void ClsHanrei(const VarnModule& varn, DrawSurface& target, const QString& title)
+void ClsHanrei(const BlankMapParts& parts, DrawSurface& target, const QString& title)
 {
     constexpr auto Edge = static_cast<float>(2 * TwipsPerPixel); // letters are painted at whole pixels
 
-    const QPointF origin = captionOrigin(varn);
-    const float width = std::max(target.TextWidth(title), target.TextWidth(varn.KanjiText(1)));
+    const QPointF origin = captionOrigin(parts);
+    const float width = std::max(target.TextWidth(title), target.TextWidth(parts.map.KanjiText(1)));
     const auto x = static_cast<float>(origin.x());
     const auto y = static_cast<float>(origin.y());
     target.DrawWidth = 1;
     target.FilledBox(x, y, x + Margin + width + Edge, y + Margin + target.TextHeight() + Edge, QBColor(15));
 }
 
-void PlotHanrei(VarnModule& varn, MapSurfaces surfaces)
+void PlotHanrei(const LinguisticMapParts& parts, MapSurfaces surfaces)
 {
     constexpr float SymbolIndent = 200 + 50 + 200;
     constexpr float SymbolDrop = 80;
     constexpr float TextIndent = 200;
 
+    const SymbolSet& symbols = parts.symbols;
     DrawSurface& target = surfaces.DrawTarget;
-    const int step = rowStep(varn);
-    const QPointF origin = captionOrigin(varn);
+    const int step = rowStep(parts.text.font);
+    const QPointF origin = captionOrigin(parts.base);
     const auto x0 = static_cast<float>(origin.x());
     const auto y0 = static_cast<float>(origin.y());
 
-    ClsHanrei(varn, target, varn.Hanrei);
-    target.PrintAt(x0 + Margin, y0 + Margin, varn.Hanrei);
+    ClsHanrei(parts.base, target, parts.item.Hanrei);
+    target.PrintAt(x0 + Margin, y0 + Margin, parts.item.Hanrei);
 
-    SymbolShapes shapes(varn, varn, surfaces);
-    PhoneticText phonetic(varn, varn, varn, varn.Pictures, surfaces);
+    SymbolShapes shapes(parts.base.map, parts.base.geometry, surfaces);
+    PhoneticText phonetic(parts.text, surfaces);
     LegendCells cells(x0 + SymbolIndent, surfaces.frmMap.Height, step);
-    for (int k = 1; k <= varn.NHanrei; ++k) {
-        const QString& caption = varn.HankoCaption(k);
+    for (int k = 1; k <= symbols.NHanrei; ++k) {
+        const QString& caption = symbols.HankoCaption(k);
         if (caption.contains(QLatin1Char('-'))) {
             continue;
         }
         cells.next();
         const float top = y0 + static_cast<float>(step * cells.row()) + Margin;
         try {
-            shapes.DrawHanko(varn.Hanko(k), cells.column(), top + SymbolDrop);
+            shapes.DrawHanko(symbols.Hanko(k), cells.column(), top + SymbolDrop);
         } catch (const RunTimeError& error) {
-            throw ofRecord(error, varn, k);
+            throw ofRecord(error, symbols, k);
         }
         cells.noteTextEnd(phonetic.PlotChar(cells.column() + TextIndent, top, caption));
     }

@@ -32,19 +32,21 @@ bool containsKind(const QString& word, const QString& kind)
 }
 
 /// Draws the symbol of record k at every word form that contains its kind.
-void plotRecord(VarnModule& varn, int k, QPointF step, SymbolShapes& shapes)
+void plotRecord(const LinguisticMapParts& parts, int k, QPointF step, SymbolShapes& shapes)
 {
+    const BaseMap& map = parts.base.map;
+    MapGeometry& geometry = parts.base.geometry;
     const auto dx = static_cast<float>(step.x());
     const auto dy = static_cast<float>(step.y());
-    for (int i = 1; i <= varn.NLocate; ++i) {
-        const float x = varn.toScreen(varn.LocXY(i, 0));
-        const float y = varn.toScreen(varn.LocXY(i, 1));
-        varn.ScreenXY(i, 0) = x;
-        varn.ScreenXY(i, 1) = y;
-        for (int j = 1; j <= varn.WordCount(i); ++j) {
-            if (containsKind(varn.WordData(i, j), varn.HankoWord(k))) {
+    for (int i = 1; i <= parts.item.NLocate; ++i) {
+        const float x = geometry.toScreen(map.LocXY(i, 0));
+        const float y = geometry.toScreen(map.LocXY(i, 1));
+        geometry.ScreenXY(i, 0) = x;
+        geometry.ScreenXY(i, 1) = y;
+        for (int j = 1; j <= parts.item.WordCount(i); ++j) {
+            if (containsKind(parts.item.WordData(i, j), parts.symbols.HankoWord(k))) {
                 const auto steps = static_cast<float>(j - 1);
-                shapes.DrawHanko(varn.Hanko(k), x + steps * dx, y + steps * dy);
+                shapes.DrawHanko(parts.symbols.Hanko(k), x + steps * dx, y + steps * dy);
             }
         }
     }
@@ -52,22 +54,22 @@ void plotRecord(VarnModule& varn, int k, QPointF step, SymbolShapes& shapes)
 
 } // namespace
 
-void PlotLinguisticData(VarnModule& varn, MapSurfaces surfaces)
+void PlotLinguisticData(const LinguisticMapParts& parts, MapSurfaces surfaces)
 {
-    SymbolShapes shapes(varn, varn, surfaces);
-    for (int k = 1; k <= varn.NHanrei; ++k) {
+    SymbolShapes shapes(parts.base.map, parts.base.geometry, surfaces);
+    for (int k = 1; k <= parts.symbols.NHanrei; ++k) {
         try {
-            plotRecord(varn, k, wordStep(varn.HankoPosition), shapes);
+            plotRecord(parts, k, wordStep(parts.base.style.HankoPosition), shapes);
         } catch (const RunTimeError& error) {
-            throw ofRecord(error, varn, k);
+            throw ofRecord(error, parts.symbols, k);
         }
     }
     surfaces.thinLines();
 }
 
-void drawLinguisticMap(VarnModule& varn, MapSurfaces surfaces)
+void drawLinguisticMap(const LinguisticMapParts& parts, MapSurfaces surfaces)
 {
-    DrawBlankMap(varn, surfaces);
-    PlotLinguisticData(varn, surfaces);
-    PlotHanrei(varn, surfaces);
+    DrawBlankMap(parts.base, surfaces);
+    PlotLinguisticData(parts, surfaces);
+    PlotHanrei(parts, surfaces);
 }

@@ -1,11 +1,11 @@
 #pragma once
 
-#include "shell/VarnModule.h"
+#include "render/MapParts.h"
 
 /// Draws, for each record of the symbol set, its symbol at every locality for every word form that contains
 /// the record's kind. The j-th word form of a locality stands (j - 1) steps away from it, as `HankoPosition`
 /// says.
-void PlotLinguisticData(VarnModule& varn, MapSurfaces surfaces);
+void PlotLinguisticData(const LinguisticMapParts& parts, MapSurfaces surfaces);
 
 /// Draws the whole linguistic map: the base map, the symbols, and the legend.
-void drawLinguisticMap(VarnModule& varn, MapSurfaces surfaces);
+void drawLinguisticMap(const LinguisticMapParts& parts, MapSurfaces surfaces);

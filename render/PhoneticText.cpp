@@ -2,10 +2,8 @@
 
 #include "platform/SequentialFile.h"
 
-PhoneticText::PhoneticText(const Folders& folders, const MapFont& font, const MapStyle& style,
-                           PictureStore& pictures, MapSurfaces surfaces)
-    : m_folders(folders), m_font(font), m_style(style), m_pictures(pictures), m_target(surfaces.DrawTarget),
-      m_frmMap(surfaces.frmMap)
+PhoneticText::PhoneticText(const TextParts& parts, MapSurfaces surfaces)
+    : m_parts(parts), m_target(surfaces.DrawTarget), m_frmMap(surfaces.frmMap)
 {}
 
 float PhoneticText::PlotChar(float x, float y, QStringView text)
@@ -62,11 +60,11 @@ float PhoneticText::PlotOneSymbol(float x, float y, GlyphSeries series, int numb
     constexpr float BaselineOfGlyph = 0.75F;
 
     const QString name = series == GlyphSeries::Main ? QStringLiteral("Symbol") : QStringLiteral("SymbolS");
-    const QImage& glyph = m_pictures.picture(m_folders.Drive, glyphFolder() + name + QString::number(number) +
-                                                                  QStringLiteral(".bmp"));
+    const QImage& glyph = m_parts.pictures.picture(
+        m_parts.folders.Drive, glyphFolder() + name + QString::number(number) + QStringLiteral(".bmp"));
     const QSizeF size = naturalSize(glyph);
     const float baseline = y + m_target.TextAscent();
-    const float shift = m_font.SpecialFontShift * static_cast<float>(TwipsPerPoint);
+    const float shift = m_parts.font.SpecialFontShift * static_cast<float>(TwipsPerPoint);
     m_target.PaintPicture(glyph, x, baseline - BaselineOfGlyph * static_cast<float>(size.height()) + shift);
     return x + static_cast<float>(size.width());
 }
@@ -74,12 +72,12 @@ float PhoneticText::PlotOneSymbol(float x, float y, GlyphSeries series, int numb
 QString PhoneticText::glyphFolder() const
 {
     QString set;
-    if (m_style.PhoneticBold) {
-        set = m_font.MapFontSize < 11 ? QStringLiteral("Bold16") : QStringLiteral("Bold18");
+    if (m_parts.style.PhoneticBold) {
+        set = m_parts.font.MapFontSize < 11 ? QStringLiteral("Bold16") : QStringLiteral("Bold18");
     } else {
-        set = m_font.MapFontSize > 10 ? QStringLiteral("Standard18") : QStringLiteral("Standard16");
+        set = m_parts.font.MapFontSize > 10 ? QStringLiteral("Standard18") : QStringLiteral("Standard16");
     }
-    return m_folders.VarnPath + QStringLiteral("\\VarnSymbol\\") + set + QLatin1Char('\\');
+    return m_parts.folders.VarnPath + QStringLiteral("\\VarnSymbol\\") + set + QLatin1Char('\\');
 }
 
 std::vector<PhoneticSymbol> LoadSymbols(const Folders& folders)

@@ -1,11 +1,7 @@
 #pragma once
 
-#include "platform/PictureStore.h"
-#include "render/MapGeometry.h"
-#include "render/MapStyle.h"
-#include "render/PhoneticCode.h"
-#include "shell/Folders.h"
-#include "shell/MapFont.h"
+#include "lingdata/PhoneticCode.h"
+#include "render/MapParts.h"
 
 #include <vector>
 
@@ -13,8 +9,7 @@
 class PhoneticText
 {
 public:
-    PhoneticText(const Folders& folders, const MapFont& font, const MapStyle& style, PictureStore& pictures,
-                 MapSurfaces surfaces);
+    PhoneticText(const TextParts& parts, MapSurfaces surfaces);
 
     /// Writes `text` from (x, y), its top left corner in twips, and returns the x where it ended. An escape
     /// in no code is written with a message on the map form itself. Raises file not found for a missing
@@ -30,10 +25,7 @@ private:
     float PlotOneSymbol(float x, float y, GlyphSeries series, int number);
     QString glyphFolder() const;
 
-    const Folders& m_folders;
-    const MapFont& m_font;
-    const MapStyle& m_style;
-    PictureStore& m_pictures;
+    TextParts m_parts;
     DrawSurface& m_target;
     DrawSurface& m_frmMap;
 };

@@ -30,7 +30,7 @@ int LastSymbolPage(const PolygonTable& polygons)
     return (symbolCount(polygons) + SymbolsPerPage - 1) / SymbolsPerPage;
 }
 
-void PlotSymbol(VarnModule& varn, int page, MapSurfaces surfaces)
+void PlotSymbol(const PolygonTable& polygons, MapGeometry& geometry, int page, MapSurfaces surfaces)
 {
     constexpr int NumberSize = 6; // small enough for a number to stand clear of its symbol
     constexpr float NumberOffset = 200;
@@ -41,7 +41,7 @@ void PlotSymbol(VarnModule& varn, int page, MapSurfaces surfaces)
     const float x0 = cellWidth - 250;
     const float y0 = 350;
     const int first = SymbolsPerPage * (page - 1) + 1;
-    const int last = std::min(SymbolsPerPage * page, symbolCount(varn));
+    const int last = std::min(SymbolsPerPage * page, symbolCount(polygons));
 
     surfaces.frmMap.Cls();
     const int fontSize = target.FontSize;
@@ -49,7 +49,7 @@ void PlotSymbol(VarnModule& varn, int page, MapSurfaces surfaces)
     // On a narrow form the first numbers would begin left of its edge.
     const float scaleLeft = target.ScaleLeft;
     target.ScaleLeft += std::min(x0 - NumberOffset, 0.0F);
-    SymbolShapes shapes(varn, varn, surfaces);
+    SymbolShapes shapes(polygons, geometry, surfaces);
     float x = x0;
     float y = y0;
     for (int number = first; number <= last; ++number) {

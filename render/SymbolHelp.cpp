@@ -60,9 +60,8 @@ SymbolHelpLayout fittingLayout(const std::vector<PhoneticSymbol>& symbols, int f
 class SymbolHelpPage
 {
 public:
-    SymbolHelpPage(VarnModule& varn, const SymbolHelpLayout& layout, MapSurfaces surfaces)
-        : m_target(surfaces.DrawTarget), m_layout(layout),
-          m_phonetic(varn, varn, varn, varn.Pictures, surfaces)
+    SymbolHelpPage(const TextParts& parts, const SymbolHelpLayout& layout, MapSurfaces surfaces)
+        : m_target(surfaces.DrawTarget), m_layout(layout), m_phonetic(parts, surfaces)
     {}
 
     void writeHeading()
@@ -112,14 +111,14 @@ private:
 
 } // namespace
 
-void WriteSymbolHelp(VarnModule& varn, MapSurfaces surfaces)
+void WriteSymbolHelp(const std::vector<PhoneticSymbol>& codes, const TextParts& parts, MapSurfaces surfaces)
 {
     surfaces.frmMap.Cls();
     const int fontSize = surfaces.DrawTarget.FontSize;
-    const SymbolHelpLayout layout = fittingLayout(varn.ExpSymbols, varn.MapFontSize, surfaces);
-    SymbolHelpPage page(varn, layout, surfaces);
+    const SymbolHelpLayout layout = fittingLayout(codes, parts.font.MapFontSize, surfaces);
+    SymbolHelpPage page(parts, layout, surfaces);
     page.writeHeading();
-    for (const PhoneticSymbol& symbol : varn.ExpSymbols) {
+    for (const PhoneticSymbol& symbol : codes) {
         page.write(symbol);
     }
     surfaces.DrawTarget.FontSize = fontSize;

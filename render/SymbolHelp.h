@@ -1,6 +1,6 @@
 #pragma once
 
-#include "shell/VarnModule.h"
+#include "render/PhoneticText.h"
 
 /// Writes the list of phonetic codes with their letters.
-void WriteSymbolHelp(VarnModule& varn, MapSurfaces surfaces);
+void WriteSymbolHelp(const std::vector<PhoneticSymbol>& codes, const TextParts& parts, MapSurfaces surfaces);

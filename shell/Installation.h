@@ -1,6 +1,6 @@
 #pragma once
 
-#include "shell/Folders.h"
+#include "mapdata/Folders.h"
 
 /// Lays down the installation tree where it is missing: every file of `source`, a folder of this machine or
 /// of the program's resources, that the installation folder does not have yet; the sample survey only as a

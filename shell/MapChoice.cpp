@@ -14,19 +14,6 @@ QString fontStyleName(const MapFont& font)
 
 } // namespace
 
-QString installationRoot()
-{
-    return QStringLiteral("C:\\Varn62E\\");
-}
-
-void fixPaths(Folders& folders)
-{
-    folders.VarnPath = installationRoot() + QStringLiteral("Varn");
-    folders.DriveFileName = folders.VarnPath + QStringLiteral("\\VarnDriveName.map");
-    // There is no backslash between the two: the file lies beside the installation folder.
-    folders.MapNameFile = folders.VarnPath + QStringLiteral("MapName.dat");
-}
-
 MapChoice currentMapChoice(const VarnModule& varn)
 {
     return {varn, varn.VarnMapName};
@@ -38,11 +25,6 @@ void applyMapChoice(const MapChoice& choice, VarnModule& varn)
     varn.PhoneticBold = choice.MapFontBold;
     varn.VarnMapName = choice.VarnMapName;
     outdateSums(varn); // they are of the localities of the map before
-}
-
-void fixLingFolder(Folders& folders)
-{
-    folders.LingFolder = QStringLiteral("\\VarnData") + folders.VarnMapName + QStringLiteral("\\Ling");
 }
 
 MapChoice readMapChoice(SequentialReader& file)

@@ -9,21 +9,12 @@ struct MapChoice : MapFont
     QString VarnMapName;
 };
 
-/// The folder that the installation lies in: the contents of the drive file.
-QString installationRoot();
-
-/// Fixes the installation folder and the paths of the drive file and the map-name file.
-void fixPaths(Folders& folders);
-
 /// The current map and map font.
 MapChoice currentMapChoice(const VarnModule& varn);
 
 /// Makes `choice` the current map and map font; phonetic glyphs are bold where the font is. The
 /// sums of a contrast are outdated.
 void applyMapChoice(const MapChoice& choice, VarnModule& varn);
-
-/// Fixes the current map's folder of items and symbol files.
-void fixLingFolder(Folders& folders);
 
 /// The six fields of a map-name file.
 MapChoice readMapChoice(SequentialReader& file);

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "mapdata/Folders.h"
 #include "platform/SequentialFile.h"
-#include "shell/Folders.h"
 #include "symbols/SymbolSet.h"
 
 /// The six numbers of a symbol, in the order of all files that hold them.

@@ -1,6 +1,7 @@
+#include "analysis/ContrastMap.h"
+#include "analysis/DiffusionGraphs.h"
 #include "platform/StandardColors.h"
-#include "render/ContrastMap.h"
-#include "render/DiffusionGraphs.h"
+#include "shell/MapParts.h"
 #include "tests/TestDrive.h"
 
 namespace {
@@ -32,7 +33,7 @@ struct CountedSurvey : TestSurvey
 TEST(DiffusionGraphs, BarsRiseByTheShareOfItems)
 {
     CountedSurvey survey;
-    DrawBarGraph(survey.varn, 1, 0, survey.surfaces);
+    DrawBarGraph(countMapParts(survey.varn), 1, 0, survey.surfaces);
     const auto boxes = operationsOf<BoxOperation>(survey.drawing());
     ASSERT_EQ(boxes.size(), 3U) << "two bars and the erased title line";
     EXPECT_FLOAT_EQ(boxes[0].x, 100 * 8.82F + 50);
@@ -50,7 +51,7 @@ TEST(DiffusionGraphs, BarsRiseByTheShareOfItems)
 TEST(DiffusionGraphs, LayersHaveALegendLineEach)
 {
     CountedSurvey survey;
-    drawLayeredGraph(survey.varn, DiffusionGraph::Bar, survey.surfaces);
+    drawLayeredGraph(countMapParts(survey.varn), DiffusionGraph::Bar, survey.surfaces);
     const double y0 = 30 * 8.82 + 50;
     EXPECT_NEAR(printedAt(survey.drawing(), QStringLiteral("All items")).y(), y0, 0.01);
     EXPECT_NEAR(printedAt(survey.drawing(), QStringLiteral("form 2")).y(), y0 + 600 + 400, 0.01);
@@ -60,7 +61,7 @@ TEST(DiffusionGraphs, LayersHaveALegendLineEach)
 TEST(DiffusionGraphs, CirclesGrowByTheShareAndTheScaleSaysHow)
 {
     CountedSurvey survey;
-    DrawCircleGraph(survey.varn, 2, 1, survey.surfaces);
+    DrawCircleGraph(countMapParts(survey.varn), 2, 1, survey.surfaces);
     const auto circles = operationsOf<EllipseOperation>(survey.drawing());
     ASSERT_EQ(circles.size(), 3 + 1 + 4U);
     EXPECT_FLOAT_EQ(circles[0].halfWidth, 0);
@@ -79,7 +80,7 @@ TEST(DiffusionGraphs, TheLegendOfTenWordFormsDoesNotCollide)
     for (int k = 1; k <= 10; ++k) {
         survey.varn.WordformName(k) = QStringLiteral("form %1").arg(k);
     }
-    drawLayeredGraph(survey.varn, DiffusionGraph::Circle, survey.surfaces);
+    drawLayeredGraph(countMapParts(survey.varn), DiffusionGraph::Circle, survey.surfaces);
     std::vector<float> rows;
     for (const TextOperation& text : operationsOf<TextOperation>(survey.drawing())) {
         const QString& words = survey.drawing().texts[text.text];
@@ -113,15 +114,22 @@ TEST(DiffusionGraphs, TheNextCommandDrawsTheNextWordForm)
     CountedSurvey survey;
     for (const int expected : {1, 2, 1}) {
         EXPECT_EQ(survey.varn.CurrentWordform, expected);
-        drawSingleGraph(survey.varn, DiffusionGraph::Circle, survey.surfaces);
+        drawSingleGraph(countMapParts(survey.varn), DiffusionGraph::Circle, survey.varn.CurrentWordform,
+                        survey.surfaces);
     }
     survey.varn.CurrentWordform = 3;
-    EXPECT_EQ(errorOf([&] { drawSingleGraph(survey.varn, DiffusionGraph::Bar, survey.surfaces); }).number(),
+    EXPECT_EQ(errorOf([&] {
+                  drawSingleGraph(countMapParts(survey.varn), DiffusionGraph::Bar,
+                                  survey.varn.CurrentWordform, survey.surfaces);
+              }).number(),
               ErrorNumber::SubscriptOutOfRange);
     survey.varn.NumItemsAccumulated = 0;
     for (const DiffusionGraph graph : {DiffusionGraph::Bar, DiffusionGraph::Circle}) {
         survey.varn.CurrentWordform = 1;
-        EXPECT_EQ(errorOf([&] { drawSingleGraph(survey.varn, graph, survey.surfaces); }).number(),
+        EXPECT_EQ(errorOf([&] {
+                      drawSingleGraph(countMapParts(survey.varn), graph, survey.varn.CurrentWordform,
+                                      survey.surfaces);
+                  }).number(),
                   ErrorNumber::DivisionByZero);
     }
 }
@@ -132,7 +140,7 @@ TEST(DiffusionGraphs, SymbolsMarkTheLocalitiesThatReachTheMinimum)
     survey.varn.DiffusionHanko(1) = {49, 0, 0, 0, 1, 0};
     survey.varn.DiffusionCaption(1) = QStringLiteral("often");
     survey.varn.MinimumPoints(1) = 10; // as many as the first locality has
-    DrawHankoMap(survey.varn, 1, 2, survey.surfaces);
+    DrawHankoMap(countMapParts(survey.varn), 1, 2, survey.surfaces);
     const auto circles = operationsOf<EllipseOperation>(survey.drawing());
     ASSERT_EQ(circles.size(), 2U);
     EXPECT_FLOAT_EQ(circles[0].x, 100 * 8.82F + 50);
@@ -153,7 +161,7 @@ TEST(ContrastMap, CirclesSayWhichSidePrevailsAndByHowMuch)
     varn.ContrastPaintColor(2) = 1;
     varn.ContrastSum(0, 1) = 10;
     varn.ContrastSum(0, 2) = -5;
-    DrawRankGraph(varn, survey.surfaces);
+    DrawRankGraph(countMapParts(varn), survey.surfaces);
     const auto circles = operationsOf<EllipseOperation>(survey.drawing());
     ASSERT_EQ(circles.size(), 3 + 5U) << "five steps: 5 / 2 rounds to 2 on either side";
     EXPECT_FLOAT_EQ(circles[0].x, 100 * 8.82F) << "without the base map's margin";
@@ -180,7 +188,7 @@ TEST(ContrastMap, LargeCirclesStandClearOfTheLabels)
     CountedSurvey survey;
     survey.varn.ContrastSteps = 3;
     survey.varn.ContrastMaxSize = 400;
-    DrawRankGraph(survey.varn, survey.surfaces);
+    DrawRankGraph(countMapParts(survey.varn), survey.surfaces);
     const auto circles = operationsOf<EllipseOperation>(survey.drawing());
     const QString label = QStringLiteral("-100%");
     ASSERT_EQ(circles.size(), 3 + 3U);
@@ -194,16 +202,17 @@ TEST(ContrastMap, HalfTheStepsRoundToTheEvenNeighbour)
         CountedSurvey survey;
         survey.varn.ContrastTitle = QStringLiteral("title");
         survey.varn.ContrastSteps = typed + 1;
-        DrawRankGraph(survey.varn, survey.surfaces);
+        DrawRankGraph(countMapParts(survey.varn), survey.surfaces);
         EXPECT_TRUE(wasPrinted(survey.drawing(), QStringLiteral("title")));
         EXPECT_EQ(survey.drawing().texts.size(), 1 + labels) << typed;
     }
     CountedSurvey survey;
     survey.varn.ContrastMaxSize = 10000;
     survey.varn.ContrastSum(0, 2) = 4;
-    EXPECT_EQ(errorOf([&] { DrawRankGraph(survey.varn, survey.surfaces); }).number(), ErrorNumber::Overflow);
+    EXPECT_EQ(errorOf([&] { DrawRankGraph(countMapParts(survey.varn), survey.surfaces); }).number(),
+              ErrorNumber::Overflow);
     survey.varn.NumItemsAccumulated = 0;
     survey.varn.ContrastMaxSize = 1;
-    EXPECT_EQ(errorOf([&] { DrawRankGraph(survey.varn, survey.surfaces); }).number(),
+    EXPECT_EQ(errorOf([&] { DrawRankGraph(countMapParts(survey.varn), survey.surfaces); }).number(),
               ErrorNumber::DivisionByZero);
 }

@@ -2,6 +2,7 @@
 
 #include "platform/StandardColors.h"
 #include "render/MapSize.h"
+#include "shell/MapParts.h"
 #include "tests/TestDrive.h"
 
 #include <QLineF>
@@ -42,7 +43,7 @@ TEST(BlankMap, LayersAreDrawnAtScaleWithAMargin)
     TestSurvey survey;
     survey.varn.LineStyle(1) = 1;
     survey.varn.LineOffset(1, 0) = 100;
-    DrawBlankMap(survey.varn, survey.surfaces);
+    DrawBlankMap(blankMapParts(survey.varn), survey.surfaces);
     const Drawing& drawing = survey.frmMap.drawing();
     const auto coast = operationsOf<PolylineOperation>(drawing).at(0);
     EXPECT_EQ(drawing.points[coast.firstPoint + 2], QPointF(1100 * 8.82F + 50, 8870));
@@ -53,7 +54,7 @@ TEST(BlankMap, LayersAreDrawnAtScaleWithAMargin)
     EXPECT_TRUE(operationsOf<EllipseOperation>(drawing).empty()) << "no dots unless asked for";
 
     survey.varn.PlotDots = true;
-    DrawBlankMap(survey.varn, survey.surfaces);
+    DrawBlankMap(blankMapParts(survey.varn), survey.surfaces);
     const auto dots = operationsOf<EllipseOperation>(survey.frmMap.drawing());
     ASSERT_EQ(dots.size(), 3U);
     EXPECT_FLOAT_EQ(dots[1].x, 300 * 8.82F + 50);
@@ -65,7 +66,7 @@ TEST(BlankMap, LayersAreDrawnAtScaleWithAMargin)
 TEST(BlankMap, TheScaleBarHasATickForEachDivision)
 {
     TestSurvey survey;
-    DrawBlankMap(survey.varn, survey.surfaces);
+    DrawBlankMap(blankMapParts(survey.varn), survey.surfaces);
     const Drawing& drawing = survey.frmMap.drawing();
     const QPointF left(100 * 8.82 + 50, 900 * 8.82 + 50);
     const double length = 200 * 8.82;
@@ -83,7 +84,7 @@ TEST(BlankMap, TheScaleBarHasATickForEachDivision)
     }
 
     survey.varn.ScaleDivisions = 0;
-    EXPECT_EQ(errorOf([&] { DrawBlankMap(survey.varn, survey.surfaces); }).number(),
+    EXPECT_EQ(errorOf([&] { DrawBlankMap(blankMapParts(survey.varn), survey.surfaces); }).number(),
               ErrorNumber::DivisionByZero);
 }
 
@@ -103,7 +104,7 @@ TEST(BlankMap, APreviewGoesToItsOwnSurface)
     TestSurvey survey;
     DrawSurface preview;
     survey.frmMap.Print(QStringLiteral("old map"));
-    DrawBlankMap(survey.varn, {preview, survey.frmMap});
+    DrawBlankMap(blankMapParts(survey.varn), {preview, survey.frmMap});
     EXPECT_TRUE(survey.frmMap.drawing().operations.empty()) << "the map form is cleared";
     EXPECT_TRUE(wasPrinted(preview.drawing(), QStringLiteral("Town")));
 }

@@ -1,6 +1,6 @@
 #include "analysis/CumulativeFile.h"
-#include "analysis/frmCalExec.h"
-#include "analysis/frmCalc.h"
+#include "analysis/forms/frmCalExec.h"
+#include "analysis/forms/frmCalc.h"
 #include "shell/MapChoice.h"
 #include "tests/Controls.h"
 #include "tests/ScriptedDialogs.h"

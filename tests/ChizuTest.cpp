@@ -1,5 +1,5 @@
-#include "mapdata/MapChoiceFile.h"
-#include "mapdata/frmChizu.h"
+#include "mapdata/RegisteredMap.h"
+#include "mapdata/forms/frmChizu.h"
 #include "platform/StandardColors.h"
 #include "platform/WholeFile.h"
 #include "tests/Controls.h"
@@ -123,7 +123,7 @@ TEST_F(Chizu, AMapIsChosenByAnyOfItsFilesAndRegistered)
         EXPECT_EQ(text("txtPathName"), QStringLiteral("C:\\Varn62E\\Varn"));
         EXPECT_EQ(varn.LingFolder, QStringLiteral("\\VarnData\\%1\\Ling").arg(name));
         EXPECT_TRUE(wasPrinted(drawing(), QStringLiteral("C:\\Varn62E\\Varn")));
-        EXPECT_EQ(survey.read(mapChoiceFile()),
+        EXPECT_EQ(survey.read(registeredMapFile()),
                   "\"C:\\Varn62E\\Varn\",\"\\" + name.toLatin1() + "\",\"Times\",10,#TRUE#,#FALSE#,-1.5\r\n");
     }
     EXPECT_EQ(dialogs.shown.back(),
@@ -136,7 +136,7 @@ TEST_F(Chizu, AMapIsChosenByAnyOfItsFilesAndRegistered)
 TEST_F(Chizu, NoWritesNothingAndKeepsTheChosenMap)
 {
     chooseMap(Data + QStringLiteral("Isle\\Map\\Loc.map"), {false});
-    EXPECT_FALSE(fileExists(varn.Drive, mapChoiceFile()));
+    EXPECT_FALSE(fileExists(varn.Drive, registeredMapFile()));
     EXPECT_EQ(varn.VarnMapName, QStringLiteral("\\Isle"));
 }
 
@@ -180,5 +180,5 @@ TEST_F(Chizu, AMapNeedsOnlyItsLocalities)
     EXPECT_EQ(varn.NLine + varn.NKanji, 0);
     EXPECT_EQ(varn.NLocality, 1);
     EXPECT_EQ(dialogs.errors, std::vector<Shown>());
-    EXPECT_TRUE(fileExists(varn.Drive, mapChoiceFile()));
+    EXPECT_TRUE(fileExists(varn.Drive, registeredMapFile()));
 }

@@ -1,5 +1,5 @@
-#include "analysis/ContrastPages.h"
-#include "analysis/frmRankData.h"
+#include "analysis/forms/ContrastPages.h"
+#include "analysis/forms/frmRankData.h"
 #include "platform/WholeFile.h"
 #include "tests/Controls.h"
 #include "tests/ScriptedDialogs.h"

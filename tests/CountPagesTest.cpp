@@ -1,10 +1,10 @@
-#include "analysis/CountPages.h"
+#include "analysis/forms/CountPages.h"
 
 #include "analysis/AccumulateItems.h"
 #include "analysis/Accumulation.h"
 #include "analysis/CumulativeFile.h"
 #include "analysis/SpecifyCharsEditor.h"
-#include "analysis/StatisticsPages.h"
+#include "analysis/forms/StatisticsPages.h"
 #include "lingdata/ItemLoader.h"
 #include "tests/TestDrive.h"
 

@@ -1,5 +1,5 @@
 #include "lingdata/ItemLoader.h"
-#include "lingdata/frmData.h"
+#include "lingdata/forms/frmData.h"
 #include "platform/WholeFile.h"
 #include "shell/Printing.h"
 #include "tests/Controls.h"

@@ -1,7 +1,8 @@
-#include "lingdata/DataPages.h"
+#include "lingdata/forms/DataPages.h"
 
 #include "lingdata/ItemLoader.h"
-#include "lingdata/ListText.h"
+#include "render/ListText.h"
+#include "shell/MapParts.h"
 #include "tests/TestDrive.h"
 
 #include <algorithm>
@@ -147,7 +148,7 @@ TEST(ListText, LongTextsAreCutBetweenTheirUnits)
     DrawSurface target;
     target.FontSize = 20;
     {
-        ListText text(survey.varn, target);
+        ListText text(textParts(survey.varn), target);
         const QString coded = QStringLiteral("\\N1\\N1\\N1\\N1\\N1\\N1");
         const float width = text.width(coded, ListText::Coding::Phonetic);
         EXPECT_EQ(text.shortened(coded, width, ListText::Coding::Phonetic), coded);

@@ -1,6 +1,6 @@
 // What the forms show at once of what is typed and chosen on them.
 
-#include "lingdata/WordEntryDelegate.h"
+#include "lingdata/forms/WordEntryDelegate.h"
 #include "tests/EveryWayOut.h"
 
 #include <QAbstractItemView>

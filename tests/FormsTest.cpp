@@ -1,5 +1,5 @@
 #include "platform/WholeFile.h"
-#include "render/SurfaceView.h"
+#include "platform/forms/SurfaceView.h"
 #include "tests/TestProgram.h"
 
 #include <QAbstractItemView>

@@ -6,11 +6,12 @@
 #include "analysis/Statistics.h"
 #include "lingdata/EnteredItem.h"
 #include "lingdata/ItemLoader.h"
-#include "mapdata/MapChoiceFile.h"
 #include "mapdata/MapFiles.h"
+#include "mapdata/RegisteredMap.h"
 #include "plot/DrawingFile.h"
 #include "render/BlankMap.h"
 #include "shell/MapChoice.h"
+#include "shell/MapParts.h"
 #include "symbols/SymbolFile.h"
 #include "tests/FileSizeLimit.h"
 #include "tests/TestDrive.h"
@@ -93,7 +94,7 @@ TEST(FullDisk, EveryWriterKeepsTheOldFile)
     fixPaths(varn);
     setNumWordforms(varn, 1);
     varn.TotalFileName = QStringLiteral("all");
-    DrawBlankMap(varn, survey.surfaces);
+    DrawBlankMap(blankMapParts(varn), survey.surfaces);
     ItemEditor editor;
     const QString folder = varn.dataFolder() + QLatin1Char('\\');
     const auto picture = [&](const QString& path) {
@@ -131,7 +132,7 @@ TEST(FullDisk, EveryWriterKeepsTheOldFile)
         {folder + QStringLiteral("Square.sbl"), writer(writeAbsolutePolygons, varn)},
         {varn.MapNameFile, [&](const QString&) { saveMapChoice(varn, currentMapChoice(varn)); }},
         {varn.DriveFileName, [&](const QString&) { saveDriveFile(varn); }},
-        {mapChoiceFile(), [&](const QString&) { saveRegisteredMap(varn); }},
+        {registeredMapFile(), [&](const QString&) { saveRegisteredMap(varn, varn); }},
         {folder + QStringLiteral("map.svg"), picture},
         {folder + QStringLiteral("map.pdf"), picture},
         {folder + QStringLiteral("map.png"), picture},

@@ -1,6 +1,7 @@
 #include "render/Legend.h"
 
 #include "platform/StandardColors.h"
+#include "shell/MapParts.h"
 #include "tests/TestDrive.h"
 
 namespace {
@@ -34,7 +35,7 @@ TEST(Legend, RowsStandUnderTheTitle)
         for (const char* caption : {"one", "hid-den", "two"}) {
             addCaption(survey.varn, QString::fromLatin1(caption));
         }
-        PlotHanrei(survey.varn, survey.surfaces);
+        PlotHanrei(linguisticMapParts(survey.varn), survey.surfaces);
         const Drawing& drawing = survey.frmMap.drawing();
         EXPECT_EQ(printedAt(drawing, QStringLiteral("Rain")), QPointF(250, 350));
         EXPECT_EQ(printedAt(drawing, QStringLiteral("one")), QPointF(850, 350 + 2 * step));
@@ -54,7 +55,7 @@ TEST(Legend, AFullColumnIsFollowedByOneToTheRight)
     for (const char* caption : {"a", "the widest of its column", "c", "d", "e"}) {
         addCaption(survey.varn, QString::fromLatin1(caption));
     }
-    PlotHanrei(survey.varn, survey.surfaces);
+    PlotHanrei(linguisticMapParts(survey.varn), survey.surfaces);
     const Drawing& drawing = survey.frmMap.drawing();
     EXPECT_EQ(printedAt(drawing, QStringLiteral("c")), QPointF(850, 350 + 4 * 300));
     const double widestEnd = 850 + survey.frmMap.TextWidth(QStringLiteral("the widest of its column"));
@@ -71,7 +72,7 @@ TEST(Legend, TheTitleLineIsErasedFirst)
     for (const char* title : {"Rain", "An item's title that is longer than the survey's"}) {
         survey.frmMap.Cls();
         survey.varn.Hanrei = QString::fromLatin1(title);
-        PlotHanrei(survey.varn, survey.surfaces);
+        PlotHanrei(linguisticMapParts(survey.varn), survey.surfaces);
         const Drawing& drawing = survey.frmMap.drawing();
         const auto box = operationsOf<BoxOperation>(drawing).at(0);
         EXPECT_EQ(box.fill, QBColor(15));
@@ -90,6 +91,6 @@ TEST(Legend, AFormOfOneRowDividesByZero)
     LegendSurvey survey;
     survey.frmMap.Height = 500;
     addCaption(survey.varn, QStringLiteral("a"));
-    EXPECT_EQ(errorOf([&] { PlotHanrei(survey.varn, survey.surfaces); }).number(),
+    EXPECT_EQ(errorOf([&] { PlotHanrei(linguisticMapParts(survey.varn), survey.surfaces); }).number(),
               ErrorNumber::DivisionByZero);
 }

@@ -2,6 +2,7 @@
 
 #include "render/BlankMap.h"
 #include "render/Legend.h"
+#include "shell/MapParts.h"
 #include "tests/TestDrive.h"
 
 #include <functional>
@@ -30,7 +31,7 @@ std::vector<std::array<float, 3>> plottedCircles(TestSurvey& survey)
 {
     survey.frmMap.Cls();
     survey.varn.Scale = 1;
-    PlotLinguisticData(survey.varn, survey.surfaces);
+    PlotLinguisticData(linguisticMapParts(survey.varn), survey.surfaces);
     std::vector<std::array<float, 3>> circles;
     for (const auto& circle : operationsOf<EllipseOperation>(survey.frmMap.drawing())) {
         circles.push_back({circle.x, circle.y, circle.halfWidth});
@@ -74,8 +75,8 @@ TEST(LinguisticMap, AThickSymbolLeavesThinLinesOnFormAndPrinter)
     DrawSurface printer;
     const MapSurfaces surfaces{printer, survey.frmMap};
     const std::function<void()> steps[] = {
-        [&] { PlotLinguisticData(survey.varn, surfaces); },
-        [&] { PlotHanrei(survey.varn, surfaces); },
+        [&] { PlotLinguisticData(linguisticMapParts(survey.varn), surfaces); },
+        [&] { PlotHanrei(linguisticMapParts(survey.varn), surfaces); },
         [&] { PlotLineData(survey.varn, survey.varn, surfaces); },
     };
     for (const auto& draw : steps) {

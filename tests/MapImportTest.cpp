@@ -1,8 +1,8 @@
 #include "mapdata/MapImport.h"
 
-#include "mapdata/ImportCommands.h"
 #include "mapdata/MapFiles.h"
 #include "mapdata/MapSearch.h"
+#include "shell/ImportCommands.h"
 #include "tests/ScriptedDialogs.h"
 #include "tests/TestDrive.h"
 

@@ -2,6 +2,7 @@
 
 #include "platform/DrawnArea.h"
 #include "render/SymbolHelp.h"
+#include "shell/MapParts.h"
 #include "tests/TestDrive.h"
 
 #include <QBuffer>
@@ -38,7 +39,7 @@ struct GlyphSurvey : TestSurvey
 
     float plot(const char* text)
     {
-        PhoneticText writer(varn, varn, varn, varn.Pictures, surfaces);
+        PhoneticText writer(textParts(varn), surfaces);
         return writer.PlotChar(100, 200, QString::fromUtf8(text));
     }
 };
@@ -116,8 +117,7 @@ TEST(PhoneticText, AnIllegalEscapeIsReportedOnTheMapForm)
 {
     GlyphSurvey survey;
     DrawSurface printer;
-    PhoneticText writer(survey.varn, survey.varn, survey.varn, survey.varn.Pictures,
-                        {printer, survey.frmMap});
+    PhoneticText writer(textParts(survey.varn), {printer, survey.frmMap});
     writer.PlotChar(100, 200, QStringLiteral("\\Q1xy"));
     EXPECT_TRUE(
         wasPrinted(survey.frmMap.drawing(), QStringLiteral("\\Q1x Illegal Data for Phonetic Alphabet.")));
@@ -147,7 +147,7 @@ TEST(SymbolHelp, AllCodesStandOnThePageWhateverTheFontOfTheMap)
     for (const int size : {8, 10, 12, 18, 36}) {
         survey.varn.MapFontSize = static_cast<qint16>(size);
         survey.frmMap.FontSize = size;
-        WriteSymbolHelp(survey.varn, survey.surfaces);
+        WriteSymbolHelp(survey.varn.ExpSymbols, textParts(survey.varn), survey.surfaces);
         const Drawing& drawing = survey.frmMap.drawing();
         EXPECT_TRUE(paper.contains(drawnArea(drawing))) << size;
         EXPECT_EQ(operationsOf<PictureOperation>(drawing).size(), 54U);
@@ -159,6 +159,6 @@ TEST(SymbolHelp, AllCodesStandOnThePageWhateverTheFontOfTheMap)
         EXPECT_EQ(survey.frmMap.FontSize, size);
     }
     survey.frmMap.Height = 3000;
-    WriteSymbolHelp(survey.varn, survey.surfaces);
+    WriteSymbolHelp(survey.varn.ExpSymbols, textParts(survey.varn), survey.surfaces);
     EXPECT_TRUE(wasPrinted(survey.frmMap.drawing(), note)) << "there is no room for them";
 }

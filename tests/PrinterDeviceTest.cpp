@@ -1,4 +1,4 @@
-#include "platform/QtPrinterDevice.h"
+#include "platform/forms/QtPrinterDevice.h"
 #include "shell/PageSetup.h"
 #include "tests/TestDrive.h"
 

@@ -1,6 +1,7 @@
 #include "shell/Printing.h"
 
 #include "render/BlankMap.h"
+#include "shell/MapParts.h"
 #include "tests/RecordingPrinter.h"
 #include "tests/TestDrive.h"
 
@@ -18,7 +19,7 @@ struct PrintedSurvey : TestSurvey
     void drawMap()
     {
         PrintYesNo(varn, frmMap, QStringLiteral("Test - Town"));
-        DrawBlankMap(varn, {*varn.DrawTarget, frmMap});
+        DrawBlankMap(blankMapParts(varn), {*varn.DrawTarget, frmMap});
         PrintEnd(varn);
     }
 

@@ -1,6 +1,6 @@
 // The dialogs of the desktop program, answered as a person answers them: by keys and buttons.
 
-#include "platform/QtDialogs.h"
+#include "platform/forms/QtDialogs.h"
 
 #include "tests/TestDrive.h"
 

@@ -5,6 +5,7 @@
 #include "render/LinguisticMap.h"
 #include "render/MapSize.h"
 #include "render/SymbolShapes.h"
+#include "shell/MapParts.h"
 #include "symbols/SymbolFile.h"
 #include "tests/TestDrive.h"
 
@@ -78,7 +79,7 @@ TEST(SampleSurvey, EveryMapIsDrawnWithoutATrace)
     for (const QString& item : sample.items()) {
         sample.load(item);
         DrawSurface target;
-        drawLinguisticMap(sample.varn, {target, sample.frmMap});
+        drawLinguisticMap(linguisticMapParts(sample.varn), {target, sample.frmMap});
         EXPECT_TRUE(sample.frmMap.drawing().operations.empty()) << qPrintable(item);
         EXPECT_FALSE(target.drawing().operations.empty());
     }
@@ -94,7 +95,7 @@ TEST(SampleSurvey, EveryPhoneticCodeHasItsGlyphs)
         varn.MapFontSize = static_cast<qint16>(size);
         varn.PhoneticBold = bold;
         DrawSurface target;
-        PhoneticText writer(varn, varn, varn, varn.Pictures, {target, sample.frmMap});
+        PhoneticText writer(textParts(varn), {target, sample.frmMap});
         for (const PhoneticSymbol& symbol : symbols) {
             EXPECT_GT(writer.PlotChar(0, 0, symbol.code), 0) << qPrintable(symbol.code);
         }

@@ -1,4 +1,4 @@
-#include "lingdata/WordTableView.h"
+#include "lingdata/forms/WordTableView.h"
 #include "tests/TestProgram.h"
 
 #include <QLineEdit>

@@ -10,7 +10,7 @@ TEST(SymbolCatalogue, PagesHold160Symbols)
     EXPECT_EQ(LastSymbolPage(survey.varn), 1);
     survey.varn.Nsquare = 3;
     EXPECT_EQ(LastSymbolPage(survey.varn), 2);
-    PlotSymbol(survey.varn, 2, survey.surfaces);
+    PlotSymbol(survey.varn, survey.varn, 2, survey.surfaces);
     EXPECT_EQ(survey.frmMap.drawing().texts,
               std::vector<QString>({QStringLiteral("161"), QStringLiteral("162"), QStringLiteral("163"),
                                     QStringLiteral("164")}));
@@ -19,7 +19,7 @@ TEST(SymbolCatalogue, PagesHold160Symbols)
 TEST(SymbolCatalogue, SymbolsStandInAGridInChangingColors)
 {
     TestSurvey survey;
-    PlotSymbol(survey.varn, 1, survey.surfaces);
+    PlotSymbol(survey.varn, survey.varn, 1, survey.surfaces);
     const Drawing& drawing = survey.frmMap.drawing();
     const QPointF first = printedAt(drawing, QStringLiteral("1"));
     EXPECT_EQ(first, QPointF(750 - 250 - 200, 350 - 300));
@@ -45,7 +45,7 @@ TEST(SymbolCatalogue, ANarrowFormShowsTheFirstColumnWhole)
 {
     TestSurvey survey;
     survey.frmMap.Width = 16 * 320;
-    PlotSymbol(survey.varn, 1, survey.surfaces);
+    PlotSymbol(survey.varn, survey.varn, 1, survey.surfaces);
     const Drawing& drawing = survey.frmMap.drawing();
     EXPECT_EQ(printedAt(drawing, QStringLiteral("1")), QPointF(0, 50));
     EXPECT_EQ(printedAt(drawing, QStringLiteral("18")).x(), 320);

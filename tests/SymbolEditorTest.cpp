@@ -1,8 +1,9 @@
 #include "symbols/SymbolEditor.h"
 
 #include "platform/StandardColors.h"
+#include "render/SymbolSample.h"
 #include "symbols/SymbolFile.h"
-#include "symbols/SymbolPreview.h"
+#include "symbols/forms/SymbolPreview.h"
 #include "tests/TestDrive.h"
 
 namespace {

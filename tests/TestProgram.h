@@ -1,7 +1,7 @@
 #pragma once
 
 #include "shell/VarnModule.h"
-#include "shell/frmMain.h"
+#include "shell/forms/frmMain.h"
 #include "tests/Controls.h"
 #include "tests/ScriptedDialogs.h"
 #include "tests/TestDrive.h"

@@ -1,7 +1,7 @@
 // Texts in lists can be read in a light theme and in a dark one, and in the size of the desktop's font.
 
-#include "platform/ThemeColors.h"
-#include "render/WordDelegate.h"
+#include "platform/forms/ThemeColors.h"
+#include "render/forms/WordDelegate.h"
 #include "tests/TestDrive.h"
 
 #include <QLabel>

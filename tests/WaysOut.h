@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/VarnForm.h"
+#include "platform/forms/VarnForm.h"
 
 #include <QStringList>
 

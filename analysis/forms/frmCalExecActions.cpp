@@ -1,0 +1,136 @@
+// What the menu entries of the execution form do to the counts and the statistics.
+
+#include "analysis/CumulativeFile.h"
+#include "analysis/ExecuteCommands.h"
+#include "analysis/forms/frmCalExec.h"
+#include "shell/VarnModule.h"
+
+#include <QApplication>
+#include <QProgressDialog>
+
+namespace {
+
+const QString AnalysisTitle = QStringLiteral("Analysis of Linguistic Data.");
+
+} // namespace
+
+TotalState frmCalExec::state()
+{
+    return {m_varn, m_varn.NLocality, m_varn, m_varn};
+}
+
+// The counting
+
+void frmCalExec::mnuExecCalc_Click()
+{
+    executeLoadedItem(m_varn, state(), dialogs());
+    draw();
+}
+
+void frmCalExec::mnuExecAll_Click()
+{
+    if (!mayExecute(state(), dialogs())) {
+        return;
+    }
+    if (const auto folder = dialogs().chooseFolder(QStringLiteral("Folder of the Items to Accumulate"),
+                                                   m_varn.Drive.hostPath(m_varn.dataFolder()))) {
+        report(accumulate(itemsToCount(m_varn.Drive.varnPath(*folder), state(), dialogs())));
+    }
+}
+
+AccumulationResult frmCalExec::accumulate(const ItemsToCount& items)
+{
+    QProgressDialog progress(this);
+    progress.setWindowTitle(AnalysisTitle);
+    progress.setCancelButtonText(QStringLiteral("Stop"));
+    progress.setWindowModality(Qt::ApplicationModal);
+    progress.setMinimumDuration(0);
+    progress.setMinimumWidth(360);
+    const auto mayProceed = [&progress](int done, int number, const QString& name) {
+        progress.setMaximum(number);
+        progress.setLabelText(
+            QStringLiteral("%1 (%2 of %3)").arg(name, QString::number(done + 1), QString::number(number)));
+        progress.setValue(done);
+        QApplication::processEvents(); // a click on Stop
+        return !progress.wasCanceled();
+    };
+    outdateSums(m_varn);
+    return accumulateItems({m_varn.Drive, totalFilePath(m_varn.dataFolder(), m_varn)}, items,
+                           m_varn.NLocality, m_varn, mayProceed);
+}
+
+void frmCalExec::report(const AccumulationResult& done)
+{
+    m_uncounted.clear();
+    for (const UncountedItem& item : done.uncounted) {
+        m_uncounted << item.name + QLatin1Char(':');
+        for (const QString& line : item.reason.split(QLatin1Char('\n'))) {
+            m_uncounted << QStringLiteral("    ") + line;
+        }
+    }
+    if (!m_uncounted.isEmpty()) {
+        m_shown = Shown::Uncounted;
+        m_uncounted.prepend(QStringLiteral("These files were not counted:"));
+    }
+    draw();
+    refresh();
+    dialogs().message(accumulationText(done), AnalysisTitle);
+}
+
+void frmCalExec::mnuExecSave_Click()
+{
+    if (saveTotal(state(), dialogs())) {
+        dialogs().message(QStringLiteral("Linguistic Data File is saved."),
+                          QStringLiteral("Save of Linguistic Data"));
+    }
+}
+
+// The statistics
+
+void frmCalExec::Stats()
+{
+    ::Stats(m_varn, m_varn.NLocality, m_varn);
+    DisplayStatsTbl();
+}
+
+void frmCalExec::DisplayStatsTbl()
+{
+    m_shown = Shown::StatisticsOfOne;
+    draw();
+}
+
+void frmCalExec::mnuStatsDisplayAll_Click()
+{
+    m_shown = Shown::StatisticsOfAll;
+    draw();
+}
+
+void frmCalExec::SaveStats()
+{
+    saveStatistics(m_varn, m_varn, m_varn, dialogs());
+}
+
+void frmCalExec::mnuStatsOpen_Click()
+{
+    if (const auto file = dialogs().openFile(QStringLiteral("Open Statistics File"),
+                                             m_varn.Drive.hostPath(m_varn.dataFolder()),
+                                             QStringLiteral("Statistic Files (*.stt)|*.stt"))) {
+        LoadStats(m_varn.Drive.varnPath(*file));
+    }
+}
+
+void frmCalExec::LoadStats(const QString& path)
+{
+    ::LoadStats(m_varn.Drive, path, m_varn);
+    DisplayStatsTbl();
+    if (m_varn.StatsWordforms != m_varn.NumWordforms || m_varn.StatsItems != m_varn.NumItemsAccumulated) {
+        refresh();
+        dialogs().message(QStringLiteral("The statistics are of %1 word forms and %2 items, the cumulative "
+                                         "data has %3 and %4.")
+                              .arg(m_varn.StatsWordforms)
+                              .arg(m_varn.StatsItems)
+                              .arg(m_varn.NumWordforms)
+                              .arg(m_varn.NumItemsAccumulated),
+                          QStringLiteral("Open Statistics File"));
+    }
+}

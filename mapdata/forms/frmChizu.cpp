@@ -1,0 +1,214 @@
+#include "mapdata/forms/frmChizu.h"
+
+#include "mapdata/MapFiles.h"
+#include "mapdata/RegisteredMap.h"
+#include "platform/SequentialFile.h"
+#include "render/BlankMap.h"
+#include "shell/MapChange.h"
+#include "shell/MapParts.h"
+#include "shell/VarnModule.h"
+#include "ui_frmChizu.h"
+
+#include <QScopeGuard>
+#include <QScreen>
+#include <QShortcut>
+
+#include <algorithm>
+#include <utility>
+
+namespace {
+
+/// Shows that the text of `box` is for reading only.
+void colorAsReadOnly(QLineEdit& box)
+{
+    QPalette palette = box.palette();
+    palette.setColor(QPalette::Base, palette.color(QPalette::Window));
+    box.setPalette(palette);
+}
+
+} // namespace
+
+frmChizu::frmChizu(VarnModule& varn, Dialogs& dialogs, std::function<MapSurfaces()> mapSurfaces,
+                   std::function<bool()> mayChangeMap)
+    : VarnForm(dialogs), m_ui(std::make_unique<Ui::frmChizu>()), m_varn(varn),
+      m_mapSurfaces(std::move(mapSurfaces)), m_mayChangeMap(std::move(mayChangeMap))
+{
+    m_ui->setupUi(this);
+    m_ui->picMap->setSurface(m_surface, SurfaceView::Fit::WholePaper);
+    m_ui->picMap->setPlaceholder(QStringLiteral("The parts of the map are shown here."));
+    colorAsReadOnly(*m_ui->txtMapName);
+    colorAsReadOnly(*m_ui->txtPathName);
+    handle(m_ui->cmdRegMapName, &QPushButton::clicked, &frmChizu::cmdRegMapName_Click);
+    handle(m_ui->cmdCurveLine, &QPushButton::clicked, &frmChizu::cmdCurveLine_Click);
+    handle(m_ui->cmdChiten, &QPushButton::clicked, &frmChizu::cmdChiten_Click);
+    handle(m_ui->cmdMoji, &QPushButton::clicked, &frmChizu::cmdMoji_Click);
+    handle(m_ui->cmdBlankMap, &QPushButton::clicked, &frmChizu::cmdBlankMap_Click);
+    connect(m_ui->cmdMap, &QPushButton::clicked, this, &frmChizu::toDrawMap);
+    connect(m_ui->cmdExit, &QPushButton::clicked, this, &frmChizu::toMain);
+    connect(new QShortcut(QKeySequence(QStringLiteral("Ctrl+Q")), this), &QShortcut::activated, this,
+            &frmChizu::toMain);
+}
+
+frmChizu::~frmChizu() = default;
+
+void frmChizu::Form_Load()
+{
+    cls();
+    refresh();
+}
+
+void frmChizu::refresh()
+{
+    const QString mapName = m_varn.VarnMapName.mid(1);
+    m_ui->txtPathName->setText(m_varn.VarnPath);
+    m_ui->txtMapName->setText(mapName);
+    const QString caption = QStringLiteral("Set Map Data and Draw Blank Map");
+    setWindowTitle(mapName.isEmpty() ? caption : caption + QStringLiteral(" - ") + mapName);
+    m_ui->picMap->refresh();
+}
+
+/// Empties the form's paper, which is as large as the map form.
+void frmChizu::cls()
+{
+    const DrawSurface& mapForm = m_mapSurfaces().frmMap;
+    m_surface.Width = mapForm.Width;
+    m_surface.Height = mapForm.Height;
+    m_surface.Cls();
+}
+
+void frmChizu::drawHere(const std::function<void(MapSurfaces)>& draw)
+{
+    const WaitCursor wait;
+    DrawSurface& mapForm = m_mapSurfaces().frmMap;
+    if (m_surface.Width != mapForm.Width || m_surface.Height != mapForm.Height) {
+        cls(); // parts of different scales would not lie on each other
+    }
+    m_varn.DrawTarget = &m_surface;
+    const auto back = qScopeGuard([&] { m_varn.DrawTarget = &mapForm; });
+    draw(m_mapSurfaces());
+}
+
+/// The scale at which the map would fill this form's own drawing area.
+void frmChizu::FindMinMax(float& scale) const
+{
+    const QPoint place = pos() - screen()->availableGeometry().topLeft();
+    DrawSurface form;
+    form.Left = static_cast<float>(std::max(0, place.x()) * TwipsPerPixel);
+    form.Top = static_cast<float>(std::max(0, place.y()) * TwipsPerPixel);
+    form.Width = static_cast<float>(m_ui->picMap->width() * TwipsPerPixel);
+    form.Height = static_cast<float>(m_ui->picMap->height() * TwipsPerPixel);
+    constexpr float StartMaxY = -1000000.0F;
+    scale = ::FindMinMax(m_varn, form, m_varn, StartMaxY);
+}
+
+/// Asks for a file in the folders of a map and makes that map the current one, path and all. Returns whether
+/// the user chose one.
+bool frmChizu::SearchLocateData()
+{
+    const QString title = QStringLiteral("Set Map Name");
+    const QString folder = m_varn.Drive.hostPath(m_varn.VarnPath + QStringLiteral("\\VarnData"));
+    const auto file = dialogs().openFile(
+        title, folder, QStringLiteral("Map and item files (*.map;*.dbs)|*.map;*.dbs|All files (*.*)|*.*"));
+    if (!file) {
+        return false;
+    }
+    const std::optional<MapPlace> place = mapPlaceOf(m_varn.Drive.varnPath(*file));
+    if (!place) {
+        dialogs().message(QStringLiteral("The file is not in the folder of a map under \\VarnData."), title);
+        return false;
+    }
+    if (!isCurrentMap(*place, m_varn) && !m_mayChangeMap()) {
+        return false;
+    }
+    changeMap(*place, m_varn);
+    return true;
+}
+
+void frmChizu::tellMissingParts()
+{
+    const QStringList missing = missingParts(m_varn.Drive, {m_varn.VarnPath, m_varn.VarnMapName});
+    if (!missing.isEmpty()) {
+        dialogs().message(QStringLiteral("The map lacks these files; what they hold stays empty:\r\n") +
+                              missing.join(QStringLiteral("\r\n")),
+                          QStringLiteral("Set Map Name"));
+    }
+}
+
+void frmChizu::LoadLocate()
+{
+    const QString path = mapFolder(m_varn.VarnPath, m_varn.VarnMapName) + QStringLiteral("\\loc.map");
+    static_cast<Localities&>(m_varn) = readSequentialFile(m_varn.Drive, path, readLocalities);
+    FindMinMax(m_varn.Scale);
+}
+
+void frmChizu::SetMapName()
+{
+    cls();
+    drawHere([this](MapSurfaces surfaces) { DrawBlankMap(blankMapParts(m_varn), surfaces); });
+}
+
+void frmChizu::PlotLocateCircle()
+{
+    ::PlotLocateCircle(m_varn, m_varn, m_surface);
+}
+
+/// Notes the installation folder in the lower left corner.
+void frmChizu::printPath()
+{
+    constexpr int SmallSize = 8;
+    constexpr float Left = 50;
+    constexpr float AboveEdge = 200;
+    const int fontSize = std::exchange(m_surface.FontSize, SmallSize);
+    m_surface.CurrentX = Left;
+    m_surface.CurrentY = m_surface.Height - AboveEdge;
+    m_surface.Print(m_varn.VarnPath);
+    m_surface.FontSize = fontSize;
+}
+
+void frmChizu::cmdCurveLine_Click()
+{
+    LoadLineData(m_varn.Drive, m_varn.VarnPath, m_varn.VarnMapName, m_varn);
+    drawHere([this](MapSurfaces surfaces) { PlotLineData(m_varn, m_varn, surfaces); });
+}
+
+void frmChizu::cmdChiten_Click()
+{
+    LoadLocate();
+    drawHere([this](MapSurfaces surfaces) {
+        PlotLocateData(m_varn, m_varn, m_varn, surfaces);
+        PlotLocateCircle();
+    });
+}
+
+void frmChizu::cmdMoji_Click()
+{
+    LoadKanjiData(m_varn.Drive, m_varn.VarnPath, m_varn.VarnMapName, m_varn);
+    drawHere([this](MapSurfaces surfaces) {
+        m_varn.Scale = ::FindMinMax(m_varn, surfaces.frmMap, m_varn);
+        PlotKanjiData(m_varn, m_varn, surfaces);
+    });
+}
+
+void frmChizu::cmdBlankMap_Click()
+{
+    SetMapName();
+}
+
+void frmChizu::cmdRegMapName_Click()
+{
+    if (!SearchLocateData()) {
+        return;
+    }
+    Q_EMIT mapChosen();
+    tellMissingParts();
+    cls();
+    if (m_varn.NLine > 0) {
+        FindMinMax(m_varn.Scale);
+        SetMapName();
+    }
+    printPath();
+    refresh();
+    if (dialogs().askYesNo(QStringLiteral("Will you use this map ?"), QStringLiteral("Name of Map"))) {
+        saveRegisteredMap(m_varn, m_varn);
+    }
+}

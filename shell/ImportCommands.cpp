@@ -1,0 +1,146 @@
+#include "shell/ImportCommands.h"
+
+#include "mapdata/MapFiles.h"
+#include "mapdata/MapImport.h"
+#include "mapdata/MapSearch.h"
+#include "platform/Folder.h"
+#include "platform/SequentialFile.h"
+#include "render/BlankMap.h"
+#include "shell/MapParts.h"
+
+#include <utility>
+
+namespace {
+
+/// A file of the base map that can be imported.
+struct ImportedFile
+{
+    /// What it holds, as the dialogs call it.
+    QString what;
+    /// Filters of the files that it can be imported from, and of the file that is written.
+    QString sources;
+    QString targets;
+    /// Path of this file in the current map.
+    QString current;
+};
+
+QString mapFilter()
+{
+    return QStringLiteral("Map files (*.map)|*.map");
+}
+
+QString currentMapFile(const VarnModule& varn, const char* name)
+{
+    return mapFolder(varn.VarnPath, varn.VarnMapName) + QLatin1Char('\\') + QLatin1String(name);
+}
+
+std::optional<QString> askForSource(const VarnModule& varn, Dialogs& dialogs, const ImportedFile& file)
+{
+    const QString folder = nearestFolder(varn.Drive, mapFolder(varn.VarnPath, varn.VarnMapName));
+    const auto source = dialogs.openFile(QStringLiteral("Import ") + file.what, folder,
+                                         file.sources + QStringLiteral("|All files (*.*)|*.*"));
+    return source ? std::optional(varn.Drive.varnPath(*source)) : std::nullopt;
+}
+
+std::optional<QString> askForTarget(const VarnModule& varn, Dialogs& dialogs, const ImportedFile& file)
+{
+    const qsizetype slash = file.current.lastIndexOf(QLatin1Char('\\'));
+    const auto target = dialogs.saveFile(QStringLiteral("Save ") + file.what,
+                                         nearestFolder(varn.Drive, file.current.left(slash)), file.targets,
+                                         file.current.mid(slash + 1));
+    return target ? std::optional(varn.Drive.varnPath(*target)) : std::nullopt;
+}
+
+/// Makes the folders of the current map, if there is one, so that files can be saved there.
+void makeCurrentMap(const VarnModule& varn)
+{
+    if (varn.hasMap()) {
+        makeMap(varn);
+    }
+}
+
+/// Imports what `read`, a function of a path, reads, and saves it with `write`. Returns whether the file of
+/// the current map was written.
+template <typename Read, typename Write>
+bool importFile(const VarnModule& varn, Dialogs& dialogs, const ImportedFile& file, Read read, Write write)
+{
+    const std::optional<QString> source = askForSource(varn, dialogs, file);
+    if (!source) {
+        return false;
+    }
+    const auto map = read(*source);
+    makeCurrentMap(varn);
+    const std::optional<QString> target = askForTarget(varn, dialogs, file);
+    if (!target) {
+        return false;
+    }
+    writeSequentialFile(varn.Drive, *target, [&](SequentialWriter& writer) { write(writer, map); });
+    return varn.Drive.hostPath(*target) == varn.Drive.hostPath(file.current);
+}
+
+/// Gives the current map, if there is one, the place names where it has none of its own.
+void keepAsOwnNames(const VarnModule& varn, const QString& path, const PlaceNames& names)
+{
+    if (!varn.hasMap() || fileExists(varn.Drive, path)) {
+        return;
+    }
+    makeMap(varn);
+    writeSequentialFile(varn.Drive, path,
+                        [&names](SequentialWriter& writer) { writePlaceNames(writer, names); });
+}
+
+} // namespace
+
+void SaveLocateData(VarnModule& varn, Dialogs& dialogs)
+{
+    const ImportedFile file{
+        QStringLiteral("Localities"),
+        QStringLiteral("Localities and tables (*.map;*.csv;*.tsv;*.txt)|*.map;*.csv;*.tsv;*.txt"),
+        mapFilter(), currentMapFile(varn, "Loc.map")};
+    const auto read = [&](const QString& path) { return importLocalities(varn.Drive, path); };
+    if (importFile(varn, dialogs, file, read, writeLocalities)) {
+        LoadLocateData(varn.Drive, varn.VarnPath, varn.VarnMapName, varn);
+    }
+}
+
+void SaveLineData(VarnModule& varn, Dialogs& dialogs)
+{
+    const ImportedFile file{QStringLiteral("Lines"), mapFilter(), mapFilter(),
+                            currentMapFile(varn, "Line.map")};
+    const auto read = [&](const QString& path) { return readSequentialFile(varn.Drive, path, readLines); };
+    if (importFile(varn, dialogs, file, read, writeLines)) {
+        LoadLineData(varn.Drive, varn.VarnPath, varn.VarnMapName, varn);
+    }
+}
+
+void SaveSquareData(VarnModule& varn, Dialogs& dialogs)
+{
+    const QString filter = QStringLiteral("Polygon designs (*.sbl)|*.sbl");
+    const ImportedFile file{QStringLiteral("Polygon Designs"), filter, filter, polygonFile(varn.VarnPath)};
+    const auto read = [&](const QString& path) {
+        return readSequentialFile(varn.Drive, path, readAbsolutePolygons);
+    };
+    if (importFile(varn, dialogs, file, read, writeAbsolutePolygons)) {
+        LoadSquareData(varn.Drive, varn.VarnPath, varn);
+    }
+}
+
+void SaveKanjiData(VarnModule& varn, Dialogs& dialogs, MapSurfaces surfaces)
+{
+    const ImportedFile file{QStringLiteral("Place Names"), mapFilter(), mapFilter(),
+                            currentMapFile(varn, "kanji.map")};
+    const std::optional<QString> source = askForSource(varn, dialogs, file);
+    if (!source) {
+        return;
+    }
+    PlaceNames names = readSequentialFile(varn.Drive, *source, readPlaceNames);
+    const QString folder = varn.VarnPath + QStringLiteral("\\varnsymbols");
+    makeFolder(varn.Drive, folder);
+    writeSequentialFile(varn.Drive, folder + QStringLiteral("\\TarkaKanji.map"),
+                        [&names](SequentialWriter& writer) { writePlaceNames(writer, names); });
+    keepAsOwnNames(varn, file.current, names);
+    static_cast<PlaceNames&>(varn) = std::move(names);
+    if (varn.NLine > 0) {
+        DrawBlankMap(blankMapParts(varn), surfaces);
+    }
+}

@@ -1,0 +1,269 @@
+#include "shell/forms/frmMain.h"
+
+#include "render/BlankMap.h"
+#include "shell/ImportCommands.h"
+#include "shell/MapParts.h"
+#include "shell/Recovery.h"
+#include "shell/VarnModule.h"
+#include "ui_frmMain.h"
+
+#include <QCloseEvent>
+#include <QCoreApplication>
+#include <QScopeGuard>
+
+namespace {
+
+/// Shows that the text of `box` is for reading only.
+void colorAsReadOnly(QLineEdit& box)
+{
+    QPalette palette = box.palette();
+    palette.setColor(QPalette::Base, palette.color(QPalette::Window));
+    box.setPalette(palette);
+}
+
+} // namespace
+
+frmMain::frmMain(VarnModule& varn, Dialogs& dialogs)
+    : VarnForm(dialogs), m_ui(std::make_unique<Ui::frmMain>()), m_varn(varn), m_map(varn, dialogs),
+      m_chizu(
+          varn, dialogs, [this] { return m_map.surfaces(); }, [this] { return mayChangeMap(); }),
+      m_dataInput(varn, dialogs), m_data(varn, dialogs), m_setHanko(varn, dialogs), m_calc(varn, dialogs),
+      m_calExec(varn, dialogs), m_rankData(varn, dialogs), m_totalHanko(varn, dialogs)
+{
+    m_ui->setupUi(this);
+    m_preview.Width = m_map.surface().Width;
+    m_preview.Height = m_map.surface().Height;
+    m_ui->picPreview->setSurface(m_preview, SurfaceView::Fit::WholePaper);
+    m_ui->picPreview->setPlaceholder(QStringLiteral("Check Map Name shows the map here."));
+    colorAsReadOnly(*m_ui->txtVarnPath);
+    colorAsReadOnly(*m_ui->txtVarnMapName);
+    prepareSetMergin();
+    connectButtons();
+    connectForms();
+    connectAnalysisForms();
+}
+
+frmMain::~frmMain() = default;
+
+void frmMain::connectButtons()
+{
+    handle(m_ui->cmdRegMap, &QPushButton::clicked, &frmMain::cmdRegMap_Click);
+    handle(m_ui->cmdMapName, &QPushButton::clicked, &frmMain::cmdMapName_Click);
+    handle(m_ui->cmdInputData, &QPushButton::clicked, &frmMain::cmdInputData_Click);
+    handle(m_ui->cmdData, &QPushButton::clicked, &frmMain::cmdData_Click);
+    handle(m_ui->cmdHanko, &QPushButton::clicked, &frmMain::cmdHanko_Click);
+    handle(m_ui->cmdMap, &QPushButton::clicked, &frmMain::cmdMap_Click);
+    handle(m_ui->cmdSumUp, &QPushButton::clicked, &frmMain::cmdSumUp_Click);
+    handle(m_ui->cmdExit, &QPushButton::clicked, &frmMain::cmdExit_Click);
+    handle(m_ui->mnuImportLocalities, &QAction::triggered, &frmMain::mnuImportLocalities_Click);
+    handle(m_ui->mnuImportLines, &QAction::triggered, &frmMain::mnuImportLines_Click);
+    handle(m_ui->mnuImportPlaceNames, &QAction::triggered, &frmMain::mnuImportPlaceNames_Click);
+    handle(m_ui->mnuImportPolygons, &QAction::triggered, &frmMain::mnuImportPolygons_Click);
+}
+
+void frmMain::connectForms()
+{
+    connect(&m_map, &frmMap::toMain, this, &frmMain::bringToFront);
+    connect(&m_chizu, &frmChizu::toMain, this, &frmMain::bringToFront);
+    connect(&m_dataInput, &frmDataInput::toMain, this, &frmMain::bringToFront);
+    connect(&m_data, &frmData::toMain, this, &frmMain::bringToFront);
+    connect(&m_setHanko, &frmSetHanko::toMain, this, &frmMain::bringToFront);
+    handle(&m_chizu, &frmChizu::toDrawMap, &frmMain::openMap);
+    handle(&m_setHanko, &frmSetHanko::toDrawMap, &frmMain::openMap);
+    handle(&m_chizu, &frmChizu::mapChosen, &frmMain::showNewMap);
+    connect(&m_data, &frmData::itemLoaded, &m_map, &frmMap::enableMapLing);
+    handle(&m_dataInput, &frmDataInput::itemReloaded, &frmMain::showReloadedItem);
+}
+
+void frmMain::connectAnalysisForms()
+{
+    handle(&m_dataInput, &frmDataInput::toAccumulateData, &frmMain::openCalc);
+    connect(&m_calc, &frmCalc::toMain, this, &frmMain::bringToFront);
+    handle(&m_calc, &frmCalc::toExecute, &frmMain::openCalExec);
+    handle(&m_calc, &frmCalc::toDrawMap, &frmMain::openMap);
+    handle(&m_calc, &frmCalc::toContrast, &frmMain::openRankData);
+    connect(&m_calExec, &frmCalExec::toMain, this, &frmMain::bringToFront);
+    handle(&m_calExec, &frmCalExec::toAccumulateData, &frmMain::openCalc);
+    handle(&m_calExec, &frmCalExec::toDrawMap, &frmMain::openMap);
+    handle(&m_calExec, &frmCalExec::toSymbols, &frmMain::openTotalHanko);
+    handle(&m_calExec, &frmCalExec::toContrast, &frmMain::openRankData);
+    handle(&m_rankData, &frmRankData::toAnalysis, &frmMain::openCalc);
+    handle(&m_rankData, &frmRankData::toDrawMap, &frmMain::drawContrastMap);
+    handle(&m_totalHanko, &frmTotalHanko::toAnalysis, &frmMain::openCalExec);
+    handle(&m_totalHanko, &frmTotalHanko::toDrawMap, &frmMain::drawDiffusionSymbols);
+}
+
+void frmMain::SetMapName()
+{
+    drawPreview();
+    refresh();
+    if (!dialogs().askYesNo(QStringLiteral("Is this a right map name ? "), QStringLiteral("Map Name"))) {
+        openChizu();
+    }
+}
+
+void frmMain::drawPreview()
+{
+    const WaitCursor wait;
+    DrawSurface& mapForm = m_map.surfaces().frmMap;
+    m_preview.Width = mapForm.Width;
+    m_preview.Height = mapForm.Height;
+    m_varn.DrawTarget = &m_preview;
+    const auto back = qScopeGuard([&] { m_varn.DrawTarget = &mapForm; });
+    m_preview.Cls();
+    DrawBlankMap(blankMapParts(m_varn), m_map.surfaces());
+}
+
+void frmMain::refresh()
+{
+    const QString mapName = m_varn.VarnMapName.mid(1);
+    m_ui->txtVarnPath->setText(m_varn.VarnPath);
+    m_ui->txtVarnMapName->setText(mapName);
+    setWindowTitle(mapName.isEmpty() ? QStringLiteral("VARN") : QStringLiteral("VARN - ") + mapName);
+    m_ui->picPreview->refresh();
+    m_map.refresh();
+}
+
+void frmMain::cmdMapName_Click()
+{
+    SetMapName();
+}
+
+void frmMain::openChizu()
+{
+    open(m_chizu);
+}
+
+void frmMain::openMap()
+{
+    open(m_map);
+}
+
+void frmMain::openCalc()
+{
+    open(m_calc);
+}
+
+void frmMain::openCalExec()
+{
+    open(m_calExec);
+}
+
+void frmMain::openRankData()
+{
+    open(m_rankData);
+}
+
+void frmMain::openTotalHanko()
+{
+    open(m_totalHanko);
+}
+
+void frmMain::drawContrastMap()
+{
+    openMap();
+    m_map.mnuRank_Click();
+}
+
+void frmMain::drawDiffusionSymbols()
+{
+    openMap();
+    m_map.mnuTotalHanko_Click();
+}
+
+void frmMain::showNewMap()
+{
+    m_preview.Cls();
+    for (VarnForm* form : workingForms()) {
+        form->showNewState();
+    }
+}
+
+std::vector<VarnForm*> frmMain::workingForms()
+{
+    // Those that may have unsaved work come first.
+    return {&m_dataInput, &m_setHanko, &m_calc,  &m_totalHanko, &m_rankData,
+            &m_calExec,   &m_data,     &m_chizu, &m_map};
+}
+
+void frmMain::showReloadedItem()
+{
+    m_data.followItem();
+    m_setHanko.followItem();
+    m_calc.followItem();
+    m_calExec.refresh();
+    m_map.enableMapLing();
+}
+
+void frmMain::cmdRegMap_Click()
+{
+    openChizu();
+    m_preview.Cls();
+}
+
+void frmMain::cmdInputData_Click()
+{
+    open(m_dataInput);
+}
+
+void frmMain::cmdData_Click()
+{
+    open(m_data);
+}
+
+void frmMain::cmdHanko_Click()
+{
+    open(m_setHanko);
+}
+
+void frmMain::cmdMap_Click()
+{
+    openMap();
+}
+
+void frmMain::cmdSumUp_Click()
+{
+    openCalc();
+}
+
+void frmMain::cmdExit_Click()
+{
+    keepWork();
+    QCoreApplication::exit();
+}
+
+void frmMain::closeEvent(QCloseEvent* event)
+{
+    // Whoever has unsaved work there may still change his mind.
+    for (VarnForm* form : workingForms()) {
+        if (!form->close()) {
+            event->ignore();
+            return;
+        }
+    }
+    if (m_recovery) {
+        run([this] { m_recovery->keep({}); }); // whatever is unsaved now was given up
+    }
+    m_keeping.stop();
+    event->accept();
+}
+
+void frmMain::mnuImportLocalities_Click()
+{
+    SaveLocateData(m_varn, dialogs());
+}
+
+void frmMain::mnuImportLines_Click()
+{
+    SaveLineData(m_varn, dialogs());
+}
+
+void frmMain::mnuImportPlaceNames_Click()
+{
+    SaveKanjiData(m_varn, dialogs(), m_map.surfaces());
+}
+
+void frmMain::mnuImportPolygons_Click()
+{
+    SaveSquareData(m_varn, dialogs());
+}
