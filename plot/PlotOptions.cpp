@@ -242,7 +242,7 @@ DIR is the folder with VarnData and VarnSymbol. FILE ends in .svg, .pdf or .png.
 accumulate adds the items to the table in FILE.ttl and saves it after each. Items are left out and named that
 cannot be read, whose number of localities is not the map's, or that the table holds already; --count-again counts
 the last once more. A map of an item with another number of localities is drawn with a warning.
---height is the height of the map in millimetres, --dpi the resolution of a PNG (192).
+--height is the height of the drawing area in millimetres, --dpi the resolution of a PNG (192).
 
 Exit code: 0 all is done, 1 an error or items left out, 2 the command line is not understood.
 )");

@@ -41,6 +41,10 @@ float FindMinMax(const MapLines& map, const DrawSurface& form, MapGeometry& geom
     if (!widenExtent(map, geometry)) {
         throw RunTimeError(ErrorNumber::DivisionByZero, QStringLiteral("The map has no lines."));
     }
+    if (geometry.MaxY == geometry.MinY || geometry.MaxX == geometry.MinX) {
+        throw RunTimeError(ErrorNumber::DivisionByZero,
+                           QStringLiteral("The lines of the map have no height or no width."));
+    }
     geometry.RatioY = divide(form.Height - form.Top, geometry.MaxY - geometry.MinY);
     geometry.RatioX = divide(form.Width - form.Left, geometry.MaxX - geometry.MinX);
     return toSingle(0.98 * geometry.RatioY);

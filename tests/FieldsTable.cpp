@@ -73,6 +73,15 @@ std::vector<EveryWayOut::Way> EveryWayOut::fields()
              auto* editor = control<frmDataInput, QAbstractItemView>("tblWords").itemDelegate();
              Q_EMIT dynamic_cast<WordEntryDelegate&>(*editor).typed(QStringLiteral("a\\Q"));
          }},
+        {"frmDataInput", "tblWords", "lblFault=\n",
+         [](Test&) {
+             auto* editor = control<frmDataInput, QAbstractItemView>("tblWords").itemDelegate();
+             Q_EMIT dynamic_cast<WordEntryDelegate&>(*editor).typed(QStringLiteral("a\\Q"));
+         },
+         [](Test&) {
+             auto* editor = control<frmDataInput, QAbstractItemView>("tblWords").itemDelegate();
+             Q_EMIT editor->closeEditor(nullptr, QAbstractItemDelegate::RevertModelCache);
+         }},
         {"frmDataInput", "txtKind", "-lblFault=\n", nothing,
          [](Test&) { control<frmDataInput, QLineEdit>("txtKind").insert(QStringLiteral("a\\Q")); }},
         {"frmDataInput", "txtKind", "lstKind=hail", [](Test&) { type<frmDataInput>("txtKind", "hail"); },

@@ -53,6 +53,7 @@ void frmDataInput::setUpTable()
     connect(&m_table, &QAbstractItemModel::dataChanged, this, [this] { run([this] { moved(); }); });
     connect(m_delegate, &WordEntryDelegate::typed, this,
             [this](const QString& text) { run([&] { drawWordShown(text); }); });
+    connect(m_delegate, &WordEntryDelegate::closeEditor, this, [this] { run([this] { moved(); }); });
     connect(m_delegate, &WordEntryDelegate::left, &words, &WordTableView::goByRows);
     handle(&words, &WordTableView::deletePressed, &frmDataInput::emptySelected);
     connect(m_ui->picMap, &LocalityView::localityClicked, this, [this](int locality) {
