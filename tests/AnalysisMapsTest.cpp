@@ -2,6 +2,7 @@
 #include "render/ContrastMap.h"
 #include "render/DiffusionGraphs.h"
 #include "tests/TestDrive.h"
+#include "tests/Transcript.h"
 
 namespace {
 
@@ -33,43 +34,97 @@ TEST(DiffusionGraphs, BarsRiseByTheShareOfItems)
 {
     CountedSurvey survey;
     DrawBarGraph(survey.varn, 1, 0, survey.surfaces);
-    const auto boxes = operationsOf<BoxOperation>(survey.drawing());
-    ASSERT_EQ(boxes.size(), 3U) << "two bars and the erased title line";
-    EXPECT_FLOAT_EQ(boxes[0].x, 100 * 8.82F + 50);
-    EXPECT_FLOAT_EQ(boxes[0].width, 50);
-    EXPECT_FLOAT_EQ(boxes[0].y + boxes[0].height, 200 * 8.82F + 50);
-    EXPECT_FLOAT_EQ(boxes[0].height, 200);
-    EXPECT_FLOAT_EQ(boxes[1].height, 80);
-    EXPECT_EQ(boxes[0].fill, QBColor(1)) << "filled with the outline's colour";
-    const QPointF name = printedAt(survey.drawing(), QStringLiteral("form 1"));
-    EXPECT_NEAR(name.x(), 20 * 8.82 + 250, 0.01);
-    EXPECT_NEAR(name.y(), 30 * 8.82 + 50, 0.01);
-    EXPECT_NEAR(printedAt(survey.drawing(), QStringLiteral("No. of Items =10")).y(), 8050, 0.01);
-}
-
-TEST(DiffusionGraphs, LayersHaveALegendLineEach)
-{
-    CountedSurvey survey;
+    EXPECT_EQ(transcript(survey.drawing()), R"(
+box 932,1614 982,1814 filled 1 pen 1/0/1
+box 4464,5266 4514,5346 filled 1 pen 1/0/1
+white box
+"form 1" 426,315 10pt
+"No. of Items =10" 226,8050 10pt
+)");
+    survey.frmMap.Cls();
+    survey.varn.CurrentWordform = 2;
+    survey.varn.PlotDots = true;
     drawLayeredGraph(survey.varn, DiffusionGraph::Bar, survey.surfaces);
-    const double y0 = 30 * 8.82 + 50;
-    EXPECT_NEAR(printedAt(survey.drawing(), QStringLiteral("All items")).y(), y0, 0.01);
-    EXPECT_NEAR(printedAt(survey.drawing(), QStringLiteral("form 2")).y(), y0 + 600 + 400, 0.01);
-    EXPECT_EQ(survey.varn.CurrentWordform, 1);
+    EXPECT_EQ(transcript(survey.drawing()), R"(
+line 50,50 8870,50 8870,8870 50,8870 50,50 pen 1/0/1
+ellipse 932,1814 2,2 filled 0 pen 1/0/0
+ellipse 2696,3578 2,2 filled 0 pen 1/0/0
+ellipse 4464,5346 2,2 filled 0 pen 1/0/0
+"Title" 226,319 10pt
+"Town" 3578,4460 10pt
+line 932,7988 2696,7988 pen 1/0/0
+line 932,7988 932,7738 pen 1/0/0
+line 1373,7988 1373,7905 pen 1/0/0
+line 1814,7988 1814,7905 pen 1/0/0
+line 2255,7988 2255,7905 pen 1/0/0
+line 2696,7988 2696,7738 pen 1/0/0
+"0" 982,7688 10pt
+"20 km" 2746,7688 10pt
+box 932,1614 982,1814 filled 1 pen 1/0/1
+box 4464,5266 4514,5346 filled 1 pen 1/0/1
+white box
+"All items" 226,315 10pt
+"form 1" 426,915 10pt
+box 226,915 276,1115 filled 1 pen 1/0/1
+"No. of Items =10" 226,8050 10pt
+box 2696,3478 2746,3578 filled 2 pen 1/0/2
+white box
+"All items" 226,315 10pt
+"form 2" 426,1315 10pt
+box 226,1315 276,1515 filled 2 pen 1/0/2
+)");
+    EXPECT_EQ(survey.varn.CurrentWordform, 2);
 }
 
 TEST(DiffusionGraphs, CirclesGrowByTheShareAndTheScaleSaysHow)
 {
     CountedSurvey survey;
-    DrawCircleGraph(survey.varn, 2, 1, survey.surfaces);
-    const auto circles = operationsOf<EllipseOperation>(survey.drawing());
-    ASSERT_EQ(circles.size(), 3 + 1 + 4U);
-    EXPECT_FLOAT_EQ(circles[0].halfWidth, 0);
-    EXPECT_FLOAT_EQ(circles[1].halfWidth, 50);
-    EXPECT_EQ(circles[1].fill, QBColor(10));
-    EXPECT_FLOAT_EQ(circles[3].halfWidth, 100) << "the legend's sample";
-    for (const char* share : {"25 %", "50 %", "75 %", "100 %"}) {
-        EXPECT_TRUE(wasPrinted(survey.drawing(), QLatin1String(share))) << share;
-    }
+    DrawCircleGraph(survey.varn, 2, 0, survey.surfaces);
+    EXPECT_EQ(transcript(survey.drawing()), R"(
+ellipse 932,1814 0,0 filled 10 pen 1/0/2
+ellipse 2696,3578 50,50 filled 10 pen 1/0/2
+ellipse 4464,5346 0,0 filled 10 pen 1/0/2
+white box
+ellipse 326,1235 100,100 filled 10 pen 1/0/2
+"form 2" 526,1115 10pt
+ellipse 326,1685 25,25 pen 1/0/0
+"25 %" 526,1565 10pt
+ellipse 326,1985 50,50 pen 1/0/0
+"50 %" 526,1865 10pt
+ellipse 326,2285 75,75 pen 1/0/0
+"75 %" 526,2165 10pt
+ellipse 326,2585 100,100 pen 1/0/0
+"100 %" 526,2465 10pt
+"No. of Items =10" 226,8050 10pt
+)");
+    survey.frmMap.Cls();
+    DrawCircleGraph(survey.varn, 1, 1, survey.surfaces);
+    DrawCircleGraph(survey.varn, 2, 2, survey.surfaces);
+    EXPECT_EQ(transcript(survey.drawing()), R"(
+ellipse 932,1814 100,100 filled 9 pen 1/0/1
+ellipse 2696,3578 0,0 filled 9 pen 1/0/1
+ellipse 4464,5346 40,40 filled 9 pen 1/0/1
+white box
+"All items" 226,315 10pt
+ellipse 326,1235 100,100 filled 9 pen 1/0/1
+"form 1" 526,1115 10pt
+ellipse 326,1985 25,25 pen 1/0/0
+"25 %" 526,1865 10pt
+ellipse 326,2285 50,50 pen 1/0/0
+"50 %" 526,2165 10pt
+ellipse 326,2585 75,75 pen 1/0/0
+"75 %" 526,2465 10pt
+ellipse 326,2885 100,100 pen 1/0/0
+"100 %" 526,2765 10pt
+"No. of Items =10" 226,8050 10pt
+ellipse 932,1814 0,0 filled 10 pen 1/0/2
+ellipse 2696,3578 50,50 filled 10 pen 1/0/2
+ellipse 4464,5346 0,0 filled 10 pen 1/0/2
+white box
+"All items" 226,315 10pt
+ellipse 326,1535 100,100 filled 10 pen 1/0/2
+"form 2" 526,1415 10pt
+)");
 }
 
 TEST(DiffusionGraphs, TheLegendOfTenWordFormsDoesNotCollide)
@@ -132,12 +187,22 @@ TEST(DiffusionGraphs, SymbolsMarkTheLocalitiesThatReachTheMinimum)
     survey.varn.DiffusionHanko(1) = {49, 0, 0, 0, 1, 0};
     survey.varn.DiffusionCaption(1) = QStringLiteral("often");
     survey.varn.MinimumPoints(1) = 10; // as many as the first locality has
+    survey.varn.DiffusionHanko(1).LineThick = 1;
     DrawHankoMap(survey.varn, 1, 2, survey.surfaces);
-    const auto circles = operationsOf<EllipseOperation>(survey.drawing());
-    ASSERT_EQ(circles.size(), 2U);
-    EXPECT_FLOAT_EQ(circles[0].x, 100 * 8.82F + 50);
-    EXPECT_FLOAT_EQ(circles[1].y, 30 * 8.82F + 600 + 80 + 400);
-    EXPECT_NEAR(printedAt(survey.drawing(), QStringLiteral("often")).y(), 30 * 8.82 + 600 + 400, 0.01);
+    EXPECT_EQ(transcript(survey.drawing()), R"(
+ellipse 932,1814 100,100 pen 3/0/0
+white box
+"often" 376,1265 10pt
+ellipse 176,1345 100,100 pen 3/0/0
+)");
+    EXPECT_EQ(survey.frmMap.DrawWidth, 1);
+    survey.frmMap.Cls();
+    DrawHankoMap(survey.varn, 1, 0, survey.surfaces);
+    EXPECT_EQ(transcript(survey.drawing()), R"(
+ellipse 932,1814 100,100 pen 3/0/0
+white box
+)");
+    EXPECT_EQ(survey.frmMap.DrawWidth, 1);
 }
 
 TEST(ContrastMap, CirclesSayWhichSidePrevailsAndByHowMuch)
@@ -154,25 +219,23 @@ TEST(ContrastMap, CirclesSayWhichSidePrevailsAndByHowMuch)
     varn.ContrastSum(0, 1) = 10;
     varn.ContrastSum(0, 2) = -5;
     DrawRankGraph(varn, survey.surfaces);
-    const auto circles = operationsOf<EllipseOperation>(survey.drawing());
-    ASSERT_EQ(circles.size(), 3 + 5U) << "five steps: 5 / 2 rounds to 2 on either side";
-    EXPECT_FLOAT_EQ(circles[0].x, 100 * 8.82F) << "without the base map's margin";
-    EXPECT_FLOAT_EQ(circles[0].halfWidth, 150);
-    EXPECT_EQ(circles[0].fill, QBColor(4));
-    EXPECT_FLOAT_EQ(circles[1].halfWidth, 75);
-    EXPECT_EQ(circles[1].fill, QBColor(1));
-    EXPECT_EQ(circles[2].fill, QBColor(1)) << "no difference";
-    EXPECT_FLOAT_EQ(circles[3].halfWidth, 150);
-    EXPECT_FLOAT_EQ(circles[6].halfWidth, 75);
-    const double x = 20 * 8.82 + 500;
-    const double y = 30 * 8.82 + 800;
-    const std::pair<const char*, int> rows[] = {
-        {"-100%", -1 + 0}, {"-50%", 0}, {"0%", 1}, {"50%", 2}, {"100%", 3}};
-    for (const auto& [label, row] : rows) {
-        const QPointF at = printedAt(survey.drawing(), QLatin1String(label));
-        EXPECT_NEAR(at.x(), x, 0.01) << label;
-        EXPECT_NEAR(at.y(), y + 400 * row, 0.01) << label;
-    }
+    EXPECT_EQ(transcript(survey.drawing()), R"(
+ellipse 882,1764 150,150 filled 4 pen 1/0/12
+ellipse 2646,3528 75,75 filled 1 pen 1/0/9
+ellipse 4414,5296 0,0 filled 1 pen 1/0/9
+white box
+"1 against 2" 176,265 10pt
+"-100%" 676,665 10pt
+ellipse 426,785 150,150 filled 1 pen 1/0/9
+"-50%" 676,1065 10pt
+ellipse 426,1185 75,75 filled 1 pen 1/0/9
+"0%" 676,1465 10pt
+ellipse 426,1585 0,0 filled 1 pen 1/0/9
+"50%" 676,1865 10pt
+ellipse 426,1985 75,75 filled 4 pen 1/0/12
+"100%" 676,2265 10pt
+ellipse 426,2385 150,150 filled 4 pen 1/0/12
+)");
 }
 
 TEST(ContrastMap, LargeCirclesStandClearOfTheLabels)

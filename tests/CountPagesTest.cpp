@@ -120,6 +120,9 @@ TEST(StatisticsPages, FiguresStandInTheirPlaces)
     const CountedSurvey survey(10, 3, {1, 2, 3, 0, 0});
     DrawSurface surface;
     StatisticsPages pages(survey.table, survey.statistics, surface);
+    EXPECT_EQ(StatisticsPages::overviewArea(), QSizeF(6000, 4800));
+    EXPECT_EQ(StatisticsPages::tableArea(139), QSizeF(7000, 4600));
+    EXPECT_EQ(StatisticsPages::tableArea(140), QSizeF(8000, 4600));
     const std::pair<int, QPointF> blocks[] = {
         {1, {0, 0}}, {3, {0, 3200}}, {4, {2000, 0}}, {9, {4000, 3200}}, {10, {0, 0}}};
     for (int k = 1; k <= 10; ++k) {

@@ -134,6 +134,24 @@ TEST(DrawSurface, PrintMovesThePosition)
     EXPECT_EQ(surface.CurrentY, 0);
 }
 
+TEST(DrawSurface, FontsAreThoseOfTheSurfaceInTwips)
+{
+    DrawSurface surface;
+    surface.FontName = QStringLiteral("Some Sans");
+    surface.FontSize = 12;
+    surface.FontBold = true;
+    surface.Print(QStringLiteral("bold"));
+    surface.FontBold = false;
+    surface.FontItalic = true;
+    surface.Print(QStringLiteral("italic"));
+    for (const int n : {0, 1}) {
+        const QFont font = twipFont(surface.drawing().fonts.at(static_cast<std::size_t>(n)));
+        EXPECT_EQ(font.family(), QStringLiteral("Some Sans"));
+        EXPECT_EQ(font.pixelSize(), 240);
+        EXPECT_EQ(std::pair(font.bold(), font.italic()), std::pair(n == 0, n == 1));
+    }
+}
+
 TEST(DrawSurface, PicturesHaveTheirNaturalSize)
 {
     QImage picture(96, 48, QImage::Format_Grayscale8);

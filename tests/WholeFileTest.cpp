@@ -66,6 +66,9 @@ TEST(WholeFile, OnlyFilesAreReadAndReplaced)
         EXPECT_EQ(writing.place().path, path);
         EXPECT_FALSE(fileExists(drive.drive(), path)) << name;
     }
+    EXPECT_EQ(errorOf([&] { readBytes(drive.drive(), QStringLiteral("Z:\\proc\\self\\mem")); }).number(),
+              ErrorNumber::DeviceIOError)
+        << "it can be opened, but nothing is at its start";
     EXPECT_EQ(errorOf([&] { replaceFile(drive.drive(), QStringLiteral("C:\\no\\such.dbs"), "x"); }).number(),
               ErrorNumber::PathNotFound);
 }

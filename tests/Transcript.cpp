@@ -1,0 +1,121 @@
+#include "tests/Transcript.h"
+
+#include "platform/StandardColors.h"
+
+#include <cmath>
+#include <sstream>
+
+namespace {
+
+/// The lines of one drawing.
+class Transcript
+{
+public:
+    explicit Transcript(const Drawing& drawing) : m_drawing(drawing) { m_out << '\n'; }
+
+    void operator()(const PolylineOperation& line)
+    {
+        m_out << "line";
+        for (std::size_t i = 0; i < line.points; ++i) {
+            place(m_drawing.points[line.firstPoint + i].x(), m_drawing.points[line.firstPoint + i].y());
+        }
+        pen(line.pen);
+    }
+    void operator()(const BoxOperation& box)
+    {
+        if (box.fill == QBColor(15) && box.pen >= 0 && penAt(box.pen).color == QBColor(15)) {
+            m_out << "white box\n";
+            return;
+        }
+        m_out << "box";
+        place(box.x, box.y);
+        place(box.x + box.width, box.y + box.height);
+        fill(box.fill);
+        pen(box.pen);
+    }
+    void operator()(const EllipseOperation& ellipse)
+    {
+        m_out << "ellipse";
+        place(ellipse.x, ellipse.y);
+        place(ellipse.halfWidth, ellipse.halfHeight);
+        fill(ellipse.fill);
+        pen(ellipse.pen);
+    }
+    void operator()(const ArcOperation& arc)
+    {
+        constexpr double Degree = 0.017453292519943295;
+        m_out << "arc";
+        place(arc.x, arc.y);
+        place(arc.halfWidth, arc.halfHeight);
+        place(arc.start / Degree, arc.span / Degree);
+        m_out << (arc.startRadius ? " start" : "") << (arc.endRadius ? " end" : "");
+        fill(arc.fill);
+        pen(arc.pen);
+    }
+    void operator()(const TextOperation& text)
+    {
+        const TextFont& font = m_drawing.fonts[static_cast<std::size_t>(text.font)];
+        m_out << '"' << m_drawing.texts[text.text].toStdString() << '"';
+        place(text.x, text.y);
+        m_out << ' ' << font.size << "pt" << (font.bold ? " bold" : "") << (font.italic ? " italic" : "");
+        if (text.color != QBColor(0)) {
+            m_out << " color ";
+            color(text.color);
+        }
+        m_out << '\n';
+    }
+    void operator()(const PictureOperation& picture)
+    {
+        m_out << "picture";
+        place(picture.x, picture.y);
+        place(picture.width, picture.height);
+        m_out << '\n';
+    }
+
+    std::string text() const { return m_out.str(); }
+
+private:
+    const LinePen& penAt(int number) const { return m_drawing.pens[static_cast<std::size_t>(number)]; }
+
+    void place(double x, double y) { m_out << ' ' << std::lround(x) << ',' << std::lround(y); }
+
+    void color(QRgb color)
+    {
+        for (int number = 0; number <= 15; ++number) {
+            if (QBColor(number) == color) {
+                m_out << number;
+                return;
+            }
+        }
+        m_out << '#' << std::hex << color << std::dec;
+    }
+    void fill(QRgb fill)
+    {
+        if (fill != 0) {
+            m_out << " filled ";
+            color(fill);
+        }
+    }
+    void pen(int number)
+    {
+        if (number >= 0) {
+            m_out << " pen " << penAt(number).width << '/' << penAt(number).style << '/';
+            color(penAt(number).color);
+        }
+        m_out << '\n';
+    }
+
+    const Drawing& m_drawing;
+    std::ostringstream m_out;
+};
+
+} // namespace
+
+std::string transcript(const Drawing& drawing)
+{
+    Transcript lines(drawing);
+    for (const DrawingOperation& operation : drawing.operations) {
+        std::visit(lines, operation);
+    }
+    return lines.text();
+}
