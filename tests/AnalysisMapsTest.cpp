@@ -36,10 +36,10 @@ TEST(DiffusionGraphs, BarsRiseByTheShareOfItems)
     DrawBarGraph(survey.varn, 1, 0, survey.surfaces);
     EXPECT_EQ(transcript(survey.drawing()), R"(
 box 932,1614 982,1814 filled 1 pen 1/0/1
-box 4464,5266 4514,5346 filled 1 pen 1/0/1
+box 4464.4,5266.4 4514.4,5346.4 filled 1 pen 1/0/1
 white box
-"form 1" 426,315 10pt
-"No. of Items =10" 226,8050 10pt
+"form 1" 426.4,314.6 10pt
+"No. of Items =10" 226.4,8050 10pt
 )");
     survey.frmMap.Cls();
     survey.varn.CurrentWordform = 2;
@@ -49,29 +49,29 @@ white box
 line 50,50 8870,50 8870,8870 50,8870 50,50 pen 1/0/1
 ellipse 932,1814 2,2 filled 0 pen 1/0/0
 ellipse 2696,3578 2,2 filled 0 pen 1/0/0
-ellipse 4464,5346 2,2 filled 0 pen 1/0/0
-"Title" 226,319 10pt
+ellipse 4464.4,5346.4 2,2 filled 0 pen 1/0/0
+"Title" 226.4,319 10pt
 "Town" 3578,4460 10pt
 line 932,7988 2696,7988 pen 1/0/0
 line 932,7988 932,7738 pen 1/0/0
-line 1373,7988 1373,7905 pen 1/0/0
-line 1814,7988 1814,7905 pen 1/0/0
-line 2255,7988 2255,7905 pen 1/0/0
+line 1373,7988 1373,7904.7 pen 1/0/0
+line 1814,7988 1814,7904.7 pen 1/0/0
+line 2255,7988 2255,7904.7 pen 1/0/0
 line 2696,7988 2696,7738 pen 1/0/0
 "0" 982,7688 10pt
 "20 km" 2746,7688 10pt
 box 932,1614 982,1814 filled 1 pen 1/0/1
-box 4464,5266 4514,5346 filled 1 pen 1/0/1
+box 4464.4,5266.4 4514.4,5346.4 filled 1 pen 1/0/1
 white box
-"All items" 226,315 10pt
-"form 1" 426,915 10pt
-box 226,915 276,1115 filled 1 pen 1/0/1
-"No. of Items =10" 226,8050 10pt
+"All items" 226.4,314.6 10pt
+"form 1" 426.4,914.6 10pt
+box 226.4,914.6 276.4,1114.6 filled 1 pen 1/0/1
+"No. of Items =10" 226.4,8050 10pt
 box 2696,3478 2746,3578 filled 2 pen 1/0/2
 white box
-"All items" 226,315 10pt
-"form 2" 426,1315 10pt
-box 226,1315 276,1515 filled 2 pen 1/0/2
+"All items" 226.4,314.6 10pt
+"form 2" 426.4,1314.6 10pt
+box 226.4,1314.6 276.4,1514.6 filled 2 pen 1/0/2
 )");
     EXPECT_EQ(survey.varn.CurrentWordform, 2);
 }
@@ -83,19 +83,19 @@ TEST(DiffusionGraphs, CirclesGrowByTheShareAndTheScaleSaysHow)
     EXPECT_EQ(transcript(survey.drawing()), R"(
 ellipse 932,1814 0,0 filled 10 pen 1/0/2
 ellipse 2696,3578 50,50 filled 10 pen 1/0/2
-ellipse 4464,5346 0,0 filled 10 pen 1/0/2
+ellipse 4464.4,5346.4 0,0 filled 10 pen 1/0/2
 white box
-ellipse 326,1235 100,100 filled 10 pen 1/0/2
-"form 2" 526,1115 10pt
-ellipse 326,1685 25,25 pen 1/0/0
-"25 %" 526,1565 10pt
-ellipse 326,1985 50,50 pen 1/0/0
-"50 %" 526,1865 10pt
-ellipse 326,2285 75,75 pen 1/0/0
-"75 %" 526,2165 10pt
-ellipse 326,2585 100,100 pen 1/0/0
-"100 %" 526,2465 10pt
-"No. of Items =10" 226,8050 10pt
+ellipse 326.4,1234.6 100,100 filled 10 pen 1/0/2
+"form 2" 526.4,1114.6 10pt
+ellipse 326.4,1684.6 25,25 pen 1/0/0
+"25 %" 526.4,1564.6 10pt
+ellipse 326.4,1984.6 50,50 pen 1/0/0
+"50 %" 526.4,1864.6 10pt
+ellipse 326.4,2284.6 75,75 pen 1/0/0
+"75 %" 526.4,2164.6 10pt
+ellipse 326.4,2584.6 100,100 pen 1/0/0
+"100 %" 526.4,2464.6 10pt
+"No. of Items =10" 226.4,8050 10pt
 )");
     survey.frmMap.Cls();
     DrawCircleGraph(survey.varn, 1, 1, survey.surfaces);
@@ -103,27 +103,27 @@ ellipse 326,2585 100,100 pen 1/0/0
     EXPECT_EQ(transcript(survey.drawing()), R"(
 ellipse 932,1814 100,100 filled 9 pen 1/0/1
 ellipse 2696,3578 0,0 filled 9 pen 1/0/1
-ellipse 4464,5346 40,40 filled 9 pen 1/0/1
+ellipse 4464.4,5346.4 40,40 filled 9 pen 1/0/1
 white box
-"All items" 226,315 10pt
-ellipse 326,1235 100,100 filled 9 pen 1/0/1
-"form 1" 526,1115 10pt
-ellipse 326,1985 25,25 pen 1/0/0
-"25 %" 526,1865 10pt
-ellipse 326,2285 50,50 pen 1/0/0
-"50 %" 526,2165 10pt
-ellipse 326,2585 75,75 pen 1/0/0
-"75 %" 526,2465 10pt
-ellipse 326,2885 100,100 pen 1/0/0
-"100 %" 526,2765 10pt
-"No. of Items =10" 226,8050 10pt
+"All items" 226.4,314.6 10pt
+ellipse 326.4,1234.6 100,100 filled 9 pen 1/0/1
+"form 1" 526.4,1114.6 10pt
+ellipse 326.4,1984.6 25,25 pen 1/0/0
+"25 %" 526.4,1864.6 10pt
+ellipse 326.4,2284.6 50,50 pen 1/0/0
+"50 %" 526.4,2164.6 10pt
+ellipse 326.4,2584.6 75,75 pen 1/0/0
+"75 %" 526.4,2464.6 10pt
+ellipse 326.4,2884.6 100,100 pen 1/0/0
+"100 %" 526.4,2764.6 10pt
+"No. of Items =10" 226.4,8050 10pt
 ellipse 932,1814 0,0 filled 10 pen 1/0/2
 ellipse 2696,3578 50,50 filled 10 pen 1/0/2
-ellipse 4464,5346 0,0 filled 10 pen 1/0/2
+ellipse 4464.4,5346.4 0,0 filled 10 pen 1/0/2
 white box
-"All items" 226,315 10pt
-ellipse 326,1535 100,100 filled 10 pen 1/0/2
-"form 2" 526,1415 10pt
+"All items" 226.4,314.6 10pt
+ellipse 326.4,1534.6 100,100 filled 10 pen 1/0/2
+"form 2" 526.4,1414.6 10pt
 )");
 }
 
@@ -192,8 +192,8 @@ TEST(DiffusionGraphs, SymbolsMarkTheLocalitiesThatReachTheMinimum)
     EXPECT_EQ(transcript(survey.drawing()), R"(
 ellipse 932,1814 100,100 pen 3/0/0
 white box
-"often" 376,1265 10pt
-ellipse 176,1345 100,100 pen 3/0/0
+"often" 376.4,1264.6 10pt
+ellipse 176.4,1344.6 100,100 pen 3/0/0
 )");
     EXPECT_EQ(survey.frmMap.DrawWidth, 1);
     survey.frmMap.Cls();
@@ -222,19 +222,19 @@ TEST(ContrastMap, CirclesSayWhichSidePrevailsAndByHowMuch)
     EXPECT_EQ(transcript(survey.drawing()), R"(
 ellipse 882,1764 150,150 filled 4 pen 1/0/12
 ellipse 2646,3528 75,75 filled 1 pen 1/0/9
-ellipse 4414,5296 0,0 filled 1 pen 1/0/9
+ellipse 4414.4,5296.4 0,0 filled 1 pen 1/0/9
 white box
-"1 against 2" 176,265 10pt
-"-100%" 676,665 10pt
-ellipse 426,785 150,150 filled 1 pen 1/0/9
-"-50%" 676,1065 10pt
-ellipse 426,1185 75,75 filled 1 pen 1/0/9
-"0%" 676,1465 10pt
-ellipse 426,1585 0,0 filled 1 pen 1/0/9
-"50%" 676,1865 10pt
-ellipse 426,1985 75,75 filled 4 pen 1/0/12
-"100%" 676,2265 10pt
-ellipse 426,2385 150,150 filled 4 pen 1/0/12
+"1 against 2" 176.4,264.6 10pt
+"-100%" 676.4,664.6 10pt
+ellipse 426.4,784.6 150,150 filled 1 pen 1/0/9
+"-50%" 676.4,1064.6 10pt
+ellipse 426.4,1184.6 75,75 filled 1 pen 1/0/9
+"0%" 676.4,1464.6 10pt
+ellipse 426.4,1584.6 0,0 filled 1 pen 1/0/9
+"50%" 676.4,1864.6 10pt
+ellipse 426.4,1984.6 75,75 filled 4 pen 1/0/12
+"100%" 676.4,2264.6 10pt
+ellipse 426.4,2384.6 150,150 filled 4 pen 1/0/12
 )");
 }
 

@@ -3,6 +3,7 @@
 #include "platform/DrawingPainter.h"
 #include "platform/StandardColors.h"
 #include "tests/TestDrive.h"
+#include "tests/Transcript.h"
 
 #include <QPainter>
 #include <QtMath>
@@ -121,6 +122,71 @@ TEST(SymbolShapes, ANumberNamesFamilyDesignSizeAndAspect)
         EXPECT_TRUE(sector.closed());
     }
     EXPECT_EQ(operationsOf<ArcOperation>(drawn(survey, symbol(93)).drawing()).at(0).fill, QBColor(12));
+}
+
+TEST(SymbolShapes, EveryDesignHasItsLinesAndFills)
+{
+    TestSurvey survey;
+    const auto drawnAll = [&survey](int first, int last) {
+        DrawSurface target;
+        SymbolShapes shapes(survey.varn, survey.varn, {target, survey.frmMap});
+        for (int number = first; number <= last; ++number) {
+            shapes.DrawHanko({static_cast<qint16>(number), 1, 12, static_cast<qint16>(number % 2), 1, 1}, 0,
+                             0);
+        }
+        return transcript(target.drawing());
+    };
+    EXPECT_EQ(drawnAll(1, 12), R"(
+box -96,-96 96,96 filled 12 pen 3/0/1
+line 0,-96 0,96 pen 3/0/1
+line -96,0 96,0 pen 3/0/1
+line -96,96 96,-96 pen 3/0/1
+line -96,-96 96,96 pen 3/0/1
+box -96,-96 96,96 pen 3/0/1
+line -96,96 96,-96 pen 3/0/1
+line -96,-96 96,96 pen 3/0/1
+box -96,-96 96,96 filled 12 pen 3/0/1
+line 0,-96 0,96 pen 3/0/1
+line -96,0 96,0 pen 3/0/1
+box -96,-96 0,96 filled 1 pen 1/0/1
+box -96,-96 96,96 pen 3/0/1
+box -96,0 96,96 filled 12 pen 1/0/1
+box -96,-96 96,96 pen 3/0/1
+box -38.4,-38.4 38.4,38.4 filled 1 pen 1/0/1
+box -96,-96 96,96 pen 3/0/1
+box -96,-96 96,96 filled 12 pen 3/0/1
+line -96,96 96,-96 pen 3/0/1
+line 0,-96 96,0 0,96 -96,0 0,-96 pen 3/0/1
+line -96,-96 96,-96 -96,96 96,96 -96,-96 pen 3/0/1
+line 0,-103.5 0,103.5 pen 2/0/1
+line -103.5,0 103.5,0 pen 2/0/1
+line -103.5,103.5 103.5,-103.5 pen 2/0/1
+line -103.5,-103.5 103.5,103.5 pen 2/0/1
+)");
+    EXPECT_EQ(drawnAll(49, 59), R"(
+ellipse 0,0 100,100 pen 3/0/1
+ellipse 0,0 100,100 filled 12 pen 3/0/1
+ellipse 0,0 100,100 pen 3/0/1
+ellipse 0,0 50,50 filled 12 pen 1/0/1
+ellipse 0,0 100,100 pen 3/0/1
+line 0,-100 0,100 pen 3/0/1
+ellipse 0,0 100,100 pen 3/0/1
+line -100,0 100,0 pen 3/0/1
+ellipse 0,0 100,100 pen 3/0/1
+line 0,-100 0,100 pen 3/0/1
+line -100,0 100,0 pen 3/0/1
+ellipse 0,0 100,100 pen 3/0/1
+arc 0,0 100,100 360,180 start end filled 12 pen 3/0/1
+ellipse 0,0 100,100 pen 3/0/1
+arc 0,0 100,100 180,180 start end filled 12 pen 3/0/1
+ellipse 0,0 107.5,107.5 pen 2/0/1
+ellipse 0,0 53.8,53.8 pen 2/0/1
+ellipse 0,0 100,100 pen 3/0/1
+line -70.7,70.7 70.7,-70.7 pen 3/0/1
+ellipse 0,0 100,100 pen 3/0/1
+line -70.7,70.7 70.7,-70.7 pen 3/0/1
+line -70.7,-70.7 70.7,70.7 pen 3/0/1
+)");
 }
 
 TEST(SymbolShapes, SizeAndWidthCodesBeyondTheTablesAreTheLargest)

@@ -77,7 +77,9 @@ public:
 private:
     const LinePen& penAt(int number) const { return m_drawing.pens[static_cast<std::size_t>(number)]; }
 
-    void place(double x, double y) { m_out << ' ' << std::lround(x) << ',' << std::lround(y); }
+    static double tenths(double value) { return static_cast<double>(std::lround(10 * value)) / 10; }
+
+    void place(double x, double y) { m_out << ' ' << tenths(x) << ',' << tenths(y); }
 
     void color(QRgb color)
     {
