@@ -183,20 +183,24 @@ TEST(StatisticsPages, TwentyLevelsMakeAColumn)
 
 TEST(StatisticsPages, LargeNumbersKeepClearOfEachOther)
 {
-    CountedSurvey survey(1, 400, {1, 2, 399, 400});
+    CountedSurvey survey(1, 399, {1, 2, 398, 399});
     survey.statistics.CumCount(0, 1) = 1000;
-    survey.statistics.FreqCount(100, 1) = 1000;
-    DrawSurface surface;
-    StatisticsPages(survey.table, survey.statistics, surface).DisplayStatsTable(1);
-    std::map<float, float> ends; // of the text before on each line
-    for (const TextOperation& text : operationsOf<TextOperation>(surface.drawing())) {
-        const TextFont& font = surface.drawing().fonts[static_cast<std::size_t>(text.font)];
-        const double width =
-            QFontMetricsF(twipFont(font)).horizontalAdvance(surface.drawing().texts[text.text]);
-        EXPECT_TRUE(text.y < 600 || text.x == 0 || text.x > ends[text.y]) << text.x << ' ' << text.y;
-        ends[text.y] = text.x + static_cast<float>(width);
+    for (const int level : {0, 100, 399}) {
+        survey.statistics.FreqCount(level, 1) = 1000;
+        DrawSurface surface;
+        StatisticsPages(survey.table, survey.statistics, surface).DisplayStatsTable(1);
+        std::map<float, float> ends; // of the text before on each line
+        for (const TextOperation& text : operationsOf<TextOperation>(surface.drawing())) {
+            const TextFont& font = surface.drawing().fonts[static_cast<std::size_t>(text.font)];
+            const double width =
+                QFontMetricsF(twipFont(font)).horizontalAdvance(surface.drawing().texts[text.text]);
+            EXPECT_TRUE(text.y < 600 || text.x == 0 || text.x > ends[text.y]) << text.x << ' ' << text.y;
+            ends[text.y] = text.x + static_cast<float>(width);
+        }
+        EXPECT_EQ(ends.size(), 2U + 20);
+        EXPECT_EQ(surface.drawing().fonts.back().size < 8, anyFont()) << "level " << level;
+        survey.statistics.FreqCount(level, 1) = 1;
     }
-    EXPECT_EQ(ends.size(), 2U + 20);
 }
 
 TEST(SpecifyCharsEditor, StringsAreAddedReplacedAndSteppedThrough)

@@ -88,6 +88,7 @@ TEST(MapImport, LocalitiesComeFromFilesAndTables)
         "x\ty\n1.5\t2\tA b\n3\t-4e0\tC\n",
         "  longitude   latitude\n  1.5     2\n 3 -4 village\n",
         "1.5, 2\r3, -4\r",
+        "places\n1.5,2\n3,-4\n",
     };
     for (const QByteArray& text : rows) {
         drive.write(Source, text);

@@ -99,6 +99,24 @@ TEST(PlotOptions, TheCommandLineIsRead)
     EXPECT_EQ(options->height, 120.5);
     EXPECT_EQ(options->dotsPerInch, 300);
     EXPECT_FALSE(readPlotOptions(words("--help")));
+
+    const QByteArray atlas = "atlas --installation i --map m --output o.pdf --height 2000 --location ";
+    const std::pair<const char*, qint16> places[] = {{"center", HankoCenter},
+                                                     {"right", HankoRight},
+                                                     {"left", HankoLeft},
+                                                     {"top", HankoUp},
+                                                     {"bottom", HankoDown}};
+    for (const auto& [name, place] : places) {
+        EXPECT_EQ(readPlotOptions(words((atlas + name).constData()))->location, place) << name;
+    }
+    const QByteArray diffusion = "diffusion-map --installation i --map m --counts c.ttl --output o.png "
+                                 "--dpi 2400 --word-form 10 --graph ";
+    for (const char* name : {"bar", "layered-bar", "circle", "layered-circle"}) {
+        const auto read = readPlotOptions(words((diffusion + name).constData()));
+        EXPECT_EQ(read->graph == DiffusionGraph::Bar, QByteArray(name).endsWith("bar")) << name;
+        EXPECT_EQ(read->layered, QByteArray(name).startsWith("layered")) << name;
+        EXPECT_EQ(read->wordForm, 10);
+    }
 }
 
 TEST(PlotOptions, WhatIsNotUnderstoodIsSaid)
@@ -111,8 +129,11 @@ TEST(PlotOptions, WhatIsNotUnderstoodIsSaid)
         "blank-map --installation i --map m --output o.png --data d",
         "blank-map --installation i --map m --output o.png extra",
         "blank-map --installation i --map m --output o.png --height 0",
+        "blank-map --installation i --map m --output o.png --height 2001",
         "blank-map --installation i --map m --output o.png --height tall",
-        "blank-map --installation i --map m --output o.png --dpi 1e9",
+        "blank-map --installation i --map m --output o.png --dpi 2401",
+        "symbol-diffusion-map --installation i --map m --counts c.ttl --symbols s.htl --output o.png "
+        "--word-form 11",
         "blank-map --installation i --map m --output o.png --colour red",
         "symbols --installation i --map m --output o.png",
         "atlas --installation i --map m --output o.pdf --location above",
