@@ -9,6 +9,7 @@
 #include <QPainter>
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 
 namespace {
@@ -150,6 +151,33 @@ TEST(DrawingPainter, ALineIsAsWideAsItsPen)
             const QImage image = painted(surface.drawing(), scale, {60, 60});
             EXPECT_NEAR(inkOfColumn(image, 20), width * scale / ScreenScale, 0.05) << width << ' ' << scale;
         }
+    }
+}
+
+TEST(DrawingPainter, EachOperationIsPaintedAlone)
+{
+    DrawSurface surface;
+    surface.DrawWidth = 3;
+    surface.FilledBox(30, 30, 240, 240, QBColor(12));
+    surface.Line(30, 307, 300, 307, QBColor(9));
+    surface.Line(600, 607, 870, 607, QBColor(10));
+    for (const auto& [x1, y1, x2, y2] :
+         {std::array{600, 30, 870, 30}, {870, 30, 870, 240}, {870, 240, 600, 30}}) {
+        surface.Line(static_cast<float>(x1), static_cast<float>(y1), static_cast<float>(x2),
+                     static_cast<float>(y2), QBColor(0));
+    }
+    surface.Arc(150, 750, 100, QBColor(5), 0, -1);
+    const QImage image = painted(surface.drawing(), ScreenScale, {60, 60});
+    struct Row
+    {
+        int x;
+        int y;
+        int color;
+    };
+    const Row rows[] = {{9, 9, 12},  {10, 20, 9}, {50, 40, 10}, {30, 30, 15}, {30, 20, 15}, {53, 6, 15},
+                        {58, 10, 0}, {50, 2, 0},  {12, 47, 5},  {14, 50, 15}, {3, 50, 15},  {10, 56, 15}};
+    for (const Row& row : rows) {
+        EXPECT_EQ(image.pixel(row.x, row.y), QBColor(row.color)) << row.x << ' ' << row.y;
     }
 }
 

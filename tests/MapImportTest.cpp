@@ -3,6 +3,7 @@
 #include "mapdata/ImportCommands.h"
 #include "mapdata/MapFiles.h"
 #include "mapdata/MapSearch.h"
+#include "platform/Folder.h"
 #include "tests/ScriptedDialogs.h"
 #include "tests/TestDrive.h"
 
@@ -184,6 +185,21 @@ TEST(MapSearch, AMapIsChosenAsAWholeOrNotAtAll)
     write("Square.sbl", "1\r\n1\r\n1,2,0\r\n3,4\r\n");
     chooseMap(isle, varn, varn);
     EXPECT_EQ(varn.Nsquare, 1);
+}
+
+TEST(MapSearch, AMapIsMadeOfItsFoldersUnderItsName)
+{
+    TestSurvey survey;
+    VarnModule& varn = survey.varn;
+    for (const char* name : {"", " ", "a\\b", "a:", "?"}) {
+        varn.VarnMapName = QLatin1Char('\\') + QLatin1String(name);
+        EXPECT_EQ(errorOf([&] { makeMap(varn); }).number(), ErrorNumber::BadFileName) << name;
+    }
+    varn.VarnMapName = QStringLiteral("\\I");
+    varn.LingFolder = QStringLiteral("\\VarnData\\I\\Ling");
+    makeMap(varn);
+    EXPECT_TRUE(folderExists(varn.Drive, Data + QStringLiteral("I\\Map")));
+    EXPECT_TRUE(folderExists(varn.Drive, Data + QStringLiteral("I\\Ling")));
 }
 
 TEST_F(ImportCommands, FilesAreSavedWhereTheUserSays)
