@@ -160,12 +160,3 @@ TEST(DrawSurface, PicturesHaveTheirNaturalSize)
     EXPECT_NEAR(naturalSize(picture).width(), 1440, 0.2);
     EXPECT_NEAR(naturalSize(picture).height(), 360, 0.2);
 }
-
-TEST(StandardColors, OnlySixteenNumbersAreColors)
-{
-    EXPECT_EQ(QBColor(7), qRgb(192, 192, 192));
-    EXPECT_EQ(QBColor(12), qRgb(255, 0, 0));
-    for (const int number : {-1, 16}) {
-        EXPECT_EQ(errorOf([number] { QBColor(number); }).number(), ErrorNumber::InvalidProcedureCall);
-    }
-}

@@ -151,7 +151,7 @@ TEST(DiffusionPreview, RowsTellWhereTheSymbolIsDrawn)
     EXPECT_EQ(printedAt(surface.drawing(), caption).x(), 1320);
     EXPECT_EQ(printedAt(surface.drawing(), QStringLiteral("Caption")).x(), 1320);
     const auto shapes = transcript(surface.drawing());
-    EXPECT_TRUE(shapes.starts_with("\nbox 0,990 6000,1590 filled #ffdbe9f9"));
+    EXPECT_TRUE(shapes.starts_with("\nbox 0,990 6000,1590 filled #dbe9f9"));
     EXPECT_NE(shapes.find("\nline 0,390 6000,390 pen 1/0/7"), std::string::npos);
     EXPECT_NE(shapes.find("\nellipse 860,690 "), std::string::npos);
 }

@@ -3,6 +3,7 @@
 #include "platform/StandardColors.h"
 
 #include <cmath>
+#include <numbers>
 #include <sstream>
 
 namespace {
@@ -19,7 +20,7 @@ public:
         for (std::size_t i = 0; i < line.points; ++i) {
             place(m_drawing.points[line.firstPoint + i].x(), m_drawing.points[line.firstPoint + i].y());
         }
-        pen(line.pen);
+        look(0, line.pen);
     }
     void operator()(const BoxOperation& box)
     {
@@ -30,39 +31,31 @@ public:
         m_out << "box";
         place(box.x, box.y);
         place(box.x + box.width, box.y + box.height);
-        fill(box.fill);
-        pen(box.pen);
+        look(box.fill, box.pen);
     }
     void operator()(const EllipseOperation& ellipse)
     {
         m_out << "ellipse";
         place(ellipse.x, ellipse.y);
         place(ellipse.halfWidth, ellipse.halfHeight);
-        fill(ellipse.fill);
-        pen(ellipse.pen);
+        look(ellipse.fill, ellipse.pen);
     }
     void operator()(const ArcOperation& arc)
     {
-        constexpr double Degree = 0.017453292519943295;
         m_out << "arc";
         place(arc.x, arc.y);
         place(arc.halfWidth, arc.halfHeight);
-        place(arc.start / Degree, arc.span / Degree);
+        place(arc.start * 180 / std::numbers::pi, arc.span * 180 / std::numbers::pi);
         m_out << (arc.startRadius ? " start" : "") << (arc.endRadius ? " end" : "");
-        fill(arc.fill);
-        pen(arc.pen);
+        look(arc.fill, arc.pen);
     }
     void operator()(const TextOperation& text)
     {
         const TextFont& font = m_drawing.fonts[static_cast<std::size_t>(text.font)];
         m_out << '"' << m_drawing.texts[text.text].toStdString() << '"';
         place(text.x, text.y);
-        m_out << ' ' << font.size << "pt" << (font.bold ? " bold" : "") << (font.italic ? " italic" : "");
-        if (text.color != QBColor(0)) {
-            m_out << " color ";
-            color(text.color);
-        }
-        m_out << '\n';
+        m_out << ' ' << font.size << "pt" << (font.bold ? " bold" : "") << (font.italic ? " italic" : "")
+              << (text.color == QBColor(0) ? "" : " color " + color(text.color)) << '\n';
     }
     void operator()(const PictureOperation& picture)
     {
@@ -81,28 +74,20 @@ private:
 
     void place(double x, double y) { m_out << ' ' << tenths(x) << ',' << tenths(y); }
 
-    void color(QRgb color)
+    static std::string color(QRgb color)
     {
-        for (int number = 0; number <= 15; ++number) {
-            if (QBColor(number) == color) {
-                m_out << number;
-                return;
-            }
+        int number = 0;
+        while (number <= 15 && QBColor(number) != color) {
+            ++number;
         }
-        m_out << '#' << std::hex << color << std::dec;
+        return number <= 15 ? std::to_string(number) : QColor::fromRgb(color).name().toStdString();
     }
-    void fill(QRgb fill)
+
+    void look(QRgb fill, int pen)
     {
-        if (fill != 0) {
-            m_out << " filled ";
-            color(fill);
-        }
-    }
-    void pen(int number)
-    {
-        if (number >= 0) {
-            m_out << " pen " << penAt(number).width << '/' << penAt(number).style << '/';
-            color(penAt(number).color);
+        m_out << (fill == 0 ? "" : " filled " + color(fill));
+        if (pen >= 0) {
+            m_out << " pen " << penAt(pen).width << '/' << penAt(pen).style << '/' << color(penAt(pen).color);
         }
         m_out << '\n';
     }
