@@ -233,6 +233,7 @@ TEST(DrawingPainter, ADotIsAtLeastOneBlackPixel)
                 sum += inkOfColumn(image, x);
             }
             EXPECT_LT(sum, 1.7 * std::max(1.0, pixelRatio * pixelRatio)) << "and no blot";
+            EXPECT_GT(sum, std::max(0.9, pixelRatio * pixelRatio)) << "as large as its outline";
         }
     }
 }
