@@ -42,25 +42,6 @@ TEST(DrawSurface, ConnectedSegmentsOfOnePenAreOneRun)
     EXPECT_EQ(surface.drawing().pens.size(), 2U);
 }
 
-TEST(DrawSurface, TheRadiusIsTheLongerHalfAxis)
-{
-    DrawSurface surface;
-    surface.ScaleLeft = -100;
-    surface.ScaleTop = -50;
-    for (const float aspect : {1.0F, 2.0F, 0.5F}) {
-        surface.Circle(10, 20, 8, QBColor(0), aspect);
-    }
-    const auto circles = operationsOf<EllipseOperation>(surface.drawing());
-    ASSERT_EQ(circles.size(), 3U);
-    EXPECT_EQ(circles[0].x, 110) << "the origin is moved";
-    EXPECT_EQ(circles[0].y, 70);
-    EXPECT_EQ(circles[0].halfWidth, 8);
-    EXPECT_EQ(circles[1].halfWidth, 4);
-    EXPECT_EQ(circles[1].halfHeight, 8);
-    EXPECT_EQ(circles[2].halfWidth, 8);
-    EXPECT_EQ(circles[2].halfHeight, 4);
-}
-
 TEST(DrawSurface, SlicesRunCounterClockwiseAndAreFilled)
 {
     struct Row

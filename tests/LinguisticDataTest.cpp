@@ -122,21 +122,6 @@ TEST(ItemLoader, TheKindsFileIsWrittenOnceAndReadFromThenOn)
     EXPECT_EQ(varn.KindWord(2), QString());
 }
 
-TEST(ItemLoader, AFailedLoadLeavesTheLoadedItem)
-{
-    TestSurvey survey;
-    VarnModule& varn = survey.varn;
-    const QString good = varn.dataFolder() + QStringLiteral("\\good.dbs");
-    const QString bad = varn.dataFolder() + QStringLiteral("\\bad.dbs");
-    survey.write(good, Small);
-    survey.write(bad, "2,\"\",\"Bad\",\"\"\r\n1\r\n\"x\"\r\n");
-    LoadWordData(varn, good, varn, varn);
-    const RunTimeError error = errorOf([&] { LoadWordData(varn, bad, varn, varn); });
-    EXPECT_EQ(error.place().path, bad);
-    EXPECT_EQ(varn.Hanrei, QStringLiteral("Rain"));
-    EXPECT_EQ(varn.NKind, 3);
-}
-
 TEST(ItemLoader, AKindsFileThatIsNoGoodIsNoObstacle)
 {
     TestSurvey survey;
