@@ -58,23 +58,14 @@ line 2696,7988 2696,7738 pen 1/0/0
 
     survey.varn.PlotDots = true;
     survey.frmMap.FillStyle = 1;
-    survey.varn.KanjiXY(3, 1) = 600;
-    survey.varn.ScaleDivisions = 1;
-    DrawBlankMap(survey.varn, survey.surfaces);
+    survey.frmMap.Cls();
+    PlotLocateData(survey.varn, survey.varn, survey.varn, survey.surfaces);
     EXPECT_EQ(survey.frmMap.FillStyle, 1) << "what follows is not filled";
     PlotLocateCircle(survey.varn, survey.varn, survey.frmMap);
     EXPECT_EQ(transcript(survey.frmMap.drawing()), R"(
-line 932,50 9752,50 9752,8870 932,8870 932,50 pen 1/1/1
 ellipse 932,1814 2,2 filled 0 pen 1/0/0
 ellipse 2696,3578 2,2 filled 0 pen 1/0/0
 ellipse 4464.4,5346.4 2,2 filled 0 pen 1/0/0
-"Title" 226.4,319 10pt
-"Town" 3578,4460 10pt
-line 932,5342 2696,5342 pen 1/0/0
-line 932,5342 932,5092 pen 1/0/0
-line 2696,5342 2696,5092 pen 1/0/0
-"0" 982,5042 10pt
-"20 km" 2746,5042 10pt
 ellipse 932,1814 45,45 filled 10 pen 1/0/10
 ellipse 932,1814 75,75 pen 1/0/12
 ellipse 2696,3578 45,45 filled 10 pen 1/0/10
