@@ -3,6 +3,7 @@
 #include "platform/StandardColors.h"
 #include "shell/MapParts.h"
 #include "tests/TestDrive.h"
+#include "tests/Transcript.h"
 
 namespace {
 
@@ -33,85 +34,92 @@ struct CountedSurvey : TestSurvey
 TEST(DiffusionGraphs, BarsRiseByTheShareOfItems)
 {
     CountedSurvey survey;
-    DrawBarGraph(countMapParts(survey.varn), 1, 0, survey.surfaces);
-    const auto boxes = operationsOf<BoxOperation>(survey.drawing());
-    ASSERT_EQ(boxes.size(), 3U) << "two bars and the erased title line";
-    EXPECT_FLOAT_EQ(boxes[0].x, 100 * 8.82F + 50);
-    EXPECT_FLOAT_EQ(boxes[0].width, 50);
-    EXPECT_FLOAT_EQ(boxes[0].y + boxes[0].height, 200 * 8.82F + 50);
-    EXPECT_FLOAT_EQ(boxes[0].height, 200);
-    EXPECT_FLOAT_EQ(boxes[1].height, 80);
-    EXPECT_EQ(boxes[0].fill, QBColor(1)) << "filled with the outline's colour";
-    const QPointF name = printedAt(survey.drawing(), QStringLiteral("form 1"));
-    EXPECT_NEAR(name.x(), 20 * 8.82 + 250, 0.01);
-    EXPECT_NEAR(name.y(), 30 * 8.82 + 50, 0.01);
-    EXPECT_NEAR(printedAt(survey.drawing(), QStringLiteral("No. of Items =10")).y(), 8050, 0.01);
-}
-
-TEST(DiffusionGraphs, LayersHaveALegendLineEach)
-{
-    CountedSurvey survey;
-    drawLayeredGraph(countMapParts(survey.varn), DiffusionGraph::Bar, survey.surfaces);
-    const double y0 = 30 * 8.82 + 50;
-    EXPECT_NEAR(printedAt(survey.drawing(), QStringLiteral("All items")).y(), y0, 0.01);
-    EXPECT_NEAR(printedAt(survey.drawing(), QStringLiteral("form 2")).y(), y0 + 600 + 400, 0.01);
-    EXPECT_EQ(survey.varn.CurrentWordform, 1);
+    DrawBarGraph(survey.varn, 1, 0, survey.surfaces);
+    EXPECT_EQ(transcript(survey.drawing()), R"(
+box 932,1614 982,1814 filled 1 pen 1/0/1
+box 4464.4,5266.4 4514.4,5346.4 filled 1 pen 1/0/1
+white box
+"form 1" 426.4,314.6 10pt
+"No. of Items =10" 226.4,8050 10pt
+)");
+    survey.frmMap.Cls();
+    DrawBarGraph(survey.varn, 1, 1, survey.surfaces);
+    DrawBarGraph(survey.varn, 2, 2, survey.surfaces);
+    EXPECT_EQ(transcript(survey.drawing()), R"(
+box 932,1614 982,1814 filled 1 pen 1/0/1
+box 4464.4,5266.4 4514.4,5346.4 filled 1 pen 1/0/1
+white box
+"All items" 226.4,314.6 10pt
+"form 1" 426.4,914.6 10pt
+box 226.4,914.6 276.4,1114.6 filled 1 pen 1/0/1
+"No. of Items =10" 226.4,8050 10pt
+box 2696,3478 2746,3578 filled 2 pen 1/0/2
+white box
+"All items" 226.4,314.6 10pt
+"form 2" 426.4,1314.6 10pt
+box 226.4,1314.6 276.4,1514.6 filled 2 pen 1/0/2
+)");
 }
 
 TEST(DiffusionGraphs, CirclesGrowByTheShareAndTheScaleSaysHow)
 {
     CountedSurvey survey;
-    DrawCircleGraph(countMapParts(survey.varn), 2, 1, survey.surfaces);
-    const auto circles = operationsOf<EllipseOperation>(survey.drawing());
-    ASSERT_EQ(circles.size(), 3 + 1 + 4U);
-    EXPECT_FLOAT_EQ(circles[0].halfWidth, 0);
-    EXPECT_FLOAT_EQ(circles[1].halfWidth, 50);
-    EXPECT_EQ(circles[1].fill, QBColor(10));
-    EXPECT_FLOAT_EQ(circles[3].halfWidth, 100) << "the legend's sample";
-    for (const char* share : {"25 %", "50 %", "75 %", "100 %"}) {
-        EXPECT_TRUE(wasPrinted(survey.drawing(), QLatin1String(share))) << share;
-    }
-}
-
-TEST(DiffusionGraphs, TheLegendOfTenWordFormsDoesNotCollide)
-{
-    CountedSurvey survey;
+    DrawCircleGraph(survey.varn, 2, 0, survey.surfaces);
+    EXPECT_EQ(transcript(survey.drawing()), R"(
+ellipse 932,1814 0,0 filled 10 pen 1/0/2
+ellipse 2696,3578 50,50 filled 10 pen 1/0/2
+ellipse 4464.4,5346.4 0,0 filled 10 pen 1/0/2
+white box
+ellipse 326.4,1234.6 100,100 filled 10 pen 1/0/2
+"form 2" 526.4,1114.6 10pt
+ellipse 326.4,1684.6 25,25 pen 1/0/0
+"25 %" 526.4,1564.6 10pt
+ellipse 326.4,1984.6 50,50 pen 1/0/0
+"50 %" 526.4,1864.6 10pt
+ellipse 326.4,2284.6 75,75 pen 1/0/0
+"75 %" 526.4,2164.6 10pt
+ellipse 326.4,2584.6 100,100 pen 1/0/0
+"100 %" 526.4,2464.6 10pt
+"No. of Items =10" 226.4,8050 10pt
+)");
+    survey.frmMap.Cls();
     survey.varn.NumWordforms = 10;
-    for (int k = 1; k <= 10; ++k) {
-        survey.varn.WordformName(k) = QStringLiteral("form %1").arg(k);
-    }
-    drawLayeredGraph(countMapParts(survey.varn), DiffusionGraph::Circle, survey.surfaces);
-    std::vector<float> rows;
-    for (const TextOperation& text : operationsOf<TextOperation>(survey.drawing())) {
-        const QString& words = survey.drawing().texts[text.text];
-        if (words.startsWith(QStringLiteral("form")) || words.startsWith(QStringLiteral("No. of"))) {
-            rows.push_back(text.y);
-        }
-    }
-    std::sort(rows.begin(), rows.end());
-    rows.erase(std::unique(rows.begin(), rows.end()), rows.end());
-    ASSERT_EQ(rows.size(), 11U);
-    for (std::size_t i = 1; i < rows.size(); ++i) {
-        EXPECT_GT(rows[i] - rows[i - 1], survey.frmMap.TextHeight());
-    }
-    const auto circles = operationsOf<EllipseOperation>(survey.drawing());
-    ASSERT_EQ(circles.size(), 3 * 10 + 10 + 4U);
-    float above = rows[9] + survey.frmMap.TextHeight();
-    std::size_t scale = 3 + 1; // drawn with the first word form
-    for (const char* share : {"25 %", "50 %", "75 %", "100 %"}) {
-        const EllipseOperation& circle = circles[scale++];
-        EXPECT_FLOAT_EQ(circle.halfHeight, QByteArray(share).chopped(2).toFloat());
-        const QPointF label = printedAt(survey.drawing(), QLatin1String(share));
-        EXPECT_GT(std::min<double>(circle.y - circle.halfHeight, label.y()), above) << share;
-        EXPECT_GT(label.x(), circle.x + circle.halfWidth);
-        above = circle.y + circle.halfHeight;
-    }
-    EXPECT_LT(above, rows.back());
+    survey.varn.WordformName(10) = QStringLiteral("last");
+    DrawCircleGraph(survey.varn, 1, 1, survey.surfaces);
+    DrawCircleGraph(survey.varn, 10, 10, survey.surfaces);
+    EXPECT_EQ(transcript(survey.drawing()), R"(
+ellipse 932,1814 100,100 filled 9 pen 1/0/1
+ellipse 2696,3578 0,0 filled 9 pen 1/0/1
+ellipse 4464.4,5346.4 40,40 filled 9 pen 1/0/1
+white box
+"All items" 226.4,314.6 10pt
+ellipse 326.4,1234.6 100,100 filled 9 pen 1/0/1
+"form 1" 526.4,1114.6 10pt
+ellipse 326.4,4384.6 25,25 pen 1/0/0
+"25 %" 526.4,4264.6 10pt
+ellipse 326.4,4684.6 50,50 pen 1/0/0
+"50 %" 526.4,4564.6 10pt
+ellipse 326.4,4984.6 75,75 pen 1/0/0
+"75 %" 526.4,4864.6 10pt
+ellipse 326.4,5284.6 100,100 pen 1/0/0
+"100 %" 526.4,5164.6 10pt
+"No. of Items =10" 226.4,8050 10pt
+ellipse 932,1814 0,0 filled 0 pen 1/0/0
+ellipse 2696,3578 0,0 filled 0 pen 1/0/0
+ellipse 4464.4,5346.4 0,0 filled 0 pen 1/0/0
+white box
+"All items" 226.4,314.6 10pt
+ellipse 326.4,3934.6 100,100 filled 0 pen 1/0/0
+"last" 526.4,3814.6 10pt
+)") << "the scale stands under ten rows";
 }
 
 TEST(DiffusionGraphs, TheNextCommandDrawsTheNextWordForm)
 {
     CountedSurvey survey;
+    drawLayeredGraph(survey.varn, DiffusionGraph::Circle, survey.surfaces);
+    EXPECT_TRUE(wasPrinted(survey.drawing(), QStringLiteral("form 1")));
+    EXPECT_TRUE(wasPrinted(survey.drawing(), QStringLiteral("form 2")));
     for (const int expected : {1, 2, 1}) {
         EXPECT_EQ(survey.varn.CurrentWordform, expected);
         drawSingleGraph(countMapParts(survey.varn), DiffusionGraph::Circle, survey.varn.CurrentWordform,
@@ -140,12 +148,22 @@ TEST(DiffusionGraphs, SymbolsMarkTheLocalitiesThatReachTheMinimum)
     survey.varn.DiffusionHanko(1) = {49, 0, 0, 0, 1, 0};
     survey.varn.DiffusionCaption(1) = QStringLiteral("often");
     survey.varn.MinimumPoints(1) = 10; // as many as the first locality has
-    DrawHankoMap(countMapParts(survey.varn), 1, 2, survey.surfaces);
-    const auto circles = operationsOf<EllipseOperation>(survey.drawing());
-    ASSERT_EQ(circles.size(), 2U);
-    EXPECT_FLOAT_EQ(circles[0].x, 100 * 8.82F + 50);
-    EXPECT_FLOAT_EQ(circles[1].y, 30 * 8.82F + 600 + 80 + 400);
-    EXPECT_NEAR(printedAt(survey.drawing(), QStringLiteral("often")).y(), 30 * 8.82 + 600 + 400, 0.01);
+    survey.varn.DiffusionHanko(1).LineThick = 1;
+    DrawHankoMap(survey.varn, 1, 2, survey.surfaces);
+    EXPECT_EQ(transcript(survey.drawing()), R"(
+ellipse 932,1814 100,100 pen 3/0/0
+white box
+"often" 376.4,1264.6 10pt
+ellipse 176.4,1344.6 100,100 pen 3/0/0
+)");
+    EXPECT_EQ(survey.frmMap.DrawWidth, 1);
+    survey.frmMap.Cls();
+    DrawHankoMap(survey.varn, 1, 0, survey.surfaces);
+    EXPECT_EQ(transcript(survey.drawing()), R"(
+ellipse 932,1814 100,100 pen 3/0/0
+white box
+)");
+    EXPECT_EQ(survey.frmMap.DrawWidth, 1);
 }
 
 TEST(ContrastMap, CirclesSayWhichSidePrevailsAndByHowMuch)
@@ -161,26 +179,24 @@ TEST(ContrastMap, CirclesSayWhichSidePrevailsAndByHowMuch)
     varn.ContrastPaintColor(2) = 1;
     varn.ContrastSum(0, 1) = 10;
     varn.ContrastSum(0, 2) = -5;
-    DrawRankGraph(countMapParts(varn), survey.surfaces);
-    const auto circles = operationsOf<EllipseOperation>(survey.drawing());
-    ASSERT_EQ(circles.size(), 3 + 5U) << "five steps: 5 / 2 rounds to 2 on either side";
-    EXPECT_FLOAT_EQ(circles[0].x, 100 * 8.82F) << "without the base map's margin";
-    EXPECT_FLOAT_EQ(circles[0].halfWidth, 150);
-    EXPECT_EQ(circles[0].fill, QBColor(4));
-    EXPECT_FLOAT_EQ(circles[1].halfWidth, 75);
-    EXPECT_EQ(circles[1].fill, QBColor(1));
-    EXPECT_EQ(circles[2].fill, QBColor(1)) << "no difference";
-    EXPECT_FLOAT_EQ(circles[3].halfWidth, 150);
-    EXPECT_FLOAT_EQ(circles[6].halfWidth, 75);
-    const double x = 20 * 8.82 + 500;
-    const double y = 30 * 8.82 + 800;
-    const std::pair<const char*, int> rows[] = {
-        {"-100%", -1 + 0}, {"-50%", 0}, {"0%", 1}, {"50%", 2}, {"100%", 3}};
-    for (const auto& [label, row] : rows) {
-        const QPointF at = printedAt(survey.drawing(), QLatin1String(label));
-        EXPECT_NEAR(at.x(), x, 0.01) << label;
-        EXPECT_NEAR(at.y(), y + 400 * row, 0.01) << label;
-    }
+    DrawRankGraph(varn, survey.surfaces);
+    EXPECT_EQ(transcript(survey.drawing()), R"(
+ellipse 882,1764 150,150 filled 4 pen 1/0/12
+ellipse 2646,3528 75,75 filled 1 pen 1/0/9
+ellipse 4414.4,5296.4 0,0 filled 1 pen 1/0/9
+white box
+"1 against 2" 176.4,264.6 10pt
+"-100%" 676.4,664.6 10pt
+ellipse 426.4,784.6 150,150 filled 1 pen 1/0/9
+"-50%" 676.4,1064.6 10pt
+ellipse 426.4,1184.6 75,75 filled 1 pen 1/0/9
+"0%" 676.4,1464.6 10pt
+ellipse 426.4,1584.6 0,0 filled 1 pen 1/0/9
+"50%" 676.4,1864.6 10pt
+ellipse 426.4,1984.6 75,75 filled 4 pen 1/0/12
+"100%" 676.4,2264.6 10pt
+ellipse 426.4,2384.6 150,150 filled 4 pen 1/0/12
+)");
 }
 
 TEST(ContrastMap, LargeCirclesStandClearOfTheLabels)

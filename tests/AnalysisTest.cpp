@@ -1,6 +1,7 @@
 #include "analysis/Accumulation.h"
 #include "analysis/ContrastData.h"
 #include "analysis/CumulativeFile.h"
+#include "analysis/CumulativeTable.h"
 #include "analysis/DiffusionSymbols.h"
 #include "analysis/Statistics.h"
 #include "tests/TestDrive.h"
@@ -171,6 +172,26 @@ TEST(CumulativeTable, NewWordFormsHaveColoursOfTheirOwn)
         EXPECT_EQ(data.WordformSymbolColor(k), data.WordformPaintColor(k));
         colors << data.WordformSymbolColor(k);
     }
+}
+
+TEST(CumulativeTable, ADroppedWordFormComesBackEmpty)
+{
+    CumulativeData data = tableOf({{QStringLiteral("a")}, {}});
+    for (const int j : {1, 1000}) {
+        setNumWordforms(data, 2);
+        data.WordformName(2).clear();
+        EXPECT_FALSE(hasContents(data, 2)) << j;
+        data.Counts(2, j) = 1;
+        EXPECT_TRUE(hasContents(data, 2)) << j;
+        data.WordformExtraInt(2) = 7;
+        data.NumSpecifyChars(2) = 1;
+        setNumWordforms(data, 1);
+        setNumWordforms(data, 2);
+        EXPECT_FALSE(hasContents(data, 2)) << j;
+        EXPECT_EQ(data.WordformExtraInt(2), 0);
+        EXPECT_EQ(data.CurrentWordform, 1);
+    }
+    EXPECT_EQ(data.NumSpecifyChars(1), 1);
 }
 
 TEST(CumulativeFile, AWordFormWithoutStringsMakesTheStringsUnreadable)

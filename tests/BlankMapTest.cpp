@@ -1,11 +1,9 @@
 #include "render/BlankMap.h"
 
-#include "platform/StandardColors.h"
 #include "render/MapSize.h"
 #include "shell/MapParts.h"
 #include "tests/TestDrive.h"
-
-#include <QLineF>
+#include "tests/Transcript.h"
 
 TEST(BlankMap, TheHeightOfTheFormSetsTheScale)
 {
@@ -43,45 +41,39 @@ TEST(BlankMap, LayersAreDrawnAtScaleWithAMargin)
     TestSurvey survey;
     survey.varn.LineStyle(1) = 1;
     survey.varn.LineOffset(1, 0) = 100;
-    DrawBlankMap(blankMapParts(survey.varn), survey.surfaces);
-    const Drawing& drawing = survey.frmMap.drawing();
-    const auto coast = operationsOf<PolylineOperation>(drawing).at(0);
-    EXPECT_EQ(drawing.points[coast.firstPoint + 2], QPointF(1100 * 8.82F + 50, 8870));
-    const LinePen dashedBlue{QBColor(1), 1, 1};
-    EXPECT_EQ(drawing.pens.at(static_cast<std::size_t>(coast.pen)), dashedBlue);
+    DrawBlankMap(survey.varn, survey.surfaces);
+    EXPECT_EQ(transcript(survey.frmMap.drawing()), R"(
+line 932,50 9752,50 9752,8870 932,8870 932,50 pen 1/1/1
+"Title" 226.4,319 10pt
+"Town" 3578,4460 10pt
+line 932,7988 2696,7988 pen 1/0/0
+line 932,7988 932,7738 pen 1/0/0
+line 1373,7988 1373,7904.7 pen 1/0/0
+line 1814,7988 1814,7904.7 pen 1/0/0
+line 2255,7988 2255,7904.7 pen 1/0/0
+line 2696,7988 2696,7738 pen 1/0/0
+"0" 982,7688 10pt
+"20 km" 2746,7688 10pt
+)") << "no dots unless asked for";
     EXPECT_EQ(survey.frmMap.DrawStyle, 0) << "what follows is drawn solid";
-    EXPECT_EQ(printedAt(drawing, QStringLiteral("Town")), QPointF(400 * 8.82F + 50, 500 * 8.82F + 50));
-    EXPECT_TRUE(operationsOf<EllipseOperation>(drawing).empty()) << "no dots unless asked for";
 
     survey.varn.PlotDots = true;
-    DrawBlankMap(blankMapParts(survey.varn), survey.surfaces);
-    const auto dots = operationsOf<EllipseOperation>(survey.frmMap.drawing());
-    ASSERT_EQ(dots.size(), 3U);
-    EXPECT_FLOAT_EQ(dots[1].x, 300 * 8.82F + 50);
-    EXPECT_EQ(dots[1].halfWidth, 2);
-    EXPECT_EQ(dots[1].fill, QBColor(0)) << "a black point";
+    survey.frmMap.FillStyle = 1;
+    survey.frmMap.Cls();
+    PlotLocateData(survey.varn, survey.varn, survey.varn, survey.surfaces);
     EXPECT_EQ(survey.frmMap.FillStyle, 1) << "what follows is not filled";
-}
-
-TEST(BlankMap, TheScaleBarHasATickForEachDivision)
-{
-    TestSurvey survey;
-    DrawBlankMap(blankMapParts(survey.varn), survey.surfaces);
-    const Drawing& drawing = survey.frmMap.drawing();
-    const QPointF left(100 * 8.82 + 50, 900 * 8.82 + 50);
-    const double length = 200 * 8.82;
-    const auto near = [](QPointF a, QPointF b) { return QLineF(a, b).length() < 0.01; };
-    EXPECT_TRUE(near(printedAt(drawing, QStringLiteral("0")), left + QPointF(50, -300)));
-    EXPECT_TRUE(near(printedAt(drawing, QStringLiteral("20 km")), left + QPointF(length + 50, -300)));
-    const auto lines = operationsOf<PolylineOperation>(drawing);
-    ASSERT_EQ(lines.size(), 1U + 1 + 5) << "coast, bar, ticks";
-    for (int i = -1; i <= 4; ++i) {
-        const QPointF* points = &drawing.points[lines[static_cast<std::size_t>(i + 2)].firstPoint];
-        const QPointF foot = i < 0 ? left : left + QPointF(i * length / 4, 0);
-        const QPointF rise = i < 0 ? QPointF(length, 0) : QPointF(0, i == 0 || i == 4 ? -250 : -250.0 / 3);
-        EXPECT_TRUE(near(points[0], foot)) << i;
-        EXPECT_TRUE(near(points[1], foot + rise)) << i;
-    }
+    PlotLocateCircle(survey.varn, survey.varn, survey.frmMap);
+    EXPECT_EQ(transcript(survey.frmMap.drawing()), R"(
+ellipse 932,1814 2,2 filled 0 pen 1/0/0
+ellipse 2696,3578 2,2 filled 0 pen 1/0/0
+ellipse 4464.4,5346.4 2,2 filled 0 pen 1/0/0
+ellipse 932,1814 45,45 filled 10 pen 1/0/10
+ellipse 932,1814 75,75 pen 1/0/12
+ellipse 2696,3578 45,45 filled 10 pen 1/0/10
+ellipse 2696,3578 75,75 pen 1/0/12
+ellipse 4464.4,5346.4 45,45 filled 10 pen 1/0/10
+ellipse 4464.4,5346.4 75,75 pen 1/0/12
+)");
 
     survey.varn.ScaleDivisions = 0;
     EXPECT_EQ(errorOf([&] { DrawBlankMap(blankMapParts(survey.varn), survey.surfaces); }).number(),

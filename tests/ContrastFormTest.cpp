@@ -169,8 +169,10 @@ TEST(ContrastEditor, BoxesBecomeTheSharedValues)
         SetRankData(boxes, contrast);
         EXPECT_EQ(contrast.ContrastSteps, steps);
     }
-    contrast.ContrastSymbolColor(2) = 16;
-    EXPECT_EQ(boxesOf(contrast).setColor(2), -1);
+    for (const auto& [number, box] : {std::pair(-1, -1), {0, 0}, {15, 15}, {16, -1}}) {
+        contrast.ContrastSymbolColor(2) = static_cast<qint16>(number);
+        EXPECT_EQ(boxesOf(contrast).setColor(2), box);
+    }
 }
 
 TEST(ContrastPages, LocalitiesFillColumnsAndPages)

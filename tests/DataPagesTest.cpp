@@ -3,6 +3,8 @@
 #include "lingdata/ItemLoader.h"
 #include "render/ListText.h"
 #include "shell/MapParts.h"
+#include "lingdata/ListText.h"
+#include "platform/StandardColors.h"
 #include "tests/TestDrive.h"
 
 #include <algorithm>
@@ -95,6 +97,18 @@ TEST(DataPages, EveryPageHasItsLinesUnderAHeading)
         EXPECT_TRUE(texts.contains(QStringLiteral("Rain")));
         EXPECT_EQ(texts.contains(QStringLiteral("65")), page == 2);
         EXPECT_FALSE(texts.contains(QStringLiteral("Code"))) << "no word has a code";
+        const auto printed = operationsOf<TextOperation>(target.drawing());
+        for (std::size_t n = 0; n < printed.size(); ++n) {
+            const bool isTitle = texts[static_cast<qsizetype>(n)] == QStringLiteral("No.") ||
+                                 texts[static_cast<qsizetype>(n)] == QStringLiteral("Word");
+            EXPECT_EQ(printed[n].color, QBColor(isTitle ? 8 : 0))
+                << qPrintable(texts[static_cast<qsizetype>(n)]);
+        }
+        const auto rule = operationsOf<PolylineOperation>(target.drawing()).at(0);
+        EXPECT_EQ(target.drawing().points[rule.firstPoint + 1],
+                  QPointF(static_cast<float>(pages.area().width()), 288));
+        EXPECT_EQ(printedAt(target.drawing(), QStringLiteral("Word")).y(), 400);
+        EXPECT_EQ(printedAt(target.drawing(), QStringLiteral("ame")).y(), 760);
     }
 }
 

@@ -42,25 +42,6 @@ TEST(DrawSurface, ConnectedSegmentsOfOnePenAreOneRun)
     EXPECT_EQ(surface.drawing().pens.size(), 2U);
 }
 
-TEST(DrawSurface, TheRadiusIsTheLongerHalfAxis)
-{
-    DrawSurface surface;
-    surface.ScaleLeft = -100;
-    surface.ScaleTop = -50;
-    for (const float aspect : {1.0F, 2.0F, 0.5F}) {
-        surface.Circle(10, 20, 8, QBColor(0), aspect);
-    }
-    const auto circles = operationsOf<EllipseOperation>(surface.drawing());
-    ASSERT_EQ(circles.size(), 3U);
-    EXPECT_EQ(circles[0].x, 110) << "the origin is moved";
-    EXPECT_EQ(circles[0].y, 70);
-    EXPECT_EQ(circles[0].halfWidth, 8);
-    EXPECT_EQ(circles[1].halfWidth, 4);
-    EXPECT_EQ(circles[1].halfHeight, 8);
-    EXPECT_EQ(circles[2].halfWidth, 8);
-    EXPECT_EQ(circles[2].halfHeight, 4);
-}
-
 TEST(DrawSurface, SlicesRunCounterClockwiseAndAreFilled)
 {
     struct Row
@@ -134,6 +115,24 @@ TEST(DrawSurface, PrintMovesThePosition)
     EXPECT_EQ(surface.CurrentY, 0);
 }
 
+TEST(DrawSurface, FontsAreThoseOfTheSurfaceInTwips)
+{
+    DrawSurface surface;
+    surface.FontName = QStringLiteral("Some Sans");
+    surface.FontSize = 12;
+    surface.FontBold = true;
+    surface.Print(QStringLiteral("bold"));
+    surface.FontBold = false;
+    surface.FontItalic = true;
+    surface.Print(QStringLiteral("italic"));
+    for (const int n : {0, 1}) {
+        const QFont font = twipFont(surface.drawing().fonts.at(static_cast<std::size_t>(n)));
+        EXPECT_EQ(font.family(), QStringLiteral("Some Sans"));
+        EXPECT_EQ(font.pixelSize(), 240);
+        EXPECT_EQ(std::pair(font.bold(), font.italic()), std::pair(n == 0, n == 1));
+    }
+}
+
 TEST(DrawSurface, PicturesHaveTheirNaturalSize)
 {
     QImage picture(96, 48, QImage::Format_Grayscale8);
@@ -141,13 +140,4 @@ TEST(DrawSurface, PicturesHaveTheirNaturalSize)
     picture.setDotsPerMeterY(7559); // 192 dpi
     EXPECT_NEAR(naturalSize(picture).width(), 1440, 0.2);
     EXPECT_NEAR(naturalSize(picture).height(), 360, 0.2);
-}
-
-TEST(StandardColors, OnlySixteenNumbersAreColors)
-{
-    EXPECT_EQ(QBColor(7), qRgb(192, 192, 192));
-    EXPECT_EQ(QBColor(12), qRgb(255, 0, 0));
-    for (const int number : {-1, 16}) {
-        EXPECT_EQ(errorOf([number] { QBColor(number); }).number(), ErrorNumber::InvalidProcedureCall);
-    }
 }

@@ -9,6 +9,7 @@
 #include <QPainter>
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 
 namespace {
@@ -153,6 +154,32 @@ TEST(DrawingPainter, ALineIsAsWideAsItsPen)
     }
 }
 
+TEST(DrawingPainter, EachOperationIsPaintedAlone)
+{
+    DrawSurface surface;
+    surface.DrawWidth = 3;
+    surface.FilledBox(30, 30, 240, 240, QBColor(12));
+    surface.Line(30, 307, 300, 307, QBColor(9));
+    surface.Line(600, 607, 870, 607, QBColor(10));
+    for (const auto& [x1, y1, x2, y2] :
+         {std::array{600, 30, 870, 30}, {870, 30, 870, 240}, {870, 240, 600, 30}}) {
+        surface.Line(static_cast<float>(x1), static_cast<float>(y1), static_cast<float>(x2),
+                     static_cast<float>(y2), QBColor(0));
+    }
+    const QImage image = painted(surface.drawing(), ScreenScale, {60, 60});
+    struct Row
+    {
+        int x;
+        int y;
+        int color;
+    };
+    const Row rows[] = {{9, 9, 12},   {10, 20, 9}, {50, 40, 10}, {30, 30, 15},
+                        {30, 20, 15}, {53, 6, 15}, {58, 10, 0},  {50, 2, 0}};
+    for (const Row& row : rows) {
+        EXPECT_EQ(image.pixel(row.x, row.y), QBColor(row.color)) << row.x << ' ' << row.y;
+    }
+}
+
 TEST(DrawingPainter, DashesAndDotsDiffer)
 {
     // Lengths in pen widths: ink, gap, ink ...
@@ -205,6 +232,7 @@ TEST(DrawingPainter, ADotIsAtLeastOneBlackPixel)
                 sum += inkOfColumn(image, x);
             }
             EXPECT_LT(sum, 1.7 * std::max(1.0, pixelRatio * pixelRatio)) << "and no blot";
+            EXPECT_GT(sum, std::max(0.9, pixelRatio * pixelRatio)) << "as large as its outline";
         }
     }
 }

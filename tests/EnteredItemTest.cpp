@@ -20,6 +20,8 @@ TEST(InputKindsFile, TheCountGovernsUpToTheCapacity)
     EXPECT_TRUE(writer.bytes().startsWith("4\r\n\"ame\"\r\n"));
     SequentialReader reader(QString::fromUtf8(writer.bytes()));
     EXPECT_EQ(readInputKinds(reader), kinds);
+    SequentialReader full(QStringLiteral("500\r\n") + QStringLiteral("\"a\"\r\n").repeated(500));
+    EXPECT_EQ(readInputKinds(full).size(), 500);
 
     struct Row
     {

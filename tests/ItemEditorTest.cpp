@@ -4,6 +4,7 @@
 #include "render/LocalityMap.h"
 #include "tests/EnteredWords.h"
 #include "tests/TestDrive.h"
+#include "tests/Transcript.h"
 
 namespace {
 
@@ -285,15 +286,20 @@ TEST(LocalityMap, LocalitiesAreFoundOnPaperThatHoldsThemAll)
     LocalityMap map;
     map.draw(survey.varn);
     ASSERT_EQ(map.localities(), 3);
-    const QRectF paper(0, 0, map.surface().Width, map.surface().Height);
+    const auto dots = operationsOf<EllipseOperation>(map.surface().drawing());
     for (int i = 1; i <= 3; ++i) {
-        EXPECT_TRUE(paper.contains(map.position(i))) << i;
+        const EllipseOperation& dot = dots.at(static_cast<std::size_t>(i - 1));
+        EXPECT_EQ(map.position(i), QPointF(dot.x, dot.y)) << i;
         EXPECT_EQ(map.nearest(map.position(i) + QPointF(20, -20)), i);
     }
-    const double scale = (map.position(2).x() - map.position(1).x()) / 200;
-    EXPECT_NEAR(map.position(2).y() - map.position(1).y(), 200 * scale, 0.1);
-    EXPECT_NEAR(map.position(1).x() - map.position(3).x(), 400 * scale, 0.1);
-    EXPECT_EQ(operationsOf<PolylineOperation>(map.surface().drawing()).size(), 1U);
+    EXPECT_FLOAT_EQ(map.surface().Width, 5883 + 150);
+    EXPECT_FLOAT_EQ(map.surface().Height, 4560 + 150);
+    EXPECT_EQ(transcript(map.surface().drawing()), R"(
+line 1473,150 5883,150 5883,4560 1473,4560 1473,150 pen 1/0/1
+ellipse 1914,1032 18,18 filled 0 pen 1/0/0
+ellipse 2796,1914 18,18 filled 0 pen 1/0/0
+ellipse 150,2798.2 18,18 filled 0 pen 1/0/0
+)");
 
     survey.varn.NLine = 0;
     map.draw(survey.varn);

@@ -21,28 +21,6 @@ QByteArray repeated(const QByteArray& record, int times)
 
 } // namespace
 
-TEST(MapFiles, ASurveysFilesAreLoaded)
-{
-    const TestSurvey survey;
-    const VarnModule& varn = survey.varn;
-    EXPECT_EQ(varn.NLocality, 3);
-    EXPECT_EQ(varn.LocXY(3, 0), 500.5F);
-    EXPECT_EQ(varn.NLine, 1);
-    EXPECT_EQ(varn.LinePoints(1), 5);
-    EXPECT_EQ(varn.MapLineColor(1), 1);
-    EXPECT_EQ(varn.LineXY(1, 3, 1), 1000);
-    EXPECT_EQ(varn.NKanji, 2);
-    EXPECT_EQ(varn.KanjiText(2), QStringLiteral("Town"));
-    EXPECT_EQ(varn.KanjiXY(3, 1), 900) << "the scale bar stands behind the names";
-    EXPECT_EQ(varn.ScaleLabel, QStringLiteral("20 km"));
-    EXPECT_EQ(varn.ScaleDivisions, 4);
-    EXPECT_EQ(varn.HanreiX, 20);
-    EXPECT_EQ(varn.HanreiY, 30) << "30.5 rounds to the even neighbour";
-    EXPECT_EQ(varn.Nsquare, 2);
-    EXPECT_EQ(varn.SquareXY(1, 1, 0), -10) << "vertices are relative to the reference point";
-    EXPECT_EQ(varn.SquareXY(2, 2, 1), 5);
-}
-
 TEST(MapFiles, CountsGovernTheReading)
 {
     SequentialReader none(QStringLiteral("0\r\n"));

@@ -3,6 +3,7 @@
 #include "mapdata/MapFiles.h"
 #include "mapdata/MapSearch.h"
 #include "shell/ImportCommands.h"
+#include "platform/Folder.h"
 #include "tests/ScriptedDialogs.h"
 #include "tests/TestDrive.h"
 
@@ -88,6 +89,7 @@ TEST(MapImport, LocalitiesComeFromFilesAndTables)
         "x\ty\n1.5\t2\tA b\n3\t-4e0\tC\n",
         "  longitude   latitude\n  1.5     2\n 3 -4 village\n",
         "1.5, 2\r3, -4\r",
+        "places\n1.5,2\n3,-4\n",
     };
     for (const QByteArray& text : rows) {
         drive.write(Source, text);
@@ -183,6 +185,21 @@ TEST(MapSearch, AMapIsChosenAsAWholeOrNotAtAll)
     write("Square.sbl", "1\r\n1\r\n1,2,0\r\n3,4\r\n");
     chooseMap(isle, varn, varn);
     EXPECT_EQ(varn.Nsquare, 1);
+}
+
+TEST(MapSearch, AMapIsMadeOfItsFoldersUnderItsName)
+{
+    TestSurvey survey;
+    VarnModule& varn = survey.varn;
+    for (const char* name : {"", " ", "a\\b", "a:", "?"}) {
+        varn.VarnMapName = QLatin1Char('\\') + QLatin1String(name);
+        EXPECT_EQ(errorOf([&] { makeMap(varn); }).number(), ErrorNumber::BadFileName) << name;
+    }
+    varn.VarnMapName = QStringLiteral("\\I");
+    varn.LingFolder = QStringLiteral("\\VarnData\\I\\Ling");
+    makeMap(varn);
+    EXPECT_TRUE(folderExists(varn.Drive, Data + QStringLiteral("I\\Map")));
+    EXPECT_TRUE(folderExists(varn.Drive, Data + QStringLiteral("I\\Ling")));
 }
 
 TEST_F(ImportCommands, FilesAreSavedWhereTheUserSays)

@@ -24,6 +24,10 @@ TEST(Numbers, ResultsOutsideTheirTypeAreErrors)
     for (const double value : {1e39, -infinity, std::nan("")}) {
         EXPECT_EQ(errorOf([value] { toSingle(value); }).number(), ErrorNumber::Overflow) << value;
     }
+    EXPECT_EQ(errorOf([] { toSingle(-1.23456789012e40); }).detail(),
+              QStringLiteral("-1.23456789e+40 is not a single."));
+    EXPECT_EQ(errorOf([] { toInteger(1e9 + 2.25); }).detail(),
+              QStringLiteral("1000000002 is not a 16-bit integer."));
     EXPECT_EQ(errorOf([] { divide(1, 0); }).number(), ErrorNumber::DivisionByZero);
     EXPECT_EQ(errorOf([] { divide(1e308, 1e-308); }).number(), ErrorNumber::Overflow);
     EXPECT_EQ(errorOf([] { integerDivide(1, 0); }).number(), ErrorNumber::DivisionByZero);

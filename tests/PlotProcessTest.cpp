@@ -119,6 +119,7 @@ TEST_F(PlotProcess, EveryCommandWritesItsFile)
             EXPECT_TRUE(read(row.output).contains(row.text)) << row.line;
         }
     }
+    EXPECT_EQ(read("all.ttl"), "1,2,\"All\"\r\n\"am words\"\r\n12,4\r\n0,0\r\n2\r\n0\r\n2\r\n");
     EXPECT_NE(read("map.svg"), read("top.svg")) << "the second word form stands elsewhere";
     expectDone("blank-map --locality-dots --output dots.svg --height 100");
     EXPECT_NE(read("dots.svg"), read("blank.svg"));
@@ -199,6 +200,9 @@ TEST_F(PlotProcess, ErrorsNameTheirFileOnThisMachine)
     expectFailure("statistics --counts all.ttl --output all.stt", 1,
                   {QStringLiteral("at most 400 items, not of 401")});
 
+    write("all.rnk", "\"\",3,100\r\n1\r\n12,4\r\n\"other\",2\r\n0\r\n9,1\r\n");
+    expectFailure("contrast-map --counts all.ttl --contrast all.rnk --output o.svg", 1,
+                  {QStringLiteral("'9': Subscript out of range")});
     write("Map/Loc.map", "1\r\n3e38,1\r\n");
     expectFailure("blank-map --locality-dots --output o.svg", 1,
                   {QStringLiteral("'6': Overflow"), QStringLiteral("too far out")});

@@ -3,6 +3,7 @@
 #include "platform/DrawingPainter.h"
 #include "platform/StandardColors.h"
 #include "tests/TestDrive.h"
+#include "tests/Transcript.h"
 
 #include <QPainter>
 #include <QtMath>
@@ -91,36 +92,96 @@ bool fillUpAlike(int one, int other, int size)
 
 } // namespace
 
-TEST(SymbolShapes, ANumberNamesFamilyDesignSizeAndAspect)
+TEST(SymbolShapes, EveryDesignHasItsLinesAndFillsAndItsNumbers)
 {
-    struct Row
-    {
-        int number;
-        float halfWidth;
-        float halfHeight;
-    };
-    // Plain boxes and circles, and the sector closing the numbering.
-    const Row boxes[] = {{1, 96, 96}, {13, 48, 48}, {25, 96, 48}, {37, 48, 96}};
-    const Row circles[] = {{49, 100, 100}, {60, 50, 50}, {71, 50, 100}, {82, 100, 50}};
-    const Row sectors[] = {{93, 100, 100}, {132, 50, 100}, {133, 100, 50}, {152, 100, 50}};
     TestSurvey survey;
-    for (const Row& row : boxes) {
-        const auto box = operationsOf<BoxOperation>(drawn(survey, symbol(row.number)).drawing()).at(0);
-        EXPECT_FLOAT_EQ(box.width / 2, row.halfWidth) << row.number;
-        EXPECT_FLOAT_EQ(box.height / 2, row.halfHeight) << row.number;
-    }
-    for (const Row& row : circles) {
-        const auto circle = operationsOf<EllipseOperation>(drawn(survey, symbol(row.number)).drawing()).at(0);
-        EXPECT_FLOAT_EQ(circle.halfWidth, row.halfWidth) << row.number;
-        EXPECT_FLOAT_EQ(circle.halfHeight, row.halfHeight) << row.number;
-    }
-    for (const Row& row : sectors) {
-        const auto sector = operationsOf<ArcOperation>(drawn(survey, symbol(row.number)).drawing()).at(0);
-        EXPECT_FLOAT_EQ(sector.halfWidth, row.halfWidth) << row.number;
-        EXPECT_FLOAT_EQ(sector.halfHeight, row.halfHeight) << row.number;
-        EXPECT_TRUE(sector.closed());
-    }
-    EXPECT_EQ(operationsOf<ArcOperation>(drawn(survey, symbol(93)).drawing()).at(0).fill, QBColor(12));
+    const auto drawnAll = [&survey](std::initializer_list<qint16> numbers) {
+        DrawSurface target;
+        SymbolShapes shapes(survey.varn, survey.varn, {target, survey.frmMap});
+        for (const qint16 number : numbers) {
+            shapes.DrawHanko({number, 1, 12, static_cast<qint16>(number % 2), 1, 1}, 0, 0);
+        }
+        return transcript(target.drawing());
+    };
+    EXPECT_EQ(drawnAll({1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12}), R"(
+box -96,-96 96,96 filled 12 pen 3/0/1
+line 0,-96 0,96 pen 3/0/1
+line -96,0 96,0 pen 3/0/1
+line -96,96 96,-96 pen 3/0/1
+line -96,-96 96,96 pen 3/0/1
+box -96,-96 96,96 pen 3/0/1
+line -96,96 96,-96 pen 3/0/1
+line -96,-96 96,96 pen 3/0/1
+box -96,-96 96,96 filled 12 pen 3/0/1
+line 0,-96 0,96 pen 3/0/1
+line -96,0 96,0 pen 3/0/1
+box -96,-96 0,96 filled 1 pen 1/0/1
+box -96,-96 96,96 pen 3/0/1
+box -96,0 96,96 filled 12 pen 1/0/1
+box -96,-96 96,96 pen 3/0/1
+box -38.4,-38.4 38.4,38.4 filled 1 pen 1/0/1
+box -96,-96 96,96 pen 3/0/1
+box -96,-96 96,96 filled 12 pen 3/0/1
+line -96,96 96,-96 pen 3/0/1
+line 0,-96 96,0 0,96 -96,0 0,-96 pen 3/0/1
+line -96,-96 96,-96 -96,96 96,96 -96,-96 pen 3/0/1
+line 0,-103.5 0,103.5 pen 2/0/1
+line -103.5,0 103.5,0 pen 2/0/1
+line -103.5,103.5 103.5,-103.5 pen 2/0/1
+line -103.5,-103.5 103.5,103.5 pen 2/0/1
+)");
+    EXPECT_EQ(drawnAll({49, 50, 51, 52, 53, 54, 55, 56, 57, 58, 59}), R"(
+ellipse 0,0 100,100 pen 3/0/1
+ellipse 0,0 100,100 filled 12 pen 3/0/1
+ellipse 0,0 100,100 pen 3/0/1
+ellipse 0,0 50,50 filled 12 pen 1/0/1
+ellipse 0,0 100,100 pen 3/0/1
+line 0,-100 0,100 pen 3/0/1
+ellipse 0,0 100,100 pen 3/0/1
+line -100,0 100,0 pen 3/0/1
+ellipse 0,0 100,100 pen 3/0/1
+line 0,-100 0,100 pen 3/0/1
+line -100,0 100,0 pen 3/0/1
+ellipse 0,0 100,100 pen 3/0/1
+arc 0,0 100,100 360,180 start end filled 12 pen 3/0/1
+ellipse 0,0 100,100 pen 3/0/1
+arc 0,0 100,100 180,180 start end filled 12 pen 3/0/1
+ellipse 0,0 107.5,107.5 pen 2/0/1
+ellipse 0,0 53.8,53.8 pen 2/0/1
+ellipse 0,0 100,100 pen 3/0/1
+line -70.7,70.7 70.7,-70.7 pen 3/0/1
+ellipse 0,0 100,100 pen 3/0/1
+line -70.7,70.7 70.7,-70.7 pen 3/0/1
+line -70.7,-70.7 70.7,70.7 pen 3/0/1
+)");
+    // The first and the last number of each range.
+    EXPECT_EQ(drawnAll({13, 22, 25, 34, 37, 46, 60, 70, 71, 81, 82, 92, 93, 112, 113, 132, 133, 152}),
+              R"(
+box -55.5,-55.5 55.5,55.5 filled 12 pen 2/0/1
+line 0,-55.5 55.5,0 0,55.5 -55.5,0 0,-55.5 pen 2/0/1
+box -103.5,-55.5 103.5,55.5 filled 12 pen 2/0/1
+line 0,-55.5 103.5,0 0,55.5 -103.5,0 0,-55.5 pen 2/0/1
+box -55.5,-103.5 55.5,103.5 filled 12 pen 2/0/1
+line 0,-103.5 55.5,0 0,103.5 -55.5,0 0,-103.5 pen 2/0/1
+ellipse 0,0 50,50 pen 3/0/1
+ellipse 0,0 57.5,57.5 pen 2/0/1
+line -40.7,40.7 40.7,-40.7 pen 2/0/1
+line -40.7,-40.7 40.7,40.7 pen 2/0/1
+ellipse 0,0 50,100 pen 3/0/1
+ellipse 0,0 57.5,107.5 pen 2/0/1
+line -40.7,76 40.7,-76 pen 2/0/1
+line -40.7,-76 40.7,76 pen 2/0/1
+ellipse 0,0 100,50 pen 3/0/1
+ellipse 0,0 107.5,57.5 pen 2/0/1
+line -76,40.7 76,-40.7 pen 2/0/1
+line -76,-40.7 76,40.7 pen 2/0/1
+arc 0,0 100,100 360,180 start end filled 12 pen 3/0/1
+arc 0,0 100,100 360,270 start end pen 3/0/1
+arc 0,0 50,100 360,180 start end filled 12 pen 3/0/1
+arc 0,0 50,100 360,270 start end pen 3/0/1
+arc 0,0 100,50 360,180 start end filled 12 pen 3/0/1
+arc 0,0 100,50 360,270 start end pen 3/0/1
+)");
 }
 
 TEST(SymbolShapes, SizeAndWidthCodesBeyondTheTablesAreTheLargest)
@@ -128,8 +189,13 @@ TEST(SymbolShapes, SizeAndWidthCodesBeyondTheTablesAreTheLargest)
     TestSurvey survey;
     const std::pair<int, float> sizes[] = {{0, 50}, {1, 100}, {2, 150}, {3, 200}, {7, 200}, {-1, 200}};
     for (const auto& [code, radius] : sizes) {
-        const DrawSurface target = drawn(survey, symbol(49, code));
-        EXPECT_FLOAT_EQ(operationsOf<EllipseOperation>(target.drawing()).at(0).halfWidth, radius) << code;
+        const auto shapeOf = [&](int number, auto shape) {
+            return operationsOf<decltype(shape)>(drawn(survey, symbol(number, code)).drawing()).at(0);
+        };
+        EXPECT_FLOAT_EQ(shapeOf(49, EllipseOperation()).halfWidth, radius) << code;
+        EXPECT_FLOAT_EQ(shapeOf(93, ArcOperation()).halfWidth, radius) << code;
+        EXPECT_FLOAT_EQ(shapeOf(1, BoxOperation()).width, 1.92F * radius) << code;
+        EXPECT_EQ(drawn(survey, symbol(154, code)).drawing().points.back().x(), 300 + 0.6 * radius) << code;
     }
     const std::pair<int, int> widths[] = {{0, 1}, {1, 3}, {2, 5}, {3, 7}, {-1, 7}};
     for (const auto& [code, width] : widths) {

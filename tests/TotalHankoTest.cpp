@@ -7,6 +7,7 @@
 #include "tests/Controls.h"
 #include "tests/ScriptedDialogs.h"
 #include "tests/TestDrive.h"
+#include "tests/Transcript.h"
 
 #include <QAction>
 #include <QCheckBox>
@@ -122,9 +123,37 @@ TEST(DiffusionPreview, RowsTellWhereTheSymbolIsDrawn)
     drawDiffusionPreview(survey.varn, 2, surface);
     EXPECT_TRUE(wasPrinted(surface.drawing(), QStringLiteral("?"))) << "a symbol that does not exist";
     EXPECT_EQ(operationsOf<EllipseOperation>(surface.drawing()).size(), 1U);
-    for (const TextOperation& text : operationsOf<TextOperation>(surface.drawing())) {
-        EXPECT_LE(text.x + surface.TextWidth(surface.drawing().texts[text.text]), surface.Width);
+    const QRgb gray = qRgb(96, 96, 96);
+    const QRgb black = QBColor(0);
+    struct Row
+    {
+        const char* text;
+        QRgb color;
+        float end;
+        float middle;
+    };
+    const Row rows[] = {
+        {"Minimum", gray, 4550, 195},     {"Localities", gray, 5850, 195}, {"1", gray, 400, 690},
+        {"2", gray, 400, 1290},           {"3", black, 4550, 1290},        {"0", black, 5850, 690},
+        {"?", qRgb(176, 0, 0), 935, 1290}};
+    for (const Row& row : rows) {
+        const auto texts = operationsOf<TextOperation>(surface.drawing());
+        EXPECT_TRUE(std::ranges::any_of(texts, [&](const TextOperation& text) {
+            const QString& words = surface.drawing().texts[text.text];
+            return words == QLatin1String(row.text) && text.color == row.color &&
+                   std::abs(text.x + surface.TextWidth(words) - row.end) < 1 &&
+                   std::abs(text.y + surface.TextHeight() / 2 - row.middle) < 1;
+        })) << row.text;
     }
+    const QString caption = surface.drawing().texts.at(4);
+    EXPECT_EQ(caption.endsWith(QStringLiteral("mm...")), anyFont());
+    EXPECT_LE(surface.TextWidth(caption), 4550 - 900 - 1320);
+    EXPECT_EQ(printedAt(surface.drawing(), caption).x(), 1320);
+    EXPECT_EQ(printedAt(surface.drawing(), QStringLiteral("Caption")).x(), 1320);
+    const auto shapes = transcript(surface.drawing());
+    EXPECT_TRUE(shapes.starts_with("\nbox 0,990 6000,1590 filled #dbe9f9"));
+    EXPECT_NE(shapes.find("\nline 0,390 6000,390 pen 1/0/7"), std::string::npos);
+    EXPECT_NE(shapes.find("\nellipse 860,690 "), std::string::npos);
 }
 
 TEST(StatisticsLines, FiguresOfAWordForm)

@@ -1,5 +1,6 @@
 #include "platform/WholeFile.h"
 
+#include "platform/Folder.h"
 #include "tests/TestDrive.h"
 
 #include <QDir>
@@ -25,6 +26,20 @@ TEST(WholeFile, FilesAnywhereHaveAPathOnDriveZ)
     const QString elsewhere = drive.drive().varnPath(QStringLiteral("/etc/passwd"));
     EXPECT_EQ(elsewhere, QStringLiteral("Z:\\etc\\passwd"));
     EXPECT_EQ(drive.drive().hostPath(elsewhere), QStringLiteral("/etc/passwd"));
+}
+
+TEST(Folder, TheNearestOneIsThatOrTheFirstAboveIt)
+{
+    const TestDrive drive;
+    const QString folder = QStringLiteral("C:\\a\\b");
+    EXPECT_EQ(nearestFolder(drive.drive(), folder), drive.root());
+    makeFolder(drive.drive(), folder);
+    drive.write(folder + QStringLiteral("\\file"), "");
+    for (const char* below : {"", "\\c", "\\file", "\\c\\d"}) {
+        EXPECT_EQ(nearestFolder(drive.drive(), folder + QLatin1String(below)),
+                  drive.hostPath(QStringLiteral("a/b")))
+            << below;
+    }
 }
 
 TEST(WholeFile, UnreadableFilesAreErrorsThatNameThem)
@@ -66,6 +81,9 @@ TEST(WholeFile, OnlyFilesAreReadAndReplaced)
         EXPECT_EQ(writing.place().path, path);
         EXPECT_FALSE(fileExists(drive.drive(), path)) << name;
     }
+    EXPECT_EQ(errorOf([&] { readBytes(drive.drive(), QStringLiteral("Z:\\proc\\self\\mem")); }).number(),
+              ErrorNumber::DeviceIOError)
+        << "it can be opened, but nothing is at its start";
     EXPECT_EQ(errorOf([&] { replaceFile(drive.drive(), QStringLiteral("C:\\no\\such.dbs"), "x"); }).number(),
               ErrorNumber::PathNotFound);
 }
