@@ -225,6 +225,13 @@ TEST_F(LoadedCalcForms, StringsAreEditedFromTheKindsAndSaved)
     EXPECT_EQ(survey.read(ling("mine.sum")), "2\r\n1,\"u\"\r\n");
     ASSERT_EQ(dialogs.shown.size(), before + 1);
     EXPECT_TRUE(lastMessage().contains(QStringLiteral("1 one (0 strings)")));
+    for (int strings = 1; strings <= 11; ++strings) {
+        click("cmdSetWord");
+        click("cmdWordSelect");
+        dialogs.shown.clear();
+        click("cmdWordSave");
+        EXPECT_EQ(lastMessage().endsWith(QStringLiteral("\n1 one (11 strings)")), strings == 11) << strings;
+    }
 }
 
 TEST_F(LoadedCalcForms, OnlyUnsavedWorkIsAskedAbout)
@@ -531,27 +538,4 @@ TEST_F(LoadedCalcForms, StatisticsAreShownSavedAndOpened)
     execute("mnuStatsOpen");
     EXPECT_EQ(dialogs.errors.back().title, QStringLiteral("Run-time error '9': Subscript out of range"));
     EXPECT_TRUE(header("Average=1.5"));
-}
-
-TEST_F(CalcForms, EntriesLeadToTheOtherForms)
-{
-    QStringList left;
-    const auto note = [&left](const char* where) { return [&left, where] { left << QLatin1String(where); }; };
-    QObject::connect(&calc, &frmCalc::toMain, &calc, note("main"));
-    QObject::connect(&calc, &frmCalc::toExecute, &calc, note("execute"));
-    QObject::connect(&calc, &frmCalc::toDrawMap, &calc, note("map"));
-    QObject::connect(&calc, &frmCalc::toContrast, &calc, note("contrast"));
-    QObject::connect(&exec, &frmCalExec::toMain, &exec, note("main"));
-    QObject::connect(&exec, &frmCalExec::toAccumulateData, &exec, note("set-up"));
-    QObject::connect(&exec, &frmCalExec::toDrawMap, &exec, note("map"));
-    QObject::connect(&exec, &frmCalExec::toSymbols, &exec, note("symbols"));
-    QObject::connect(&exec, &frmCalExec::toContrast, &exec, note("contrast"));
-    for (const char* entry : {"mnuFileReturn", "mnuTotalForm", "mnuMap", "mnuRankExe"}) {
-        set(entry);
-    }
-    for (const char* entry : {"mnuRankReturn", "mnuReturn", "mnuExecMap", "mnuStatsSymbols", "mnuRankData"}) {
-        execute(entry);
-    }
-    EXPECT_EQ(left.join(QLatin1Char(' ')),
-              QStringLiteral("main execute map contrast main set-up map symbols contrast"));
 }

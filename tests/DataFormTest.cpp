@@ -120,6 +120,8 @@ TEST_F(DataForm, PagesAreTurnedWithinTheirBounds)
     dialogs.inputs = {std::nullopt};
     menu("mnuPageNo").trigger();
     EXPECT_EQ(dialogs.shown.back().text, QStringLiteral("Specify Page No.")) << "cancelled, no message";
+    specifyPage("1");
+    EXPECT_TRUE(statusBegins("Page 1 of 3"));
 }
 
 TEST_F(DataForm, AllPagesArePrintedAsOneDocument)

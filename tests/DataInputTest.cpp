@@ -1,5 +1,6 @@
 #include "lingdata/WordTableView.h"
 #include "lingdata/frmDataInput.h"
+#include "platform/ThemeColors.h"
 #include "platform/WholeFile.h"
 #include "render/LocalityView.h"
 #include "tests/Controls.h"
@@ -188,8 +189,12 @@ TEST_F(DataInput, SaveAsksForANameAndBeforeItOverwrites)
     type(QStringLiteral("ame"));
     save(" ");
     EXPECT_EQ(shown(), std::vector{NoFileName});
+    EXPECT_TRUE(control<QLineEdit>("txtFileName").hasFocus());
+    table().setFocus();
     save("rain", {false});
     EXPECT_EQ(shown(), std::vector{FileExists});
+    EXPECT_TRUE(control<QLineEdit>("txtFileName").hasFocus());
+    EXPECT_EQ(control<QLineEdit>("txtFileName").selectedText(), QStringLiteral("rain")) << "to be replaced";
     EXPECT_EQ(survey.read(rain), before);
     EXPECT_FALSE(fileExists(survey.drive(), Folder + QStringLiteral("rain.ipt")));
     EXPECT_TRUE(form.isWindowModified());
@@ -237,8 +242,11 @@ TEST_F(DataInput, ItemOfAnotherSizeKeepsItsCount)
         EXPECT_EQ(table().model()->rowCount(), localities);
         const auto labels = form.findChildren<QLabel*>();
         const QString warning = QStringLiteral("The item has %1 localities, the map has 3.").arg(localities);
-        EXPECT_TRUE(std::any_of(labels.begin(), labels.end(),
-                                [&](const QLabel* label) { return label->text() == warning; }));
+        const auto isWarning = [&](const QLabel* label) {
+            return label->text() == warning &&
+                   label->palette().color(QPalette::WindowText) == warningText(form.palette());
+        };
+        EXPECT_TRUE(std::any_of(labels.begin(), labels.end(), isWarning));
         table().goTo(localities, 1);
         type(QStringLiteral("x"));
         strike(Qt::Key_Tab);
@@ -269,6 +277,7 @@ TEST_F(DataInput, KindsAreSetDeletedAndPutIntoTheData)
         setKind(QLatin1String(kind));
     }
     EXPECT_EQ(kinds(), QStringList({"b", "a", "\\Q1"}));
+    EXPECT_EQ(form.focusWidget(), &control<QLineEdit>("txtKind")) << "for the next kind";
     auto& list = control<QListWidget>("lstKind");
     list.setCurrentRow(1);
     Q_EMIT list.itemDoubleClicked(list.currentItem());
@@ -305,6 +314,7 @@ TEST_F(DataInput, CheckCodeLeadsToTheFaults)
     ASSERT_TRUE(control<QFrame>("fraCheck").isVisible());
     ASSERT_EQ(list.count(), 2);
     EXPECT_EQ(cell(), std::pair(2, 3));
+    EXPECT_EQ(control<QLabel>("lblFault").palette().color(QPalette::WindowText), warningText(form.palette()));
     list.setCurrentRow(1);
     EXPECT_EQ(cell(), std::pair(3, 1));
     strike(Qt::Key_Delete);

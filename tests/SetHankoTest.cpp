@@ -11,6 +11,7 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QDialogButtonBox>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
@@ -383,9 +384,17 @@ TEST_F(OpenSetHanko, ASymbolIsChosenFromTheCatalogue)
         type("txtHankoNumber", odd);
         click("cmdSymbol");
         EXPECT_EQ(symbols->currentItem()->text(), QStringLiteral("1")) << odd;
-        picker->reject();
+        picker->findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Cancel)->click();
+        EXPECT_FALSE(picker->isVisible());
         EXPECT_EQ(text("txtHankoNumber"), QLatin1String(odd));
     }
+    click("cmdSymbol");
+    QPushButton& ok = *picker->findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok);
+    symbols->setCurrentRow(-1);
+    EXPECT_FALSE(ok.isEnabled());
+    symbols->setCurrentRow(0);
+    ok.click();
+    EXPECT_EQ(text("txtHankoNumber"), QStringLiteral("1"));
     EXPECT_TRUE(dialogs.errors.empty());
 }
 

@@ -260,10 +260,6 @@ TEST_F(TotalHanko, WithoutATableThereIsNothingToSet)
 {
     varn.NumWordforms = 0;
     form.Form_Load();
-    for (const char* entry : {"mnuTotalHankoOpen", "mnuTotalHankoSave", "mnuTotalHankoMap"}) {
-        EXPECT_FALSE(control<QAction>(entry).isEnabled()) << entry;
-    }
-    EXPECT_FALSE(control<QPushButton>("cmdNext").isEnabled());
     type("txtMinimum", "9");
     EXPECT_EQ(varn.MinimumPoints(1), 1);
     fillTable(varn, 10);

@@ -1,0 +1,255 @@
+// What each form tells and greys out, and how its drawings lie on it: with nothing loaded, and with
+// everything.
+
+#include "render/SurfaceView.h"
+#include "tests/EveryWayOut.h"
+
+#include <QLabel>
+#include <QScreen>
+#include <QStatusBar>
+
+namespace {
+
+struct State
+{
+    const char* form;
+    /// As it is read: with a star where something is not saved.
+    const char* title;
+    const char* status;
+    const char* greyed;
+    /// What stands in its boxes and lists.
+    const char* held = "";
+};
+
+QString titleOf(const VarnForm& form)
+{
+    return form.windowTitle().replace(QStringLiteral("[*]"),
+                                      form.isWindowModified() ? QStringLiteral("*") : QString());
+}
+
+/// The labels of the status bar.
+QList<QLabel*> statusLabels(const VarnForm& form)
+{
+    return form.findChild<QStatusBar*>() != nullptr ? form.statusBar()->findChildren<QLabel*>()
+                                                    : QList<QLabel*>();
+}
+
+QString statusOf(const VarnForm& form)
+{
+    QStringList texts;
+    for (const QLabel* label : statusLabels(form)) {
+        texts << label->text();
+    }
+    if (const auto* bar = form.findChild<QStatusBar*>()) {
+        texts << bar->currentMessage();
+    }
+    texts.removeAll(QString());
+    return texts.join(QStringLiteral(" / "));
+}
+
+QString greyedOf(const VarnForm& form)
+{
+    QStringList names;
+    for (const auto& [name, way] : waysOut(form)) {
+        if (!way->property("enabled").toBool()) {
+            names << name;
+        }
+    }
+    return names.join(QLatin1Char(' '));
+}
+
+/// The boxes and lists that can be seen and hold something, with what they hold.
+QString heldBy(const VarnForm& form)
+{
+    QStringList held;
+    for (const QString& line : shownOn(form)) {
+        const QString name = line.section(QLatin1Char('='), 0, 0);
+        const bool isBox = name.startsWith(QLatin1String("txt")) || name.startsWith(QLatin1String("cbo"));
+        if ((isBox || name.startsWith(QLatin1String("lst"), Qt::CaseInsensitive)) &&
+            name.size() + 1 < line.size()) {
+            held << line;
+        }
+    }
+    return held.join(QLatin1Char(' '));
+}
+
+/// The rectangle of what `counts` in `picture`.
+template <typename Counts>
+QRect extent(const QImage& picture, const QRect& area, Counts counts)
+{
+    QRect found;
+    for (int y = area.top(); y <= area.bottom(); ++y) {
+        for (int x = area.left(); x <= area.right(); ++x) {
+            found |= counts(picture.pixelColor(x, y)) ? QRect(x, y, 1, 1) : QRect();
+        }
+    }
+    return found;
+}
+
+/// The white paper on a view, and what is drawn within its frame.
+std::pair<QRect, QRect> paperAndInk(SurfaceView& view)
+{
+    const QImage picture = view.grab().toImage();
+    const auto isWhite = [](const QColor& color) { return color == Qt::white; };
+    const QRect paper = extent(picture, picture.rect(), isWhite);
+    return {paper, extent(picture, paper.adjusted(2, 2, -2, -2), std::not_fn(isWhite))};
+}
+
+} // namespace
+
+class FormStates : public EveryWayOut
+{
+protected:
+    static void expectStates(const std::vector<State>& states)
+    {
+        for (const State& state : states) {
+            const VarnForm& form = formNamed(QLatin1String(state.form));
+            showOnly(QLatin1String(state.form));
+            EXPECT_EQ(titleOf(form), QLatin1String(state.title));
+            EXPECT_EQ(statusOf(form), QLatin1String(state.status)) << state.form;
+            EXPECT_EQ(greyedOf(form), QLatin1String(state.greyed)) << state.form;
+            EXPECT_EQ(heldBy(form), QLatin1String(state.held)) << state.form;
+        }
+    }
+
+    /// Everything is displayed.
+    void display()
+    {
+        open();
+        trigger<frmCalExec>("mnuDisplay");
+        trigger<frmRankData>("mnuDisplayRank");
+        press<frmTotalHanko>("cmdStatistics");
+        Program::menu("mnuMapLing").trigger();
+    }
+
+    static SurfaceView& view(const char* form, const char* name)
+    {
+        showOnly(QLatin1String(form));
+        return child<SurfaceView>(formNamed(QLatin1String(form)), name);
+    }
+};
+
+TEST_F(FormStates, WithNothingLoaded)
+{
+    program = std::make_unique<Program>(survey);
+    start(*program);
+    for (const char* button : {"cmdMap", "cmdRegMap", "cmdInputData", "cmdData", "cmdHanko", "cmdSumUp"}) {
+        program->click(button);
+    }
+    trigger<frmCalc>("mnuTotalForm");
+    trigger<frmCalExec>("mnuStatsSymbols");
+    trigger<frmCalc>("mnuRankExe");
+    EXPECT_EQ(view("frmData", "picPage").size(), QSize(1030, 720));
+    expectStates({
+        {"frmMain", "VARN - Test", "", "", "txtVarnPath=C:\\Varn62E\\Varn txtVarnMapName=Test"},
+        {"frmMap", "VARN Map - Test", "No linguistic file loaded    |    No symbol file loaded",
+         "mnuMapLing mnuRank mnuTotalBar mnuTotalCircle mnuTotalHanko mnuTotalSBar mnuTotalSCircle"},
+        {"frmChizu", "Set Map Data and Draw Blank Map - Test", "", "",
+         "txtMapName=Test txtPathName=C:\\Varn62E\\Varn"},
+        {"frmDataInput", "VARN Input Linguistic Data - Test", "0 of 3 localities answered, 0 word forms",
+         "mnuAddLocalities mnuRedo mnuUndo"},
+        {"frmData", "VARN Display Data - Test", "",
+         "mnuData mnuKind mnuNextPage mnuPageNo mnuPreviousPage mnuPrint mnuSave"},
+        {"frmSetHanko", "Set Symbols for Kinds - Test",
+         "No linguistic file loaded    |    Symbols: new set (0 records)",
+         "cmdBefore mnuHankoInit mnuLoadMap mnuRedo mnuSaveHanko mnuUndo",
+         "cboColor=Black cboBack=Black cboSize=Normal cboWidth=Normal"},
+        {"frmCalc", "Accumulate Data - Test",
+         "Open a cumulative file, or type the number of word forms and press O.K.",
+         "cmdNext cmdPrevious cmdSet cmdSetWord cmdWordBefore cmdWordDelete cmdWordNext cmdWordReset "
+         "cmdWordRewrite cmdWordSave cmdWordSelect",
+         "txtTotalItems=0 cboForeColor=Black cboFillColor=Black"},
+        {"frmCalExec", "Execution of Cumulative Analysis - Test",
+         "No cumulative data: open it in Accumulate Data    |    No linguistic file loaded",
+         "mnuDisplay mnuDisplayNext mnuDisplayPrevious mnuItemNext mnuItemPrevious mnuStatsDisplay "
+         "mnuStatsDisplayAll mnuStatsExec mnuStatsSave"},
+        {"frmRankData", "Analysis for Contrast Map - Test",
+         "No cumulative data: open it in the form Accumulate Data",
+         "cmdCalc cmdData1 cmdData2 cmdDel1 cmdDel2 mnuDisplayNext mnuDisplayPrevious mnuDisplayRank "
+         "mnuRankMap mnuRankOpen",
+         "txtStep=6 txtSize=150"},
+        {"frmTotalHanko", "Set Symbols for Diffusion Map - Test",
+         "No cumulative data: open it in the form Accumulate Data",
+         "cmdBefore cmdNext cmdStatistics cmdSymbol mnuTotalHankoMap mnuTotalHankoOpen mnuTotalHankoSave",
+         "cboColor=Black cboBack=Black cboSize=Small cboWidth=Thin"},
+    });
+}
+
+TEST_F(FormStates, WithEverythingDisplayed)
+{
+    display();
+    expectStates({
+        {"frmMap", "VARN Map - Test - rain.dbs - rain.han",
+         "Item: Rain (3 localities)    |    Symbols: rain.han (2 captions)", ""},
+        {"frmData", "VARN Display Data - Test - rain.dbs - Data", "Page 1 of 1    |    Word forms: 3",
+         "mnuNextPage mnuPreviousPage"},
+        {"frmSetHanko", "Set Symbols for Kinds - Test - rain.dbs - rain.han",
+         "Item: Rain (2 kinds)    |    Symbols: rain.han (2 records)", "mnuRedo mnuUndo",
+         "lstKindWord=1 ame,2 uyu txtWord=uyu txtHanrei=UYU txtHankoNumber=49 cboColor=Red cboBack=Black "
+         "cboSize=Normal cboWidth=Normal"},
+        {"frmCalc", "Accumulate Data - Test - all.ttl",
+         "Counts of 2 word forms over 5 items    |    Strings: all.sum", "cmdPrevious cmdWordBefore",
+         "txtTotalNumber=2 txtTotalItems=5 txtExplain=the caption txtTotalFileName=all lstTotal=1 one,2 two "
+         "txtTotalName=one cboForeColor=L.Red cboFillColor=L.Blue txtWordFileName=rain.dbs lstDisplay=1 "
+         "ame,2 uyu txtInputWord=a LstWord=a,am txtSetFileName=all"},
+        {"frmCalExec", "Execution of Cumulative Analysis - Test - all.ttl",
+         "Wordform 1 one    |    Page 1 of 1    |    Counts of 2 word forms over 5 items    |    "
+         "Item: rain.dbs",
+         ""},
+        {"frmRankData", "Analysis for Contrast Map - Test*",
+         "Cumulative data: 2 word forms, 5 items    |    Analysed    |    Page 1 of 1",
+         "mnuDisplayNext mnuDisplayPrevious",
+         "lstWordList=one,two lstData1=one lstData2=two txtStep=6 txtSize=150 txtSetColor1=L.Red "
+         "txtFillColor1=L.Red txtSetColor2=L.Blue txtFillColor2=L.Blue"},
+        {"frmTotalHanko", "Set Symbols for Diffusion Map - Test",
+         "Word form 1 of 2    |    5 items, 3 localities", "cmdBefore",
+         "lstWordform=one,two txtHanrei=one txtHankoNumber=1 cboColor=L.Red cboBack=L.Blue cboSize=Normal "
+         "cboWidth=Thin txtMinimum=1"},
+    });
+    for (QWidget* window : QApplication::topLevelWidgets()) {
+        const auto* form = qobject_cast<VarnForm*>(window);
+        for (const QLabel* label : form != nullptr ? statusLabels(*form) : QList<QLabel*>()) {
+            EXPECT_EQ(label->textFormat(), Qt::PlainText) << "a file name is no markup";
+            EXPECT_EQ(label->contentsMargins(), QMargins(8, 0, 8, 0));
+        }
+    }
+}
+
+TEST_F(FormStates, DrawingsLieOnTheirPaper)
+{
+    display();
+    EXPECT_EQ(view("frmMap", "picMap").size(), QSize(800, 600));
+    EXPECT_EQ(view("frmCalExec", "picPage").minimumSize(), QSize(573, 293));
+    const QRect result = paperAndInk(view("frmRankData", "picRank")).first;
+    EXPECT_NEAR(1.0 * result.height() / result.width(), 442.0 / 420, 0.01);
+    for (const char* form : {"frmSetHanko", "frmTotalHanko"}) {
+        SurfaceView& sample = view(form, "picSample");
+        const QRect symbol = paperAndInk(sample).second;
+        EXPECT_GT(symbol.width(), 12) << form;
+        EXPECT_LE((symbol.center() - sample.rect().center()).manhattanLength(), 2) << form;
+    }
+    const std::tuple<const char*, const char*, int> margins[] = {{"frmData", "picPage", 20},
+                                                                 {"frmTotalHanko", "picStatistics", 8}};
+    for (const auto& [form, name, margin] : margins) {
+        const auto [paper, ink] = paperAndInk(view(form, name));
+        EXPECT_EQ(paper, view(form, name).rect()) << form;
+        EXPECT_NEAR(ink.left(), margin, 2) << form;
+        EXPECT_NEAR(ink.top(), margin, 5) << form;
+    }
+}
+
+TEST_F(FormStates, TheMapFormBeginsInTheCornerOfTheScreenAndItsPlaceCounts)
+{
+    program = std::make_unique<Program>(survey);
+    const QPoint corner = Program::map().screen()->availableGeometry().topLeft();
+    EXPECT_EQ(corner, QPoint(100, 50));
+    EXPECT_EQ(Program::map().pos(), corner);
+    const std::tuple<QPoint, float, float> places[] = {
+        {{0, 0}, 0, 0}, {{-30, -30}, 0, 0}, {{30, 20}, 450, 300}, {{150, 0}, 2250, 0}};
+    for (const auto& [place, left, top] : places) {
+        Program::map().move(corner + place);
+        const DrawSurface& surface = Program::map().surfaces().frmMap;
+        EXPECT_EQ(surface.Left, left);
+        EXPECT_EQ(surface.Top, top);
+    }
+}
