@@ -2,9 +2,13 @@
 // everything.
 
 #include "render/SurfaceView.h"
+#include "render/WordDelegate.h"
 #include "tests/EveryWayOut.h"
+#include "tests/Pixels.h"
 
+#include <QComboBox>
 #include <QLabel>
+#include <QRegularExpression>
 #include <QScreen>
 #include <QStatusBar>
 
@@ -73,19 +77,6 @@ QString heldBy(const VarnForm& form)
     return held.join(QLatin1Char(' '));
 }
 
-/// The rectangle of what `counts` in `picture`.
-template <typename Counts>
-QRect extent(const QImage& picture, const QRect& area, Counts counts)
-{
-    QRect found;
-    for (int y = area.top(); y <= area.bottom(); ++y) {
-        for (int x = area.left(); x <= area.right(); ++x) {
-            found |= counts(picture.pixelColor(x, y)) ? QRect(x, y, 1, 1) : QRect();
-        }
-    }
-    return found;
-}
-
 /// The white paper on a view, and what is drawn within its frame.
 std::pair<QRect, QRect> paperAndInk(SurfaceView& view)
 {
@@ -140,6 +131,14 @@ TEST_F(FormStates, WithNothingLoaded)
     trigger<frmCalExec>("mnuStatsSymbols");
     trigger<frmCalc>("mnuRankExe");
     EXPECT_EQ(view("frmData", "picPage").size(), QSize(1030, 720));
+    const std::pair<const char*, const char*> empty[] = {
+        {"frmMain", "picPreview"},     {"frmChizu", "picMap"},
+        {"frmData", "picPage"},        {"frmSetHanko", "picHanrei"},
+        {"frmCalExec", "picPage"},     {"frmRankData", "picRank"},
+        {"frmTotalHanko", "picHanko"}, {"frmTotalHanko", "picStatistics"}};
+    for (const auto& [form, name] : empty) {
+        EXPECT_FALSE(paperAndInk(view(form, name)).second.isEmpty()) << form << " tells what will be shown";
+    }
     expectStates({
         {"frmMain", "VARN - Test", "", "", "txtVarnPath=C:\\Varn62E\\Varn txtVarnMapName=Test"},
         {"frmMap", "VARN Map - Test", "No linguistic file loaded    |    No symbol file loaded",
@@ -206,13 +205,47 @@ TEST_F(FormStates, WithEverythingDisplayed)
          "lstWordform=one,two txtHanrei=one txtHankoNumber=1 cboColor=L.Red cboBack=L.Blue cboSize=Normal "
          "cboWidth=Thin txtMinimum=1"},
     });
+}
+
+TEST_F(FormStates, ControlsOfOneKindAreMadeAlike)
+{
+    display();
+    int lists = 0;
+    int colors = 0;
     for (QWidget* window : QApplication::topLevelWidgets()) {
         const auto* form = qobject_cast<VarnForm*>(window);
-        for (const QLabel* label : form != nullptr ? statusLabels(*form) : QList<QLabel*>()) {
+        if (form == nullptr) {
+            continue;
+        }
+        for (const QLabel* label : statusLabels(*form)) {
             EXPECT_EQ(label->textFormat(), Qt::PlainText) << "a file name is no markup";
             EXPECT_EQ(label->contentsMargins(), QMargins(8, 0, 8, 0));
         }
+        for (const QLineEdit* box : form->findChildren<QLineEdit*>()) {
+            const QPalette& palette = box->palette();
+            EXPECT_EQ(palette.color(QPalette::Base) == palette.color(QPalette::Window), box->isReadOnly())
+                << qPrintable(box->objectName());
+        }
+        for (const QListWidget* list : form->findChildren<QListWidget*>()) {
+            const bool hasWords = list->objectName() != QLatin1String("lstCheck") && list->window() == form;
+            EXPECT_EQ(qobject_cast<WordDelegate*>(list->itemDelegate()) != nullptr, hasWords)
+                << qPrintable(list->objectName());
+            lists += hasWords ? 1 : 0;
+        }
+        for (const QComboBox* box : form->findChildren<QComboBox*>(QRegularExpression("Color|cboBack"))) {
+            EXPECT_EQ(box->count(), 16) << qPrintable(box->objectName());
+            ++colors;
+        }
+        for (const auto& [name, texts] :
+             {std::pair("cboSize", "Small,Normal,Large"), {"cboWidth", "Thin,Normal,Thick"}}) {
+            if (const auto* box = form->findChild<QComboBox*>(QLatin1String(name))) {
+                EXPECT_EQ(box->itemText(0) + ',' + box->itemText(1) + ',' + box->itemText(2),
+                          QLatin1String(texts));
+            }
+        }
     }
+    EXPECT_EQ(lists, 9);
+    EXPECT_EQ(colors, 10);
 }
 
 TEST_F(FormStates, DrawingsLieOnTheirPaper)
