@@ -122,7 +122,8 @@ TEST_F(Chizu, AMapIsChosenByAnyOfItsFilesAndRegistered)
         EXPECT_EQ(text("txtMapName"), name);
         EXPECT_EQ(text("txtPathName"), QStringLiteral("C:\\Varn62E\\Varn"));
         EXPECT_EQ(varn.LingFolder, QStringLiteral("\\VarnData\\%1\\Ling").arg(name));
-        EXPECT_TRUE(wasPrinted(drawing(), QStringLiteral("C:\\Varn62E\\Varn")));
+        const QPointF path = printedAt(drawing(), QStringLiteral("C:\\Varn62E\\Varn"));
+        EXPECT_EQ(path, QPointF(50, 9000 - 200)) << "in the lower left corner";
         EXPECT_EQ(survey.read(mapChoiceFile()),
                   "\"C:\\Varn62E\\Varn\",\"\\" + name.toLatin1() + "\",\"Times\",10,#TRUE#,#FALSE#,-1.5\r\n");
     }

@@ -211,13 +211,22 @@ TEST_F(DataInput, SaveAsksForANameAndBeforeItOverwrites)
 
 TEST_F(DataInput, OpenWarnsAndReadsTheItemWithItsKinds)
 {
-    open("rain.dbs");
+    table().goTo(2, 2);
+    type(QStringLiteral("a\\Q1"));
+    click("cmdCheckCode");
+    control<QLineEdit>("txtKind").setText(QStringLiteral("k"));
+    shown();
+    open("rain.dbs", {true});
     EXPECT_EQ(shown(), (std::vector{OpenWarning, OpenDialog}));
     EXPECT_EQ(word(1, 2), QStringLiteral("ame"));
     EXPECT_EQ(control<QLineEdit>("txtFileName").text(), QStringLiteral("rain"));
     EXPECT_EQ(control<QLineEdit>("txtHanrei").text(), QStringLiteral("Rain"));
     EXPECT_EQ(control<QPlainTextEdit>("txtComment").toPlainText(), QStringLiteral("from 1950"));
     EXPECT_EQ(kinds(), QStringList({"ame", "uyu"}));
+    EXPECT_EQ(control<QLineEdit>("txtKind").text(), QString());
+    EXPECT_FALSE(control<QFrame>("fraCheck").isVisible());
+    EXPECT_EQ(cell(), std::pair(1, 1));
+    EXPECT_TRUE(table().hasFocus());
     EXPECT_FALSE(form.isWindowModified());
     EXPECT_EQ(survey.varn.NLocate, 0) << "the item that the other forms have loaded is another one";
 

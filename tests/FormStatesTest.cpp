@@ -1,6 +1,7 @@
 // What each form tells and greys out, and how its drawings lie on it: with nothing loaded, and with
 // everything.
 
+#include "analysis/StatisticsPages.h"
 #include "render/SurfaceView.h"
 #include "render/WordDelegate.h"
 #include "tests/EveryWayOut.h"
@@ -10,6 +11,8 @@
 #include <QLabel>
 #include <QRegularExpression>
 #include <QScreen>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QStatusBar>
 
 namespace {
@@ -264,10 +267,45 @@ TEST_F(FormStates, DrawingsLieOnTheirPaper)
     const std::tuple<const char*, const char*, int> margins[] = {{"frmData", "picPage", 20},
                                                                  {"frmTotalHanko", "picStatistics", 8}};
     for (const auto& [form, name, margin] : margins) {
-        const auto [paper, ink] = paperAndInk(view(form, name));
-        EXPECT_EQ(paper, view(form, name).rect()) << form;
+        const QRect ink = paperAndInk(view(form, name)).second;
         EXPECT_NEAR(ink.left(), margin, 2) << form;
         EXPECT_NEAR(ink.top(), margin, 5) << form;
+    }
+    const std::tuple<const char*, const char*, int> growing[] = {{"frmSetHanko", "picHanrei", 466},
+                                                                 {"frmTotalHanko", "picHanko", 436},
+                                                                 {"frmTotalHanko", "picStatistics", 136}};
+    for (const auto& [form, name, least] : growing) {
+        SurfaceView& growingView = view(form, name);
+        EXPECT_EQ(growingView.minimumHeight(), least) << name;
+        growingView.resize(growingView.width() + 50, growingView.height() + 30);
+        EXPECT_EQ(paperAndInk(growingView).first, growingView.rect()) << name << ": paper to its edges";
+    }
+    const std::pair<const char*, QSizeF> results[] = {
+        {"mnuStatsExec", StatisticsPages::tableArea(5)},
+        {"mnuStatsDisplayAll", StatisticsPages::overviewArea()}};
+    for (const auto& [entry, area] : results) {
+        trigger<frmCalExec>(entry);
+        EXPECT_EQ(view("frmCalExec", "picPage").minimumSize(),
+                  ((area + QSizeF(600, 600)) / TwipsPerPixel).toSize())
+            << entry;
+    }
+}
+
+TEST_F(FormStates, ANewPageIsShownFromItsTop)
+{
+    display();
+    const std::pair<const char*, const char*> forms[] = {{"frmData", "mnuKind"},
+                                                         {"frmCalExec", "mnuDisplay"}};
+    for (const auto& [name, entry] : forms) {
+        showOnly(QLatin1String(name));
+        VarnForm& form = formNamed(QLatin1String(name));
+        form.resize(400, 200);
+        QApplication::processEvents();
+        QScrollBar& bar = *child<QScrollArea>(form, "scrPage").verticalScrollBar();
+        bar.setValue(50);
+        ASSERT_EQ(bar.value(), 50) << name;
+        child<QAction>(form, entry).trigger();
+        EXPECT_EQ(bar.value(), 0) << name;
     }
 }
 

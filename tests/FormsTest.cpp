@@ -176,6 +176,7 @@ TEST_F(Forms, MapNameAndDriveFileAreThereBeforeTheNameIsAskedFor)
 
 TEST_F(StartedForms, CheckMapNameDrawsThePreviewAndAsks)
 {
+    const QImage empty = child<SurfaceView>(program.main, "picPreview").grab().toImage();
     program.dialogs.yesNo = {false};
     program.click("cmdMapName");
     EXPECT_GT(program.varn.Scale, 0);
@@ -183,6 +184,14 @@ TEST_F(StartedForms, CheckMapNameDrawsThePreviewAndAsks)
               (Shown{QStringLiteral("Is this a right map name ? "), QStringLiteral("Map Name")}));
     EXPECT_EQ(child<QLineEdit>(program.main, "txtVarnMapName").text(), QStringLiteral("Test"));
     EXPECT_TRUE(program.drawing().operations.empty()) << "the preview is the main form's own drawing";
+    auto& preview = child<SurfaceView>(program.main, "picPreview");
+    const QImage drawn = preview.grab().toImage();
+    EXPECT_NE(drawn, empty);
+    program.dialogs.yesNo = {true};
+    program.click("cmdMapName");
+    EXPECT_EQ(preview.grab().toImage(), drawn) << "drawn anew";
+    program.click("cmdRegMap");
+    EXPECT_EQ(preview.grab().toImage(), empty) << "another map may be chosen";
     EXPECT_EQ(program.varn.DrawTarget, &program.map().surface());
 }
 
@@ -230,6 +239,10 @@ TEST_F(StartedForms, PositionPanelShowsUntilTheNextDrawing)
     for (const char* draw : {"mnuMapBlank", "mnuHanrei", "mnuSymbols", "mnuHankoList"}) {
         program.menu("mnuHpos").trigger();
         EXPECT_TRUE(panel.isVisible()) << draw;
+        const QRect map = child<QWidget>(program.map(), "picMap").visibleRegion().boundingRect();
+        EXPECT_EQ(panel.geometry().top(), map.top() + 12);
+        EXPECT_NEAR(panel.geometry().right(), map.right() - 12, 1);
+        EXPECT_EQ(program.map().focusWidget(), &child<QWidget>(panel, "optHankoCenter"));
         program.menu(draw).trigger();
         EXPECT_FALSE(panel.isVisible()) << draw;
     }
@@ -374,6 +387,7 @@ TEST_F(Forms, ClosingAsksForUnsavedWorkOfHiddenFormsAndKeepsNoneThatWasGivenUp)
         program.main.show();
         EXPECT_FALSE(program.main.close());
         EXPECT_TRUE(program.main.close());
+        QApplication::processEvents(); // nothing is kept any more
     }
     Program program(survey);
     start(program);

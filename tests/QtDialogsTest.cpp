@@ -157,6 +157,7 @@ TEST_F(DialogsOfTheDesktop, MessagesAndErrorsShowTheirTexts)
                              EXPECT_EQ(box.text(), QStringLiteral("Run-time error '53': File not found"));
                              EXPECT_EQ(box.informativeText(), QStringLiteral("File: C:\\a\nLine 2"));
                              EXPECT_EQ(box.icon(), QMessageBox::Critical);
+                             EXPECT_EQ(box.windowTitle(), QStringLiteral("VARN"));
                              const int line =
                                  box.fontMetrics().horizontalAdvance(QStringLiteral("File: C:\\a"));
                              EXPECT_GT(box.width(), line) << "the path stays on its line";
@@ -174,6 +175,8 @@ TEST_F(DialogsOfTheDesktop, ATextIsTypedOverTheProposedOne)
             auto& box = dynamic_cast<QInputDialog&>(dialog);
             EXPECT_EQ(box.labelText(), QStringLiteral("two\nlines"));
             EXPECT_EQ(box.textValue(), QStringLiteral("old"));
+            EXPECT_EQ(box.windowTitle(), QStringLiteral("title"));
+            EXPECT_GE(box.width(), 360) << "room for a name";
             box.setTextValue(text);
             key(last)(dialog);
         };
@@ -259,6 +262,7 @@ TEST_F(DialogsOfTheDesktop, OnlyWhatExistsIsOpened)
                          press(QMessageBox::Ok), key(Qt::Key_Escape),
                          [&](QDialog& dialog) {
                              EXPECT_EQ(dynamic_cast<QFileDialog&>(dialog).directory().path(), ling);
+                             EXPECT_EQ(dialog.windowTitle(), QStringLiteral("Folder"));
                              key(Qt::Key_Escape)(dialog);
                          },
                          [&](QDialog& dialog) {

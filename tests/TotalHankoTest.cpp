@@ -16,6 +16,7 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
+#include <QValidator>
 
 namespace {
 
@@ -173,6 +174,13 @@ TEST_F(TotalHanko, WhatIsEditedIsStoredForTheWordFormShown)
     EXPECT_EQ(varn.MinimumPoints(2), 3);
     type("txtMinimum", "");
     EXPECT_EQ(varn.MinimumPoints(2), 0);
+    for (const char* box : {"txtMinimum", "txtHankoNumber"}) {
+        int position = 0;
+        for (const char* typed : {"-1", "a", "99999"}) {
+            QString text = QLatin1String(typed);
+            EXPECT_NE(control<QLineEdit>(box).validator()->validate(text, position), QValidator::Acceptable);
+        }
+    }
 
     control<QListWidget>("lstWordform").setCurrentRow(0);
     EXPECT_EQ(text("txtHankoNumber"), QStringLiteral("1"));
