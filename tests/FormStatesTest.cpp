@@ -224,6 +224,12 @@ TEST_F(FormStates, ControlsOfOneKindAreMadeAlike)
             EXPECT_EQ(label->textFormat(), Qt::PlainText) << "a file name is no markup";
             EXPECT_EQ(label->contentsMargins(), QMargins(8, 0, 8, 0));
         }
+        if (const auto* scroll = qobject_cast<QScrollArea*>(form->centralWidget());
+            scroll != nullptr && scroll->objectName().isEmpty()) { // a small screen
+            EXPECT_FALSE(scroll->accessibleName().isEmpty());
+            EXPECT_EQ(scroll->frameShape(), QFrame::NoFrame);
+            EXPECT_TRUE(scroll->widgetResizable());
+        }
         for (const QLineEdit* box : form->findChildren<QLineEdit*>()) {
             const QPalette& palette = box->palette();
             EXPECT_EQ(palette.color(QPalette::Base) == palette.color(QPalette::Window), box->isReadOnly())
@@ -307,6 +313,42 @@ TEST_F(FormStates, ANewPageIsShownFromItsTop)
         child<QAction>(form, entry).trigger();
         EXPECT_EQ(bar.value(), 0) << name;
     }
+}
+
+TEST_F(FormStates, WhatIsChosenAndTypedStaysWhenAFormComesBackToTheFront)
+{
+    display();
+    int rows = 0;
+    for (QWidget* window : QApplication::topLevelWidgets()) {
+        const auto* form = qobject_cast<VarnForm*>(window);
+        if (form == nullptr) {
+            continue;
+        }
+        showOnly(QLatin1String(form->metaObject()->className()));
+        const auto chosen = [form] {
+            QStringList found = {heldBy(*form)};
+            for (const QListWidget* list : form->findChildren<QListWidget*>()) {
+                found << list->objectName() + QString::number(list->currentRow());
+            }
+            return found;
+        };
+        for (QListWidget* list : form->findChildren<QListWidget*>()) {
+            list->setCurrentRow(list->count() - 1);
+            rows += list->count();
+        }
+        QApplication::processEvents();
+        for (const char* box : {"txtInputWord", "txtWord", "txtKind", "txtTotalName", "txtRankTitle"}) {
+            if (auto* typed = form->findChild<QLineEdit*>(QLatin1String(box))) {
+                typed->setText(QStringLiteral("typed"));
+            }
+        }
+        const QStringList before = chosen();
+        QEvent activated(QEvent::WindowActivate);
+        QApplication::sendEvent(window, &activated);
+        QApplication::processEvents();
+        EXPECT_EQ(chosen(), before) << form->metaObject()->className();
+    }
+    EXPECT_GT(rows, 10);
 }
 
 TEST_F(FormStates, TheMapFormBeginsInTheCornerOfTheScreenAndItsPlaceCounts)

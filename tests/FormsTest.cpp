@@ -223,7 +223,10 @@ TEST_F(StartedForms, AFailedOrCancelledLoadChangesNothing)
     program.load("mnuHankoInput", "rain.han");
     program.load("mnuInputWord", "gone.dbs");
     ASSERT_EQ(program.dialogs.errors.size(), 1U);
-    EXPECT_TRUE(program.dialogs.errors[0].text.contains(QStringLiteral("Ling\\gone.dbs")));
+    const QString path = VarnPath + QStringLiteral("\\VarnData\\Test\\Ling\\gone.dbs");
+    EXPECT_TRUE(program.dialogs.errors[0].text.contains(path));
+    EXPECT_TRUE(program.dialogs.errors[0].text.endsWith(QStringLiteral("\nOn this machine: ") +
+                                                        DriveC().hostPath(path)));
     program.dialogs.files = {std::nullopt};
     program.menu("mnuInputWord").trigger();
     EXPECT_EQ(program.varn.Hanrei, QStringLiteral("Rain"));

@@ -184,6 +184,9 @@ TEST_F(LoadedProgram, TheMapFormInFrontShowsWhatOtherFormsChanged)
 
 TEST_F(LoadedProgram, TheTabKeyGoesFromTheMapToThePrintSwitch)
 {
+    EXPECT_EQ(printSwitch().accessibleDescription(), QStringLiteral("Turn printing on or off"));
+    EXPECT_EQ(printSwitch().toolTip(), printSwitch().accessibleDescription());
+    EXPECT_TRUE(printSwitch().isFlat());
     QStringList visited;
     const QWidget* const map = program.map().findChild<QWidget*>(QStringLiteral("scrMap"));
     const QWidget* widget = map;

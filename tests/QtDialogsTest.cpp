@@ -14,6 +14,8 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QPrintDialog>
+#include <QPrinter>
 #include <QPushButton>
 #include <QTimer>
 
@@ -293,4 +295,44 @@ TEST_F(DialogsOfTheDesktop, AFontThatIsNotInstalledKeepsItsNameUntilAnotherIsCho
     EXPECT_EQ(dialogs.chooseFont(missing), missing);
     EXPECT_EQ(dialogs.chooseFont(missing), (TextFont{missing.name, 18, true, true}));
     EXPECT_EQ(dialogs.chooseFont(missing), std::nullopt);
+}
+
+TEST_F(DialogsOfTheDesktop, ThePrinterDialogShowsThePageAndGivesBackWhatIsChosen)
+{
+    PageLayout layout;
+    layout.PaperOrientation = 2;
+    layout.LeftMargin = 31;
+    layout.TopMargin = 32;
+    layout.RightMargin = 33;
+    layout.BottomMargin = 34;
+    const auto look = [](QDialog& dialog) {
+        auto& print = dynamic_cast<QPrintDialog&>(dialog);
+        const QPageLayout page = print.printer()->pageLayout();
+        EXPECT_EQ(page.pageSize().id(), QPageSize::A4);
+        EXPECT_EQ(page.orientation(), QPageLayout::Landscape);
+        EXPECT_EQ(page.margins(QPageLayout::Millimeter), QMarginsF(31, 32, 33, 34));
+        EXPECT_FALSE(print.testOption(QAbstractPrintDialog::PrintPageRange)) << "a map is one page";
+    };
+    const Person person({[&](QDialog& dialog) {
+                             look(dialog);
+                             key(Qt::Key_Escape)(dialog);
+                         },
+                         [&](QDialog& dialog) {
+                             look(dialog);
+                             QPrinter& printer = *dynamic_cast<QPrintDialog&>(dialog).printer();
+                             printer.setOutputFileName(folder.hostPath(QStringLiteral("map.pdf")));
+                             printer.setPageOrientation(QPageLayout::Portrait);
+                             dialog.done(QDialog::Accepted);
+                         }});
+    EXPECT_EQ(dialogs.choosePrinter(layout), nullptr);
+    const auto printer = dialogs.choosePrinter(layout);
+    ASSERT_NE(printer, nullptr);
+    PageLayout chosen = layout;
+    printer->takeChoices(chosen);
+    EXPECT_EQ(chosen.PaperOrientation, 1);
+    EXPECT_EQ(chosen.LeftMargin, 31);
+    DrawSurface page;
+    page.Box(0, 0, 500, 500, qRgb(0, 0, 0));
+    printer->print({QStringLiteral("Island"), 1, {page.drawing()}});
+    EXPECT_TRUE(folder.read(QStringLiteral("C:\\map.pdf")).startsWith("%PDF"));
 }
