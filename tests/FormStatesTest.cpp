@@ -208,6 +208,19 @@ TEST_F(FormStates, WithEverythingDisplayed)
          "lstWordform=one,two txtHanrei=one txtHankoNumber=1 cboColor=L.Red cboBack=L.Blue cboSize=Normal "
          "cboWidth=Thin txtMinimum=1"},
     });
+    const char* const title = "Execution of Cumulative Analysis - Test - all.ttl";
+    const char* const noPages = "mnuDisplayNext mnuDisplayPrevious";
+    trigger<frmCalExec>("mnuStatsDisplayAll");
+    expectStates({{"frmCalExec", title, "Statistics of 5 items", noPages}});
+    trigger<frmCalExec>("mnuStatsExec");
+    expectStates({{"frmCalExec", title,
+                   "Wordform 1 one    |    Columns: count, localities with at least that, with exactly that"
+                   "    |    Statistics of 5 items",
+                   noPages}});
+    program->varn.Counts(1, 1) += 1;
+    trigger<frmCalExec>("mnuStatsDisplayAll");
+    expectStates({{"frmCalExec", title, "Statistics of 5 items    |    The counts are others now",
+                   "mnuDisplayNext mnuDisplayPrevious mnuStatsSave"}});
 }
 
 TEST_F(FormStates, ControlsOfOneKindAreMadeAlike)
