@@ -80,14 +80,7 @@ protected:
         calc.Form_Load();
         exec.Form_Load();
     }
-    QStringList listed(const char* list)
-    {
-        QStringList entries;
-        for (int row = 0; row < control<QListWidget>(list).count(); ++row) {
-            entries << control<QListWidget>(list).item(row)->text();
-        }
-        return entries;
-    }
+    QStringList listed(const char* list) { return rowsOf(control<QListWidget>(list)); }
     /// The last message; its title is not part of what is fixed.
     QString lastMessage() { return dialogs.shown.empty() ? QString() : dialogs.shown.back().text; }
     const Drawing& drawing() const { return exec.surface().drawing(); }

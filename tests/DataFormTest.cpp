@@ -62,8 +62,6 @@ protected:
 
 TEST_F(DataForm, AnItemIsOpenedForAllForms)
 {
-    EXPECT_FALSE(menu("mnuSave").isEnabled());
-    EXPECT_FALSE(menu("mnuPrint").isEnabled());
     int signalled = 0;
     QObject::connect(&form, &frmData::itemLoaded, [&signalled] { ++signalled; });
     open("rain.dbs");

@@ -62,14 +62,7 @@ protected:
     }
     std::pair<int, int> cell() { return {table().locality(), table().column()}; }
 
-    QStringList kinds()
-    {
-        QStringList found;
-        for (int i = 0; i < control<QListWidget>("lstKind").count(); ++i) {
-            found << control<QListWidget>("lstKind").item(i)->text();
-        }
-        return found;
-    }
+    QStringList kinds() { return rowsOf(control<QListWidget>("lstKind")); }
 
     static void strikeIn(QWidget& target, Qt::Key key, const QString& text = {},
                          Qt::KeyboardModifiers modifiers = {})

@@ -65,13 +65,15 @@ QString greyedOf(const VarnForm& form)
     return names.join(QLatin1Char(' '));
 }
 
-/// The boxes and lists that can be seen and hold something, with what they hold.
+/// The boxes, counters and lists that can be seen and hold something, with what they hold.
 QString heldBy(const VarnForm& form)
 {
+    const QStringList counters = {"lblRec", "lblTotal", "lblStrings", "lblWordNumber", "lblCell"};
     QStringList held;
     for (const QString& line : shownOn(form)) {
         const QString name = line.section(QLatin1Char('='), 0, 0);
-        const bool isBox = name.startsWith(QLatin1String("txt")) || name.startsWith(QLatin1String("cbo"));
+        const bool isBox = name.startsWith(QLatin1String("txt")) || name.startsWith(QLatin1String("cbo")) ||
+                           counters.contains(name);
         if ((isBox || name.startsWith(QLatin1String("lst"), Qt::CaseInsensitive)) &&
             name.size() + 1 < line.size()) {
             held << line;
@@ -99,10 +101,10 @@ protected:
         for (const State& state : states) {
             const VarnForm& form = formNamed(QLatin1String(state.form));
             showOnly(QLatin1String(state.form));
-            EXPECT_EQ(titleOf(form), QLatin1String(state.title));
-            EXPECT_EQ(statusOf(form), QLatin1String(state.status)) << state.form;
-            EXPECT_EQ(greyedOf(form), QLatin1String(state.greyed)) << state.form;
-            EXPECT_EQ(heldBy(form), QLatin1String(state.held)) << state.form;
+            EXPECT_EQ(titleOf(form).toStdString(), state.title);
+            EXPECT_EQ(statusOf(form).toStdString(), state.status) << state.form;
+            EXPECT_EQ(greyedOf(form).toStdString(), state.greyed) << state.form;
+            EXPECT_EQ(heldBy(form).toStdString(), state.held) << state.form;
         }
     }
 
@@ -149,18 +151,19 @@ TEST_F(FormStates, WithNothingLoaded)
         {"frmChizu", "Set Map Data and Draw Blank Map - Test", "", "",
          "txtMapName=Test txtPathName=C:\\Varn62E\\Varn"},
         {"frmDataInput", "VARN Input Linguistic Data - Test", "0 of 3 localities answered, 0 word forms",
-         "mnuAddLocalities mnuRedo mnuUndo"},
+         "mnuAddLocalities mnuRedo mnuUndo", "lblCell=Locality 1, word 1"},
         {"frmData", "VARN Display Data - Test", "",
          "mnuData mnuKind mnuNextPage mnuPageNo mnuPreviousPage mnuPrint mnuSave"},
         {"frmSetHanko", "Set Symbols for Kinds - Test",
          "No linguistic file loaded    |    Symbols: new set (0 records)",
          "cmdBefore mnuHankoInit mnuLoadMap mnuRedo mnuSaveHanko mnuUndo",
-         "cboColor=Black cboBack=Black cboSize=Normal cboWidth=Normal"},
+         "lblRec=1/New cboColor=Black cboBack=Black cboSize=Normal cboWidth=Normal"},
         {"frmCalc", "Accumulate Data - Test",
          "Open a cumulative file, or type the number of word forms and press O.K.",
          "cmdNext cmdPrevious cmdSet cmdSetWord cmdWordBefore cmdWordDelete cmdWordNext cmdWordReset "
          "cmdWordRewrite cmdWordSave cmdWordSelect",
-         "txtTotalItems=0 cboForeColor=Black cboFillColor=Black"},
+         "txtTotalItems=0 lblTotal=No wordforms cboForeColor=Black cboFillColor=Black lblWordNumber=No kinds "
+         "of words lblStrings=Strings of wordform 1: 0"},
         {"frmCalExec", "Execution of Cumulative Analysis - Test",
          "No cumulative data: open it in Accumulate Data    |    No linguistic file loaded",
          "mnuDisplay mnuDisplayNext mnuDisplayPrevious mnuItemNext mnuItemPrevious mnuStatsDisplay "
@@ -187,13 +190,15 @@ TEST_F(FormStates, WithEverythingDisplayed)
          "mnuNextPage mnuPreviousPage"},
         {"frmSetHanko", "Set Symbols for Kinds - Test - rain.dbs - rain.han",
          "Item: Rain (2 kinds)    |    Symbols: rain.han (2 records)", "mnuRedo mnuUndo",
-         "lstKindWord=1 ame,2 uyu txtWord=uyu txtHanrei=UYU txtHankoNumber=49 cboColor=Red cboBack=Black "
+         "lstKindWord=1 ame,2 uyu lblRec=2/2 txtWord=uyu txtHanrei=UYU txtHankoNumber=49 cboColor=Red "
+         "cboBack=Black "
          "cboSize=Normal cboWidth=Normal"},
         {"frmCalc", "Accumulate Data - Test - all.ttl",
          "Counts of 2 word forms over 5 items    |    Strings: all.sum", "cmdPrevious cmdWordBefore",
          "txtTotalNumber=2 txtTotalItems=5 txtExplain=the caption txtTotalFileName=all lstTotal=1 one,2 two "
-         "txtTotalName=one cboForeColor=L.Red cboFillColor=L.Blue txtWordFileName=rain.dbs lstDisplay=1 "
-         "ame,2 uyu txtInputWord=a LstWord=a,am txtSetFileName=all"},
+         "lblTotal=Wordform 1 of 2 txtTotalName=one cboForeColor=L.Red cboFillColor=L.Blue "
+         "txtWordFileName=rain.dbs lblWordNumber=Kind of word 1 of 2 lstDisplay=1 "
+         "ame,2 uyu txtInputWord=a lblStrings=Strings of wordform 1: 2 LstWord=a,am txtSetFileName=all"},
         {"frmCalExec", "Execution of Cumulative Analysis - Test - all.ttl",
          "Wordform 1 one    |    Page 1 of 1    |    Counts of 2 word forms over 5 items    |    "
          "Item: rain.dbs",

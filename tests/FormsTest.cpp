@@ -413,7 +413,7 @@ TEST_F(StartedForms, AChangeOfMapIsSeenInAllForms)
 {
     const QString isle = VarnPath + QStringLiteral("\\VarnData\\Isle\\Map\\");
     survey.write(isle + QStringLiteral("Loc.map"), "1\r\n7,8\r\n");
-    survey.write(isle + QStringLiteral("Line.map"), "1\r\n0,2,0,0,0,0\r\n0,0\r\n800,1000\r\n");
+    survey.write(isle + QStringLiteral("Line.map"), "0\r\n");
     survey.write(isle + QStringLiteral("kanji.map"), "0\r\n1,2\r\n\"km\",1,100\r\n");
     program.load("mnuInputWord", "rain.dbs");
     program.load("mnuHankoInput", "rain.han");

@@ -50,12 +50,7 @@ protected:
     template <typename Form>
     static QStringList list(const char* name)
     {
-        auto& widget = control<Form, QListWidget>(name);
-        QStringList entries;
-        for (int i = 0; i < widget.count(); ++i) {
-            entries << widget.item(i)->text();
-        }
-        return entries;
+        return rowsOf(control<Form, QListWidget>(name));
     }
 };
 
