@@ -80,9 +80,14 @@ TEST_F(LoadedProgram, TheSwitchSendsEveryDrawingToThePrinter)
     EXPECT_TRUE(wasPrinted(documents[1].at(0), QStringLiteral("1")));
     EXPECT_EQ(documents[1].name, QStringLiteral("Test - Symbols"));
 
+    program.varn.VarnMapName.clear();
+    program.menu("mnuHankoList").trigger();
+    ASSERT_EQ(documents.size(), 3U);
+    EXPECT_EQ(documents[2].name, QStringLiteral("Symbols")) << "no name, no dash";
+
     printSwitch().click();
     program.menu("mnuMapLing").trigger();
-    EXPECT_EQ(documents.size(), 2U);
+    EXPECT_EQ(documents.size(), 3U);
     EXPECT_TRUE(wasPrinted(program.drawing(), QStringLiteral("UYU")));
 }
 
