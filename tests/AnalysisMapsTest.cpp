@@ -34,7 +34,7 @@ struct CountedSurvey : TestSurvey
 TEST(DiffusionGraphs, BarsRiseByTheShareOfItems)
 {
     CountedSurvey survey;
-    DrawBarGraph(survey.varn, 1, 0, survey.surfaces);
+    DrawBarGraph(countMapParts(survey.varn), 1, 0, survey.surfaces);
     EXPECT_EQ(transcript(survey.drawing()), R"(
 box 932,1614 982,1814 filled 1 pen 1/0/1
 box 4464.4,5266.4 4514.4,5346.4 filled 1 pen 1/0/1
@@ -43,8 +43,8 @@ white box
 "No. of Items =10" 226.4,8050 10pt
 )");
     survey.frmMap.Cls();
-    DrawBarGraph(survey.varn, 1, 1, survey.surfaces);
-    DrawBarGraph(survey.varn, 2, 2, survey.surfaces);
+    DrawBarGraph(countMapParts(survey.varn), 1, 1, survey.surfaces);
+    DrawBarGraph(countMapParts(survey.varn), 2, 2, survey.surfaces);
     EXPECT_EQ(transcript(survey.drawing()), R"(
 box 932,1614 982,1814 filled 1 pen 1/0/1
 box 4464.4,5266.4 4514.4,5346.4 filled 1 pen 1/0/1
@@ -64,7 +64,7 @@ box 226.4,1314.6 276.4,1514.6 filled 2 pen 1/0/2
 TEST(DiffusionGraphs, CirclesGrowByTheShareAndTheScaleSaysHow)
 {
     CountedSurvey survey;
-    DrawCircleGraph(survey.varn, 2, 0, survey.surfaces);
+    DrawCircleGraph(countMapParts(survey.varn), 2, 0, survey.surfaces);
     EXPECT_EQ(transcript(survey.drawing()), R"(
 ellipse 932,1814 0,0 filled 10 pen 1/0/2
 ellipse 2696,3578 50,50 filled 10 pen 1/0/2
@@ -85,8 +85,8 @@ ellipse 326.4,2584.6 100,100 pen 1/0/0
     survey.frmMap.Cls();
     survey.varn.NumWordforms = 10;
     survey.varn.WordformName(10) = QStringLiteral("last");
-    DrawCircleGraph(survey.varn, 1, 1, survey.surfaces);
-    DrawCircleGraph(survey.varn, 10, 10, survey.surfaces);
+    DrawCircleGraph(countMapParts(survey.varn), 1, 1, survey.surfaces);
+    DrawCircleGraph(countMapParts(survey.varn), 10, 10, survey.surfaces);
     EXPECT_EQ(transcript(survey.drawing()), R"(
 ellipse 932,1814 100,100 filled 9 pen 1/0/1
 ellipse 2696,3578 0,0 filled 9 pen 1/0/1
@@ -117,7 +117,7 @@ ellipse 326.4,3934.6 100,100 filled 0 pen 1/0/0
 TEST(DiffusionGraphs, TheNextCommandDrawsTheNextWordForm)
 {
     CountedSurvey survey;
-    drawLayeredGraph(survey.varn, DiffusionGraph::Circle, survey.surfaces);
+    drawLayeredGraph(countMapParts(survey.varn), DiffusionGraph::Circle, survey.surfaces);
     EXPECT_TRUE(wasPrinted(survey.drawing(), QStringLiteral("form 1")));
     EXPECT_TRUE(wasPrinted(survey.drawing(), QStringLiteral("form 2")));
     for (const int expected : {1, 2, 1}) {
@@ -149,7 +149,7 @@ TEST(DiffusionGraphs, SymbolsMarkTheLocalitiesThatReachTheMinimum)
     survey.varn.DiffusionCaption(1) = QStringLiteral("often");
     survey.varn.MinimumPoints(1) = 10; // as many as the first locality has
     survey.varn.DiffusionHanko(1).LineThick = 1;
-    DrawHankoMap(survey.varn, 1, 2, survey.surfaces);
+    DrawHankoMap(countMapParts(survey.varn), 1, 2, survey.surfaces);
     EXPECT_EQ(transcript(survey.drawing()), R"(
 ellipse 932,1814 100,100 pen 3/0/0
 white box
@@ -158,7 +158,7 @@ ellipse 176.4,1344.6 100,100 pen 3/0/0
 )");
     EXPECT_EQ(survey.frmMap.DrawWidth, 1);
     survey.frmMap.Cls();
-    DrawHankoMap(survey.varn, 1, 0, survey.surfaces);
+    DrawHankoMap(countMapParts(survey.varn), 1, 0, survey.surfaces);
     EXPECT_EQ(transcript(survey.drawing()), R"(
 ellipse 932,1814 100,100 pen 3/0/0
 white box
@@ -179,7 +179,7 @@ TEST(ContrastMap, CirclesSayWhichSidePrevailsAndByHowMuch)
     varn.ContrastPaintColor(2) = 1;
     varn.ContrastSum(0, 1) = 10;
     varn.ContrastSum(0, 2) = -5;
-    DrawRankGraph(varn, survey.surfaces);
+    DrawRankGraph(countMapParts(varn), survey.surfaces);
     EXPECT_EQ(transcript(survey.drawing()), R"(
 ellipse 882,1764 150,150 filled 4 pen 1/0/12
 ellipse 2646,3528 75,75 filled 1 pen 1/0/9

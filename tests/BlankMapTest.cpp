@@ -41,7 +41,7 @@ TEST(BlankMap, LayersAreDrawnAtScaleWithAMargin)
     TestSurvey survey;
     survey.varn.LineStyle(1) = 1;
     survey.varn.LineOffset(1, 0) = 100;
-    DrawBlankMap(survey.varn, survey.surfaces);
+    DrawBlankMap(blankMapParts(survey.varn), survey.surfaces);
     EXPECT_EQ(transcript(survey.frmMap.drawing()), R"(
 line 932,50 9752,50 9752,8870 932,8870 932,50 pen 1/1/1
 "Title" 226.4,319 10pt

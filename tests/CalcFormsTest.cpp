@@ -80,14 +80,7 @@ protected:
         calc.Form_Load();
         exec.Form_Load();
     }
-    QStringList listed(const char* list)
-    {
-        QStringList entries;
-        for (int row = 0; row < control<QListWidget>(list).count(); ++row) {
-            entries << control<QListWidget>(list).item(row)->text();
-        }
-        return entries;
-    }
+    QStringList listed(const char* list) { return rowsOf(control<QListWidget>(list)); }
     /// The last message; its title is not part of what is fixed.
     QString lastMessage() { return dialogs.shown.empty() ? QString() : dialogs.shown.back().text; }
     const Drawing& drawing() const { return exec.surface().drawing(); }
@@ -160,18 +153,6 @@ TEST_F(CalcForms, ANewTableIsSetUpAndSavedAndReadAgain)
 
 TEST_F(LoadedCalcForms, TablesStringsAndItemAreShown)
 {
-    EXPECT_EQ(text("txtTotalNumber"), QStringLiteral("2"));
-    EXPECT_EQ(text("txtTotalItems"), QStringLiteral("5"));
-    EXPECT_EQ(text("txtExplain"), QStringLiteral("the caption"));
-    EXPECT_EQ(text("txtTotalFileName"), QStringLiteral("all"));
-    EXPECT_EQ(text("txtTotalName"), QStringLiteral("one"));
-    EXPECT_EQ(control<QComboBox>("cboForeColor").currentText(), QStringLiteral("L.Red"));
-    EXPECT_EQ(listed("LstWord"), QStringList({QStringLiteral("a"), QStringLiteral("am")}));
-    EXPECT_EQ(text("txtWordFileName"), QStringLiteral("rain.dbs"));
-    EXPECT_EQ(listed("lstDisplay"),
-              QStringList({QStringLiteral("1 a mu"), QStringLiteral("2 ame"), QStringLiteral("3 uyu")}));
-    EXPECT_FALSE(calc.isWindowModified());
-
     control<QListWidget>("lstTotal").setCurrentRow(1);
     QApplication::processEvents();
     EXPECT_EQ(text("txtTotalName"), QStringLiteral("two"));
@@ -225,6 +206,13 @@ TEST_F(LoadedCalcForms, StringsAreEditedFromTheKindsAndSaved)
     EXPECT_EQ(survey.read(ling("mine.sum")), "2\r\n1,\"u\"\r\n");
     ASSERT_EQ(dialogs.shown.size(), before + 1);
     EXPECT_TRUE(lastMessage().contains(QStringLiteral("1 one (0 strings)")));
+    for (int strings = 1; strings <= 11; ++strings) {
+        click("cmdSetWord");
+        click("cmdWordSelect");
+        dialogs.shown.clear();
+        click("cmdWordSave");
+        EXPECT_EQ(lastMessage().endsWith(QStringLiteral("\n1 one (11 strings)")), strings == 11) << strings;
+    }
 }
 
 TEST_F(LoadedCalcForms, OnlyUnsavedWorkIsAskedAbout)
@@ -359,8 +347,15 @@ TEST_F(LoadedCalcForms, AllItemsOfAFolderAreCountedUntilStop)
     EXPECT_TRUE(lastMessage().contains(QStringLiteral("\n2 of 4 items were counted.\n\n")));
     EXPECT_EQ(varn.Counts(1, 1), 1 + 2 * (2 + 2));
 
-    QTimer::singleShot(0, &exec,
-                       [this] { exec.findChild<QProgressDialog*>()->findChild<QPushButton*>()->click(); });
+    QTimer::singleShot(0, &exec, [this] {
+        const auto& progress = *exec.findChild<QProgressDialog*>();
+        EXPECT_EQ(progress.windowTitle(), Analysis);
+        EXPECT_EQ(progress.windowModality(), Qt::ApplicationModal);
+        EXPECT_EQ(progress.labelText(), QStringLiteral("bad.dbs (1 of 4)"));
+        EXPECT_EQ(progress.maximum(), 4);
+        EXPECT_EQ(progress.findChild<QPushButton*>()->text(), QStringLiteral("Stop"));
+        progress.findChild<QPushButton*>()->click();
+    });
     execute("mnuExecAll");
     EXPECT_TRUE(lastMessage().contains(QStringLiteral("0 of 4 items were counted.")));
     EXPECT_EQ(varn.NumItemsAccumulated, 9);
@@ -531,27 +526,4 @@ TEST_F(LoadedCalcForms, StatisticsAreShownSavedAndOpened)
     execute("mnuStatsOpen");
     EXPECT_EQ(dialogs.errors.back().title, QStringLiteral("Run-time error '9': Subscript out of range"));
     EXPECT_TRUE(header("Average=1.5"));
-}
-
-TEST_F(CalcForms, EntriesLeadToTheOtherForms)
-{
-    QStringList left;
-    const auto note = [&left](const char* where) { return [&left, where] { left << QLatin1String(where); }; };
-    QObject::connect(&calc, &frmCalc::toMain, &calc, note("main"));
-    QObject::connect(&calc, &frmCalc::toExecute, &calc, note("execute"));
-    QObject::connect(&calc, &frmCalc::toDrawMap, &calc, note("map"));
-    QObject::connect(&calc, &frmCalc::toContrast, &calc, note("contrast"));
-    QObject::connect(&exec, &frmCalExec::toMain, &exec, note("main"));
-    QObject::connect(&exec, &frmCalExec::toAccumulateData, &exec, note("set-up"));
-    QObject::connect(&exec, &frmCalExec::toDrawMap, &exec, note("map"));
-    QObject::connect(&exec, &frmCalExec::toSymbols, &exec, note("symbols"));
-    QObject::connect(&exec, &frmCalExec::toContrast, &exec, note("contrast"));
-    for (const char* entry : {"mnuFileReturn", "mnuTotalForm", "mnuMap", "mnuRankExe"}) {
-        set(entry);
-    }
-    for (const char* entry : {"mnuRankReturn", "mnuReturn", "mnuExecMap", "mnuStatsSymbols", "mnuRankData"}) {
-        execute(entry);
-    }
-    EXPECT_EQ(left.join(QLatin1Char(' ')),
-              QStringLiteral("main execute map contrast main set-up map symbols contrast"));
 }

@@ -122,7 +122,9 @@ TEST_F(Chizu, AMapIsChosenByAnyOfItsFilesAndRegistered)
         EXPECT_EQ(text("txtMapName"), name);
         EXPECT_EQ(text("txtPathName"), QStringLiteral("C:\\Varn62E\\Varn"));
         EXPECT_EQ(varn.LingFolder, QStringLiteral("\\VarnData\\%1\\Ling").arg(name));
-        EXPECT_TRUE(wasPrinted(drawing(), QStringLiteral("C:\\Varn62E\\Varn")));
+        const QPointF path = printedAt(drawing(), QStringLiteral("C:\\Varn62E\\Varn"));
+        EXPECT_EQ(path, QPointF(50, 9000 - 200)) << "in the lower left corner";
+        EXPECT_EQ(drawing().fonts.back().size, 8);
         EXPECT_EQ(survey.read(registeredMapFile()),
                   "\"C:\\Varn62E\\Varn\",\"\\" + name.toLatin1() + "\",\"Times\",10,#TRUE#,#FALSE#,-1.5\r\n");
     }

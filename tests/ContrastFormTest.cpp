@@ -63,14 +63,7 @@ protected:
         click(button);
     }
 
-    QStringList listed(const char* name)
-    {
-        QStringList words;
-        for (int row = 0; row < control<QListWidget>(name).count(); ++row) {
-            words << control<QListWidget>(name).item(row)->text();
-        }
-        return words;
-    }
+    QStringList listed(const char* name) { return rowsOf(control<QListWidget>(name)); }
 
     void open(const char* file)
     {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QObject>
+#include <QListWidget>
 
 #include <stdexcept>
 
@@ -13,4 +13,14 @@ Control& child(const QObject& form, const char* name)
     }
     throw std::logic_error(form.metaObject()->className() + std::string(" has no ") +
                            Control::staticMetaObject.className() + ' ' + name);
+}
+
+/// The rows of `list`.
+inline QStringList rowsOf(const QListWidget& list)
+{
+    QStringList rows;
+    for (int row = 0; row < list.count(); ++row) {
+        rows << list.item(row)->text();
+    }
+    return rows;
 }

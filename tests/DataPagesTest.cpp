@@ -1,10 +1,9 @@
 #include "lingdata/forms/DataPages.h"
 
 #include "lingdata/ItemLoader.h"
+#include "platform/StandardColors.h"
 #include "render/ListText.h"
 #include "shell/MapParts.h"
-#include "lingdata/ListText.h"
-#include "platform/StandardColors.h"
 #include "tests/TestDrive.h"
 
 #include <algorithm>

@@ -176,6 +176,7 @@ TEST_F(Forms, MapNameAndDriveFileAreThereBeforeTheNameIsAskedFor)
 
 TEST_F(StartedForms, CheckMapNameDrawsThePreviewAndAsks)
 {
+    const QImage empty = child<SurfaceView>(program.main, "picPreview").grab().toImage();
     program.dialogs.yesNo = {false};
     program.click("cmdMapName");
     EXPECT_GT(program.varn.Scale, 0);
@@ -183,6 +184,14 @@ TEST_F(StartedForms, CheckMapNameDrawsThePreviewAndAsks)
               (Shown{QStringLiteral("Is this a right map name ? "), QStringLiteral("Map Name")}));
     EXPECT_EQ(child<QLineEdit>(program.main, "txtVarnMapName").text(), QStringLiteral("Test"));
     EXPECT_TRUE(program.drawing().operations.empty()) << "the preview is the main form's own drawing";
+    auto& preview = child<SurfaceView>(program.main, "picPreview");
+    const QImage drawn = preview.grab().toImage();
+    EXPECT_NE(drawn, empty);
+    program.dialogs.yesNo = {true};
+    program.click("cmdMapName");
+    EXPECT_EQ(preview.grab().toImage(), drawn) << "drawn anew";
+    program.click("cmdRegMap");
+    EXPECT_EQ(preview.grab().toImage(), empty) << "another map may be chosen";
     EXPECT_EQ(program.varn.DrawTarget, &program.map().surface());
 }
 
@@ -214,7 +223,10 @@ TEST_F(StartedForms, AFailedOrCancelledLoadChangesNothing)
     program.load("mnuHankoInput", "rain.han");
     program.load("mnuInputWord", "gone.dbs");
     ASSERT_EQ(program.dialogs.errors.size(), 1U);
-    EXPECT_TRUE(program.dialogs.errors[0].text.contains(QStringLiteral("Ling\\gone.dbs")));
+    const QString path = VarnPath + QStringLiteral("\\VarnData\\Test\\Ling\\gone.dbs");
+    EXPECT_TRUE(program.dialogs.errors[0].text.contains(path));
+    EXPECT_TRUE(program.dialogs.errors[0].text.endsWith(QStringLiteral("\nOn this machine: ") +
+                                                        DriveC().hostPath(path)));
     program.dialogs.files = {std::nullopt};
     program.menu("mnuInputWord").trigger();
     EXPECT_EQ(program.varn.Hanrei, QStringLiteral("Rain"));
@@ -230,6 +242,10 @@ TEST_F(StartedForms, PositionPanelShowsUntilTheNextDrawing)
     for (const char* draw : {"mnuMapBlank", "mnuHanrei", "mnuSymbols", "mnuHankoList"}) {
         program.menu("mnuHpos").trigger();
         EXPECT_TRUE(panel.isVisible()) << draw;
+        const QRect map = child<QWidget>(program.map(), "picMap").visibleRegion().boundingRect();
+        EXPECT_EQ(panel.geometry().top(), map.top() + 12);
+        EXPECT_NEAR(panel.geometry().right(), map.right() - 12, 1);
+        EXPECT_EQ(program.map().focusWidget(), &child<QWidget>(panel, "optHankoCenter"));
         program.menu(draw).trigger();
         EXPECT_FALSE(panel.isVisible()) << draw;
     }
@@ -374,6 +390,7 @@ TEST_F(Forms, ClosingAsksForUnsavedWorkOfHiddenFormsAndKeepsNoneThatWasGivenUp)
         program.main.show();
         EXPECT_FALSE(program.main.close());
         EXPECT_TRUE(program.main.close());
+        QApplication::processEvents(); // nothing is kept any more
     }
     Program program(survey);
     start(program);
@@ -396,7 +413,7 @@ TEST_F(StartedForms, AChangeOfMapIsSeenInAllForms)
 {
     const QString isle = VarnPath + QStringLiteral("\\VarnData\\Isle\\Map\\");
     survey.write(isle + QStringLiteral("Loc.map"), "1\r\n7,8\r\n");
-    survey.write(isle + QStringLiteral("Line.map"), "1\r\n0,2,0,0,0,0\r\n0,0\r\n800,1000\r\n");
+    survey.write(isle + QStringLiteral("Line.map"), "0\r\n");
     survey.write(isle + QStringLiteral("kanji.map"), "0\r\n1,2\r\n\"km\",1,100\r\n");
     program.load("mnuInputWord", "rain.dbs");
     program.load("mnuHankoInput", "rain.han");

@@ -2,8 +2,8 @@
 
 #include "mapdata/MapFiles.h"
 #include "mapdata/MapSearch.h"
-#include "shell/ImportCommands.h"
 #include "platform/Folder.h"
+#include "shell/ImportCommands.h"
 #include "tests/ScriptedDialogs.h"
 #include "tests/TestDrive.h"
 

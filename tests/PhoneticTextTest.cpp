@@ -145,7 +145,7 @@ TEST(SymbolHelp, AllCodesStandOnThePageWhateverTheFontOfTheMap)
     const QString note = QStringLiteral("Make the map form larger to see all codes.");
     const QRectF paper(0, 0, survey.frmMap.Width, survey.frmMap.Height);
     survey.varn.MapFontSize = 10;
-    WriteSymbolHelp(survey.varn, survey.surfaces);
+    WriteSymbolHelp(survey.varn.ExpSymbols, textParts(survey.varn), survey.surfaces);
     EXPECT_EQ(printedAt(survey.frmMap.drawing(), QStringLiteral("\\A1")), QPointF(50, 626));
     EXPECT_EQ(operationsOf<PictureOperation>(survey.frmMap.drawing()).at(1).x, 50 + 528);
     EXPECT_EQ(printedAt(survey.frmMap.drawing(), QStringLiteral("a")), QPointF(50 + 2 * 528, 626));

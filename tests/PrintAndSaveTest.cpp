@@ -80,9 +80,14 @@ TEST_F(LoadedProgram, TheSwitchSendsEveryDrawingToThePrinter)
     EXPECT_TRUE(wasPrinted(documents[1].at(0), QStringLiteral("1")));
     EXPECT_EQ(documents[1].name, QStringLiteral("Test - Symbols"));
 
+    program.varn.VarnMapName.clear();
+    program.menu("mnuHankoList").trigger();
+    ASSERT_EQ(documents.size(), 3U);
+    EXPECT_EQ(documents[2].name, QStringLiteral("Symbols")) << "no name, no dash";
+
     printSwitch().click();
     program.menu("mnuMapLing").trigger();
-    EXPECT_EQ(documents.size(), 2U);
+    EXPECT_EQ(documents.size(), 3U);
     EXPECT_TRUE(wasPrinted(program.drawing(), QStringLiteral("UYU")));
 }
 
@@ -184,6 +189,9 @@ TEST_F(LoadedProgram, TheMapFormInFrontShowsWhatOtherFormsChanged)
 
 TEST_F(LoadedProgram, TheTabKeyGoesFromTheMapToThePrintSwitch)
 {
+    EXPECT_EQ(printSwitch().accessibleDescription(), QStringLiteral("Turn printing on or off"));
+    EXPECT_EQ(printSwitch().toolTip(), printSwitch().accessibleDescription());
+    EXPECT_TRUE(printSwitch().isFlat());
     QStringList visited;
     const QWidget* const map = program.map().findChild<QWidget*>(QStringLiteral("scrMap"));
     const QWidget* widget = map;
@@ -211,6 +219,20 @@ TEST_F(LoadedProgram, PaperAndMarginsFollowTheirBoxes)
     EXPECT_EQ(label.text(), QStringLiteral("A4 Portrait(297 X 210) mm"));
     EXPECT_EQ(control<QComboBox>("cboOrientation").currentText(), QStringLiteral("Portrait"));
 
+    EXPECT_EQ(control<QLabel>("lblPaperSpace").text(), QStringLiteral("Height:297(mm) Width:210(mm)"));
+    control<QPushButton>("cmdSettingPrinter").click();
+    EXPECT_EQ(program.main.focusWidget(), &paper);
+    EXPECT_EQ(paper.itemText(0) + paper.itemText(1) + paper.itemText(2) + paper.itemText(3),
+              QStringLiteral("B5A4B4A3"));
+    const std::pair<const char*, qint16 PageLayout::*> boxes[] = {
+        {"txtTopMergin", &PageLayout::TopMargin},
+        {"txtBottomMergin", &PageLayout::BottomMargin},
+        {"txtRightMergin", &PageLayout::RightMargin}};
+    qint16 expected = 31;
+    for (const auto& [name, margin] : boxes) {
+        control<QLineEdit>(name).setText(QString::number(expected));
+        EXPECT_EQ(program.varn.*margin, expected++) << name;
+    }
     auto& left = control<QLineEdit>("txtLeftMergin");
     const std::pair<const char*, int> rows[] = {{"12.5", 12}, {"13.5", 14}, {"wide", 0}, {"", 0}, {"-3", -3}};
     for (const auto& [text, margin] : rows) {

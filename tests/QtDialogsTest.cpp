@@ -14,6 +14,8 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QPrintDialog>
+#include <QPrinter>
 #include <QPushButton>
 #include <QTimer>
 
@@ -157,6 +159,7 @@ TEST_F(DialogsOfTheDesktop, MessagesAndErrorsShowTheirTexts)
                              EXPECT_EQ(box.text(), QStringLiteral("Run-time error '53': File not found"));
                              EXPECT_EQ(box.informativeText(), QStringLiteral("File: C:\\a\nLine 2"));
                              EXPECT_EQ(box.icon(), QMessageBox::Critical);
+                             EXPECT_EQ(box.windowTitle(), QStringLiteral("VARN"));
                              const int line =
                                  box.fontMetrics().horizontalAdvance(QStringLiteral("File: C:\\a"));
                              EXPECT_GT(box.width(), line) << "the path stays on its line";
@@ -174,6 +177,8 @@ TEST_F(DialogsOfTheDesktop, ATextIsTypedOverTheProposedOne)
             auto& box = dynamic_cast<QInputDialog&>(dialog);
             EXPECT_EQ(box.labelText(), QStringLiteral("two\nlines"));
             EXPECT_EQ(box.textValue(), QStringLiteral("old"));
+            EXPECT_EQ(box.windowTitle(), QStringLiteral("title"));
+            EXPECT_GE(box.width(), 360) << "room for a name";
             box.setTextValue(text);
             key(last)(dialog);
         };
@@ -259,6 +264,7 @@ TEST_F(DialogsOfTheDesktop, OnlyWhatExistsIsOpened)
                          press(QMessageBox::Ok), key(Qt::Key_Escape),
                          [&](QDialog& dialog) {
                              EXPECT_EQ(dynamic_cast<QFileDialog&>(dialog).directory().path(), ling);
+                             EXPECT_EQ(dialog.windowTitle(), QStringLiteral("Folder"));
                              key(Qt::Key_Escape)(dialog);
                          },
                          [&](QDialog& dialog) {
@@ -289,4 +295,44 @@ TEST_F(DialogsOfTheDesktop, AFontThatIsNotInstalledKeepsItsNameUntilAnotherIsCho
     EXPECT_EQ(dialogs.chooseFont(missing), missing);
     EXPECT_EQ(dialogs.chooseFont(missing), (TextFont{missing.name, 18, true, true}));
     EXPECT_EQ(dialogs.chooseFont(missing), std::nullopt);
+}
+
+TEST_F(DialogsOfTheDesktop, ThePrinterDialogShowsThePageAndGivesBackWhatIsChosen)
+{
+    PageLayout layout;
+    layout.PaperOrientation = 2;
+    layout.LeftMargin = 31;
+    layout.TopMargin = 32;
+    layout.RightMargin = 33;
+    layout.BottomMargin = 34;
+    const auto look = [](QDialog& dialog) {
+        auto& print = dynamic_cast<QPrintDialog&>(dialog);
+        const QPageLayout page = print.printer()->pageLayout();
+        EXPECT_EQ(page.pageSize().id(), QPageSize::A4);
+        EXPECT_EQ(page.orientation(), QPageLayout::Landscape);
+        EXPECT_EQ(page.margins(QPageLayout::Millimeter), QMarginsF(31, 32, 33, 34));
+        EXPECT_FALSE(print.testOption(QAbstractPrintDialog::PrintPageRange)) << "a map is one page";
+    };
+    const Person person({[&](QDialog& dialog) {
+                             look(dialog);
+                             key(Qt::Key_Escape)(dialog);
+                         },
+                         [&](QDialog& dialog) {
+                             look(dialog);
+                             QPrinter& printer = *dynamic_cast<QPrintDialog&>(dialog).printer();
+                             printer.setOutputFileName(folder.hostPath(QStringLiteral("map.pdf")));
+                             printer.setPageOrientation(QPageLayout::Portrait);
+                             dialog.done(QDialog::Accepted);
+                         }});
+    EXPECT_EQ(dialogs.choosePrinter(layout), nullptr);
+    const auto printer = dialogs.choosePrinter(layout);
+    ASSERT_NE(printer, nullptr);
+    PageLayout chosen = layout;
+    printer->takeChoices(chosen);
+    EXPECT_EQ(chosen.PaperOrientation, 1);
+    EXPECT_EQ(chosen.LeftMargin, 31);
+    DrawSurface page;
+    page.Box(0, 0, 500, 500, qRgb(0, 0, 0));
+    printer->print({QStringLiteral("Island"), 1, {page.drawing()}});
+    EXPECT_TRUE(folder.read(QStringLiteral("C:\\map.pdf")).startsWith("%PDF"));
 }

@@ -50,12 +50,7 @@ protected:
     template <typename Form>
     static QStringList list(const char* name)
     {
-        auto& widget = control<Form, QListWidget>(name);
-        QStringList entries;
-        for (int i = 0; i < widget.count(); ++i) {
-            entries << widget.item(i)->text();
-        }
-        return entries;
+        return rowsOf(control<Form, QListWidget>(name));
     }
 };
 
@@ -88,7 +83,11 @@ TEST_F(SavedItem, AnItemThatCannotBeLoadedAnyMoreIsDropped)
     ASSERT_EQ(program.varn.LoadState, 1);
     QFile::remove(survey.drive().hostPath(Ling + QStringLiteral("rain.srt")));
     survey.write(Ling + QStringLiteral("rain.srt\\in.the.way"), "");
+    program.varn.NumWordforms = 1;
+    activate<frmCalc>();
+    EXPECT_TRUE((control<frmCalc, QPushButton>("cmdSetWord").isEnabled()));
     enter("yuki");
+    EXPECT_FALSE((control<frmCalc, QPushButton>("cmdSetWord").isEnabled())) << "there are no kinds";
     EXPECT_EQ(program.dialogs.errors.size(), 1U);
     EXPECT_EQ(program.varn.LoadState, 0);
     EXPECT_EQ(list<frmCalc>("lstDisplay"), QStringList());

@@ -1,10 +1,18 @@
 #include <QApplication>
+#include <QTemporaryFile>
 
 #include <gtest/gtest.h>
 
 int main(int argc, char* argv[])
 {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
+    // A screen that begins elsewhere than at 0, 0, as beside a panel or another screen.
+    QTemporaryFile screen;
+    if (!screen.open() ||
+        screen.write(R"({"screens":[{"name":"main","x":100,"y":50,"width":800,"height":800}]})") < 0) {
+        return 1;
+    }
+    screen.close();
+    qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + screen.fileName().toUtf8());
     testing::InitGoogleTest(&argc, argv);
     const QApplication application(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false); // the next test may wait for a dialog
