@@ -5,7 +5,6 @@
 #include "shell/Printing.h"
 #include "ui_frmData.h"
 
-#include <QEvent>
 #include <QScrollBar>
 
 #include <utility>
@@ -60,7 +59,7 @@ void frmData::Form_Load()
     });
 }
 
-void frmData::followItem()
+void frmData::followSharedState()
 {
     if (m_shownReading == m_varn.ItemReading) {
         return;
@@ -70,15 +69,6 @@ void frmData::followItem()
     } else {
         displayList(m_list);
     }
-    refresh();
-}
-
-bool frmData::event(QEvent* event)
-{
-    if (event->type() == QEvent::WindowActivate) {
-        run([this] { followItem(); });
-    }
-    return VarnForm::event(event);
 }
 
 void frmData::refresh()
@@ -104,17 +94,16 @@ void frmData::enableMenus()
 void frmData::showWhatIsShown()
 {
     QStringList title = {QStringLiteral("VARN Display Data"), m_varn.VarnMapName.mid(1)};
+    QStringList status;
     if (m_pages) {
         const bool isData = m_list == List::Data;
         title << m_pages->list().fileName << (isData ? QStringLiteral("Data") : QStringLiteral("Kinds"));
-        statusBar()->showMessage((isData ? QStringLiteral("Page %1 of %2    |    Word forms: %3")
-                                         : QStringLiteral("Page %1 of %2    |    Kinds of word forms: %3"))
-                                     .arg(m_page)
-                                     .arg(m_pages->count())
-                                     .arg(m_pages->list().lines.size()));
+        status << QStringLiteral("Page %1 of %2").arg(m_page).arg(m_pages->count())
+               << (isData ? QStringLiteral("Word forms: %1") : QStringLiteral("Kinds of word forms: %1"))
+                      .arg(m_pages->list().lines.size());
     }
-    title.removeAll(QString());
-    setWindowTitle(title.join(QStringLiteral(" - ")));
+    showTitle(title);
+    showStatus(status);
 }
 
 void frmData::displayList(List list)
@@ -132,7 +121,6 @@ void frmData::displayNothing()
     m_pages.reset();
     m_page = 0;
     m_paper.Cls();
-    statusBar()->clearMessage();
     m_shownReading = m_varn.ItemReading;
 }
 
@@ -239,6 +227,5 @@ void frmData::showNewState()
     m_pages.reset();
     m_page = 0;
     m_paper.Cls();
-    statusBar()->clearMessage();
     refresh();
 }

@@ -226,7 +226,7 @@ void frmSetHanko::mnuOpenHanko_Click()
     if (const auto path =
             askForFile(QStringLiteral("Open Symbol File"), QStringLiteral("HAN files (*.han)|*.han"))) {
         LoadHankoData(*path);
-        followSharedState();
+        followSet();
     }
 }
 
