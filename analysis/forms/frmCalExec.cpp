@@ -3,6 +3,7 @@
 #include "analysis/forms/CountPages.h"
 #include "analysis/forms/StatisticsPages.h"
 #include "platform/Numbers.h"
+#include "shell/FileKinds.h"
 #include "shell/VarnModule.h"
 #include "ui_frmCalExec.h"
 
@@ -76,7 +77,7 @@ void frmCalExec::refresh()
     m_ui->picPage->setMinimumSize(SurfaceView::paperPixels(m_paper));
     m_ui->picPage->refresh();
     const QString& name = m_varn.TotalFileName;
-    const QString file = name.isEmpty() ? name : name + QStringLiteral(".ttl");
+    const QString file = name.isEmpty() ? name : name + TotalFiles.ending;
     showTitle({FormTitle, m_varn.VarnMapName.mid(1), file});
     showStatus(status());
 }

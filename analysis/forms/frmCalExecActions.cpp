@@ -3,6 +3,7 @@
 #include "analysis/CumulativeFile.h"
 #include "analysis/ExecuteCommands.h"
 #include "analysis/forms/frmCalExec.h"
+#include "shell/FileKinds.h"
 #include "shell/VarnModule.h"
 
 #include <QApplication>
@@ -112,10 +113,9 @@ void frmCalExec::SaveStats()
 
 void frmCalExec::mnuStatsOpen_Click()
 {
-    if (const auto file = dialogs().openFile(QStringLiteral("Open Statistics File"),
-                                             m_varn.Drive.hostPath(m_varn.dataFolder()),
-                                             QStringLiteral("Statistic Files (*.stt)|*.stt"))) {
-        LoadStats(m_varn.Drive.varnPath(*file));
+    if (const auto path = askToOpen(dialogs(), m_varn.Drive, m_varn.dataFolder(),
+                                    QStringLiteral("Open Statistics File"), StatisticsFiles.filter())) {
+        LoadStats(*path);
     }
 }
 

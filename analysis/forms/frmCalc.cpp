@@ -5,6 +5,7 @@
 #include "platform/forms/ColorList.h"
 #include "platform/forms/ThemeColors.h"
 #include "render/forms/WordDelegate.h"
+#include "shell/FileKinds.h"
 #include "shell/VarnModule.h"
 #include "ui_frmCalc.h"
 
@@ -260,7 +261,7 @@ void frmCalc::refresh()
 void frmCalc::showState()
 {
     const QString& name = m_varn.TotalFileName;
-    const QString file = name.isEmpty() ? name : name + QStringLiteral(".ttl");
+    const QString file = name.isEmpty() ? name : name + TotalFiles.ending;
     showTitle({FormTitle, m_varn.VarnMapName.mid(1), file},
               isTableUnsaved(m_varn, m_varn.NLocality) || areCharsUnsaved(m_varn) || isEdited());
     showStatus(status());
@@ -277,9 +278,9 @@ QStringList frmCalc::status() const
                      .arg(m_varn.NumItemsAccumulated)
                      .arg(isTableUnsaved(m_varn, m_varn.NLocality) ? QStringLiteral(", not saved")
                                                                    : QString());
-        const QString file = analysisFileStem(m_varn.SpecifyFileName, QStringLiteral(".sum"));
+        const QString file = analysisFileStem(m_varn.SpecifyFileName, StringFiles.ending);
         parts << QStringLiteral("Strings: %1%2")
-                     .arg(file.isEmpty() ? QStringLiteral("no file") : file + QStringLiteral(".sum"),
+                     .arg(file.isEmpty() ? QStringLiteral("no file") : file + StringFiles.ending,
                           areCharsUnsaved(m_varn) ? QStringLiteral(", not saved") : QString());
     }
     if (isEdited()) {
@@ -292,7 +293,7 @@ void frmCalc::showNewState()
 {
     if (m_prepared) {
         showTable();
-        m_ui->txtSetFileName->setText(analysisFileStem(m_varn.SpecifyFileName, QStringLiteral(".sum")));
+        m_ui->txtSetFileName->setText(analysisFileStem(m_varn.SpecifyFileName, StringFiles.ending));
         SetKindWord();
     }
     VarnForm::showNewState();

@@ -3,6 +3,7 @@
 #include "analysis/forms/frmCalc.h"
 #include "lingdata/ItemLoader.h"
 #include "platform/Numbers.h"
+#include "shell/FileKinds.h"
 #include "shell/VarnModule.h"
 #include "ui_frmCalc.h"
 
@@ -98,8 +99,7 @@ void frmCalc::cmdSet_Click()
 
 void frmCalc::mnuGengoOpen_Click()
 {
-    const auto path =
-        askForFile(QStringLiteral("Open Linguistic Data"), QStringLiteral("DBS Files (*.dbs)|*.dbs"));
+    const auto path = askForFile(QStringLiteral("Open Linguistic Data"), ItemFiles.filter());
     if (!path) {
         return;
     }

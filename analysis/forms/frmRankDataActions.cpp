@@ -3,6 +3,7 @@
 #include "analysis/AnalysisFileName.h"
 #include "analysis/forms/ContrastPages.h"
 #include "analysis/forms/frmRankData.h"
+#include "shell/FileKinds.h"
 #include "ui_frmRankData.h"
 
 // The groups
@@ -112,10 +113,9 @@ void frmRankData::mnuRankOpen_Click()
     if (!mayGiveUpWork(QStringLiteral("Open a contrast file and lose them?"))) {
         return;
     }
-    if (const auto file = dialogs().openFile(QStringLiteral("Open Contrast File"),
-                                             m_varn.Drive.hostPath(m_varn.dataFolder()),
-                                             QStringLiteral("RNK files (*.rnk)|*.rnk"))) {
-        LoadRankFile(m_varn.Drive.varnPath(*file));
+    if (const auto path = askToOpen(dialogs(), m_varn.Drive, m_varn.dataFolder(),
+                                    QStringLiteral("Open Contrast File"), ContrastFiles.filter())) {
+        LoadRankFile(*path);
     }
 }
 

@@ -6,6 +6,7 @@
 #include "analysis/forms/frmTotalHanko.h"
 #include "render/ListText.h"
 #include "render/forms/SymbolPicker.h"
+#include "shell/FileKinds.h"
 #include "shell/MapParts.h"
 #include "shell/VarnModule.h"
 #include "ui_frmTotalHanko.h"
@@ -80,10 +81,9 @@ void frmTotalHanko::mnuTotalHankoOpen_Click()
     if (!mayGiveUpWork(QStringLiteral("Open a symbol file and lose them?"))) {
         return;
     }
-    if (const auto file =
-            dialogs().openFile(QStringLiteral("Open Symbol File"), m_varn.Drive.hostPath(m_varn.dataFolder()),
-                               QStringLiteral("HTL files (*.htL)|*.htL"))) {
-        LoadTotalHanko(m_varn.Drive.varnPath(*file));
+    if (const auto path = askToOpen(dialogs(), m_varn.Drive, m_varn.dataFolder(),
+                                    QStringLiteral("Open Symbol File"), DiffusionSymbolFiles.filter())) {
+        LoadTotalHanko(*path);
     }
 }
 

@@ -2,6 +2,7 @@
 
 #include "lingdata/ItemLoader.h"
 #include "platform/Numbers.h"
+#include "shell/FileKinds.h"
 #include "shell/Printing.h"
 #include "ui_frmData.h"
 
@@ -143,14 +144,13 @@ void frmData::turnTo(int page)
 
 void frmData::mnuOpen_Click()
 {
-    const QString folder = m_varn.Drive.hostPath(m_varn.dataFolder());
-    const auto file = dialogs().openFile(QStringLiteral("Load Linguistic File"), folder,
-                                         QStringLiteral("DBS Files (*.dbs)|*.dbs"));
-    if (!file) {
+    const auto path = askToOpen(dialogs(), m_varn.Drive, m_varn.dataFolder(),
+                                QStringLiteral("Load Linguistic File"), ItemFiles.filter());
+    if (!path) {
         return;
     }
     const WaitCursor wait;
-    LoadWordData(m_varn, m_varn.Drive.varnPath(*file), m_varn, m_varn, dialogs());
+    LoadWordData(m_varn, *path, m_varn, m_varn, dialogs());
     Q_EMIT itemLoaded();
     displayList(List::Data);
 }

@@ -3,7 +3,7 @@
 #include "lingdata/EnteredItem.h"
 #include "lingdata/forms/WordEntryDelegate.h"
 #include "lingdata/forms/frmDataInput.h"
-#include "platform/WholeFile.h"
+#include "shell/FileKinds.h"
 #include "shell/VarnModule.h"
 #include "ui_frmDataInput.h"
 
@@ -37,18 +37,16 @@ void frmDataInput::mnuOpen_Click()
 
 void frmDataInput::LoadWordData()
 {
-    const auto file = dialogs().openFile(QStringLiteral("Open Linguistic Data File"),
-                                         m_varn.Drive.hostPath(m_varn.dataFolder()),
-                                         QStringLiteral("DBS Files (*.dbs)|*.dbs"));
-    if (!file) {
+    const QString title = QStringLiteral("Open Linguistic Data File");
+    const auto path = askToOpen(dialogs(), m_varn.Drive, m_varn.dataFolder(), title, ItemFiles.filter());
+    if (!path) {
         return;
     }
-    const QString path = m_varn.Drive.varnPath(*file);
-    OpenedItem item = openItem(m_varn, path);
+    OpenedItem item = openItem(m_varn, *path);
     m_mapName = m_varn.VarnMapName;
-    showItem(std::move(item.editor), path);
+    showItem(std::move(item.editor), *path);
     if (!item.trouble.isEmpty()) {
-        dialogs().message(item.trouble, QStringLiteral("Open Linguistic Data File"));
+        dialogs().message(item.trouble, title);
     }
 }
 
@@ -67,9 +65,8 @@ void frmDataInput::SaveWord()
         m_ui->txtFileName->setFocus();
         return;
     }
-    if (fileExists(m_varn.Drive, path) &&
-        !dialogs().confirmLoss(QStringLiteral("File Exist. Overwrite O.K.?"),
-                               QStringLiteral("Re-input of File Name"))) {
+    if (!askToSave(dialogs(), m_varn.Drive, path, QStringLiteral("Re-input of File Name"),
+                   QStringLiteral("File Exist. Overwrite O.K.?"))) {
         m_ui->txtFileName->setFocus();
         m_ui->txtFileName->selectAll();
         return;

@@ -2,6 +2,7 @@
 
 #include "mapdata/MapFiles.h"
 #include "mapdata/RegisteredMap.h"
+#include "platform/FileKind.h"
 #include "platform/SequentialFile.h"
 #include "platform/forms/ThemeColors.h"
 #include "render/BlankMap.h"
@@ -94,13 +95,13 @@ void frmChizu::FindMinMax(float& scale) const
 bool frmChizu::SearchLocateData()
 {
     const QString title = QStringLiteral("Set Map Name");
-    const QString folder = m_varn.Drive.hostPath(m_varn.VarnPath + QStringLiteral("\\VarnData"));
-    const auto file = dialogs().openFile(
-        title, folder, QStringLiteral("Map and item files (*.map;*.dbs)|*.map;*.dbs|All files (*.*)|*.*"));
-    if (!file) {
+    const auto path =
+        askToOpen(dialogs(), m_varn.Drive, m_varn.VarnPath + QStringLiteral("\\VarnData"), title,
+                  QStringLiteral("Map and item files (*.map;*.dbs)|*.map;*.dbs|All files (*.*)|*.*"));
+    if (!path) {
         return false;
     }
-    const std::optional<MapPlace> place = mapPlaceOf(m_varn.Drive.varnPath(*file));
+    const std::optional<MapPlace> place = mapPlaceOf(*path);
     if (!place) {
         dialogs().message(QStringLiteral("The file is not in the folder of a map under \\VarnData."), title);
         return false;

@@ -12,6 +12,7 @@
 #include "render/SymbolCatalogue.h"
 #include "render/SymbolHelp.h"
 #include "render/forms/frmMap.h"
+#include "shell/FileKinds.h"
 #include "shell/MapParts.h"
 #include "shell/Printing.h"
 #include "symbols/SymbolFile.h"
@@ -129,15 +130,12 @@ void frmMap::lblInsatsumode_Click()
 
 std::optional<QString> frmMap::askForFile(const QString& title, const QString& filter)
 {
-    const QString folder = m_varn.Drive.hostPath(m_varn.dataFolder());
-    const std::optional<QString> file = dialogs().openFile(title, folder, filter);
-    return file ? std::optional(m_varn.Drive.varnPath(*file)) : std::nullopt;
+    return askToOpen(dialogs(), m_varn.Drive, m_varn.dataFolder(), title, filter);
 }
 
 void frmMap::mnuInputWord_Click()
 {
-    if (const auto path =
-            askForFile(QStringLiteral("Load Linguistic File"), QStringLiteral("DBS Files (*.dbs)|*.dbs"))) {
+    if (const auto path = askForFile(QStringLiteral("Load Linguistic File"), ItemFiles.filter())) {
         LoadWordData(m_varn, *path, m_varn, m_varn, dialogs());
     }
 }
@@ -149,8 +147,7 @@ void frmMap::mnuHankoInput_Click()
                             QStringLiteral("Load Symbol File"))) {
         return;
     }
-    if (const auto path =
-            askForFile(QStringLiteral("Load Symbol File"), QStringLiteral("HAN files (*.han)|*.han"))) {
+    if (const auto path = askForFile(QStringLiteral("Load Symbol File"), SymbolFiles.filter())) {
         LoadHankoData(m_varn.Drive, *path, m_varn);
         symbolSetLoaded(m_varn);
     }

@@ -3,6 +3,7 @@
 #include "lingdata/ItemLoader.h"
 #include "platform/Numbers.h"
 #include "render/forms/SymbolPicker.h"
+#include "shell/FileKinds.h"
 #include "shell/VarnModule.h"
 #include "symbols/SymbolFile.h"
 #include "symbols/forms/SymbolPreview.h"
@@ -176,9 +177,7 @@ void frmSetHanko::mnuHankoReturn_Click()
 
 std::optional<QString> frmSetHanko::askForFile(const QString& title, const QString& filter)
 {
-    const QString folder = m_varn.Drive.hostPath(m_varn.dataFolder());
-    const std::optional<QString> file = dialogs().openFile(title, folder, filter);
-    return file ? std::optional(m_varn.Drive.varnPath(*file)) : std::nullopt;
+    return askToOpen(dialogs(), m_varn.Drive, m_varn.dataFolder(), title, filter);
 }
 
 QString frmSetHanko::proposedName() const
@@ -200,9 +199,7 @@ std::optional<QString> frmSetHanko::askForSavePath()
         }
         name = symbolFileStem(*answer);
         const QString path = symbolFilePath(m_varn, name);
-        if (!fileExists(m_varn.Drive, path) ||
-            dialogs().confirmLoss(QStringLiteral("File already exist. Overwrite O.K.? "),
-                                  QStringLiteral("Re Input File Name"))) {
+        if (askToSave(dialogs(), m_varn.Drive, path, QStringLiteral("Re Input File Name"))) {
             return path;
         }
     }
@@ -210,8 +207,7 @@ std::optional<QString> frmSetHanko::askForSavePath()
 
 void frmSetHanko::mnuInputWord_Click()
 {
-    if (const auto path =
-            askForFile(QStringLiteral("Load Linguistic File"), QStringLiteral("DBS Files (*.dbs)|*.dbs"))) {
+    if (const auto path = askForFile(QStringLiteral("Load Linguistic File"), ItemFiles.filter())) {
         LoadWordData(m_varn, *path, m_varn, m_varn, dialogs());
         SetKindWord();
     }
@@ -223,8 +219,7 @@ void frmSetHanko::mnuOpenHanko_Click()
         return;
     }
     run([this] { SetKindWord(); }); // a set can be worked on without the list
-    if (const auto path =
-            askForFile(QStringLiteral("Open Symbol File"), QStringLiteral("HAN files (*.han)|*.han"))) {
+    if (const auto path = askForFile(QStringLiteral("Open Symbol File"), SymbolFiles.filter())) {
         LoadHankoData(*path);
         followSet();
     }
