@@ -1,7 +1,6 @@
-// What the menus and buttons of the data input form do.
+// The file of the data input form, and what would be lost when the form is left.
 
 #include "lingdata/EnteredItem.h"
-#include "lingdata/forms/WordEntryDelegate.h"
 #include "lingdata/forms/frmDataInput.h"
 #include "shell/FileKinds.h"
 #include "shell/VarnModule.h"
@@ -9,12 +8,8 @@
 
 #include <QCloseEvent>
 #include <QScopeGuard>
-#include <QSignalBlocker>
 
-#include <algorithm>
 #include <utility>
-
-// Files
 
 bool frmDataInput::mayOpen()
 {
@@ -124,111 +119,6 @@ void frmDataInput::closeEvent(QCloseEvent* event)
 {
     event->setAccepted(mayLeave());
 }
-
-// Kinds
-
-void frmDataInput::cmdKindToData_Click()
-{
-    const int kind = m_ui->lstKind->currentRow();
-    WordTableView& words = *m_ui->tblWords;
-    words.commitEdit();
-    if (kind >= 0 && words.currentIndex().isValid()) {
-        m_editor.setCell(WordTable::place(words.currentIndex()), m_editor.kinds()[kind]);
-        m_table.showChanges();
-        words.goToNextLocality();
-    }
-}
-
-void frmDataInput::cmdDataToKind_Click()
-{
-    m_ui->tblWords->commitEdit();
-    m_editor.collectKinds();
-    showKinds();
-}
-
-void frmDataInput::cmdSetKind_Click()
-{
-    const WordCell kind = typedCell(m_ui->txtKind->text());
-    m_ui->txtKind->setFocus();
-    if (kind) {
-        m_editor.addKind(*kind);
-        showKinds();
-        m_ui->lstKind->setCurrentRow(static_cast<int>(m_editor.kinds().indexOf(*kind)));
-        m_ui->txtKind->selectAll();
-    }
-}
-
-void frmDataInput::cmdDelKind_Click()
-{
-    const int row = m_ui->lstKind->currentRow();
-    if (row >= 0) {
-        m_editor.removeKind(row);
-        showKinds();
-    }
-}
-
-void frmDataInput::showKinds()
-{
-    const int row = std::min(m_ui->lstKind->currentRow(), static_cast<int>(m_editor.kinds().size()) - 1);
-    m_ui->lstKind->clear();
-    for (const QString& kind : m_editor.kinds()) {
-        auto* entry = new QListWidgetItem(cellText(kind), m_ui->lstKind);
-        if (kind.isEmpty()) {
-            entry->setForeground(palette().placeholderText());
-        }
-    }
-    m_ui->lstKind->setCurrentRow(row);
-    m_delegate->setKinds(m_editor.kinds());
-}
-
-// Codes
-
-void frmDataInput::cmdCheckCode_Click()
-{
-    m_ui->tblWords->commitEdit();
-    showFaults();
-    if (m_faults.empty()) {
-        hideFaults();
-        dialogs().message(QStringLiteral("All codes are right."), QStringLiteral("Check Code"));
-        return;
-    }
-    m_ui->fraCheck->show();
-    m_ui->lstCheck->setCurrentRow(0);
-    m_ui->lstCheck->setFocus();
-}
-
-void frmDataInput::showFaults()
-{
-    std::vector<FaultyWord> faults = m_editor.checkCodes();
-    if (faults == m_faults) {
-        return;
-    }
-    m_faults = std::move(faults);
-    const QSignalBlocker silent(m_ui->lstCheck);
-    m_ui->lstCheck->clear();
-    for (const FaultyWord& faulty : m_faults) {
-        m_ui->lstCheck->addItem(QStringLiteral("Locality %1, word %2:   %3   (%4)")
-                                    .arg(QString::number(faulty.place.locality),
-                                         QString::number(faulty.place.column), faulty.word,
-                                         faultText(faulty.fault)));
-    }
-    m_ui->lblCheck->setText(QStringLiteral("Word forms with illegal codes: %1").arg(m_faults.size()));
-}
-
-void frmDataInput::goToFault(int index)
-{
-    if (index >= 0 && index < static_cast<int>(m_faults.size())) {
-        const FaultyWord& faulty = m_faults[static_cast<std::size_t>(index)];
-        m_ui->tblWords->goTo(faulty.place.locality, faulty.place.column, QAbstractItemView::PositionAtCenter);
-    }
-}
-
-void frmDataInput::hideFaults()
-{
-    m_ui->fraCheck->hide();
-}
-
-// Unsaved work
 
 void frmDataInput::showNewState()
 {

@@ -1,105 +1,10 @@
-// What the buttons and menu entries of the contrast form do.
+// The file of the contrast form.
 
 #include "analysis/AnalysisFileName.h"
-#include "analysis/forms/ContrastPages.h"
 #include "analysis/forms/frmRankData.h"
 #include "shell/FileKinds.h"
+#include "shell/VarnModule.h"
 #include "ui_frmRankData.h"
-
-// The groups
-
-void frmRankData::addSelected(int side)
-{
-    const int row = m_ui->lstWordList->currentRow();
-    if (row < 0) {
-        return;
-    }
-    switch (m_editor.addWordform(side, row + 1)) {
-    case ContrastEditor::AddResult::Added:
-        m_groupsEdited = true;
-        showGroups();
-        groupList(side).setCurrentRow(groupList(side).count() - 1);
-        break;
-    case ContrastEditor::AddResult::Present:
-        dialogs().message(QStringLiteral("Item %1 already has this word form.").arg(side), FormTitle);
-        break;
-    case ContrastEditor::AddResult::Full:
-        dialogs().message(QStringLiteral("Item %1 has %2 word forms, which is the maximum.")
-                              .arg(side)
-                              .arg(ContrastEditor::MaxWordforms),
-                          FormTitle);
-        break;
-    }
-}
-
-void frmRankData::removeSelected(int side)
-{
-    const int row = groupList(side).currentRow();
-    if (row >= 0) {
-        m_editor.removeWordform(side, row + 1);
-        m_groupsEdited = true;
-        showGroups();
-    }
-}
-
-// The analysis
-
-void frmRankData::cmdCalc_Click()
-{
-    DisplayOff();
-    SetRankData();
-    analyseContrast(m_varn, m_varn.NLocality, m_varn);
-    refresh();
-    dialogs().message(QStringLiteral("Contrast Analysis is finished."), FormTitle);
-}
-
-void frmRankData::mnuRankMap_Click()
-{
-    SetRankData();
-    Q_EMIT toDrawMap();
-}
-
-// The result table
-
-void frmRankData::mnuDisplayRank_Click()
-{
-    DisplayRankData();
-}
-
-void frmRankData::mnuDisplayNext_Click()
-{
-    DisplayON(m_page + 1);
-}
-
-void frmRankData::mnuDisplayPrevious_Click()
-{
-    DisplayON(m_page - 1);
-}
-
-void frmRankData::DisplayRankData()
-{
-    DisplayON(1);
-}
-
-void frmRankData::DisplayON(int page)
-{
-    m_page = page;
-    DisplayRank();
-}
-
-void frmRankData::DisplayRank()
-{
-    m_paper.Cls();
-    ContrastPages(m_varn, m_ui->txtRankFileName->text().trimmed()).draw(m_page, m_paper);
-}
-
-void frmRankData::DisplayOff()
-{
-    m_page = 0;
-    m_paper.Cls();
-}
-
-// The file
 
 bool frmRankData::mayGiveUpWork(const QString& question)
 {

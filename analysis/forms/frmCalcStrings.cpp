@@ -1,8 +1,7 @@
-// What the buttons and menu entries of the set-up form of cumulative analysis do.
+// The strings that identify a word form, and the item whose kinds they can be taken from.
 
 #include "analysis/forms/frmCalc.h"
 #include "lingdata/ItemLoader.h"
-#include "platform/Numbers.h"
 #include "shell/FileKinds.h"
 #include "shell/VarnModule.h"
 #include "ui_frmCalc.h"
@@ -12,90 +11,6 @@ namespace {
 const QString FormTitle = QStringLiteral("Accumulate Data");
 
 } // namespace
-
-// The number of word forms and of items
-
-void frmCalc::cmdTotalNumber_Click()
-{
-    const qint16 number = toInteger(Val(m_ui->txtTotalNumber->text()));
-    if (number == 0) {
-        dialogs().message(QStringLiteral("No. of Specify Data is inadequate."), FormTitle);
-        return;
-    }
-    if (mayGiveUpFields(QStringLiteral("Show the first word form without them?"))) {
-        changeNumWordforms(number, state(), dialogs());
-        showTable();
-    }
-}
-
-void frmCalc::cmdSetInput_Click()
-{
-    const qint16 items = toInteger(Val(m_ui->txtTotalItems->text()));
-    if (items < 0) {
-        dialogs().message(QStringLiteral("No. of Items Accumulated must not be negative."), FormTitle);
-        return;
-    }
-    m_varn.NumItemsAccumulated = items;
-    SetTotal();
-}
-
-// The word forms
-
-bool frmCalc::mayGiveUpFields(const QString& question)
-{
-    return !isEdited() ||
-           dialogs().confirmLoss(
-               QStringLiteral("Name or colors of word form %1 are changed and not registered. ")
-                       .arg(m_shownWordform) +
-                   question,
-               FormTitle);
-}
-
-void frmCalc::moveTo(int k)
-{
-    if (k < 1 || k > m_varn.NumWordforms) {
-        return;
-    }
-    if (mayGiveUpFields(QStringLiteral("Leave it without them?"))) {
-        TotalSet(k);
-    } else {
-        SetTotalList();
-    }
-}
-
-void frmCalc::cmdNext_Click()
-{
-    moveTo(m_varn.CurrentWordform + 1);
-}
-
-void frmCalc::cmdPrevious_Click()
-{
-    moveTo(m_varn.CurrentWordform - 1);
-}
-
-void frmCalc::lstTotal_Click(int row)
-{
-    if (row >= 0 && row + 1 != m_varn.CurrentWordform) {
-        moveTo(row + 1);
-    }
-}
-
-void frmCalc::cmdSet_Click()
-{
-    const WordformFields held = fields();
-    const int k = m_varn.CurrentWordform;
-    m_varn.WordformName(k) = held.name;
-    if (held.symbolColor >= 0) {
-        m_varn.WordformSymbolColor(k) = held.symbolColor;
-    }
-    if (held.paintColor >= 0) {
-        m_varn.WordformPaintColor(k) = static_cast<qint16>(held.paintColor);
-    }
-    m_stored = held;
-    SetTotalList();
-}
-
-// The item
 
 void frmCalc::mnuGengoOpen_Click()
 {
@@ -126,8 +41,6 @@ void frmCalc::cmdSetWord_Click()
         m_ui->txtInputWord->setFocus();
     }
 }
-
-// The identifying strings
 
 bool frmCalc::mayRegister(const QString& text)
 {
