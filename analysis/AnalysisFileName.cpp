@@ -1,8 +1,8 @@
 #include "analysis/AnalysisFileName.h"
 
+#include "platform/FileKind.h"
 #include "platform/FileName.h"
 #include "platform/RunTimeError.h"
-#include "platform/WholeFile.h"
 
 namespace {
 
@@ -30,11 +30,7 @@ QString analysisFilePath(const Folders& folders, const QString& name, const QStr
 std::optional<QString> analysisSavePath(const Folders& folders, const QString& name, const QString& ending,
                                         Dialogs& dialogs)
 {
-    QString path = analysisFilePath(folders, name, ending);
-    if (fileExists(folders.Drive, path) &&
-        !dialogs.confirmLoss(QStringLiteral("File already exist. Overwrite O.K.? "),
-                             QStringLiteral("Re Input File Name"))) {
-        return std::nullopt;
-    }
-    return path;
+    const QString path = analysisFilePath(folders, name, ending);
+    const bool mayBeSaved = askToSave(dialogs, folders.Drive, path, QStringLiteral("Re Input File Name"));
+    return mayBeSaved ? std::optional(path) : std::nullopt;
 }

@@ -4,6 +4,7 @@
 #include "analysis/AnalysisFileName.h"
 #include "analysis/CumulativeFile.h"
 #include "platform/Dialogs.h"
+#include "platform/FileKind.h"
 
 namespace {
 
@@ -30,9 +31,8 @@ bool mayWriteTotal(const Folders& folders, const CumulativeData& data, Dialogs& 
         return false;
     }
     const QString path = analysisFilePath(folders, data.TotalFileName, QStringLiteral(".ttl"));
-    return isOwnFile(data, path) || !fileExists(folders.Drive, path) ||
-           dialogs.confirmLoss(QStringLiteral("File already exist. Overwrite O.K.? "),
-                               QStringLiteral("Save of Analysis File"));
+    return isOwnFile(data, path) ||
+           askToSave(dialogs, folders.Drive, path, QStringLiteral("Save of Analysis File"));
 }
 
 bool saveTotal(const TotalState& state, Dialogs& dialogs)

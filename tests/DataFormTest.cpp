@@ -9,6 +9,7 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QLabel>
 #include <QStatusBar>
 
 namespace {
@@ -46,10 +47,8 @@ protected:
         dialogs.inputs = {QLatin1String(answer)};
         menu("mnuPageNo").trigger();
     }
-    bool statusBegins(const char* text) const
-    {
-        return form.statusBar()->currentMessage().startsWith(QLatin1String(text));
-    }
+    QString status() const { return form.statusBar()->findChild<QLabel*>()->text(); }
+    bool statusBegins(const char* text) const { return status().startsWith(QLatin1String(text)); }
 
     TestSurvey survey;
     VarnModule& varn = survey.varn;
@@ -156,7 +155,7 @@ TEST_F(DataForm, AllPagesArePrintedAsOneDocument)
 TEST_F(DataForm, AnItemLoadedElsewhereIsShownWhenTheFormOpens)
 {
     form.Form_Load();
-    EXPECT_EQ(form.statusBar()->currentMessage(), QString());
+    EXPECT_EQ(status(), QString());
     varn.WordTotal = 1;
     varn.WordList(1) = QStringLiteral("ame");
     varn.ItemFileName = QStringLiteral("other.dbs");
@@ -172,6 +171,6 @@ TEST_F(DataForm, AnItemLoadedElsewhereIsShownWhenTheFormOpens)
     }
     dropItem(varn, varn);
     QApplication::sendEvent(&form, &activated);
-    EXPECT_EQ(form.statusBar()->currentMessage(), QString());
+    EXPECT_EQ(status(), QString());
     EXPECT_FALSE(menu("mnuPageNo").isEnabled());
 }

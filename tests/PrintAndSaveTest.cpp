@@ -166,7 +166,7 @@ TEST_F(LoadedProgram, TheMapFormInFrontShowsWhatOtherFormsChanged)
     }
     ASSERT_NE(loaded, nullptr);
     const auto bringToFront = [] {
-        QEvent event(QEvent::ActivationChange);
+        QEvent event(QEvent::WindowActivate);
         QCoreApplication::sendEvent(&Program::map(), &event);
     };
     EXPECT_TRUE(loaded->text().startsWith(QStringLiteral("Item: Rain (3 localities)")));

@@ -3,10 +3,10 @@
 #include "analysis/forms/CountPages.h"
 #include "analysis/forms/StatisticsPages.h"
 #include "platform/Numbers.h"
+#include "shell/FileKinds.h"
 #include "shell/VarnModule.h"
 #include "ui_frmCalExec.h"
 
-#include <QLabel>
 #include <QScrollBar>
 
 #include <algorithm>
@@ -14,7 +14,6 @@
 namespace {
 
 const QString FormTitle = QStringLiteral("Execution of Cumulative Analysis");
-const QString Separator = QStringLiteral("    |    ");
 constexpr double ListLineHeight = 240;
 
 QString nameOfItem(int k, const VarnModule& varn)
@@ -25,17 +24,13 @@ QString nameOfItem(int k, const VarnModule& varn)
 } // namespace
 
 frmCalExec::frmCalExec(VarnModule& varn, Dialogs& dialogs)
-    : VarnForm(dialogs), m_ui(std::make_unique<Ui::frmCalExec>()), m_varn(varn), m_status(new QLabel(this))
+    : VarnForm(dialogs), m_ui(std::make_unique<Ui::frmCalExec>()), m_varn(varn)
 {
     m_ui->setupUi(this);
     clearPaper(CountPages::area());
     m_ui->picPage->setSurface(m_paper, SurfaceView::Fit::WholePaper);
     m_ui->picPage->setPlaceholder(
         QStringLiteral("Display Results shows the counts here, Execute Statistics their statistics."));
-    m_status->setTextFormat(Qt::PlainText);
-    m_status->setContentsMargins(8, 0, 8, 0);
-    m_status->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-    statusBar()->addWidget(m_status, 1);
     connectMenus();
 }
 
@@ -71,12 +66,9 @@ void frmCalExec::Form_Load()
     run([this] { draw(); });
 }
 
-bool frmCalExec::event(QEvent* event)
+void frmCalExec::followSharedState()
 {
-    if (event->type() == QEvent::WindowActivate) {
-        run([this] { draw(); }); // other forms change the counts
-    }
-    return VarnForm::event(event);
+    draw();
 }
 
 void frmCalExec::refresh()
@@ -84,12 +76,10 @@ void frmCalExec::refresh()
     enableMenus();
     m_ui->picPage->setMinimumSize(SurfaceView::paperPixels(m_paper));
     m_ui->picPage->refresh();
-    QStringList title = {FormTitle, m_varn.VarnMapName.mid(1),
-                         m_varn.TotalFileName.isEmpty() ? QString()
-                                                        : m_varn.TotalFileName + QStringLiteral(".ttl")};
-    title.removeAll(QString());
-    setWindowTitle(title.join(QStringLiteral(" - ")));
-    m_status->setText(status());
+    const QString& name = m_varn.TotalFileName;
+    const QString file = name.isEmpty() ? name : name + TotalFiles.ending;
+    showTitle({FormTitle, m_varn.VarnMapName.mid(1), file});
+    showStatus(status());
 }
 
 void frmCalExec::enableMenus()
@@ -105,7 +95,7 @@ void frmCalExec::enableMenus()
     m_ui->mnuStatsSave->setEnabled(hasTable && areCurrent(m_varn, m_varn, m_varn.NLocality));
 }
 
-QString frmCalExec::status() const
+QStringList frmCalExec::status() const
 {
     QStringList parts;
     const int k = m_varn.CurrentWordform;
@@ -123,7 +113,7 @@ QString frmCalExec::status() const
         if (!areCurrent(m_varn, m_varn, m_varn.NLocality)) {
             parts << QStringLiteral("The counts are others now");
         }
-        return parts.join(Separator);
+        return parts;
     }
     parts << (m_varn.NumWordforms == 0 ? QStringLiteral("No cumulative data: open it in Accumulate Data")
                                        : QStringLiteral("Counts of %1 word forms over %2 items")
@@ -131,7 +121,7 @@ QString frmCalExec::status() const
                                              .arg(m_varn.NumItemsAccumulated));
     parts << (m_varn.ItemFileName.isEmpty() ? QStringLiteral("No linguistic file loaded")
                                             : QStringLiteral("Item: ") + m_varn.ItemFileName);
-    return parts.join(Separator);
+    return parts;
 }
 
 // The pages

@@ -7,7 +7,6 @@
 
 #include <memory>
 
-class QLabel;
 struct VarnModule;
 
 namespace Ui {
@@ -27,6 +26,7 @@ public:
     /// Prepares the form to be shown: draws what it shows with the counts as they are now.
     void Form_Load();
     void refresh() override;
+    void followSharedState() override;
     /// What is drawn.
     const DrawSurface& surface() const { return m_paper; }
 
@@ -41,9 +41,6 @@ Q_SIGNALS:
     void toSymbols();
     /// The user wants to contrast two groups of word forms.
     void toContrast();
-
-protected:
-    bool event(QEvent* event) override;
 
 private:
     enum class Shown { Nothing, Counts, StatisticsOfOne, StatisticsOfAll, Uncounted };
@@ -80,11 +77,10 @@ private:
     void clearPaper(const QSizeF& area);
     bool hasStatistics(int k) const;
     void enableMenus();
-    QString status() const;
+    QStringList status() const;
 
     std::unique_ptr<Ui::frmCalExec> m_ui;
     VarnModule& m_varn;
-    QLabel* m_status;
     DrawSurface m_paper;
     Shown m_shown = Shown::Nothing;
     /// The page of counts shown, from 1.

@@ -3,12 +3,13 @@
 #include "analysis/AnalysisFileName.h"
 #include "analysis/CumulativeFile.h"
 #include "platform/forms/ColorList.h"
+#include "platform/forms/ThemeColors.h"
 #include "render/forms/WordDelegate.h"
+#include "shell/FileKinds.h"
 #include "shell/VarnModule.h"
 #include "ui_frmCalc.h"
 
 #include <QCloseEvent>
-#include <QLabel>
 #include <QSignalBlocker>
 
 namespace {
@@ -41,8 +42,7 @@ int colorEntry(const QComboBox& box, int number)
 } // namespace
 
 frmCalc::frmCalc(VarnModule& varn, Dialogs& dialogs)
-    : VarnForm(dialogs), m_ui(std::make_unique<Ui::frmCalc>()), m_varn(varn), m_editor(varn),
-      m_status(new QLabel(this))
+    : VarnForm(dialogs), m_ui(std::make_unique<Ui::frmCalc>()), m_varn(varn), m_editor(varn)
 {
     m_ui->setupUi(this);
     fillColorList(*m_ui->cboForeColor);
@@ -50,13 +50,7 @@ frmCalc::frmCalc(VarnModule& varn, Dialogs& dialogs)
     for (QListWidget* list : {m_ui->lstTotal, m_ui->lstDisplay, m_ui->LstWord}) {
         list->setItemDelegate(new WordDelegate(varn, list));
     }
-    QPalette palette = m_ui->txtWordFileName->palette();
-    palette.setColor(QPalette::Base, palette.color(QPalette::Window)); // for reading only
-    m_ui->txtWordFileName->setPalette(palette);
-    m_status->setTextFormat(Qt::PlainText);
-    m_status->setContentsMargins(8, 0, 8, 0);
-    m_status->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-    statusBar()->addWidget(m_status, 1);
+    showAsReadOnly(*m_ui->txtWordFileName);
     connectMenus();
     connectButtons();
     connectFields();
@@ -112,12 +106,12 @@ void frmCalc::connectFields()
         [this](int row) { run([this, row] { lstTotal_Click(row); }); }, Qt::QueuedConnection);
     connect(m_ui->txtExplain, &QLineEdit::textChanged, this, [this](const QString& text) {
         m_varn.MapCaption = text;
-        showStatus();
+        showState();
     });
     handle(m_ui->txtTotalFileName, &QLineEdit::textChanged, &frmCalc::takeFileName);
-    connect(m_ui->txtTotalName, &QLineEdit::textChanged, this, &frmCalc::showStatus);
+    connect(m_ui->txtTotalName, &QLineEdit::textChanged, this, &frmCalc::showState);
     for (const QComboBox* box : {m_ui->cboForeColor, m_ui->cboFillColor}) {
-        connect(box, &QComboBox::currentIndexChanged, this, &frmCalc::showStatus);
+        connect(box, &QComboBox::currentIndexChanged, this, &frmCalc::showState);
     }
 }
 
@@ -136,6 +130,9 @@ void frmCalc::Form_Load()
 
 void frmCalc::followSharedState()
 {
+    if (!m_prepared) {
+        return;
+    }
     if (m_shownItems != m_varn.NumItemsAccumulated) {
         SetTotal();
     }
@@ -145,23 +142,9 @@ void frmCalc::followSharedState()
     } else if (m_shownWordform != m_varn.CurrentWordform) {
         TotalSet(m_varn.CurrentWordform);
     }
-    followItem();
-}
-
-void frmCalc::followItem()
-{
-    if (m_prepared && m_listedReading != m_varn.ItemReading) {
+    if (m_listedReading != m_varn.ItemReading) {
         SetKindWord();
-        refresh();
     }
-}
-
-bool frmCalc::event(QEvent* event)
-{
-    if (event->type() == QEvent::WindowActivate && m_prepared) {
-        run([this] { followSharedState(); });
-    }
-    return VarnForm::event(event);
 }
 
 void frmCalc::closeEvent(QCloseEvent* event)
@@ -272,21 +255,19 @@ void frmCalc::refresh()
     m_ui->cmdWordBefore->setEnabled(m_editor.current() > 1);
     m_ui->cmdWordNext->setEnabled(m_editor.current() < strings);
     m_ui->cmdSetWord->setEnabled(hasWordforms && m_varn.NKind > 0);
-    showStatus();
+    showState();
 }
 
-void frmCalc::showStatus()
+void frmCalc::showState()
 {
-    QStringList title = {FormTitle, m_varn.VarnMapName.mid(1),
-                         m_varn.TotalFileName.isEmpty() ? QString()
-                                                        : m_varn.TotalFileName + QStringLiteral(".ttl")};
-    title.removeAll(QString());
-    setWindowTitle(title.join(QStringLiteral(" - ")) + QStringLiteral("[*]"));
-    setWindowModified(isTableUnsaved(m_varn, m_varn.NLocality) || areCharsUnsaved(m_varn) || isEdited());
-    m_status->setText(status());
+    const QString& name = m_varn.TotalFileName;
+    const QString file = name.isEmpty() ? name : name + TotalFiles.ending;
+    showTitle({FormTitle, m_varn.VarnMapName.mid(1), file},
+              isTableUnsaved(m_varn, m_varn.NLocality) || areCharsUnsaved(m_varn) || isEdited());
+    showStatus(status());
 }
 
-QString frmCalc::status() const
+QStringList frmCalc::status() const
 {
     QStringList parts;
     if (m_varn.NumWordforms == 0) {
@@ -297,23 +278,23 @@ QString frmCalc::status() const
                      .arg(m_varn.NumItemsAccumulated)
                      .arg(isTableUnsaved(m_varn, m_varn.NLocality) ? QStringLiteral(", not saved")
                                                                    : QString());
-        const QString file = analysisFileStem(m_varn.SpecifyFileName, QStringLiteral(".sum"));
+        const QString file = analysisFileStem(m_varn.SpecifyFileName, StringFiles.ending);
         parts << QStringLiteral("Strings: %1%2")
-                     .arg(file.isEmpty() ? QStringLiteral("no file") : file + QStringLiteral(".sum"),
+                     .arg(file.isEmpty() ? QStringLiteral("no file") : file + StringFiles.ending,
                           areCharsUnsaved(m_varn) ? QStringLiteral(", not saved") : QString());
     }
     if (isEdited()) {
         parts << QStringLiteral("Changes not registered");
     }
-    return parts.join(QStringLiteral("    |    "));
+    return parts;
 }
 
 void frmCalc::showNewState()
 {
     if (m_prepared) {
         showTable();
-        m_ui->txtSetFileName->setText(analysisFileStem(m_varn.SpecifyFileName, QStringLiteral(".sum")));
+        m_ui->txtSetFileName->setText(analysisFileStem(m_varn.SpecifyFileName, StringFiles.ending));
         SetKindWord();
     }
-    refresh();
+    VarnForm::showNewState();
 }

@@ -8,7 +8,6 @@
 #include <optional>
 
 class QComboBox;
-class QLabel;
 struct VarnModule;
 
 namespace Ui {
@@ -28,8 +27,7 @@ public:
     /// Prepares the form to be shown: shows the table, the strings and the item that are loaded.
     void Form_Load();
     void refresh() override;
-    /// Lists the kinds of the loaded item where it was loaded since they were listed.
-    void followItem();
+    void followSharedState() override;
     void showNewState() override;
 
 Q_SIGNALS:
@@ -43,7 +41,6 @@ Q_SIGNALS:
     void toContrast();
 
 protected:
-    bool event(QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
 
 private:
@@ -105,8 +102,6 @@ private:
     void moveTo(int k);
     void takeFileName();
     TotalState state();
-    /// Takes over what other forms did meanwhile.
-    void followSharedState();
 
     WordformFields fields() const;
     bool isEdited() const { return m_prepared && fields() != m_stored; }
@@ -116,13 +111,12 @@ private:
     bool mayGiveUpTable(const QString& question);
     bool mayGiveUpStrings(const QString& question);
     std::optional<QString> askForFile(const QString& title, const QString& filter);
-    void showStatus();
-    QString status() const;
+    void showState();
+    QStringList status() const;
 
     std::unique_ptr<Ui::frmCalc> m_ui;
     VarnModule& m_varn;
     SpecifyCharsEditor m_editor;
-    QLabel* m_status;
     /// The word form shown, and its fields as they were shown or registered last.
     int m_shownWordform = 0;
     WordformFields m_stored;

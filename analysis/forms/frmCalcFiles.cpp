@@ -4,6 +4,7 @@
 #include "analysis/CumulativeFile.h"
 #include "analysis/OpenTotal.h"
 #include "analysis/forms/frmCalc.h"
+#include "shell/FileKinds.h"
 #include "shell/VarnModule.h"
 #include "ui_frmCalc.h"
 
@@ -37,9 +38,7 @@ TotalState frmCalc::state()
 
 std::optional<QString> frmCalc::askForFile(const QString& title, const QString& filter)
 {
-    const QString folder = m_varn.Drive.hostPath(m_varn.dataFolder());
-    const std::optional<QString> file = dialogs().openFile(title, folder, filter);
-    return file ? std::optional(m_varn.Drive.varnPath(*file)) : std::nullopt;
+    return askToOpen(dialogs(), m_varn.Drive, m_varn.dataFolder(), title, filter);
 }
 
 bool frmCalc::mayGiveUpTable(const QString& question)
@@ -60,8 +59,8 @@ bool frmCalc::mayGiveUpStrings(const QString& question)
 void frmCalc::takeFileName()
 {
     m_varn.TotalFileName = m_ui->txtTotalFileName->text().trimmed();
-    if (m_varn.TotalFileName.endsWith(QStringLiteral(".ttl"), Qt::CaseInsensitive)) {
-        m_varn.TotalFileName.chop(4);
+    if (m_varn.TotalFileName.endsWith(TotalFiles.ending, Qt::CaseInsensitive)) {
+        m_varn.TotalFileName.chop(TotalFiles.ending.size());
     }
 }
 
@@ -71,8 +70,7 @@ void frmCalc::mnuFileOpen_Click()
     if (!mayGiveUpFields(question) || !mayGiveUpTable(question)) {
         return;
     }
-    if (const auto path = askForFile(QStringLiteral("Open Cumulative Data File"),
-                                     QStringLiteral("Total Files (*.ttl)|*.ttl"))) {
+    if (const auto path = askForFile(QStringLiteral("Open Cumulative Data File"), TotalFiles.filter())) {
         LoadTotalFile(*path);
     }
 }
@@ -106,7 +104,7 @@ void frmCalc::Initialize()
 
 void frmCalc::showFileOfStrings()
 {
-    m_ui->txtSetFileName->setText(analysisFileStem(m_varn.SpecifyFileName, QStringLiteral(".sum")));
+    m_ui->txtSetFileName->setText(analysisFileStem(m_varn.SpecifyFileName, StringFiles.ending));
 }
 
 void frmCalc::LoadSetData()
@@ -115,8 +113,7 @@ void frmCalc::LoadSetData()
     if (!mayGiveUpFields(question) || !mayGiveUpStrings(question)) {
         return;
     }
-    const auto path =
-        askForFile(QStringLiteral("Open Specify Char File"), QStringLiteral("Sum Files (*.sum)|*.sum"));
+    const auto path = askForFile(QStringLiteral("Open Specify Char File"), StringFiles.filter());
     if (path && openStrings(*path, state(), dialogs())) {
         showTable();
         showFileOfStrings();
@@ -127,15 +124,14 @@ void frmCalc::SaveSetData()
 {
     const QString name = m_ui->txtSetFileName->text().trimmed();
     const QString title = QStringLiteral("Save Specify Char File");
-    if (analysisFileStem(name, QStringLiteral(".sum")).isEmpty()) {
+    if (analysisFileStem(name, StringFiles.ending).isEmpty()) {
         dialogs().message(QStringLiteral("Input Name of Specify Characters."), title);
         m_ui->txtSetFileName->setFocus();
         return;
     }
-    const QString path = analysisFilePath(m_varn, name, QStringLiteral(".sum"));
+    const QString path = analysisFilePath(m_varn, name, StringFiles.ending);
     const bool isOwn = path.compare(m_varn.SpecifyFileName, Qt::CaseInsensitive) == 0;
-    if (!isOwn && fileExists(m_varn.Drive, path) &&
-        !dialogs().confirmLoss(QStringLiteral("File already exist. Overwrite O.K.? "), title)) {
+    if (!isOwn && !askToSave(dialogs(), m_varn.Drive, path, title)) {
         return;
     }
     ::SaveSetData(m_varn.Drive, path, m_varn);

@@ -7,7 +7,6 @@
 #include "ui_frmRankData.h"
 
 #include <QCloseEvent>
-#include <QLabel>
 
 namespace {
 
@@ -30,15 +29,10 @@ void showWords(QListWidget& list, const QStringList& words)
 } // namespace
 
 frmRankData::frmRankData(VarnModule& varn, Dialogs& dialogs)
-    : VarnForm(dialogs), m_ui(std::make_unique<Ui::frmRankData>()), m_varn(varn), m_editor(varn, varn),
-      m_status(new QLabel(this))
+    : VarnForm(dialogs), m_ui(std::make_unique<Ui::frmRankData>()), m_varn(varn), m_editor(varn, varn)
 {
     constexpr float Margin = 240;
     m_ui->setupUi(this);
-    m_status->setTextFormat(Qt::PlainText);
-    m_status->setContentsMargins(8, 0, 8, 0);
-    m_status->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-    statusBar()->addWidget(m_status, 1);
     m_paper.Width = toSingle(ContrastPages::area().width()) + 2 * Margin;
     m_paper.Height = toSingle(ContrastPages::area().height()) + 2 * Margin;
     m_paper.ScaleLeft = -Margin;
@@ -80,11 +74,11 @@ void frmRankData::connectButtons()
     handle(m_ui->cmdDel2, &QPushButton::clicked, &frmRankData::cmdDel2_Click);
     handle(m_ui->cmdCalc, &QPushButton::clicked, &frmRankData::cmdCalc_Click);
     for (QLineEdit* box : {m_ui->txtRankTitle, m_ui->txtStep, m_ui->txtSize, m_ui->txtRankFileName}) {
-        connect(box, &QLineEdit::textChanged, this, &frmRankData::showStatus);
+        connect(box, &QLineEdit::textChanged, this, &frmRankData::showState);
     }
     for (int side = 1; side <= 2; ++side) {
-        connect(&setColorBox(side), &QComboBox::currentIndexChanged, this, &frmRankData::showStatus);
-        connect(&fillColorBox(side), &QComboBox::currentIndexChanged, this, &frmRankData::showStatus);
+        connect(&setColorBox(side), &QComboBox::currentIndexChanged, this, &frmRankData::showState);
+        connect(&fillColorBox(side), &QComboBox::currentIndexChanged, this, &frmRankData::showState);
     }
 }
 
@@ -115,12 +109,11 @@ void frmRankData::showGroups()
     }
 }
 
-bool frmRankData::event(QEvent* event)
+void frmRankData::followSharedState()
 {
-    if (event->type() == QEvent::WindowActivate && m_prepared) {
-        run([this] { followTable(); });
+    if (m_prepared) {
+        followTable();
     }
-    return VarnForm::event(event);
 }
 
 void frmRankData::closeEvent(QCloseEvent* event)
@@ -148,16 +141,13 @@ void frmRankData::refresh()
     m_ui->cmdDel2->setEnabled(m_varn.ContrastCount(2) > 0);
     m_ui->cmdCalc->setEnabled(m_varn.ContrastCount(1) + m_varn.ContrastCount(2) > 0);
     m_ui->picRank->refresh();
-    showStatus();
+    showState();
 }
 
-void frmRankData::showStatus()
+void frmRankData::showState()
 {
     const QString name = m_ui->txtRankFileName->text().trimmed();
-    QStringList title = {FormTitle, m_varn.VarnMapName.mid(1), name.isEmpty() ? name : name + Ending};
-    title.removeAll(QString());
-    setWindowTitle(title.join(QStringLiteral(" - ")) + QStringLiteral("[*]"));
-    setWindowModified(isEdited());
+    showTitle({FormTitle, m_varn.VarnMapName.mid(1), name.isEmpty() ? name : name + Ending}, isEdited());
 
     QStringList parts;
     if (m_varn.NumWordforms == 0) {
@@ -171,7 +161,7 @@ void frmRankData::showStatus()
     if (m_page > 0) {
         parts << QStringLiteral("Page %1 of %2").arg(m_page).arg(ContrastPages(m_varn, QString()).count());
     }
-    m_status->setText(parts.join(QStringLiteral("    |    ")));
+    showStatus(parts);
 }
 
 QListWidget& frmRankData::groupList(int side) const

@@ -8,7 +8,6 @@
 #include <optional>
 
 class QComboBox;
-class QLabel;
 class QListWidget;
 struct VarnModule;
 
@@ -29,6 +28,7 @@ public:
     /// Prepares the form to be shown: lists the word forms of the table and the groups.
     void Form_Load();
     void refresh() override;
+    void followSharedState() override;
 
 Q_SIGNALS:
     /// The user wants to see the contrast map, whose data is complete.
@@ -37,7 +37,6 @@ Q_SIGNALS:
     void toAnalysis();
 
 protected:
-    bool event(QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
 
 private:
@@ -86,12 +85,11 @@ private:
 
     bool isEdited() const { return m_prepared && (m_groupsEdited || boxes() != m_savedBoxes); }
     bool mayGiveUpWork(const QString& question);
-    void showStatus();
+    void showState();
 
     std::unique_ptr<Ui::frmRankData> m_ui;
     VarnModule& m_varn;
     ContrastEditor m_editor;
-    QLabel* m_status;
     DrawSurface m_paper;
     /// The page of the result table shown, from 1; 0 where it is hidden.
     int m_page = 0;

@@ -12,7 +12,6 @@
 
 #include <QCloseEvent>
 #include <QIntValidator>
-#include <QLabel>
 #include <QScopeGuard>
 
 #include <algorithm>
@@ -44,14 +43,10 @@ void choose(QComboBox& box, int number)
 
 frmTotalHanko::frmTotalHanko(VarnModule& varn, Dialogs& dialogs)
     : VarnForm(dialogs), m_ui(std::make_unique<Ui::frmTotalHanko>()), m_varn(varn),
-      m_picker(new SymbolPicker(varn, varn, this)), m_status(new QLabel(this))
+      m_picker(new SymbolPicker(varn, varn, this))
 {
     constexpr float BlockMargin = 120;
     m_ui->setupUi(this);
-    m_status->setTextFormat(Qt::PlainText);
-    m_status->setContentsMargins(8, 0, 8, 0);
-    m_status->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-    statusBar()->addWidget(m_status, 1);
     fillColorList(*m_ui->cboColor);
     fillColorList(*m_ui->cboBack);
     m_ui->cboSize->addItems({QStringLiteral("Small"), QStringLiteral("Normal"), QStringLiteral("Large")});
@@ -100,7 +95,7 @@ void frmTotalHanko::connectFields()
             [this](const QString& text) { edit([&] { m_varn.DiffusionComment = text; }); });
     connect(m_ui->txtHanrei, &QLineEdit::textChanged, this,
             [this](const QString& text) { edit([&] { m_varn.DiffusionCaption(m_wordform) = text; }); });
-    connect(m_ui->txtFileName, &QLineEdit::textChanged, this, &frmTotalHanko::showStatus);
+    connect(m_ui->txtFileName, &QLineEdit::textChanged, this, &frmTotalHanko::showState);
     connect(m_ui->chkPat, &QCheckBox::toggled, this,
             [this](bool painted) { edit([&] { hanko().PaintOn = painted ? 1 : 0; }); });
     storeNumber(m_ui->txtHankoNumber, &frmTotalHanko::hankoNumber);
@@ -173,12 +168,11 @@ void frmTotalHanko::followTable()
     showWordform();
 }
 
-bool frmTotalHanko::event(QEvent* event)
+void frmTotalHanko::followSharedState()
 {
-    if (event->type() == QEvent::WindowActivate && m_prepared) {
-        run([this] { followTable(); });
+    if (m_prepared) {
+        followTable();
     }
-    return VarnForm::event(event);
 }
 
 bool frmTotalHanko::eventFilter(QObject* watched, QEvent* event)
@@ -213,26 +207,21 @@ void frmTotalHanko::refresh()
     m_ui->picHanko->refresh();
     m_ui->picSample->refresh();
     m_ui->picStatistics->refresh();
-    showStatus();
+    showState();
 }
 
-void frmTotalHanko::showStatus()
+void frmTotalHanko::showState()
 {
     const QString name = m_ui->txtFileName->text().trimmed();
-    QStringList title = {FormTitle, m_varn.VarnMapName.mid(1), name.isEmpty() ? name : name + Ending};
-    title.removeAll(QString());
-    setWindowTitle(title.join(QStringLiteral(" - ")) + QStringLiteral("[*]"));
-    setWindowModified(isEdited());
+    showTitle({FormTitle, m_varn.VarnMapName.mid(1), name.isEmpty() ? name : name + Ending}, isEdited());
     if (m_wordform == 0) {
-        m_status->setText(QStringLiteral("No cumulative data: open it in the form Accumulate Data"));
+        showStatus({QStringLiteral("No cumulative data: open it in the form Accumulate Data")});
         return;
     }
-    m_status->setText(QStringLiteral("Word form %1 of %2    |    %3 items, %4 localities%5")
-                          .arg(m_wordform)
-                          .arg(m_varn.NumWordforms)
-                          .arg(m_varn.NumItemsAccumulated)
-                          .arg(m_varn.NLocality)
-                          .arg(isEdited() ? QStringLiteral("    |    Not saved") : QString()));
+    showStatus(
+        {QStringLiteral("Word form %1 of %2").arg(m_wordform).arg(m_varn.NumWordforms),
+         QStringLiteral("%1 items, %2 localities").arg(m_varn.NumItemsAccumulated).arg(m_varn.NLocality),
+         isEdited() ? QStringLiteral("Not saved") : QString()});
 }
 
 void frmTotalHanko::showList()

@@ -10,7 +10,6 @@
 #include <optional>
 
 class QComboBox;
-class QLabel;
 class QLineEdit;
 class SymbolPicker;
 struct VarnModule;
@@ -32,6 +31,7 @@ public:
     /// Prepares the form to be shown: lists the word forms of the table and shows their symbols.
     void Form_Load();
     void refresh() override;
+    void followSharedState() override;
 
 Q_SIGNALS:
     /// The user wants to see the diffusion map of the symbols.
@@ -40,7 +40,6 @@ Q_SIGNALS:
     void toAnalysis();
 
 protected:
-    bool event(QEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
 
@@ -76,7 +75,7 @@ private:
     /// Takes over what other forms did to the table meanwhile.
     void followTable();
     void drawSymbols();
-    void showStatus();
+    void showState();
 
     void LoadTotalHanko(const QString& path);
     /// The path to save to; nothing where the user has to name it first or keeps the file that is there.
@@ -87,7 +86,6 @@ private:
     std::unique_ptr<Ui::frmTotalHanko> m_ui;
     VarnModule& m_varn;
     SymbolPicker* m_picker;
-    QLabel* m_status;
     DrawSurface m_preview;
     DrawSurface m_sample;
     DrawSurface m_block;

@@ -2,10 +2,10 @@
 
 #include "lingdata/ItemLoader.h"
 #include "platform/Numbers.h"
+#include "shell/FileKinds.h"
 #include "shell/Printing.h"
 #include "ui_frmData.h"
 
-#include <QEvent>
 #include <QScrollBar>
 
 #include <utility>
@@ -60,7 +60,7 @@ void frmData::Form_Load()
     });
 }
 
-void frmData::followItem()
+void frmData::followSharedState()
 {
     if (m_shownReading == m_varn.ItemReading) {
         return;
@@ -70,15 +70,6 @@ void frmData::followItem()
     } else {
         displayList(m_list);
     }
-    refresh();
-}
-
-bool frmData::event(QEvent* event)
-{
-    if (event->type() == QEvent::WindowActivate) {
-        run([this] { followItem(); });
-    }
-    return VarnForm::event(event);
 }
 
 void frmData::refresh()
@@ -104,17 +95,16 @@ void frmData::enableMenus()
 void frmData::showWhatIsShown()
 {
     QStringList title = {QStringLiteral("VARN Display Data"), m_varn.VarnMapName.mid(1)};
+    QStringList status;
     if (m_pages) {
         const bool isData = m_list == List::Data;
         title << m_pages->list().fileName << (isData ? QStringLiteral("Data") : QStringLiteral("Kinds"));
-        statusBar()->showMessage((isData ? QStringLiteral("Page %1 of %2    |    Word forms: %3")
-                                         : QStringLiteral("Page %1 of %2    |    Kinds of word forms: %3"))
-                                     .arg(m_page)
-                                     .arg(m_pages->count())
-                                     .arg(m_pages->list().lines.size()));
+        status << QStringLiteral("Page %1 of %2").arg(m_page).arg(m_pages->count())
+               << (isData ? QStringLiteral("Word forms: %1") : QStringLiteral("Kinds of word forms: %1"))
+                      .arg(m_pages->list().lines.size());
     }
-    title.removeAll(QString());
-    setWindowTitle(title.join(QStringLiteral(" - ")));
+    showTitle(title);
+    showStatus(status);
 }
 
 void frmData::displayList(List list)
@@ -132,7 +122,6 @@ void frmData::displayNothing()
     m_pages.reset();
     m_page = 0;
     m_paper.Cls();
-    statusBar()->clearMessage();
     m_shownReading = m_varn.ItemReading;
 }
 
@@ -155,14 +144,13 @@ void frmData::turnTo(int page)
 
 void frmData::mnuOpen_Click()
 {
-    const QString folder = m_varn.Drive.hostPath(m_varn.dataFolder());
-    const auto file = dialogs().openFile(QStringLiteral("Load Linguistic File"), folder,
-                                         QStringLiteral("DBS Files (*.dbs)|*.dbs"));
-    if (!file) {
+    const auto path = askToOpen(dialogs(), m_varn.Drive, m_varn.dataFolder(),
+                                QStringLiteral("Load Linguistic File"), ItemFiles.filter());
+    if (!path) {
         return;
     }
     const WaitCursor wait;
-    LoadWordData(m_varn, m_varn.Drive.varnPath(*file), m_varn, m_varn, dialogs());
+    LoadWordData(m_varn, *path, m_varn, m_varn, dialogs());
     Q_EMIT itemLoaded();
     displayList(List::Data);
 }
@@ -239,6 +227,5 @@ void frmData::showNewState()
     m_pages.reset();
     m_page = 0;
     m_paper.Cls();
-    statusBar()->clearMessage();
     refresh();
 }

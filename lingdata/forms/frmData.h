@@ -24,7 +24,7 @@ public:
     void Form_Load();
     void refresh() override;
     /// Shows the item that is loaded now, where it was loaded or dropped since it was shown.
-    void followItem();
+    void followSharedState() override;
     void showNewState() override;
 
 Q_SIGNALS:
@@ -32,9 +32,6 @@ Q_SIGNALS:
     void toMain();
     /// An item was loaded here: other forms may do more than before.
     void itemLoaded();
-
-protected:
-    bool event(QEvent* event) override;
 
 private:
     enum class List { Data, Kinds };

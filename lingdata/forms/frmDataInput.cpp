@@ -194,10 +194,8 @@ void frmDataInput::refresh()
 
 void frmDataInput::showState()
 {
-    QStringList title = {QStringLiteral("VARN Input Linguistic Data"), m_varn.VarnMapName.mid(1), m_fileName};
-    title.removeAll(QString());
-    setWindowTitle(title.join(QStringLiteral(" - ")) + QStringLiteral("[*]"));
-    setWindowModified(m_editor.isUnsaved());
+    showTitle({QStringLiteral("VARN Input Linguistic Data"), m_varn.VarnMapName.mid(1), m_fileName},
+              m_editor.isUnsaved());
     m_progress->setText(QStringLiteral("%1 of %2 localities answered, %3 word forms")
                             .arg(QString::number(m_editor.answeredLocalities()),
                                  QString::number(m_editor.localities()),

@@ -2,7 +2,9 @@
 
 #include "mapdata/MapFiles.h"
 #include "mapdata/RegisteredMap.h"
+#include "platform/FileKind.h"
 #include "platform/SequentialFile.h"
+#include "platform/forms/ThemeColors.h"
 #include "render/BlankMap.h"
 #include "shell/MapChange.h"
 #include "shell/MapParts.h"
@@ -16,18 +18,6 @@
 #include <algorithm>
 #include <utility>
 
-namespace {
-
-/// Shows that the text of `box` is for reading only.
-void colorAsReadOnly(QLineEdit& box)
-{
-    QPalette palette = box.palette();
-    palette.setColor(QPalette::Base, palette.color(QPalette::Window));
-    box.setPalette(palette);
-}
-
-} // namespace
-
 frmChizu::frmChizu(VarnModule& varn, Dialogs& dialogs, std::function<MapSurfaces()> mapSurfaces,
                    std::function<bool()> mayChangeMap)
     : VarnForm(dialogs), m_ui(std::make_unique<Ui::frmChizu>()), m_varn(varn),
@@ -36,8 +26,8 @@ frmChizu::frmChizu(VarnModule& varn, Dialogs& dialogs, std::function<MapSurfaces
     m_ui->setupUi(this);
     m_ui->picMap->setSurface(m_surface, SurfaceView::Fit::WholePaper);
     m_ui->picMap->setPlaceholder(QStringLiteral("The parts of the map are shown here."));
-    colorAsReadOnly(*m_ui->txtMapName);
-    colorAsReadOnly(*m_ui->txtPathName);
+    showAsReadOnly(*m_ui->txtMapName);
+    showAsReadOnly(*m_ui->txtPathName);
     handle(m_ui->cmdRegMapName, &QPushButton::clicked, &frmChizu::cmdRegMapName_Click);
     handle(m_ui->cmdCurveLine, &QPushButton::clicked, &frmChizu::cmdCurveLine_Click);
     handle(m_ui->cmdChiten, &QPushButton::clicked, &frmChizu::cmdChiten_Click);
@@ -62,8 +52,7 @@ void frmChizu::refresh()
     const QString mapName = m_varn.VarnMapName.mid(1);
     m_ui->txtPathName->setText(m_varn.VarnPath);
     m_ui->txtMapName->setText(mapName);
-    const QString caption = QStringLiteral("Set Map Data and Draw Blank Map");
-    setWindowTitle(mapName.isEmpty() ? caption : caption + QStringLiteral(" - ") + mapName);
+    showTitle({QStringLiteral("Set Map Data and Draw Blank Map"), mapName});
     m_ui->picMap->refresh();
 }
 
@@ -106,13 +95,13 @@ void frmChizu::FindMinMax(float& scale) const
 bool frmChizu::SearchLocateData()
 {
     const QString title = QStringLiteral("Set Map Name");
-    const QString folder = m_varn.Drive.hostPath(m_varn.VarnPath + QStringLiteral("\\VarnData"));
-    const auto file = dialogs().openFile(
-        title, folder, QStringLiteral("Map and item files (*.map;*.dbs)|*.map;*.dbs|All files (*.*)|*.*"));
-    if (!file) {
+    const auto path =
+        askToOpen(dialogs(), m_varn.Drive, m_varn.VarnPath + QStringLiteral("\\VarnData"), title,
+                  QStringLiteral("Map and item files (*.map;*.dbs)|*.map;*.dbs|All files (*.*)|*.*"));
+    if (!path) {
         return false;
     }
-    const std::optional<MapPlace> place = mapPlaceOf(m_varn.Drive.varnPath(*file));
+    const std::optional<MapPlace> place = mapPlaceOf(*path);
     if (!place) {
         dialogs().message(QStringLiteral("The file is not in the folder of a map under \\VarnData."), title);
         return false;

@@ -1,6 +1,7 @@
 #include "platform/forms/ThemeColors.h"
 
 #include <QLabel>
+#include <QLineEdit>
 #include <QPalette>
 
 namespace {
@@ -40,4 +41,11 @@ void showAsWarning(QLabel& label)
     QPalette palette = label.palette();
     palette.setColor(QPalette::WindowText, warningText(palette));
     label.setPalette(palette);
+}
+
+void showAsReadOnly(QLineEdit& box)
+{
+    QPalette palette = box.palette();
+    palette.setColor(QPalette::Base, palette.color(QPalette::Window));
+    box.setPalette(palette);
 }

@@ -3,6 +3,7 @@
 #include <QColor>
 
 class QLabel;
+class QLineEdit;
 class QPalette;
 
 /// Colours of the forms beside those of a palette. They can be read in a light theme and in a dark one.
@@ -16,3 +17,5 @@ QColor chosenCell(const QPalette& palette);
 
 /// Writes the texts of `label` as warnings.
 void showAsWarning(QLabel& label);
+/// Shows that the text of `box` is for reading only.
+void showAsReadOnly(QLineEdit& box);

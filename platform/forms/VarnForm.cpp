@@ -5,10 +5,12 @@
 
 #include <QEvent>
 #include <QGuiApplication>
+#include <QLabel>
 #include <QLayout>
 #include <QPushButton>
 #include <QScreen>
 #include <QScrollArea>
+#include <QStatusBar>
 #include <QStyle>
 
 #include <new>
@@ -27,6 +29,12 @@ std::optional<RunTimeError> errorOf(const std::function<void()>& handler)
         return RunTimeError(ErrorNumber::OutOfMemory);
     }
     return std::nullopt;
+}
+
+QString joined(QStringList parts, const QString& separator)
+{
+    parts.removeAll(QString());
+    return parts.join(separator);
 }
 
 /// What is known of the error. Its file is named a second time where this machine has another path for it.
@@ -52,8 +60,17 @@ void VarnForm::bringToFront()
     activateWindow();
 }
 
+void VarnForm::showNewState()
+{
+    followSharedState();
+    refresh();
+}
+
 bool VarnForm::event(QEvent* event)
 {
+    if (event->type() == QEvent::WindowActivate) {
+        run([this] { followSharedState(); });
+    }
     const bool done = QMainWindow::event(event);
     if (event->type() == QEvent::Show && !isMaximized()) {
         resize(size().boundedTo(roomOnScreen()));
@@ -89,6 +106,34 @@ void VarnForm::fitScreen()
     setCentralWidget(scroll);
     layout()->activate();
     resize(size().boundedTo(room));
+}
+
+void VarnForm::showTitle(const QStringList& parts)
+{
+    setWindowTitle(joined(parts, QStringLiteral(" - ")));
+}
+
+void VarnForm::showTitle(const QStringList& parts, bool unsaved)
+{
+    setWindowTitle(joined(parts, QStringLiteral(" - ")) + QStringLiteral("[*]"));
+    setWindowModified(unsaved);
+}
+
+void VarnForm::showStatus(const QStringList& parts)
+{
+    statusLine().setText(joined(parts, QStringLiteral("    |    ")));
+}
+
+QLabel& VarnForm::statusLine()
+{
+    if (m_status == nullptr) {
+        m_status = new QLabel(this);
+        m_status->setTextFormat(Qt::PlainText);
+        m_status->setContentsMargins(8, 0, 8, 0);
+        m_status->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+        statusBar()->addWidget(m_status, 1);
+    }
+    return *m_status;
 }
 
 void VarnForm::frameFocus(QPushButton& flat)

@@ -6,6 +6,7 @@
 
 #include <functional>
 
+class QLabel;
 class QPushButton;
 
 /// Base of the program's forms. Every event handler runs through `run`, so that one that ends with a run-time
@@ -23,15 +24,28 @@ public:
     /// Shows what the shared state and the form's drawing hold now; called after every handler.
     virtual void refresh() {}
 
+    /// Takes over what other forms did to the shared state meanwhile. Called whenever the form comes to the
+    /// front; a form that is not prepared yet has nothing to take over.
+    virtual void followSharedState() {}
+
     /// Shows the shared state after it was replaced as a whole, by that of another map or by work that was
     /// kept.
-    virtual void showNewState() { refresh(); }
+    virtual void showNewState();
 
 protected:
     bool event(QEvent* event) override;
 
     /// The largest size that the form can have on its screen, in its frame.
     QSize roomOnScreen() const;
+
+    /// Titles the form with those of `parts` that are not empty.
+    void showTitle(const QStringList& parts);
+    /// The same for a form that holds work, which is marked where it is `unsaved`.
+    void showTitle(const QStringList& parts, bool unsaved);
+
+    /// Writes those of `parts` that are not empty in the status line, which is as wide as the form.
+    void showStatus(const QStringList& parts);
+    QLabel& statusLine();
 
     /// Frames `flat`, a flat button, while it has the keyboard focus; no style does.
     static void frameFocus(QPushButton& flat);
@@ -55,6 +69,8 @@ private:
     void fitScreen();
 
     Dialogs& m_dialogs;
+    /// Null before it is used first.
+    QLabel* m_status = nullptr;
 };
 
 /// Shows the wait cursor while it lives, for a drawing that may take long.

@@ -16,17 +16,13 @@
 
 frmMap::frmMap(VarnModule& varn, Dialogs& dialogs)
     : VarnForm(dialogs), m_ui(std::make_unique<Ui::frmMap>()), m_varn(varn), m_places(new QButtonGroup(this)),
-      m_loaded(new QLabel(this)), m_lblInsatsumode(new QPushButton(this))
+      m_lblInsatsumode(new QPushButton(this))
 {
     m_ui->setupUi(this);
     m_ui->fraStyle->hide();
     setFirstSize(m_surface);
     m_ui->picMap->setSurface(m_surface, SurfaceView::Fit::NaturalSize);
     m_ui->scrMap->viewport()->installEventFilter(this);
-    m_loaded->setTextFormat(Qt::PlainText);
-    m_loaded->setContentsMargins(8, 0, 8, 0);
-    m_loaded->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-    statusBar()->addWidget(m_loaded, 1);
     m_lblInsatsumode->setObjectName(QStringLiteral("lblInsatsumode"));
     m_lblInsatsumode->setFlat(true);
     frameFocus(*m_lblInsatsumode);
@@ -43,7 +39,7 @@ frmMap::~frmMap() = default;
 
 void frmMap::nameControls()
 {
-    m_loaded->setAccessibleName(QStringLiteral("Loaded files"));
+    statusLine().setAccessibleName(QStringLiteral("Loaded files"));
     m_lblInsatsumode->setAccessibleDescription(m_lblInsatsumode->toolTip());
     setTabOrder(m_ui->optHankoDown, m_lblInsatsumode);
 }
@@ -119,31 +115,16 @@ MapSurfaces frmMap::surfaces()
 void frmMap::refresh()
 {
     m_ui->picMap->refresh();
-    showState();
-}
-
-void frmMap::showState()
-{
     showLoaded();
     DisplayInsatsu();
     enableMapLing();
     enableTotal();
 }
 
-void frmMap::changeEvent(QEvent* event)
-{
-    VarnForm::changeEvent(event);
-    if (event->type() == QEvent::ActivationChange) {
-        showState(); // other forms may have changed it meanwhile
-    }
-}
-
 void frmMap::showLoaded()
 {
-    QStringList title = {QStringLiteral("VARN Map"), m_varn.VarnMapName.mid(1), m_varn.ItemFileName,
-                         m_varn.SymbolFileName};
-    title.removeAll(QString());
-    setWindowTitle(title.join(QStringLiteral(" - ")));
+    showTitle(
+        {QStringLiteral("VARN Map"), m_varn.VarnMapName.mid(1), m_varn.ItemFileName, m_varn.SymbolFileName});
 
     const bool haveItem = !m_varn.ItemFileName.isEmpty();
     const QString mismatch = haveItem ? localityMismatch(m_varn.NLocate, m_varn.NLocality) : QString();
@@ -155,9 +136,7 @@ void frmMap::showLoaded()
                                 ? QStringLiteral("No symbol file loaded")
                                 : QStringLiteral("Symbols: %1 (%2 captions)")
                                       .arg(m_varn.SymbolFileName, QString::number(m_varn.NHanrei));
-    QStringList parts = {mismatch, item, symbols};
-    parts.removeAll(QString());
-    m_loaded->setText(parts.join(QStringLiteral("    |    ")));
+    showStatus({mismatch, item, symbols});
 }
 
 void frmMap::enableTotal()
@@ -221,6 +200,5 @@ void frmMap::keyPressEvent(QKeyEvent* event)
 void frmMap::showNewState()
 {
     m_surface.Cls();
-    enableMapLing();
-    refresh();
+    VarnForm::showNewState();
 }

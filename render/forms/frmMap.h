@@ -6,7 +6,6 @@
 #include <memory>
 
 class QButtonGroup;
-class QLabel;
 class QPushButton;
 struct VarnModule;
 
@@ -43,7 +42,6 @@ Q_SIGNALS:
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
-    void changeEvent(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
@@ -85,14 +83,12 @@ private:
     void nameControls();
     void showArea();
     void followWindow();
-    void showState();
     void showLoaded();
 
     std::unique_ptr<Ui::frmMap> m_ui;
     VarnModule& m_varn;
     DrawSurface m_surface;
     QButtonGroup* m_places;
-    QLabel* m_loaded;
     /// Shows the print switch; a click turns it.
     QPushButton* m_lblInsatsumode;
     /// The window's size that shows the drawing area as it was set; empty once the user resized the window.

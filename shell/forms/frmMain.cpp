@@ -1,5 +1,6 @@
 #include "shell/forms/frmMain.h"
 
+#include "platform/forms/ThemeColors.h"
 #include "render/BlankMap.h"
 #include "shell/ImportCommands.h"
 #include "shell/MapParts.h"
@@ -10,18 +11,6 @@
 #include <QCloseEvent>
 #include <QCoreApplication>
 #include <QScopeGuard>
-
-namespace {
-
-/// Shows that the text of `box` is for reading only.
-void colorAsReadOnly(QLineEdit& box)
-{
-    QPalette palette = box.palette();
-    palette.setColor(QPalette::Base, palette.color(QPalette::Window));
-    box.setPalette(palette);
-}
-
-} // namespace
 
 frmMain::frmMain(VarnModule& varn, Dialogs& dialogs)
     : VarnForm(dialogs), m_ui(std::make_unique<Ui::frmMain>()), m_varn(varn), m_map(varn, dialogs),
@@ -35,8 +24,8 @@ frmMain::frmMain(VarnModule& varn, Dialogs& dialogs)
     m_preview.Height = m_map.surface().Height;
     m_ui->picPreview->setSurface(m_preview, SurfaceView::Fit::WholePaper);
     m_ui->picPreview->setPlaceholder(QStringLiteral("Check Map Name shows the map here."));
-    colorAsReadOnly(*m_ui->txtVarnPath);
-    colorAsReadOnly(*m_ui->txtVarnMapName);
+    showAsReadOnly(*m_ui->txtVarnPath);
+    showAsReadOnly(*m_ui->txtVarnMapName);
     prepareSetMergin();
     connectButtons();
     connectForms();
@@ -119,7 +108,7 @@ void frmMain::refresh()
     const QString mapName = m_varn.VarnMapName.mid(1);
     m_ui->txtVarnPath->setText(m_varn.VarnPath);
     m_ui->txtVarnMapName->setText(mapName);
-    setWindowTitle(mapName.isEmpty() ? QStringLiteral("VARN") : QStringLiteral("VARN - ") + mapName);
+    showTitle({QStringLiteral("VARN"), mapName});
     m_ui->picPreview->refresh();
     m_map.refresh();
 }
@@ -188,11 +177,10 @@ std::vector<VarnForm*> frmMain::workingForms()
 
 void frmMain::showReloadedItem()
 {
-    m_data.followItem();
-    m_setHanko.followItem();
-    m_calc.followItem();
-    m_calExec.refresh();
-    m_map.enableMapLing();
+    for (VarnForm* form : workingForms()) {
+        form->followSharedState();
+        form->refresh();
+    }
 }
 
 void frmMain::cmdRegMap_Click()

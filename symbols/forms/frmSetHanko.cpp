@@ -11,7 +11,6 @@
 #include "ui_frmSetHanko.h"
 
 #include <QCloseEvent>
-#include <QLabel>
 #include <QMouseEvent>
 #include <QSignalBlocker>
 
@@ -42,7 +41,7 @@ qint16 chosenNumber(const QComboBox& box)
 
 frmSetHanko::frmSetHanko(VarnModule& varn, Dialogs& dialogs)
     : VarnForm(dialogs), m_ui(std::make_unique<Ui::frmSetHanko>()), m_varn(varn), m_editor(varn),
-      m_picker(new SymbolPicker(varn, varn, this)), m_status(new QLabel(this))
+      m_picker(new SymbolPicker(varn, varn, this))
 {
     m_ui->setupUi(this);
     fillColorList(*m_ui->cboColor);
@@ -58,10 +57,6 @@ frmSetHanko::frmSetHanko(VarnModule& varn, Dialogs& dialogs)
     fitSurface(m_sample, m_ui->picSample->minimumSize());
     m_ui->picSample->setSurface(m_sample, SurfaceView::Fit::WholePaper);
 
-    m_status->setTextFormat(Qt::PlainText);
-    m_status->setContentsMargins(8, 0, 8, 0);
-    m_status->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-    statusBar()->addWidget(m_status, 1);
     connectMenus();
     connectButtons();
     connectFields();
@@ -120,13 +115,13 @@ void frmSetHanko::Form_Load()
             m_history.restart(state());
             DisplayHanrei();
         }
-        followSharedState();
+        followSet();
     });
     QMetaObject::invokeMethod(
         this, [this] { run([this] { LoadGengoDataCheck(); }); }, Qt::QueuedConnection);
 }
 
-void frmSetHanko::followSharedState()
+void frmSetHanko::followSet()
 {
     if (m_shownReading == m_varn.HankoReading) {
         return;
@@ -222,11 +217,9 @@ void frmSetHanko::refresh()
     if (m_shownReading >= 0) {
         m_history.record(state());
     }
-    QStringList title = {QStringLiteral("Set Symbols for Kinds"), m_varn.VarnMapName.mid(1),
-                         m_varn.ItemFileName, m_varn.SymbolFileName};
-    title.removeAll(QString());
-    setWindowTitle(title.join(QStringLiteral(" - ")) + QStringLiteral("[*]"));
-    setWindowModified(m_varn.HankoUnsaved);
+    showTitle({QStringLiteral("Set Symbols for Kinds"), m_varn.VarnMapName.mid(1), m_varn.ItemFileName,
+               m_varn.SymbolFileName},
+              m_varn.HankoUnsaved);
     m_ui->lblRec->setText(m_editor.counter());
     m_ui->cmdBefore->setEnabled(m_varn.CurrentHanko > 1);
     for (QAction* entry : {m_ui->mnuSaveHanko, m_ui->mnuHankoInit, m_ui->mnuLoadMap}) {
@@ -237,10 +230,10 @@ void frmSetHanko::refresh()
     m_ui->mnuRedo->setEnabled(m_history.canRedo() || (box != nullptr && box->isRedoAvailable()));
     m_ui->picHanrei->refresh();
     m_ui->picSample->refresh();
-    m_status->setText(status());
+    showStatus(status());
 }
 
-QString frmSetHanko::status() const
+QStringList frmSetHanko::status() const
 {
     QStringList parts;
     if (m_orphaned) {
@@ -262,26 +255,18 @@ QString frmSetHanko::status() const
         set += QStringLiteral(", not saved");
     }
     parts << set;
-    return parts.join(QStringLiteral("    |    "));
+    return parts;
 }
 
-void frmSetHanko::followItem()
+void frmSetHanko::followSharedState()
 {
-    if (m_shownReading >= 0 && m_listedReading != m_varn.ItemReading) {
+    if (m_shownReading < 0) {
+        return;
+    }
+    followSet();
+    if (m_listedReading != m_varn.ItemReading) {
         SetKindWord();
-        refresh();
     }
-}
-
-bool frmSetHanko::event(QEvent* event)
-{
-    if (event->type() == QEvent::WindowActivate && m_shownReading >= 0) {
-        run([this] {
-            followSharedState();
-            followItem();
-        });
-    }
-    return VarnForm::event(event);
 }
 
 bool frmSetHanko::eventFilter(QObject* watched, QEvent* event)
@@ -311,5 +296,5 @@ void frmSetHanko::closeEvent(QCloseEvent* event)
 void frmSetHanko::showNewState()
 {
     SetKindWord();
-    refresh();
+    VarnForm::showNewState();
 }

@@ -7,7 +7,6 @@
 
 #include <memory>
 
-class QLabel;
 class QLineEdit;
 class SymbolPicker;
 struct VarnModule;
@@ -31,8 +30,7 @@ public:
     /// loaded.
     void Form_Load();
     void refresh() override;
-    /// Lists the kinds of the loaded item where it was loaded since they were listed.
-    void followItem();
+    void followSharedState() override;
     void showNewState() override;
 
 Q_SIGNALS:
@@ -42,7 +40,6 @@ Q_SIGNALS:
     void toDrawMap();
 
 protected:
-    bool event(QEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
 
@@ -94,10 +91,10 @@ private:
     /// The text box that is being typed in; null where none is.
     QLineEdit* typingBox() const;
 
-    /// Takes over what other forms loaded meanwhile.
-    void followSharedState();
+    /// Shows the shared symbol set where another form loaded it meanwhile.
+    void followSet();
     void drawSample();
-    QString status() const;
+    QStringList status() const;
     bool isEdited() const { return m_stored != fields(); }
     bool hasSet() const;
     bool mayGiveUpFields(const QString& question);
@@ -110,7 +107,6 @@ private:
     VarnModule& m_varn;
     SymbolEditor m_editor;
     SymbolPicker* m_picker;
-    QLabel* m_status;
     DrawSurface m_preview;
     DrawSurface m_sample;
     /// The fields as they were shown or registered last.

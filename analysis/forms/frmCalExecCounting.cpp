@@ -1,4 +1,4 @@
-// What the menu entries of the execution form do to the counts and the statistics.
+// The counting of the execution form: one item, or those of a folder.
 
 #include "analysis/CumulativeFile.h"
 #include "analysis/ExecuteCommands.h"
@@ -18,8 +18,6 @@ TotalState frmCalExec::state()
 {
     return {m_varn, m_varn.NLocality, m_varn, m_varn};
 }
-
-// The counting
 
 void frmCalExec::mnuExecCalc_Click()
 {
@@ -82,55 +80,5 @@ void frmCalExec::mnuExecSave_Click()
     if (saveTotal(state(), dialogs())) {
         dialogs().message(QStringLiteral("Linguistic Data File is saved."),
                           QStringLiteral("Save of Linguistic Data"));
-    }
-}
-
-// The statistics
-
-void frmCalExec::Stats()
-{
-    ::Stats(m_varn, m_varn.NLocality, m_varn);
-    DisplayStatsTbl();
-}
-
-void frmCalExec::DisplayStatsTbl()
-{
-    m_shown = Shown::StatisticsOfOne;
-    draw();
-}
-
-void frmCalExec::mnuStatsDisplayAll_Click()
-{
-    m_shown = Shown::StatisticsOfAll;
-    draw();
-}
-
-void frmCalExec::SaveStats()
-{
-    saveStatistics(m_varn, m_varn, m_varn, dialogs());
-}
-
-void frmCalExec::mnuStatsOpen_Click()
-{
-    if (const auto file = dialogs().openFile(QStringLiteral("Open Statistics File"),
-                                             m_varn.Drive.hostPath(m_varn.dataFolder()),
-                                             QStringLiteral("Statistic Files (*.stt)|*.stt"))) {
-        LoadStats(m_varn.Drive.varnPath(*file));
-    }
-}
-
-void frmCalExec::LoadStats(const QString& path)
-{
-    ::LoadStats(m_varn.Drive, path, m_varn);
-    DisplayStatsTbl();
-    if (m_varn.StatsWordforms != m_varn.NumWordforms || m_varn.StatsItems != m_varn.NumItemsAccumulated) {
-        refresh();
-        dialogs().message(QStringLiteral("The statistics are of %1 word forms and %2 items, the cumulative "
-                                         "data has %3 and %4.")
-                              .arg(m_varn.StatsWordforms)
-                              .arg(m_varn.StatsItems)
-                              .arg(m_varn.NumWordforms)
-                              .arg(m_varn.NumItemsAccumulated),
-                          QStringLiteral("Open Statistics File"));
     }
 }

@@ -1,0 +1,22 @@
+#include "platform/FileKind.h"
+
+#include "platform/Dialogs.h"
+#include "platform/WholeFile.h"
+
+QString FileKind::filter() const
+{
+    return QStringLiteral("%1 (*%2)|*%2").arg(name, ending);
+}
+
+std::optional<QString> askToOpen(Dialogs& dialogs, const DriveC& drive, const QString& folder,
+                                 const QString& title, const QString& filter)
+{
+    const std::optional<QString> file = dialogs.openFile(title, drive.hostPath(folder), filter);
+    return file ? std::optional(drive.varnPath(*file)) : std::nullopt;
+}
+
+bool askToSave(Dialogs& dialogs, const DriveC& drive, const QString& path, const QString& title,
+               const QString& question)
+{
+    return !fileExists(drive, path) || dialogs.confirmLoss(question, title);
+}
