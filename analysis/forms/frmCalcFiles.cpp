@@ -4,6 +4,7 @@
 #include "analysis/CumulativeFile.h"
 #include "analysis/OpenTotal.h"
 #include "analysis/forms/frmCalc.h"
+#include "platform/FileName.h"
 #include "shell/VarnModule.h"
 #include "ui_frmCalc.h"
 
@@ -59,10 +60,7 @@ bool frmCalc::mayGiveUpStrings(const QString& question)
 
 void frmCalc::takeFileName()
 {
-    m_varn.TotalFileName = m_ui->txtTotalFileName->text().trimmed();
-    if (m_varn.TotalFileName.endsWith(QStringLiteral(".ttl"), Qt::CaseInsensitive)) {
-        m_varn.TotalFileName.chop(4);
-    }
+    m_varn.TotalFileName = withoutEnding(m_ui->txtTotalFileName->text().trimmed(), QStringLiteral(".ttl"));
 }
 
 void frmCalc::mnuFileOpen_Click()

@@ -1,6 +1,7 @@
 // What the buttons and menu entries of the symbol set-up form do.
 
 #include "lingdata/ItemLoader.h"
+#include "platform/FileName.h"
 #include "platform/Numbers.h"
 #include "render/forms/SymbolPicker.h"
 #include "shell/VarnModule.h"
@@ -184,7 +185,7 @@ std::optional<QString> frmSetHanko::askForFile(const QString& title, const QStri
 QString frmSetHanko::proposedName() const
 {
     const QString name = symbolFileStem(m_varn.SymbolFileName);
-    const QString item = m_varn.ItemFileName.section(QLatin1Char('.'), 0, -2);
+    const QString item = stemOf(m_varn.ItemFileName);
     const bool isOfItem = m_savedForItem == m_varn.ItemFileName || name.startsWith(item, Qt::CaseInsensitive);
     return isOfItem && !name.isEmpty() ? name : item;
 }
