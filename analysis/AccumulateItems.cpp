@@ -4,6 +4,7 @@
 #include "analysis/CumulativeFile.h"
 #include "lingdata/LinguisticFile.h"
 #include "lingdata/LocalityMismatch.h"
+#include "platform/FileName.h"
 
 #include <QDir>
 
@@ -27,16 +28,11 @@ void saveOrRestore(const TableFile& file, int localities, const CumulativeTable&
     }
 }
 
-QString fileName(const QString& path)
-{
-    return path.mid(path.lastIndexOf(QLatin1Char('\\')) + 1);
-}
-
 /// Counts the item at `path`; why it cannot be counted, or nothing. Its kinds are not needed.
 QString countFile(const DriveC& drive, const QString& path, int localities, CumulativeData& data)
 {
     LinguisticData item;
-    item.ItemFileName = fileName(path);
+    item.ItemFileName = fileNameOf(path);
     try {
         static_cast<ItemAnswers&>(item) = readSequentialFile(drive, path, readItem);
         QString mismatch = localityMismatch(item.NLocate, localities);
@@ -91,7 +87,7 @@ AccumulationResult accumulateItems(const TableFile& file, const ItemsToCount& it
     result.items = static_cast<int>(items.paths.size());
     int done = 0;
     for (const QString& path : items.paths) {
-        const QString name = fileName(path);
+        const QString name = fileNameOf(path);
         if (!mayProceed(done++, result.items, name)) {
             result.stopped = true;
             break;

@@ -4,18 +4,9 @@
 #include "platform/FileName.h"
 #include "platform/RunTimeError.h"
 
-namespace {
-
-QString withoutEnding(const QString& name, const QString& ending)
-{
-    return name.endsWith(ending, Qt::CaseInsensitive) ? name.chopped(ending.size()) : name;
-}
-
-} // namespace
-
 QString analysisFileStem(const QString& path, const QString& ending)
 {
-    return withoutEnding(path.mid(path.lastIndexOf(QLatin1Char('\\')) + 1), ending);
+    return withoutEnding(fileNameOf(path), ending);
 }
 
 QString analysisFilePath(const Folders& folders, const QString& name, const QString& ending)

@@ -1,11 +1,12 @@
 #include "analysis/CountedItemsFile.h"
 
+#include "platform/FileName.h"
+
 #include <algorithm>
 
 QString countedItemsPath(const QString& totalPath)
 {
-    const qsizetype dot = totalPath.lastIndexOf(QLatin1Char('.'));
-    return totalPath.left(dot) + QStringLiteral(".itm");
+    return withEnding(totalPath, QStringLiteral(".itm"));
 }
 
 QStringList readCountedItems(SequentialReader& file, int items)

@@ -1,18 +1,12 @@
 #include "analysis/CumulativeFile.h"
 
 #include "analysis/CountedItemsFile.h"
+#include "platform/FileName.h"
 
 #include <QFile>
 #include <QLockFile>
 
 namespace {
-
-QString baseName(const QString& path)
-{
-    const QString name = path.mid(path.lastIndexOf(QLatin1Char('\\')) + 1);
-    const qsizetype dot = name.lastIndexOf(QLatin1Char('.'));
-    return dot < 0 ? name : name.left(dot);
-}
 
 QByteArray fileContents(const CumulativeTable& table, int localities)
 {
@@ -153,7 +147,7 @@ std::optional<RunTimeError> LoadTotalFile(const DriveC& drive, const QString& pa
         drive, path, [localities](SequentialReader& file) { return readTotal(file, localities); });
     auto namesError = loadCountedItems(drive, path, table);
     static_cast<CumulativeTable&>(data) = std::move(table);
-    data.TotalFileName = baseName(path);
+    data.TotalFileName = stemOf(path);
     data.CurrentWordform = 1;
     totalIsAtPath(path, std::move(bytes), data);
     return namesError;

@@ -3,6 +3,7 @@
 #include "analysis/CumulativeFile.h"
 #include "lingdata/LocalityMismatch.h"
 #include "platform/Dialogs.h"
+#include "platform/FileName.h"
 
 #include <algorithm>
 
@@ -64,7 +65,7 @@ ItemsToCount itemsToCount(const QString& folder, const TotalState& state, Dialog
 {
     ItemsToCount items{itemFiles(state.folders.Drive, folder)};
     const auto known = std::count_if(items.paths.begin(), items.paths.end(), [&](const QString& path) {
-        return isCounted(state.data, path.mid(path.lastIndexOf(QLatin1Char('\\')) + 1));
+        return isCounted(state.data, fileNameOf(path));
     });
     items.countAgain = known > 0 && dialogs.confirmLoss(
                                         QStringLiteral("%1 of the %2 items are counted in the table already. "

@@ -3,6 +3,7 @@
 #include "analysis/AnalysisFileName.h"
 #include "analysis/CumulativeFile.h"
 #include "platform/Dialogs.h"
+#include "platform/FileName.h"
 
 namespace {
 
@@ -37,7 +38,7 @@ void dropStrings(CumulativeData& data)
 /// Asks which strings count for a table that was just loaded.
 void chooseStrings(const QString& totalPath, const TotalState& state, Dialogs& dialogs)
 {
-    const QString own = totalPath.left(totalPath.lastIndexOf(QLatin1Char('.'))) + Sum;
+    const QString own = withEnding(totalPath, Sum);
     if (own.compare(state.data.SpecifyFileName, Qt::CaseInsensitive) == 0) {
         return;
     }

@@ -24,15 +24,24 @@ QString cut(double figure)
 
 } // namespace
 
-QStringList statisticsLines(const CumulativeTable& table, const Statistics& statistics, int k)
+QStringList averageTexts(const Statistics& statistics, int k)
+{
+    return {QStringLiteral("Median =") + cut(statistics.Median(k)),
+            QStringLiteral("Mode   =") + cut(statistics.Mode(k)),
+            QStringLiteral("Average=") + cut(statistics.Average(k))};
+}
+
+QStringList deviationTexts(const Statistics& statistics, int k, const QString& name)
 {
     const double average = statistics.Average(k);
     const double sigma = statistics.Sigma(k);
-    return {QStringLiteral("Kt=%1 ").arg(k) + table.WordformName(k),
-            QStringLiteral("Median =") + cut(statistics.Median(k)),
-            QStringLiteral("Mode   =") + cut(statistics.Mode(k)),
-            QStringLiteral("Average=") + cut(average),
-            QStringLiteral("Standard Dev. Sigma=") + cut(sigma),
+    return {name + QStringLiteral(" Sigma=") + cut(sigma),
             QStringLiteral("Av - Sigma=") + cut(average - sigma),
             QStringLiteral("Av + SIgma=") + shortest(toSingle(Rnd(average + sigma, 2)))};
+}
+
+QStringList statisticsLines(const CumulativeTable& table, const Statistics& statistics, int k)
+{
+    return QStringList(QStringLiteral("Kt=%1 ").arg(k) + table.WordformName(k)) +
+           averageTexts(statistics, k) + deviationTexts(statistics, k, QStringLiteral("Standard Dev."));
 }

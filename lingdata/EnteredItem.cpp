@@ -31,10 +31,7 @@ void removeOldKinds(const Folders& folders, const QString& itemPath)
 
 QString enteredItemPath(const Folders& folders, const QString& name)
 {
-    QString base = name.trimmed();
-    if (base.endsWith(ItemEnding, Qt::CaseInsensitive)) {
-        base.chop(ItemEnding.size());
-    }
+    const QString base = withoutEnding(name.trimmed(), ItemEnding);
     if (base.isEmpty()) {
         return {};
     }
@@ -46,8 +43,7 @@ QString enteredItemPath(const Folders& folders, const QString& name)
 
 QString inputKindsPath(const Folders& folders, const QString& itemPath)
 {
-    const QString kindsPath = kindsFilePath(folders, itemPath);
-    return kindsPath.left(kindsPath.lastIndexOf(QLatin1Char('.'))) + QStringLiteral(".ipt");
+    return withEnding(kindsFilePath(folders, itemPath), QStringLiteral(".ipt"));
 }
 
 OpenedItem openItem(const Folders& folders, const QString& itemPath)

@@ -2,6 +2,7 @@
 
 #include "lingdata/KindList.h"
 #include "lingdata/LinguisticFile.h"
+#include "platform/FileName.h"
 
 #include <utility>
 
@@ -49,11 +50,7 @@ QString makeKindsFile(const Folders& folders, LinguisticData& data)
 
 QString kindsFilePath(const Folders& folders, const QString& itemPath)
 {
-    QString name = itemPath.mid(itemPath.lastIndexOf(QLatin1Char('\\')) + 1);
-    if (const qsizetype dot = name.lastIndexOf(QLatin1Char('.')); dot >= 0) {
-        name.truncate(dot);
-    }
-    return folders.dataFolder() + QLatin1Char('\\') + name + QStringLiteral(".srt");
+    return folders.dataFolder() + QLatin1Char('\\') + stemOf(itemPath) + QStringLiteral(".srt");
 }
 
 void InputWordData(const Folders& folders, const QString& path, WordKinds& kinds)
@@ -77,7 +74,7 @@ QString LoadWordData(const Folders& folders, const QString& itemPath, Linguistic
 {
     LinguisticData fresh;
     static_cast<ItemAnswers&>(fresh) = readItemAnswers(folders, itemPath);
-    fresh.ItemFileName = itemPath.mid(itemPath.lastIndexOf(QLatin1Char('\\')) + 1);
+    fresh.ItemFileName = fileNameOf(itemPath);
     fresh.ItemPath = itemPath;
     fresh.KindsPath = kindsFilePath(folders, itemPath);
     fresh.ItemReading = data.ItemReading + 1;

@@ -4,14 +4,29 @@
 #include "platform/FileName.h"
 #include "platform/Folder.h"
 
+#include <array>
 #include <utility>
 
 namespace {
 
-QString partPath(const MapPlace& place, const QString& name)
+void loadLines(const DriveC& drive, const MapPlace& place, BaseMap& map)
 {
-    return mapFolder(place.VarnPath, place.VarnMapName) + QLatin1Char('\\') + name;
+    LoadLineData(drive, place.VarnPath, place.VarnMapName, map);
 }
+
+void loadLocalities(const DriveC& drive, const MapPlace& place, BaseMap& map)
+{
+    LoadLocateData(drive, place.VarnPath, place.VarnMapName, map);
+}
+
+void loadNames(const DriveC& drive, const MapPlace& place, BaseMap& map)
+{
+    LoadKanjiData(drive, place.VarnPath, place.VarnMapName, map);
+}
+
+constexpr MapPart LocalitiesPart{"Loc.map", loadLocalities};
+constexpr std::array<MapPart, 3> MapParts = {
+    {{"Line.map", loadLines}, LocalitiesPart, {"kanji.map", loadNames}}};
 
 } // namespace
 
@@ -30,27 +45,41 @@ std::optional<MapPlace> mapPlaceOf(const QString& path)
 QStringList missingParts(const DriveC& drive, const MapPlace& place)
 {
     QStringList missing;
-    for (const char* name : {"Line.map", "Loc.map", "kanji.map"}) {
-        if (const QString path = partPath(place, QLatin1String(name)); !fileExists(drive, path)) {
+    for (const MapPart& part : MapParts) {
+        if (const QString path = part.path(place); !fileExists(drive, path)) {
             missing << path;
         }
     }
     return missing;
 }
 
+QString MapPart::path(const MapPlace& place) const
+{
+    return mapFolder(place.VarnPath, place.VarnMapName) + QLatin1Char('\\') + QLatin1String(fileName);
+}
+
+std::span<const MapPart> mapParts()
+{
+    return MapParts;
+}
+
+void loadBaseMap(const DriveC& drive, const MapPlace& place, const QStringList& without, BaseMap& map)
+{
+    for (const MapPart& part : MapParts) {
+        if (!without.contains(part.path(place))) {
+            part.load(drive, place, map);
+        }
+    }
+}
+
 void chooseMap(const MapPlace& place, Folders& folders, BaseMap& map)
 {
     const DriveC& drive = folders.Drive;
-    const QStringList missing = missingParts(drive, place);
+    QStringList without = missingParts(drive, place);
+    without.removeAll(LocalitiesPart.path(place));
     BaseMap fresh;
     static_cast<PolygonTable&>(fresh) = map;
-    LoadLocateData(drive, place.VarnPath, place.VarnMapName, fresh);
-    if (!missing.contains(partPath(place, QStringLiteral("Line.map")))) {
-        LoadLineData(drive, place.VarnPath, place.VarnMapName, fresh);
-    }
-    if (!missing.contains(partPath(place, QStringLiteral("kanji.map")))) {
-        LoadKanjiData(drive, place.VarnPath, place.VarnMapName, fresh);
-    }
+    loadBaseMap(drive, place, without, fresh);
     if (fileExists(drive, polygonFile(place.VarnPath))) {
         LoadSquareData(drive, place.VarnPath, fresh);
     }

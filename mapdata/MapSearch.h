@@ -6,6 +6,7 @@
 #include <QStringList>
 
 #include <optional>
+#include <span>
 
 /// Where a map lies: an installation folder, and a backslash with the map's name.
 struct MapPlace
@@ -22,6 +23,22 @@ std::optional<MapPlace> mapPlaceOf(const QString& path);
 
 /// Paths of the base-map files that the map at `place` lacks: of its localities, lines and place names.
 QStringList missingParts(const DriveC& drive, const MapPlace& place);
+
+/// A file of a map's folder that is a part of its base map.
+struct MapPart
+{
+    const char* fileName;
+    /// Puts what the file holds into the map, or raises what its reader raises.
+    void (*load)(const DriveC& drive, const MapPlace& place, BaseMap& map);
+
+    QString path(const MapPlace& place) const;
+};
+
+/// Lines, localities and place names; the polygon designs belong to the installation.
+std::span<const MapPart> mapParts();
+
+/// Loads the parts of the map at `place`. Those whose paths are in `without` stay as they are.
+void loadBaseMap(const DriveC& drive, const MapPlace& place, const QStringList& without, BaseMap& map);
 
 /// Makes the map at `place` the current one, with its whole base map; polygon designs of another installation
 /// folder come along where it has them. A map needs its localities; its lines and place names are empty where

@@ -7,6 +7,7 @@
 #include "lingdata/LinguisticFile.h"
 #include "lingdata/LocalityMismatch.h"
 #include "mapdata/MapFiles.h"
+#include "mapdata/MapSearch.h"
 #include "plot/DrawingFile.h"
 #include "render/BlankMap.h"
 #include "render/LinguisticMap.h"
@@ -40,9 +41,7 @@ public:
             setMapHeight(m_frmMap, options.height);
         }
         LoadSquareData(m_varn.Drive, m_varn.VarnPath, m_varn);
-        LoadLineData(m_varn.Drive, m_varn.VarnPath, m_varn.VarnMapName, m_varn);
-        LoadLocateData(m_varn.Drive, m_varn.VarnPath, m_varn.VarnMapName, m_varn);
-        LoadKanjiData(m_varn.Drive, m_varn.VarnPath, m_varn.VarnMapName, m_varn);
+        loadBaseMap(m_varn.Drive, {m_varn.VarnPath, m_varn.VarnMapName}, {}, m_varn);
     }
 
     const Drawing& linguisticMap(const QString& dataPath, const QString& symbolPath)

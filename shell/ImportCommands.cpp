@@ -3,6 +3,7 @@
 #include "mapdata/MapFiles.h"
 #include "mapdata/MapImport.h"
 #include "mapdata/MapSearch.h"
+#include "platform/FileName.h"
 #include "platform/Folder.h"
 #include "platform/SequentialFile.h"
 #include "render/BlankMap.h"
@@ -44,10 +45,9 @@ std::optional<QString> askForSource(const VarnModule& varn, Dialogs& dialogs, co
 
 std::optional<QString> askForTarget(const VarnModule& varn, Dialogs& dialogs, const ImportedFile& file)
 {
-    const qsizetype slash = file.current.lastIndexOf(QLatin1Char('\\'));
     const auto target = dialogs.saveFile(QStringLiteral("Save ") + file.what,
-                                         nearestFolder(varn.Drive, file.current.left(slash)), file.targets,
-                                         file.current.mid(slash + 1));
+                                         nearestFolder(varn.Drive, folderOf(file.current)), file.targets,
+                                         fileNameOf(file.current));
     return target ? std::optional(varn.Drive.varnPath(*target)) : std::nullopt;
 }
 

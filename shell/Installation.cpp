@@ -1,5 +1,6 @@
 #include "shell/Installation.h"
 
+#include "platform/FileName.h"
 #include "platform/Folder.h"
 #include "platform/RunTimeError.h"
 #include "platform/WholeFile.h"
@@ -19,7 +20,7 @@ bool exists(const Folders& folders, const QString& path)
 
 void makeFolderOf(const Folders& folders, const QString& path)
 {
-    makeFolder(folders.Drive, path.left(path.lastIndexOf(QLatin1Char('\\'))));
+    makeFolder(folders.Drive, folderOf(path));
 }
 
 void copyFile(const QString& source, const QString& path, const Folders& folders)

@@ -47,14 +47,13 @@ QString SymbolEditor::counter() const
                                               : number + QLatin1Char('/') + QString::number(m_set.NHanrei);
 }
 
-void SymbolEditor::NewData(HankoFields& fields)
+HankoFields SymbolEditor::NewData(const QString& Explain)
 {
-    fields.word.clear();
-    fields.caption.clear();
-    fields.number.clear();
-    fields.style = HankoStyle{};
+    HankoFields fields;
+    fields.Explain = Explain;
     fields.style.SymbolSize = 1;
     fields.style.LineThick = 1;
+    return fields;
 }
 
 HankoFields SymbolEditor::GetData() const
@@ -68,7 +67,7 @@ HankoFields SymbolEditor::fieldsOf(int k) const
             m_set.Hanko(k)};
 }
 
-void SymbolEditor::SetData(HankoFields& fields)
+HankoFields SymbolEditor::SetData(const HankoFields& fields)
 {
     const int k = m_set.CurrentHanko;
     HankoStyle style = fields.style;
@@ -81,7 +80,9 @@ void SymbolEditor::SetData(HankoFields& fields)
     // The scratch record is not part of the set.
     m_set.HankoUnsaved = m_set.HankoUnsaved || k > 0 || m_set.Explain != fields.Explain;
     m_set.Explain = fields.Explain;
-    fields.style = style;
+    HankoFields stored = fields;
+    stored.style = style;
+    return stored;
 }
 
 void SymbolEditor::SetSame(HankoStyle& style) const
@@ -93,53 +94,49 @@ void SymbolEditor::SetSame(HankoStyle& style) const
     }
 }
 
-void SymbolEditor::start(HankoFields& fields)
+HankoFields SymbolEditor::start()
 {
     m_set.CurrentHanko = 1;
-    fields.Explain = m_set.Explain;
-    NewData(fields);
+    return NewData(m_set.Explain);
 }
 
-void SymbolEditor::registerRecord(HankoFields& fields)
+HankoFields SymbolEditor::registerRecord(const HankoFields& fields)
 {
-    SetData(fields);
+    HankoFields stored = SetData(fields);
     if (!fields.word.isEmpty() && m_set.CurrentHanko > m_set.NHanrei) {
         ++m_set.NHanrei;
     }
     DisplayHanreiData();
+    return stored;
 }
 
-void SymbolEditor::goTo(int record, HankoFields& fields)
+HankoFields SymbolEditor::goTo(int k, const QString& Explain)
 {
+    HankoFields fields = fieldsOf(k);
     // The comment belongs to the set: what stands in its field is not given up with the record.
-    const QString explain = fields.Explain;
-    fields = fieldsOf(record);
-    fields.Explain = explain;
-    m_set.CurrentHanko = record;
+    fields.Explain = Explain;
+    m_set.CurrentHanko = k;
+    return fields;
 }
 
-SymbolEditor::NextResult SymbolEditor::next(HankoFields& fields)
+std::optional<HankoFields> SymbolEditor::next(const HankoFields& fields)
 {
     if (m_set.CurrentHanko == MaxRecords) {
-        return NextResult::Full;
+        return std::nullopt;
     }
-    if (fields.word.isEmpty()) {
-        return NextResult::Done;
+    if (fields.word.isEmpty() || m_set.CurrentHanko > m_set.NHanrei) {
+        return fields;
     }
-    if (m_set.CurrentHanko == m_set.NHanrei) {
-        NewData(fields);
-        ++m_set.CurrentHanko;
-    } else if (m_set.CurrentHanko < m_set.NHanrei) {
-        goTo(m_set.CurrentHanko + 1, fields);
+    if (m_set.CurrentHanko < m_set.NHanrei) {
+        return goTo(m_set.CurrentHanko + 1, fields.Explain);
     }
-    return NextResult::Done;
+    ++m_set.CurrentHanko;
+    return NewData(fields.Explain);
 }
 
-void SymbolEditor::previous(HankoFields& fields)
+HankoFields SymbolEditor::previous(const HankoFields& fields)
 {
-    if (m_set.CurrentHanko != 1) {
-        goTo(m_set.CurrentHanko - 1, fields);
-    }
+    return m_set.CurrentHanko == 1 ? fields : goTo(m_set.CurrentHanko - 1, fields.Explain);
 }
 
 void SymbolEditor::copyRecord(int from, int to)
@@ -149,11 +146,11 @@ void SymbolEditor::copyRecord(int from, int to)
     m_set.HankoCaption(to) = m_set.HankoCaption(from);
 }
 
-void SymbolEditor::insertRecord(int n, HankoFields& fields)
+std::optional<HankoFields> SymbolEditor::insertRecord(int n, const QString& Explain)
 {
     checkNotNegative(n);
     if (n > m_set.NHanrei) {
-        return;
+        return std::nullopt;
     }
     if (n > 0) {
         for (int i = m_set.NHanrei; i >= n; --i) {
@@ -161,10 +158,10 @@ void SymbolEditor::insertRecord(int n, HankoFields& fields)
         }
         ++m_set.NHanrei;
     }
-    NewData(fields);
     m_set.CurrentHanko = n;
-    SetData(fields);
+    HankoFields stored = SetData(NewData(Explain));
     DisplayHanreiData();
+    return stored;
 }
 
 bool SymbolEditor::deleteRecord(int n)
@@ -182,7 +179,7 @@ bool SymbolEditor::deleteRecord(int n)
     return exists && n <= m_set.CurrentHanko;
 }
 
-void SymbolEditor::initialize(HankoFields& fields)
+HankoFields SymbolEditor::initialize()
 {
     m_set.Explain.clear();
     for (int k = 1; k <= m_set.NHanrei; ++k) {
@@ -193,8 +190,8 @@ void SymbolEditor::initialize(HankoFields& fields)
     m_set.CurrentHanko = 0;
     m_set.NHanrei = 0;
     m_set.HankoUnsaved = false;
-    fields = GetData();
     DisplayHanreiData();
+    return GetData();
 }
 
 void SymbolEditor::DisplayHanreiData()

@@ -4,6 +4,8 @@
 
 #include <QString>
 
+#include <optional>
+
 /// What the fields of the symbol editor hold.
 struct HankoFields
 {
@@ -24,8 +26,8 @@ QString DelBlankChar(const QString& text);
 /// `style` with 0 for every value that the lists of colours, sizes and thicknesses do not have.
 HankoStyle listedStyle(const HankoStyle& style);
 
-/// Edits the shared symbol set record by record. The fields of whoever shows the current record are handed in
-/// and come back as they are to be shown.
+/// Edits the shared symbol set record by record. What a form's fields hold is handed in where it counts; what
+/// they are to show next comes back.
 class SymbolEditor
 {
 public:
@@ -34,39 +36,40 @@ public:
     /// "5/7", or "8/New" where the current record is beyond the set.
     QString counter() const;
 
-    /// Clears the fields of a record; the comment stays.
-    static void NewData(HankoFields& fields);
+    /// The fields of a new record, with that comment.
+    static HankoFields NewData(const QString& Explain);
     /// The current record. Raises subscript out of range where there is none of its number.
     HankoFields GetData() const;
     /// Stores the fields into the current record. A symbol number that an earlier record has brings that
     /// record's style into the fields. Raises overflow for a number that no 16-bit integer holds.
-    void SetData(HankoFields& fields);
+    HankoFields SetData(const HankoFields& fields);
 
     /// Makes an empty set's first record the current one, with cleared fields.
-    void start(HankoFields& fields);
+    HankoFields start();
     /// Stores the fields, and counts the record where it is new and has a kind.
-    void registerRecord(HankoFields& fields);
+    HankoFields registerRecord(const HankoFields& fields);
 
-    enum class NextResult { Done, Full };
-    /// Goes to the next record, behind the last one to a new record; stays where the kind is empty. Full at
-    /// the last record that a set can have.
-    NextResult next(HankoFields& fields);
+    /// Goes to the next record, behind the last one to a new record; stays where the kind is empty. Nothing
+    /// at the last record that a set can have.
+    std::optional<HankoFields> next(const HankoFields& fields);
     /// Goes to the previous record; stays at record 1.
-    void previous(HankoFields& fields);
-    /// Goes to record k of the set. Raises subscript out of range where no set has it.
-    void goTo(int k, HankoFields& fields);
+    HankoFields previous(const HankoFields& fields);
+    /// Goes to record k of the set; the comment in the fields is `Explain` still. Raises subscript out of
+    /// range where no set has it.
+    HankoFields goTo(int k, const QString& Explain);
 
     // Each raises subscript out of range for a negative number, which changes nothing.
 
-    /// Inserts an empty record as number n and makes it the current one. A number beyond the set does
-    /// nothing; number 0 clears the scratch record. Raises subscript out of range where the set is full.
-    void insertRecord(int n, HankoFields& fields);
+    /// Inserts an empty record as number n, makes it the current one and stores the comment. A number beyond
+    /// the set does nothing and returns nothing; number 0 clears the scratch record. Raises subscript out of
+    /// range where the set is full.
+    std::optional<HankoFields> insertRecord(int n, const QString& Explain);
     /// Deletes record n of the set; what the last record held stays behind the set. Fields and current
     /// record stay; returns whether the fields belong to the current record no longer.
     bool deleteRecord(int n);
 
     /// Empties the set.
-    void initialize(HankoFields& fields);
+    HankoFields initialize();
 
     /// The records that the preview shows: none where the last is before the first.
     int firstShown() const { return m_firstShown; }

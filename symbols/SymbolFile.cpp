@@ -46,7 +46,7 @@ void writeSymbolSet(SequentialWriter& file, const SymbolSet& set)
 void LoadHankoData(const DriveC& drive, const QString& path, SymbolSet& set)
 {
     SymbolSet fresh = readSequentialFile(drive, path, readSymbolSet);
-    fresh.SymbolFileName = path.mid(path.lastIndexOf(QLatin1Char('\\')) + 1);
+    fresh.SymbolFileName = fileNameOf(path);
     fresh.SymbolFilePath = path;
     fresh.CurrentHanko = fresh.NHanrei;
     fresh.HankoReading = set.HankoReading + 1;
@@ -67,8 +67,7 @@ RunTimeError ofRecord(const RunTimeError& error, const SymbolSet& set, int k)
 
 QString symbolFileStem(const QString& name)
 {
-    const QString ending = QStringLiteral(".han");
-    return name.endsWith(ending, Qt::CaseInsensitive) ? name.chopped(ending.size()) : name;
+    return withoutEnding(name, QStringLiteral(".han"));
 }
 
 QString symbolFilePath(const Folders& folders, const QString& name)

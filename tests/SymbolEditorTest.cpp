@@ -11,8 +11,7 @@ namespace {
 /// Fields of a record with the kind `word` and the symbol `number`, all else as for a new record.
 HankoFields fieldsOf(const QString& word, const QString& number)
 {
-    HankoFields fields;
-    SymbolEditor::NewData(fields);
+    HankoFields fields = SymbolEditor::NewData(QString());
     fields.word = word;
     fields.number = number;
     return fields;
@@ -21,14 +20,12 @@ HankoFields fieldsOf(const QString& word, const QString& number)
 /// Registers `count` records "k1", "k2", ... with symbols 1, 2, ... and ends at the last one.
 void fill(SymbolEditor& editor, int count)
 {
-    HankoFields fields;
-    editor.start(fields);
+    HankoFields fields = editor.start();
     for (int k = 1; k <= count; ++k) {
         if (k > 1) {
             editor.next(fields);
         }
-        fields = fieldsOf(QStringLiteral("k%1").arg(k), QString::number(k));
-        editor.registerRecord(fields);
+        fields = editor.registerRecord(fieldsOf(QStringLiteral("k%1").arg(k), QString::number(k)));
     }
 }
 
@@ -74,9 +71,7 @@ TEST(SymbolEditor, RecordsAreEnteredOneAfterTheOther)
 {
     SymbolSet set;
     SymbolEditor editor(set);
-    HankoFields fields;
-    fields.Explain = QStringLiteral("typed");
-    editor.start(fields);
+    HankoFields fields = editor.start();
     EXPECT_EQ(editor.counter(), QStringLiteral("1/New"));
     editor.next(fields);
     editor.registerRecord(fields);
@@ -94,7 +89,7 @@ TEST(SymbolEditor, RecordsAreEnteredOneAfterTheOther)
     EXPECT_EQ(set.Explain, QStringLiteral("a comment"));
     EXPECT_TRUE(set.HankoUnsaved);
 
-    editor.next(fields);
+    fields = editor.next(fields).value();
     EXPECT_EQ(editor.counter(), QStringLiteral("2/New"));
     HankoFields blank = fieldsOf(QString(), QString());
     blank.Explain = QStringLiteral("a comment");
@@ -102,7 +97,7 @@ TEST(SymbolEditor, RecordsAreEnteredOneAfterTheOther)
     fields.word = QStringLiteral("lost");
     editor.next(fields);
     EXPECT_EQ(editor.counter(), QStringLiteral("2/New")) << "a new record must be registered first";
-    editor.previous(fields);
+    fields = editor.previous(fields);
     EXPECT_EQ(fields.word, QStringLiteral(" ame"));
     editor.previous(fields);
     EXPECT_EQ(editor.counter(), QStringLiteral("1/1"));
@@ -120,7 +115,7 @@ TEST(SymbolEditor, ASymbolNumberCarriesOneStyle)
     HankoFields fields = fieldsOf(QStringLiteral("k3"), QStringLiteral("7"));
     fields.style.LineColor = 12;
     set.CurrentHanko = 3;
-    editor.registerRecord(fields);
+    fields = editor.registerRecord(fields);
     EXPECT_EQ(set.Hanko(3), (HankoStyle{7, 3, 0, 1, 2, 0})) << "the last earlier one, as the lists show it";
     EXPECT_EQ(fields.style, set.Hanko(3));
 
@@ -143,10 +138,9 @@ TEST_F(ThreeRecords, InsertingShiftsTheRecordsBehind)
 {
     set.HankoCaption(3) = QStringLiteral("caption 3");
     set.HankoUnsaved = false;
-    editor.insertRecord(4, fields);
-    EXPECT_EQ(fields.word, QStringLiteral("k3"));
+    EXPECT_EQ(editor.insertRecord(4, QString()), std::nullopt);
     EXPECT_FALSE(set.HankoUnsaved);
-    editor.insertRecord(2, fields);
+    editor.insertRecord(2, QString());
     EXPECT_EQ(kinds(set), QStringLiteral("k1  k2 k3"));
     EXPECT_EQ(editor.counter(), QStringLiteral("2/4"));
     EXPECT_EQ(set.Hanko(2), (HankoStyle{0, 0, 0, 0, 1, 1}));
@@ -159,14 +153,14 @@ TEST_F(ThreeRecords, InsertingShiftsTheRecordsBehind)
 TEST_F(ThreeRecords, InsertingAtZeroMakesTheScratchRecordCurrent)
 {
     set.HankoWord(0) = QStringLiteral("scratch");
-    editor.insertRecord(0, fields);
+    fields = editor.insertRecord(0, QString()).value();
     EXPECT_EQ(editor.counter(), QStringLiteral("0/3"));
     EXPECT_EQ(set.HankoWord(0), QString());
     EXPECT_EQ(kinds(set), QStringLiteral("k1 k2 k3"));
     EXPECT_EQ(errorOf([&] { editor.previous(fields); }).number(), ErrorNumber::SubscriptOutOfRange);
     EXPECT_EQ(editor.counter(), QStringLiteral("0/3"));
     fields.word = QStringLiteral("on");
-    editor.next(fields);
+    fields = editor.next(fields).value();
     EXPECT_EQ(fields.word, QStringLiteral("k1"));
 }
 
@@ -194,7 +188,7 @@ TEST_F(ThreeRecords, DeletingClosesTheGapAndLeavesTheLastBehind)
 TEST_F(ThreeRecords, NegativeNumbersAreErrorsThatChangeNothing)
 {
     for (const int n : {-1, -32768}) {
-        EXPECT_EQ(errorOf([&] { editor.insertRecord(n, fields); }).number(),
+        EXPECT_EQ(errorOf([&] { editor.insertRecord(n, QString()); }).number(),
                   ErrorNumber::SubscriptOutOfRange);
         EXPECT_EQ(errorOf([&] { editor.deleteRecord(n); }).number(), ErrorNumber::SubscriptOutOfRange);
     }
@@ -206,7 +200,7 @@ TEST_F(ThreeRecords, InitializingEmptiesTheSetDownToRecordZero)
 {
     set.Explain = QStringLiteral("a comment");
     set.HankoWord(0) = QStringLiteral("scratch");
-    editor.initialize(fields);
+    fields = editor.initialize();
     EXPECT_EQ(editor.counter(), QStringLiteral("0/0"));
     EXPECT_EQ(fields.word, QStringLiteral("scratch"));
     EXPECT_EQ(fields.Explain, QString());
@@ -227,13 +221,14 @@ TEST(SymbolEditor, AHundredRecordsAreTheMost)
     fill(editor, 100);
     EXPECT_EQ(editor.counter(), QStringLiteral("100/100"));
     HankoFields fields = editor.GetData();
-    EXPECT_EQ(editor.next(fields), SymbolEditor::NextResult::Full);
-    EXPECT_EQ(errorOf([&] { editor.insertRecord(50, fields); }).number(), ErrorNumber::SubscriptOutOfRange);
+    EXPECT_EQ(editor.next(fields), std::nullopt);
+    EXPECT_EQ(errorOf([&] { editor.insertRecord(50, QString()); }).number(),
+              ErrorNumber::SubscriptOutOfRange);
     EXPECT_EQ(set.NHanrei, 100);
     EXPECT_EQ(set.HankoWord(50), QStringLiteral("k50"));
     EXPECT_EQ(set.CurrentHanko, 100);
     fields.word.clear();
-    EXPECT_EQ(editor.next(fields), SymbolEditor::NextResult::Full) << "told whatever the kind is";
+    EXPECT_EQ(editor.next(fields), std::nullopt) << "told whatever the kind is";
 }
 
 TEST(SymbolEditor, PreviewShowsTheLastTwentyAndScrolls)

@@ -76,13 +76,8 @@ void StatisticsPages::DisplayStatsTable(int k)
 {
     m_target.Cls();
     m_target.FontSize = PageFontSize;
-    const QStringList figures = statisticsLines(m_table, m_statistics, k);
-    printLine(0, 0, QStringList(QStringLiteral("Kt=%1").arg(k)) + figures.mid(1, 3));
-    printLine(
-        DeviationX, DeviationY,
-        QStringList(QString(figures[4])
-                        .replace(QStringLiteral("Standard Dev."), QStringLiteral("Standard Deviation"))) +
-            figures.mid(5));
+    printLine(0, 0, QStringList(QStringLiteral("Kt=%1").arg(k)) + averageTexts(m_statistics, k));
+    printLine(DeviationX, DeviationY, deviationTexts(m_statistics, k, QStringLiteral("Standard Deviation")));
     while (indents(k).end > ColumnStep && m_target.FontSize > SmallestFont) {
         --m_target.FontSize; // large numbers keep clear of the next column
     }

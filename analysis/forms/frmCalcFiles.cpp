@@ -4,6 +4,7 @@
 #include "analysis/CumulativeFile.h"
 #include "analysis/OpenTotal.h"
 #include "analysis/forms/frmCalc.h"
+#include "platform/FileName.h"
 #include "shell/FileKinds.h"
 #include "shell/VarnModule.h"
 #include "ui_frmCalc.h"
@@ -58,10 +59,7 @@ bool frmCalc::mayGiveUpStrings(const QString& question)
 
 void frmCalc::takeFileName()
 {
-    m_varn.TotalFileName = m_ui->txtTotalFileName->text().trimmed();
-    if (m_varn.TotalFileName.endsWith(TotalFiles.ending, Qt::CaseInsensitive)) {
-        m_varn.TotalFileName.chop(TotalFiles.ending.size());
-    }
+    m_varn.TotalFileName = withoutEnding(m_ui->txtTotalFileName->text().trimmed(), QStringLiteral(".ttl"));
 }
 
 void frmCalc::mnuFileOpen_Click()

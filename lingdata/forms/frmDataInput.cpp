@@ -2,6 +2,7 @@
 
 #include "lingdata/LocalityMismatch.h"
 #include "lingdata/forms/WordEntryDelegate.h"
+#include "platform/FileName.h"
 #include "platform/forms/ThemeColors.h"
 #include "shell/MapParts.h"
 #include "shell/VarnModule.h"
@@ -146,14 +147,10 @@ void frmDataInput::newItem()
 
 void frmDataInput::showItem(ItemEditor item, const QString& itemPath)
 {
-    constexpr qsizetype EndingLength = 4;
-
     hideFaults();
     m_table.replaceItem(std::move(item));
-    m_fileName = itemPath.mid(itemPath.lastIndexOf(QLatin1Char('\\')) + 1);
-    m_ui->txtFileName->setText(m_fileName.endsWith(QLatin1String(".dbs"), Qt::CaseInsensitive)
-                                   ? m_fileName.chopped(EndingLength)
-                                   : m_fileName);
+    m_fileName = fileNameOf(itemPath);
+    m_ui->txtFileName->setText(withoutEnding(m_fileName, QStringLiteral(".dbs")));
     showTexts();
     m_ui->txtKind->clear();
     showKinds();

@@ -2,6 +2,7 @@
 
 #include "lingdata/EnteredItem.h"
 #include "lingdata/forms/frmDataInput.h"
+#include "platform/FileName.h"
 #include "shell/FileKinds.h"
 #include "shell/VarnModule.h"
 #include "ui_frmDataInput.h"
@@ -67,7 +68,7 @@ void frmDataInput::SaveWord()
         return;
     }
     saveItem(m_varn, path, m_editor);
-    m_fileName = path.mid(path.lastIndexOf(QLatin1Char('\\')) + 1);
+    m_fileName = fileNameOf(path);
     statusBar()->showMessage(QStringLiteral("Saved as %1").arg(path), 5000);
     renewKinds(path);
 }

@@ -48,7 +48,7 @@ private:
     void InputVarnDrive();
     void VarnDrive();
     void askForFont(MapFont& font);
-    void loadBaseMap();
+    void loadStartMap();
     void loadParts(const QStringList& missing);
     void offerToMakeMap();
     void SetMapName();

@@ -27,7 +27,7 @@ void frmMain::Form_Load(const QString& installation)
     m_varn.MapFormWidth = m_map.surface().Width;
     m_varn.MapFormHeight = toInteger(m_map.surface().Height);
     fixLingFolder(m_varn);
-    loadBaseMap();
+    loadStartMap();
     m_varn.AnalysisMode = 0;
     m_varn.PlotDots = false;
     m_varn.WriteFileName = false;
@@ -82,7 +82,7 @@ void frmMain::askForFont(MapFont& font)
     }
 }
 
-void frmMain::loadBaseMap()
+void frmMain::loadStartMap()
 {
     run([this] { LoadSquareData(m_varn.Drive, m_varn.VarnPath, m_varn); });
     run([this] { m_varn.ExpSymbols = LoadSymbols(m_varn); });
@@ -100,11 +100,7 @@ void frmMain::loadBaseMap()
 /// Loads the parts of the current map; those that are `missing` are told in one error.
 void frmMain::loadParts(const QStringList& missing)
 {
-    using Loader = std::function<void()>;
-    const std::pair<const char*, Loader> parts[] = {
-        {"Line.map", [this] { LoadLineData(m_varn.Drive, m_varn.VarnPath, m_varn.VarnMapName, m_varn); }},
-        {"Loc.map", [this] { LoadLocateData(m_varn.Drive, m_varn.VarnPath, m_varn.VarnMapName, m_varn); }},
-        {"kanji.map", [this] { LoadKanjiData(m_varn.Drive, m_varn.VarnPath, m_varn.VarnMapName, m_varn); }}};
+    const MapPlace place{m_varn.VarnPath, m_varn.VarnMapName};
     QStringList told;
     for (const QString& path : missing) {
         told << RunTimeError(ErrorNumber::FileNotFound).at({path}).where();
@@ -112,9 +108,11 @@ void frmMain::loadParts(const QStringList& missing)
     if (!told.isEmpty()) {
         dialogs().error(RunTimeError(ErrorNumber::FileNotFound).title(), told.join(QLatin1Char('\n')));
     }
-    for (const auto& [name, load] : parts) {
-        if (missing.filter(QLatin1String(name)).isEmpty()) {
-            run(load);
+    for (const MapPart& part : mapParts()) {
+        if (!missing.contains(part.path(place))) {
+            run([&] {
+                part.load(m_varn.Drive, place, m_varn);
+            }); // a damaged one does not keep off the others
         }
     }
 }

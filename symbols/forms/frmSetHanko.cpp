@@ -108,9 +108,7 @@ void frmSetHanko::Form_Load()
     run([this] { SetKindWord(); });
     run([this] {
         if (m_shownReading < 0 && m_varn.NHanrei == 0) {
-            HankoFields blank;
-            m_editor.start(blank);
-            showStored(blank);
+            showStored(m_editor.start());
             m_shownReading = m_varn.HankoReading;
             m_history.restart(state());
             DisplayHanrei();

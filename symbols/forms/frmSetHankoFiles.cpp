@@ -1,5 +1,6 @@
 // The file of the symbol set-up form, and what would be lost when the set or the form is left.
 
+#include "platform/FileName.h"
 #include "shell/FileKinds.h"
 #include "shell/VarnModule.h"
 #include "symbols/SymbolFile.h"
@@ -30,7 +31,7 @@ std::optional<QString> frmSetHanko::askForFile(const QString& title, const QStri
 QString frmSetHanko::proposedName() const
 {
     const QString name = symbolFileStem(m_varn.SymbolFileName);
-    const QString item = m_varn.ItemFileName.section(QLatin1Char('.'), 0, -2);
+    const QString item = stemOf(m_varn.ItemFileName);
     const bool isOfItem = m_savedForItem == m_varn.ItemFileName || name.startsWith(item, Qt::CaseInsensitive);
     return isOfItem && !name.isEmpty() ? name : item;
 }
@@ -101,9 +102,7 @@ void frmSetHanko::mnuHankoInit_Click()
     if (!mayGiveUpWork(QStringLiteral("Empty the set and lose them?"))) {
         return;
     }
-    HankoFields record;
-    m_editor.initialize(record);
-    showStored(record);
+    showStored(m_editor.initialize());
     DisplayHanrei();
 }
 

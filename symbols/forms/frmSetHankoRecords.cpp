@@ -21,29 +21,25 @@ void frmSetHanko::cmdSymbol_Click()
 
 void frmSetHanko::cmdSave_Click()
 {
-    HankoFields record = fields();
-    m_editor.registerRecord(record);
-    showStored(record);
+    showStored(m_editor.registerRecord(fields()));
     DisplayHanrei();
 }
 
 void frmSetHanko::cmdNext_Click()
 {
-    HankoFields record = fields();
     const int before = m_varn.CurrentHanko;
-    if (m_editor.next(record) == SymbolEditor::NextResult::Full) {
+    const std::optional<HankoFields> record = m_editor.next(fields());
+    if (!record) {
         dialogs().message(QStringLiteral("Caption Data exceed Maximum."), QStringLiteral("Set Symbols"));
     } else if (m_varn.CurrentHanko != before) {
-        showStored(record);
+        showStored(*record);
         DisplayHanrei();
     }
 }
 
 void frmSetHanko::cmdBefore_Click()
 {
-    HankoFields record = fields();
-    m_editor.previous(record);
-    showStored(record);
+    showStored(m_editor.previous(fields()));
     DisplayHanrei();
 }
 
@@ -54,11 +50,8 @@ void frmSetHanko::cmdInserte_Click()
     if (!answer) {
         return;
     }
-    HankoFields record = fields();
-    const int n = toInteger(Val(*answer));
-    m_editor.insertRecord(n, record);
-    if (n <= m_varn.NHanrei) {
-        showStored(record);
+    if (const auto record = m_editor.insertRecord(toInteger(Val(*answer)), fields().Explain)) {
+        showStored(*record);
     }
     DisplayHanrei();
 }
@@ -89,9 +82,7 @@ void frmSetHanko::showRecordAt(float y)
 {
     const auto record = recordAt(y, m_editor.firstShown(), m_editor.lastShown(), m_preview);
     if (record && mayGiveUpFields(QStringLiteral("Show record %1 and lose them?").arg(*record))) {
-        HankoFields held = fields();
-        m_editor.goTo(*record, held);
-        showStored(held);
+        showStored(m_editor.goTo(*record, fields().Explain));
         DisplayHanrei();
     }
 }
