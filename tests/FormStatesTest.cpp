@@ -315,6 +315,35 @@ TEST_F(FormStates, DrawingsLieOnTheirPaper)
     }
 }
 
+TEST_F(FormStates, AFormThatNobodyTouchesIsNotPaintedAgain)
+{
+    struct Paints : QObject
+    {
+        bool eventFilter(QObject*, QEvent* event) override
+        {
+            number += event->type() == QEvent::Paint ? 1 : 0;
+            return false;
+        }
+        int number = 0;
+    };
+    display();
+    const std::pair<const char*, const char*> views[] = {{"frmMap", "picMap"},
+                                                         {"frmTotalHanko", "picHanko"},
+                                                         {"frmSetHanko", "picHanrei"},
+                                                         {"frmCalExec", "picPage"},
+                                                         {"frmRankData", "picRank"}};
+    for (const auto& [form, name] : views) {
+        SurfaceView& shown = view(form, name);
+        Paints paints;
+        QApplication::processEvents();
+        shown.installEventFilter(&paints);
+        for (int times = 0; times < 5; ++times) {
+            QApplication::processEvents();
+        }
+        EXPECT_EQ(paints.number, 0) << form;
+    }
+}
+
 TEST_F(FormStates, ANewPageIsShownFromItsTop)
 {
     display();

@@ -177,6 +177,8 @@ std::vector<EveryWayOut::Way> EveryWayOut::ways()
         {"frmSetHanko", "cmdSave", "*picHanrei", typed("frmSetHanko", "txtHanrei", "hail")},
         {"frmSetHanko", "mnuHankoInit", "*picHanrei"},
         {"frmSetHanko", "cmdInserte", "Specify Number of Insert Data.", noInput},
+        {"frmSetHanko", "cmdInserte", "*picHanrei", [](Test& test) { test.program->dialogs.inputs = {"1"}; }},
+        {"frmSetHanko", "cmdDelete", "*picHanrei", [](Test& test) { test.program->dialogs.inputs = {"1"}; }},
         {"frmSetHanko", "cmdDelete", "Specify Number of Delete Data.", noInput},
         {"frmSetHanko", "cmdUp", "*", manySymbols},
         {"frmSetHanko", "cmdDown", "*", both(manySymbols, click("frmSetHanko", "cmdUp"))},
