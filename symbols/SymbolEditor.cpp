@@ -120,7 +120,7 @@ void SymbolEditor::goTo(int record, HankoFields& fields)
 
 SymbolEditor::NextResult SymbolEditor::next(HankoFields& fields)
 {
-    if (m_set.CurrentHanko == MaxRecords) {
+    if (m_set.CurrentHanko == m_set.Hanko.last()) {
         return NextResult::Full;
     }
     if (fields.word.isEmpty()) {
