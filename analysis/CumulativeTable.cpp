@@ -4,8 +4,6 @@
 
 namespace {
 
-constexpr int MostLocalities = 1000;
-
 /// Colours that differ from each other and from the paper.
 constexpr std::array FirstColors = {12, 9, 2, 5, 6, 3, 0, 4, 1, 8};
 
@@ -16,7 +14,7 @@ void emptyWordform(CumulativeData& data, int k)
     data.WordformPaintColor(k) = 0;
     data.WordformExtraValue(k) = QVariant();
     data.WordformExtraInt(k) = 0;
-    for (int j = 0; j <= MostLocalities; ++j) {
+    for (int j = 0; j <= data.Counts.last<1>(); ++j) {
         data.Counts(k, j) = 0;
     }
     data.NumSpecifyChars(k) = 0;
@@ -35,7 +33,7 @@ void beginWordform(CumulativeData& data, int k)
 void setNumWordforms(CumulativeData& data, int number)
 {
     if (number != 0) {
-        static_cast<void>(data.WordformName(number));
+        data.WordformName.require(number);
     }
     for (int k = number + 1; k <= data.NumWordforms; ++k) {
         emptyWordform(data, k);
@@ -50,7 +48,7 @@ void setNumWordforms(CumulativeData& data, int number)
 bool hasContents(const CumulativeData& data, int k)
 {
     bool counted = false;
-    for (int j = 1; j <= MostLocalities; ++j) {
+    for (int j = 1; j <= data.Counts.last<1>(); ++j) {
         counted = counted || data.Counts(k, j) != 0;
     }
     return counted || !data.WordformName(k).isEmpty() || data.NumSpecifyChars(k) > 0;

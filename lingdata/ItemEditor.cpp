@@ -56,7 +56,7 @@ void append(ItemAnswers& item, int locality, const QString& word)
 ItemEditor::ItemEditor(qint16 localities)
 {
     if (localities > 0) {
-        m_entry->cells(localities, 1).reset(); // raises beyond the capacity
+        m_entry->cells.require(localities, 1);
     }
     m_entry->localities = localities;
 }
@@ -126,7 +126,7 @@ std::optional<CellPlace> ItemEditor::changedBy(void (QUndoStack::*move)())
 
 void ItemEditor::addLocalities(qint16 localities)
 {
-    m_entry->cells(std::max<qint16>(localities, 1), 1); // raises beyond the capacity
+    m_entry->cells.require(std::max<qint16>(localities, 1), 1);
     replace(m_entry->localities, std::max(localities, m_entry->localities));
 }
 

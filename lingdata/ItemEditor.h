@@ -38,7 +38,7 @@ struct FaultyWord
 class ItemEditor
 {
 public:
-    static constexpr int MostWords = 5;
+    static constexpr int MostWords = decltype(ItemAnswers::WordData)::last<1>();
 
     /// A new item without word forms. Raises subscript out of range beyond 1000 localities.
     explicit ItemEditor(qint16 localities = 0);
@@ -102,7 +102,8 @@ private:
     struct Entry
     {
         qint16 localities = 0;
-        BoundedArray<WordCell, Bounds{1, 1000}, Bounds{1, MostWords}> cells;
+        BoundedArray<WordCell, Bounds{1, decltype(ItemAnswers::WordData)::last()}, Bounds{1, MostWords}>
+            cells;
         QString caption;
         QString comment;
         QStringList kinds;

@@ -2,6 +2,7 @@
 
 #include "platform/RunTimeError.h"
 
+#include <array>
 #include <concepts>
 #include <cstddef>
 #include <vector>
@@ -29,6 +30,20 @@ public:
     requires(sizeof...(Index) == sizeof...(Dimensions)) const T& operator()(Index... index) const
     {
         return m_cells[offset(index...)];
+    }
+
+    /// The highest index of a dimension; the dimensions count from 0.
+    template <std::size_t Dimension = 0>
+    static constexpr int last()
+    {
+        return std::array{Dimensions...}.at(Dimension).hi;
+    }
+
+    /// Raises the subscript error where there is no such cell.
+    template <std::integral... Index>
+    requires(sizeof...(Index) == sizeof...(Dimensions)) static void require(Index... index)
+    {
+        offset(index...);
     }
 
     bool operator==(const BoundedArray&) const = default;

@@ -1,5 +1,7 @@
 #include "plot/PlotOptions.h"
 
+#include "analysis/CumulativeTable.h"
+
 #include <QCommandLineParser>
 #include <QFileInfo>
 
@@ -165,7 +167,7 @@ std::optional<PlotOptions> readPlotOptions(const QStringList& arguments)
 {
     constexpr double LargestHeight = 2000;
     constexpr double LargestResolution = 2400;
-    constexpr double MostWordForms = 10;
+    constexpr double MostWordForms = decltype(CumulativeTable::WordformName)::last();
 
     QCommandLineParser parser;
     addOptions(parser);

@@ -121,7 +121,7 @@ HankoFields SymbolEditor::goTo(int k, const QString& Explain)
 
 std::optional<HankoFields> SymbolEditor::next(const HankoFields& fields)
 {
-    if (m_set.CurrentHanko == MaxRecords) {
+    if (m_set.CurrentHanko == m_set.Hanko.last()) {
         return std::nullopt;
     }
     if (fields.word.isEmpty() || m_set.CurrentHanko > m_set.NHanrei) {

@@ -80,7 +80,6 @@ public:
     void scrollUp();
     void scrollDown();
 
-    static constexpr int MaxRecords = 100;
     static constexpr int MaxShown = 20;
 
 private:
