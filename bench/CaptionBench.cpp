@@ -16,7 +16,7 @@ void writeLongCaption(benchmark::State& state)
     for ([[maybe_unused]] auto step : state) {
         DrawSurface surface;
         DrawSurface traces;
-        PhoneticText text(folders, font, style, pictures, {surface, traces});
+        PhoneticText text({folders, font, style, pictures}, {surface, traces});
         benchmark::DoNotOptimize(text.PlotChar(0, 0, caption));
     }
     state.SetComplexityN(caption.size());

@@ -41,8 +41,9 @@ double luminance(const QColor& color)
 /// 1 for the same colour to 21 for black on white; a text can be read from 4.5 up.
 double contrast(const QColor& a, const QColor& b)
 {
-    const auto [darker, brighter] = std::minmax(luminance(a), luminance(b));
-    return (brighter + 0.05) / (darker + 0.05);
+    const double first = luminance(a);
+    const double second = luminance(b);
+    return (std::max(first, second) + 0.05) / (std::min(first, second) + 0.05);
 }
 
 /// A list whose first row is chosen.
