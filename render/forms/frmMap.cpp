@@ -21,6 +21,7 @@ frmMap::frmMap(VarnModule& varn, Dialogs& dialogs)
     m_ui->setupUi(this);
     m_ui->fraStyle->hide();
     setFirstSize(m_surface);
+    m_varn.DrawTarget = &m_surface; // until another is asked for
     m_ui->picMap->setSurface(m_surface, SurfaceView::Fit::NaturalSize);
     m_ui->scrMap->viewport()->installEventFilter(this);
     m_lblInsatsumode->setObjectName(QStringLiteral("lblInsatsumode"));
