@@ -1,5 +1,6 @@
 #include "shell/Recovery.h"
 
+#include "analysis/CountedItemsFile.h"
 #include "analysis/CumulativeFile.h"
 #include "lingdata/InputKindsFile.h"
 #include "lingdata/LinguisticFile.h"
@@ -33,7 +34,8 @@ struct KeptFiles
     explicit KeptFiles(const QString& folder)
         : contents(folder + QStringLiteral("\\contents.dat")), item(folder + QStringLiteral("\\item.dbs")),
           kinds(folder + QStringLiteral("\\item.ipt")), symbols(folder + QStringLiteral("\\symbols.han")),
-          table(folder + QStringLiteral("\\table.ttl")), strings(folder + QStringLiteral("\\table.sum"))
+          table(folder + QStringLiteral("\\table.ttl")), strings(folder + QStringLiteral("\\table.sum")),
+          countedItems(countedItemsPath(table))
     {}
 
     QString contents;
@@ -42,6 +44,7 @@ struct KeptFiles
     QString symbols;
     QString table;
     QString strings;
+    QString countedItems;
 };
 
 /// A line for every word form, however many strings it has, which a file that is saved does not write.
@@ -108,6 +111,8 @@ void writeWork(const UnsavedWork& work, const DriveC& drive, const QString& fold
         writeSequentialFile(drive, files.table,
                             [&](auto& file) { writeTotal(file, *work.table, work.localities); });
         writeSequentialFile(drive, files.strings, [&](auto& file) { writeAllStrings(file, *work.table); });
+        writeSequentialFile(drive, files.countedItems,
+                            [&](auto& file) { writeCountedItems(file, *work.table); });
     }
     writeSequentialFile(drive, files.contents, [&](auto& file) { writeContents(file, work); });
 }
@@ -131,6 +136,9 @@ UnsavedWork readWork(const DriveC& drive, const QString& folder)
         readSequentialFile(drive, files.strings, [&](auto& file) { readSpecifyChars(file, table); });
         static_cast<CumulativeTable&>(table) = readSequentialFile(
             drive, files.table, [&](auto& file) { return readTotal(file, work.localities); });
+        table.CountedItems = readSequentialFile(drive, files.countedItems, [&](auto& file) {
+            return readCountedItems(file, table.NumItemsAccumulated);
+        });
     }
     return work;
 }

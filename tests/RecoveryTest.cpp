@@ -22,6 +22,8 @@ protected:
         varn.NumSpecifyChars(1) = 11;
         varn.SpecifyChars(1, 11) = QStringLiteral("eleventh");
         varn.Counts(2, 3) = 7;
+        varn.NumItemsAccumulated = 2;
+        varn.CountedItems = {QStringLiteral("rain.dbs"), QStringLiteral("snow.dbs")};
         varn.TotalFileName = QStringLiteral("sum");
     }
 
@@ -71,6 +73,7 @@ TEST_F(RecoveryOf, AllKindsOfWorkComeBackAsUnsaved)
     EXPECT_EQ(opened.HankoReading, 1) << "the symbol form shows the set";
     EXPECT_EQ(opened.WordformName(2), QStringLiteral("two"));
     EXPECT_EQ(opened.Counts(2, 3), 7);
+    EXPECT_EQ(opened.CountedItems, varn.CountedItems) << "or an item could be counted twice";
     EXPECT_EQ(opened.SpecifyChars(1, 11), QStringLiteral("eleventh"));
     EXPECT_EQ(describe(unsavedWork(opened, std::nullopt)),
               QStringLiteral("symbol set rain.han, cumulative data sum"));
