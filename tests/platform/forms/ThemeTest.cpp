@@ -1,0 +1,123 @@
+// Texts in lists can be read in a light theme and in a dark one, and in the size of the desktop's font.
+
+#include "platform/forms/ThemeColors.h"
+#include "render/forms/WordDelegate.h"
+#include "tests/support/TestDrive.h"
+
+#include <QLabel>
+#include <QListWidget>
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+QPalette theme(const QColor& button, const QColor& window)
+{
+    QPalette palette(button, window);
+    palette.setColor(QPalette::Highlight, QColor(0x2a, 0x82, 0xda));
+    return palette;
+}
+
+QPalette light()
+{
+    return theme(Qt::lightGray, Qt::white);
+}
+
+QPalette dark()
+{
+    return theme({0x31, 0x36, 0x3b}, {0x1b, 0x1e, 0x20});
+}
+
+/// How bright a colour looks, from 0 to 1.
+double luminance(const QColor& color)
+{
+    const auto linear = [](double value) {
+        return value <= 0.03928 ? value / 12.92 : std::pow((value + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) + 0.0722 * linear(color.blueF());
+}
+
+/// 1 for the same colour to 21 for black on white; a text can be read from 4.5 up.
+double contrast(const QColor& a, const QColor& b)
+{
+    const double first = luminance(a);
+    const double second = luminance(b);
+    return (std::max(first, second) + 0.05) / (std::min(first, second) + 0.05);
+}
+
+/// A list whose first row is chosen.
+struct WordList
+{
+    WordList(const QPalette& palette, int fontPixels)
+    {
+        survey.varn.VarnPath = survey.varn.Drive.varnPath(QStringLiteral(INSTALLATION_FOLDER));
+        QFont font = list.font();
+        font.setPixelSize(fontPixels);
+        list.setFont(font);
+        list.setPalette(palette);
+        list.setItemDelegate(new WordDelegate(survey.varn, &list));
+        list.addItems({QStringLiteral("\\H2"), QStringLiteral("\\H2"), QStringLiteral("mm\\E2"),
+                       QStringLiteral("mm"), QStringLiteral("\\Q1")});
+        list.setCurrentRow(0);
+        list.setFrameShape(QFrame::NoFrame);
+        list.resize(600, 400);
+        picture = list.grab().toImage();
+    }
+
+    /// How a word stands out at the left of its row, and how high what can be seen of it is.
+    std::pair<double, int> word(int row) const
+    {
+        const QRect cell = list.visualItemRect(list.item(row));
+        const QColor background = picture.pixelColor(cell.center().x(), cell.top() + 3);
+        double clearest = 0;
+        QRect ink;
+        for (int y = cell.top() + 2; y < cell.bottom() - 1; ++y) {
+            for (int x = cell.left() + 3; x < cell.left() + 40; ++x) {
+                const double here = contrast(picture.pixelColor(x, y), background);
+                clearest = std::max(clearest, here);
+                ink |= here > 2 ? QRect(x, y, 1, 1) : QRect();
+            }
+        }
+        return {clearest, ink.height()};
+    }
+
+    TestSurvey survey;
+    QListWidget list;
+    QImage picture;
+};
+
+} // namespace
+
+TEST(Theme, WordsStandOutFromTheirCells)
+{
+    for (const QPalette& palette : {light(), dark()}) {
+        const WordList words(palette, 24);
+        for (int row = 0; row < words.list.count(); ++row) {
+            EXPECT_GT(words.word(row).first, row == 4 ? 4.5 : 8) << "row " << row;
+        }
+    }
+}
+
+TEST(Theme, PhoneticLettersAreAsLargeAsTheListsFont)
+{
+    const int small = WordList(light(), 12).word(1).second;
+    EXPECT_NEAR(small, 9, 2) << "the h of a text of 12 pixels";
+    EXPECT_NEAR(WordList(light(), 36).word(1).second, 3 * small, 4);
+}
+
+TEST(Theme, ColorsBesideThePaletteCanBeReadOnIt)
+{
+    for (const QPalette& palette : {light(), dark()}) {
+        const QColor base = palette.color(QPalette::Base);
+        for (const QColor& ground : {base, chosenCell(palette)}) {
+            EXPECT_GT(contrast(quietText(palette), ground), 4);
+            EXPECT_GT(contrast(warningText(palette), ground), 4.5);
+        }
+        EXPECT_GT(contrast(chosenCell(palette), base), 1.2) << "a chosen cell can be seen";
+        QLabel label;
+        label.setPalette(palette);
+        showAsWarning(label);
+        EXPECT_EQ(label.palette().color(QPalette::WindowText), warningText(palette));
+    }
+}

@@ -1,0 +1,108 @@
+#include "tests/support/Transcript.h"
+
+#include "platform/StandardColors.h"
+
+#include <cmath>
+#include <numbers>
+#include <sstream>
+
+namespace {
+
+/// The lines of one drawing.
+class Transcript
+{
+public:
+    explicit Transcript(const Drawing& drawing) : m_drawing(drawing) { m_out << '\n'; }
+
+    void operator()(const PolylineOperation& line)
+    {
+        m_out << "line";
+        for (std::size_t i = 0; i < line.points; ++i) {
+            place(m_drawing.points[line.firstPoint + i].x(), m_drawing.points[line.firstPoint + i].y());
+        }
+        look(0, line.pen);
+    }
+    void operator()(const BoxOperation& box)
+    {
+        if (box.fill == QBColor(15) && box.pen >= 0 && penAt(box.pen).color == QBColor(15)) {
+            m_out << "white box\n";
+            return;
+        }
+        m_out << "box";
+        place(box.x, box.y);
+        place(box.x + box.width, box.y + box.height);
+        look(box.fill, box.pen);
+    }
+    void operator()(const EllipseOperation& ellipse)
+    {
+        m_out << "ellipse";
+        place(ellipse.x, ellipse.y);
+        place(ellipse.halfWidth, ellipse.halfHeight);
+        look(ellipse.fill, ellipse.pen);
+    }
+    void operator()(const ArcOperation& arc)
+    {
+        m_out << "arc";
+        place(arc.x, arc.y);
+        place(arc.halfWidth, arc.halfHeight);
+        place(arc.start * 180 / std::numbers::pi, arc.span * 180 / std::numbers::pi);
+        m_out << (arc.startRadius ? " start" : "") << (arc.endRadius ? " end" : "");
+        look(arc.fill, arc.pen);
+    }
+    void operator()(const TextOperation& text)
+    {
+        const TextFont& font = m_drawing.fonts[static_cast<std::size_t>(text.font)];
+        m_out << '"' << m_drawing.texts[text.text].toStdString() << '"';
+        place(text.x, text.y);
+        m_out << ' ' << font.size << "pt" << (font.bold ? " bold" : "") << (font.italic ? " italic" : "")
+              << (text.color == QBColor(0) ? "" : " color " + color(text.color)) << '\n';
+    }
+    void operator()(const PictureOperation& picture)
+    {
+        m_out << "picture";
+        place(picture.x, picture.y);
+        place(picture.width, picture.height);
+        m_out << '\n';
+    }
+
+    std::string text() const { return m_out.str(); }
+
+private:
+    const LinePen& penAt(int number) const { return m_drawing.pens[static_cast<std::size_t>(number)]; }
+
+    static double tenths(double value) { return static_cast<double>(std::lround(10 * value)) / 10; }
+
+    void place(double x, double y) { m_out << ' ' << tenths(x) << ',' << tenths(y); }
+
+    static std::string color(QRgb color)
+    {
+        int number = 0;
+        while (number <= 15 && QBColor(number) != color) {
+            ++number;
+        }
+        return number <= 15 ? std::to_string(number) : QColor::fromRgb(color).name().toStdString();
+    }
+
+    void look(QRgb fill, int pen)
+    {
+        m_out << (fill == 0 ? "" : " filled " + color(fill));
+        if (pen >= 0) {
+            m_out << " pen " << penAt(pen).width << '/' << penAt(pen).style << '/' << color(penAt(pen).color);
+        }
+        m_out << '\n';
+    }
+
+    const Drawing& m_drawing;
+    std::ostringstream m_out;
+};
+
+} // namespace
+
+std::string transcript(const Drawing& drawing)
+{
+    Transcript lines(drawing);
+    for (const DrawingOperation& operation : drawing.operations) {
+        std::visit(lines, operation);
+    }
+    return lines.text();
+}
