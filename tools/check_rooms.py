@@ -9,7 +9,7 @@ import re
 import sys
 
 ROOMS = [
-    "platform", "mapdata", "lingdata", "symbols", "render", "analysis", "shell", "plot",
+    "platform", "mapdata", "lingdata", "symbols", "render", "exchange", "analysis", "shell", "plot",
     "platform/forms", "render/forms", "mapdata/forms", "lingdata/forms", "symbols/forms", "analysis/forms",
     "shell/forms",
 ]

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+#include <vector>
+
+/// What became of a source: what came in, and what was left out and why. Nothing is dropped in silence.
+class ImportReport
+{
+public:
+    /// A line that tells what came in or was decided, such as "98 localities".
+    void tell(const QString& line);
+    /// One thing was left out. The same reason is told once, with the number of things and the first of them
+    /// by name: "Left out, localities without coordinates: 3 (A, B, C)".
+    void leaveOut(const QString& reason, const QString& what);
+
+    /// The report as it is shown, printed and kept, one statement a line.
+    QString text() const;
+    /// Whether anything was left out.
+    bool isComplete() const { return m_leftOut.empty(); }
+
+private:
+    struct LeftOut
+    {
+        QString reason;
+        int count = 0;
+        QStringList first;
+    };
+
+    QStringList m_told;
+    std::vector<LeftOut> m_leftOut;
+};
