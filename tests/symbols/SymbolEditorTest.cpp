@@ -1,278 +1,50 @@
 #include "symbols/SymbolEditor.h"
 
-#include "platform/StandardColors.h"
 #include "render/SymbolSample.h"
-#include "symbols/SymbolFile.h"
 #include "symbols/forms/SymbolPreview.h"
 #include "tests/support/TestDrive.h"
 
+#include <functional>
+
 namespace {
 
-/// Fields of a record with the kind `word` and the symbol `number`, all else as for a new record.
-HankoFields fieldsOf(const QString& word, const QString& number)
-{
-    HankoFields fields = SymbolEditor::NewData(QString());
-    fields.word = word;
-    fields.number = number;
-    return fields;
-}
-
-/// Registers `count` records "k1", "k2", ... with symbols 1, 2, ... and ends at the last one.
-void fill(SymbolEditor& editor, int count)
-{
-    HankoFields fields = editor.start();
-    for (int k = 1; k <= count; ++k) {
-        if (k > 1) {
-            editor.next(fields);
-        }
-        fields = editor.registerRecord(fieldsOf(QStringLiteral("k%1").arg(k), QString::number(k)));
-    }
-}
-
-/// "k1 k2 ...", the kinds of the set.
-QString kinds(const SymbolSet& set)
-{
-    QStringList words;
-    for (int k = 1; k <= set.NHanrei; ++k) {
-        words << set.HankoWord(k);
-    }
-    return words.join(QLatin1Char(' '));
-}
-
-/// A set of three records and its editor at the last one.
-class ThreeRecords : public testing::Test
+/// An empty symbol set and its editor.
+class SymbolEditing : public testing::Test
 {
 protected:
-    ThreeRecords()
+    /// Fields of a record with the kind `word` and the symbol `number`, all else as for a new record.
+    static HankoFields fieldsOf(const char* word, int number)
     {
-        fill(editor, 3);
-        fields = editor.GetData();
+        HankoFields made = SymbolEditor::NewData(QString());
+        made.word = QLatin1String(word);
+        made.number = QString::number(number);
+        return made;
+    }
+
+    /// Registers `count` records "k" with symbols 1, 2, ... and ends at the last one.
+    void fill(int count)
+    {
+        fields = editor.start();
+        for (int k = 1; k <= count; ++k) {
+            editor.next(fields);
+            fields = editor.registerRecord(fieldsOf("k", k));
+        }
+    }
+
+    /// "2/3: k1 k2 k3", the counter and each record with its kind and its symbol.
+    std::string records() const
+    {
+        QString text = editor.counter() + QLatin1Char(':');
+        for (int k = 1; k <= set.NHanrei; ++k) {
+            text += QLatin1Char(' ') + set.HankoWord(k) + QString::number(set.Hanko(k).HankoNo);
+        }
+        return text.toStdString();
     }
 
     SymbolSet set;
     SymbolEditor editor{set};
     HankoFields fields;
 };
-
-} // namespace
-
-TEST(SymbolEditor, BlanksAreTakenFromTheRightEndOnly)
-{
-    const std::pair<QString, QString> rows[] = {{QStringLiteral("  a b  "), QStringLiteral("  a b")},
-                                                {QStringLiteral("   "), QString()},
-                                                {QString(), QString()},
-                                                {QStringLiteral("a\t "), QStringLiteral("a\t")}};
-    for (const auto& [text, stripped] : rows) {
-        EXPECT_EQ(DelBlankChar(text), stripped);
-    }
-}
-
-TEST(SymbolEditor, RecordsAreEnteredOneAfterTheOther)
-{
-    SymbolSet set;
-    SymbolEditor editor(set);
-    HankoFields fields = editor.start();
-    EXPECT_EQ(editor.counter(), QStringLiteral("1/New"));
-    editor.next(fields);
-    editor.registerRecord(fields);
-    EXPECT_EQ(editor.counter(), QStringLiteral("1/New")) << "a record without a kind does not count";
-
-    fields.word = QStringLiteral(" ame  ");
-    fields.caption = QStringLiteral("Ame ");
-    fields.number = QStringLiteral("2.5");
-    fields.Explain = QStringLiteral("a comment");
-    editor.registerRecord(fields);
-    EXPECT_EQ(editor.counter(), QStringLiteral("1/1"));
-    EXPECT_EQ(set.HankoWord(1), QStringLiteral(" ame"));
-    EXPECT_EQ(set.HankoCaption(1), QStringLiteral("Ame"));
-    EXPECT_EQ(set.Hanko(1), (HankoStyle{2, 0, 0, 0, 1, 1}));
-    EXPECT_EQ(set.Explain, QStringLiteral("a comment"));
-    EXPECT_TRUE(set.HankoUnsaved);
-
-    fields = editor.next(fields).value();
-    EXPECT_EQ(editor.counter(), QStringLiteral("2/New"));
-    HankoFields blank = fieldsOf(QString(), QString());
-    blank.Explain = QStringLiteral("a comment");
-    EXPECT_EQ(fields, blank);
-    fields.word = QStringLiteral("lost");
-    editor.next(fields);
-    EXPECT_EQ(editor.counter(), QStringLiteral("2/New")) << "a new record must be registered first";
-    fields = editor.previous(fields);
-    EXPECT_EQ(fields.word, QStringLiteral(" ame"));
-    editor.previous(fields);
-    EXPECT_EQ(editor.counter(), QStringLiteral("1/1"));
-}
-
-TEST(SymbolEditor, ASymbolNumberCarriesOneStyle)
-{
-    SymbolSet set;
-    SymbolEditor editor(set);
-    fill(editor, 4);
-    const HankoStyle first{7, 1, 2, 1, 0, 2};
-    const HankoStyle last{7, 3, 99, 5, 2, -1};
-    set.Hanko(1) = first;
-    set.Hanko(2) = last; // two styles of one number, as a file may have them
-    HankoFields fields = fieldsOf(QStringLiteral("k3"), QStringLiteral("7"));
-    fields.style.LineColor = 12;
-    set.CurrentHanko = 3;
-    fields = editor.registerRecord(fields);
-    EXPECT_EQ(set.Hanko(3), (HankoStyle{7, 3, 0, 1, 2, 0})) << "the last earlier one, as the lists show it";
-    EXPECT_EQ(fields.style, set.Hanko(3));
-
-    const HankoStyle own{7, 14, 13, 0, 2, 0};
-    fields.style = own;
-    set.CurrentHanko = 1;
-    editor.registerRecord(fields);
-    EXPECT_EQ(set.Hanko(1), own) << "later records do not count";
-}
-
-TEST_F(ThreeRecords, ANumberTooLargeStoresNothing)
-{
-    fields.word = QStringLiteral("other");
-    fields.number = QStringLiteral("40000");
-    EXPECT_EQ(errorOf([&] { editor.registerRecord(fields); }).number(), ErrorNumber::Overflow);
-    EXPECT_EQ(kinds(set), QStringLiteral("k1 k2 k3"));
-}
-
-TEST_F(ThreeRecords, InsertingShiftsTheRecordsBehind)
-{
-    set.HankoCaption(3) = QStringLiteral("caption 3");
-    set.HankoUnsaved = false;
-    EXPECT_EQ(editor.insertRecord(4, QString()), std::nullopt);
-    EXPECT_FALSE(set.HankoUnsaved);
-    editor.insertRecord(2, QString());
-    EXPECT_EQ(kinds(set), QStringLiteral("k1  k2 k3"));
-    EXPECT_EQ(editor.counter(), QStringLiteral("2/4"));
-    EXPECT_EQ(set.Hanko(2), (HankoStyle{0, 0, 0, 0, 1, 1}));
-    EXPECT_EQ(set.Hanko(3).HankoNo, 2);
-    EXPECT_EQ(set.HankoCaption(4), QStringLiteral("caption 3"));
-    EXPECT_EQ(editor.lastShown(), 4);
-    EXPECT_TRUE(set.HankoUnsaved);
-}
-
-TEST_F(ThreeRecords, InsertingAtZeroMakesTheScratchRecordCurrent)
-{
-    set.HankoWord(0) = QStringLiteral("scratch");
-    fields = editor.insertRecord(0, QString()).value();
-    EXPECT_EQ(editor.counter(), QStringLiteral("0/3"));
-    EXPECT_EQ(set.HankoWord(0), QString());
-    EXPECT_EQ(kinds(set), QStringLiteral("k1 k2 k3"));
-    EXPECT_EQ(errorOf([&] { editor.previous(fields); }).number(), ErrorNumber::SubscriptOutOfRange);
-    EXPECT_EQ(editor.counter(), QStringLiteral("0/3"));
-    fields.word = QStringLiteral("on");
-    fields = editor.next(fields).value();
-    EXPECT_EQ(fields.word, QStringLiteral("k1"));
-}
-
-TEST_F(ThreeRecords, DeletingClosesTheGapAndLeavesTheLastBehind)
-{
-    editor.deleteRecord(0);
-    editor.deleteRecord(4);
-    EXPECT_EQ(kinds(set), QStringLiteral("k1 k2 k3"));
-    editor.deleteRecord(1);
-    EXPECT_EQ(kinds(set), QStringLiteral("k2 k3"));
-    EXPECT_EQ(set.Hanko(1).HankoNo, 2);
-    EXPECT_EQ(set.HankoWord(3), QStringLiteral("k3"));
-    EXPECT_EQ(editor.counter(), QStringLiteral("3/New"));
-    EXPECT_EQ(editor.lastShown(), 2);
-    editor.deleteRecord(2);
-    editor.deleteRecord(1);
-    EXPECT_EQ(set.NHanrei, 0);
-    EXPECT_LT(editor.lastShown(), editor.firstShown());
-
-    fields = fieldsOf(QStringLiteral("new"), QStringLiteral("9"));
-    editor.registerRecord(fields);
-    EXPECT_EQ(kinds(set), QStringLiteral("k2")) << "stored as record 3; what was left at 1 counts again";
-}
-
-TEST_F(ThreeRecords, NegativeNumbersAreErrorsThatChangeNothing)
-{
-    for (const int n : {-1, -32768}) {
-        EXPECT_EQ(errorOf([&] { editor.insertRecord(n, QString()); }).number(),
-                  ErrorNumber::SubscriptOutOfRange);
-        EXPECT_EQ(errorOf([&] { editor.deleteRecord(n); }).number(), ErrorNumber::SubscriptOutOfRange);
-    }
-    EXPECT_EQ(kinds(set), QStringLiteral("k1 k2 k3"));
-    EXPECT_EQ(editor.counter(), QStringLiteral("3/3"));
-}
-
-TEST_F(ThreeRecords, InitializingEmptiesTheSetDownToRecordZero)
-{
-    set.Explain = QStringLiteral("a comment");
-    set.HankoWord(0) = QStringLiteral("scratch");
-    fields = editor.initialize();
-    EXPECT_EQ(editor.counter(), QStringLiteral("0/0"));
-    EXPECT_EQ(fields.word, QStringLiteral("scratch"));
-    EXPECT_EQ(fields.Explain, QString());
-    EXPECT_EQ(set.HankoWord(2), QString());
-    EXPECT_EQ(set.Hanko(3), HankoStyle{});
-
-    fields.word = QStringLiteral("ame");
-    editor.registerRecord(fields);
-    EXPECT_EQ(set.NHanrei, 0) << "record 0 does not count";
-    editor.next(fields);
-    EXPECT_EQ(editor.counter(), QStringLiteral("1/New"));
-}
-
-TEST(SymbolEditor, AHundredRecordsAreTheMost)
-{
-    SymbolSet set;
-    SymbolEditor editor(set);
-    fill(editor, 100);
-    EXPECT_EQ(editor.counter(), QStringLiteral("100/100"));
-    HankoFields fields = editor.GetData();
-    EXPECT_EQ(editor.next(fields), std::nullopt);
-    EXPECT_EQ(errorOf([&] { editor.insertRecord(50, QString()); }).number(),
-              ErrorNumber::SubscriptOutOfRange);
-    EXPECT_EQ(set.NHanrei, 100);
-    EXPECT_EQ(set.HankoWord(50), QStringLiteral("k50"));
-    EXPECT_EQ(set.CurrentHanko, 100);
-    fields.word.clear();
-    EXPECT_EQ(editor.next(fields), std::nullopt) << "told whatever the kind is";
-}
-
-TEST(SymbolEditor, PreviewShowsTheLastTwentyAndScrolls)
-{
-    SymbolSet set;
-    SymbolEditor editor(set);
-    using Range = std::pair<int, int>;
-    const auto shown = [&editor] { return Range(editor.firstShown(), editor.lastShown()); };
-    fill(editor, 19);
-    EXPECT_EQ(shown(), Range(1, 19));
-    editor.scrollUp();
-    editor.scrollDown();
-    EXPECT_EQ(shown(), Range(1, 19));
-    fill(editor, 25);
-    EXPECT_EQ(shown(), Range(6, 25));
-    for (int i = 0; i < 4; ++i) {
-        editor.scrollUp();
-    }
-    EXPECT_EQ(shown(), Range(2, 21));
-    editor.scrollUp();
-    editor.scrollUp();
-    EXPECT_EQ(shown(), Range(1, 20));
-    for (int i = 0; i < 9; ++i) {
-        editor.scrollDown();
-    }
-    EXPECT_EQ(shown(), Range(6, 25));
-}
-
-TEST(SymbolFileNames, EndingIsNotDoubledAndFoldersAreNotLeft)
-{
-    Folders folders;
-    folders.LingFolder = QStringLiteral("\\Ling");
-    const QString path = folders.VarnPath + QStringLiteral("\\Ling\\a.b.han");
-    for (const char* name : {"a.b", "a.b.han", "a.b.HAN"}) {
-        EXPECT_EQ(symbolFilePath(folders, QLatin1String(name)), path) << name;
-    }
-    for (const char* name : {"..\\a", "a/b", "c:a", "a?"}) {
-        EXPECT_EQ(errorOf([&] { symbolFilePath(folders, QLatin1String(name)); }).number(),
-                  ErrorNumber::BadFileName)
-            << name;
-    }
-}
-
-namespace {
 
 /// A preview of the records of a map.
 class SymbolPreview : public testing::Test
@@ -297,6 +69,154 @@ protected:
 };
 
 } // namespace
+
+TEST_F(SymbolEditing, RecordsAreEnteredOneAfterTheOther)
+{
+    fields = editor.start();
+    EXPECT_EQ(editor.next(fields), fields);
+    editor.registerRecord(fields);
+    EXPECT_EQ(records(), "1/New:") << "a record without a kind does not count";
+
+    fields = fieldsOf(" a\t  ", 0);
+    fields.number = QStringLiteral("2.5");
+    fields.caption = QStringLiteral("   ");
+    fields.Explain = QStringLiteral("a comment");
+    editor.registerRecord(fields);
+    EXPECT_EQ(records(), "1/1:  a\t2") << "blanks are taken from the right end only";
+    EXPECT_EQ(set.HankoCaption(1), QString());
+    EXPECT_EQ(set.Hanko(1), (HankoStyle{2, 0, 0, 0, 1, 1}));
+    EXPECT_EQ(set.Explain, QStringLiteral("a comment"));
+    EXPECT_TRUE(set.HankoUnsaved);
+
+    fields = editor.next(fields).value();
+    EXPECT_EQ(editor.counter(), QStringLiteral("2/New"));
+    EXPECT_EQ(fields, SymbolEditor::NewData(QStringLiteral("a comment")));
+    fields.word = QStringLiteral("lost");
+    editor.next(fields);
+    EXPECT_EQ(editor.counter(), QStringLiteral("2/New")) << "a new record must be registered first";
+    fields = editor.previous(fields);
+    EXPECT_EQ(fields.word, QStringLiteral(" a\t"));
+    editor.previous(fields);
+    EXPECT_EQ(editor.counter(), QStringLiteral("1/1"));
+}
+
+TEST_F(SymbolEditing, ASymbolNumberCarriesOneStyle)
+{
+    fill(4);
+    set.Hanko(1) = {7, 1, 2, 1, 0, 2};
+    set.Hanko(2) = {7, 3, 99, 5, 2, -1}; // two styles of one number, as a file may have them
+    fields = fieldsOf("k", 7);
+    fields.style.LineColor = 12;
+    set.CurrentHanko = 3;
+    fields = editor.registerRecord(fields);
+    EXPECT_EQ(set.Hanko(3), (HankoStyle{7, 3, 0, 1, 2, 0})) << "the last earlier one, as the lists show it";
+    EXPECT_EQ(fields.style, set.Hanko(3));
+
+    fields.style = {7, 14, 13, 0, 2, 0};
+    set.CurrentHanko = 1;
+    editor.registerRecord(fields);
+    EXPECT_EQ(set.Hanko(1), fields.style) << "later records do not count";
+}
+
+TEST_F(SymbolEditing, InsertingShiftsTheRecordsBehind)
+{
+    fill(3);
+    set.HankoCaption(3) = QStringLiteral("caption 3");
+    set.HankoUnsaved = false;
+    EXPECT_EQ(editor.insertRecord(4, QString()), std::nullopt);
+    EXPECT_FALSE(set.HankoUnsaved);
+    editor.insertRecord(2, QString());
+    EXPECT_EQ(records(), "2/4: k1 0 k2 k3");
+    EXPECT_EQ(set.Hanko(2), (HankoStyle{0, 0, 0, 0, 1, 1}));
+    EXPECT_EQ(set.HankoCaption(4), QStringLiteral("caption 3"));
+    EXPECT_EQ(editor.lastShown(), 4);
+    EXPECT_TRUE(set.HankoUnsaved);
+
+    set.HankoWord(0) = QStringLiteral("scratch");
+    fields = editor.insertRecord(0, QString()).value();
+    EXPECT_EQ(records(), "0/4: k1 0 k2 k3");
+    EXPECT_EQ(set.HankoWord(0), QString());
+    EXPECT_EQ(errorOf([&] { editor.previous(fields); }).number(), ErrorNumber::SubscriptOutOfRange);
+    fields.word = QStringLiteral("on");
+    EXPECT_EQ(editor.next(fields)->word, QStringLiteral("k"));
+    EXPECT_EQ(editor.counter(), QStringLiteral("1/4"));
+}
+
+TEST_F(SymbolEditing, DeletingClosesTheGapAndLeavesTheLastBehind)
+{
+    fill(3);
+    editor.deleteRecord(0);
+    editor.deleteRecord(4);
+    EXPECT_EQ(records(), "3/3: k1 k2 k3");
+    editor.deleteRecord(1);
+    EXPECT_EQ(records(), "3/New: k2 k3");
+    EXPECT_EQ(set.HankoWord(3), QStringLiteral("k"));
+    EXPECT_EQ(editor.lastShown(), 2);
+    editor.deleteRecord(2);
+    editor.deleteRecord(1);
+    EXPECT_EQ(records(), "3/New:");
+    EXPECT_LT(editor.lastShown(), editor.firstShown());
+    editor.registerRecord(fieldsOf("new", 9));
+    EXPECT_EQ(records(), "3/New: k2") << "stored as record 3; what was left at 1 counts again";
+}
+
+TEST_F(SymbolEditing, InitializingEmptiesTheSetDownToRecordZero)
+{
+    fill(3);
+    set.Explain = QStringLiteral("a comment");
+    set.HankoWord(0) = QStringLiteral("scratch");
+    fields = editor.initialize();
+    EXPECT_EQ(records(), "0/0:");
+    EXPECT_EQ(fields.word, QStringLiteral("scratch"));
+    EXPECT_EQ(fields.Explain, QString());
+    EXPECT_EQ(set.HankoWord(2), QString());
+    EXPECT_EQ(set.Hanko(3), HankoStyle{});
+
+    editor.registerRecord(fields);
+    EXPECT_EQ(set.NHanrei, 0) << "record 0 does not count";
+    editor.next(fields);
+    EXPECT_EQ(editor.counter(), QStringLiteral("1/New"));
+}
+
+TEST_F(SymbolEditing, WhatCannotBeStoredIsAnErrorThatChangesNothing)
+{
+    fill(100);
+    const std::string before = records();
+    EXPECT_TRUE(before.starts_with("100/100: k1 k2")) << "a hundred are the most";
+    const std::pair<std::function<void()>, ErrorNumber> rows[] = {
+        {[&] { editor.registerRecord(fieldsOf("other", 40000)); }, ErrorNumber::Overflow},
+        {[&] { editor.insertRecord(50, QString()); }, ErrorNumber::SubscriptOutOfRange},
+        {[&] { editor.insertRecord(-1, QString()); }, ErrorNumber::SubscriptOutOfRange},
+        {[&] { editor.deleteRecord(-1); }, ErrorNumber::SubscriptOutOfRange},
+    };
+    for (const auto& [action, expected] : rows) {
+        EXPECT_EQ(errorOf(action).number(), expected);
+        EXPECT_EQ(records(), before);
+    }
+    for (const HankoFields& last : {fields, HankoFields()}) {
+        EXPECT_EQ(editor.next(last), std::nullopt) << "whatever the kind is";
+    }
+}
+
+TEST_F(SymbolEditing, PreviewShowsTheLastTwentyAndScrolls)
+{
+    struct Row
+    {
+        int records, ups, downs, first, last;
+    };
+    for (const auto& [records, ups, downs, first, last] :
+         {Row{19, 1, 1, 1, 19}, {25, 0, 0, 6, 25}, {25, 4, 0, 2, 21}, {25, 6, 0, 1, 20}, {25, 6, 9, 6, 25}}) {
+        fill(records);
+        for (int i = 0; i < ups; ++i) {
+            editor.scrollUp();
+        }
+        for (int i = 0; i < downs; ++i) {
+            editor.scrollDown();
+        }
+        EXPECT_EQ(editor.firstShown(), first) << records << " up " << ups << " down " << downs;
+        EXPECT_EQ(editor.lastShown(), last) << records << " up " << ups << " down " << downs;
+    }
+}
 
 TEST_F(SymbolPreview, RowsAndColumnsDoNotCollide)
 {
