@@ -171,33 +171,25 @@ TEST(CumulativeFile, AWordFormWithoutStringsMakesTheStringsUnreadable)
         << "eleven have no line";
 }
 
-TEST(CumulativeTable, NewWordFormsHaveColoursOfTheirOwn)
+TEST(CumulativeTable, NewWordFormsAreEmptyAndHaveColoursOfTheirOwn)
 {
     CumulativeData data;
-    setNumWordforms(data, 10);
-    QList<int> colors = {7, 15}; // those that paper swallows
-    for (int k = 1; k <= 10; ++k) {
-        EXPECT_FALSE(colors.contains(data.WordformSymbolColor(k))) << k;
-        EXPECT_EQ(data.WordformSymbolColor(k), data.WordformPaintColor(k));
-        colors << data.WordformSymbolColor(k);
-    }
-}
-
-TEST(CumulativeTable, ADroppedWordFormComesBackEmpty)
-{
-    CumulativeData data = tableOf({{"a"}, {}});
     for (const int j : {1, 1000}) {
-        setNumWordforms(data, 2);
-        data.WordformName(2).clear();
-        EXPECT_FALSE(hasContents(data, 2)) << j;
+        setNumWordforms(data, 10);
+        QList<int> colors = {7, 15}; // those that paper swallows
+        for (int k = 1; k <= 10; ++k) {
+            EXPECT_EQ(hasContents(data, k), data.NumSpecifyChars(1) > 0 && k == 1) << k;
+            EXPECT_FALSE(colors.contains(data.WordformSymbolColor(k))) << k;
+            EXPECT_EQ(data.WordformSymbolColor(k), data.WordformPaintColor(k));
+            colors << data.WordformSymbolColor(k);
+        }
+        EXPECT_EQ(data.WordformExtraInt(2), 0);
         data.Counts(2, j) = 1;
         EXPECT_TRUE(hasContents(data, 2)) << j;
         data.WordformExtraInt(2) = 7;
-        data.NumSpecifyChars(2) = 1;
+        data.NumSpecifyChars(1) = data.NumSpecifyChars(2) = 1;
+        data.CurrentWordform = 2;
         setNumWordforms(data, 1);
-        setNumWordforms(data, 2);
-        EXPECT_FALSE(hasContents(data, 2)) << j;
-        EXPECT_EQ(data.WordformExtraInt(2), 0);
         EXPECT_EQ(data.CurrentWordform, 1);
     }
     EXPECT_EQ(data.NumSpecifyChars(1), 1);
@@ -276,12 +268,9 @@ TEST(Contrast, SidesAreSummedAndSubtracted)
         table.Counts(2, j) = 1;
         table.Counts(3, j) = 4;
     }
-    ContrastData contrast;
-    contrast.ContrastCount(1) = 2;
-    contrast.ContrastWord(1, 1) = 1;
-    contrast.ContrastWord(1, 2) = 2;
-    contrast.ContrastCount(2) = 1;
-    contrast.ContrastWord(2, 1) = 3;
+    SequentialReader groups(
+        QStringLiteral("\"\",1,1\r\n2\r\n0,0\r\n\"a\",1\r\n\"b\",2\r\n1\r\n0,0\r\n\"c\",3\r\n"));
+    ContrastData contrast = readContrast(groups);
     analyseContrast(table, 3, contrast);
     EXPECT_EQ(contrast.ContrastSum(1, 1), 6);
     EXPECT_EQ(contrast.ContrastSum(0, 1), 2);
