@@ -124,10 +124,9 @@ TEST_F(DiffusionGraphs, TheNextCommandDrawsTheNextWordForm)
 
 TEST_F(DiffusionGraphs, SymbolsMarkTheLocalitiesThatReachTheMinimum)
 {
-    varn.DiffusionHanko(1) = {49, 0, 0, 0, 1, 0};
+    varn.DiffusionHanko(1) = {49, 0, 0, 0, 1, 1};
     varn.DiffusionCaption(1) = QStringLiteral("often");
     varn.MinimumPoints(1) = 10; // as many as the first locality has
-    varn.DiffusionHanko(1).LineThick = 1;
     for (const int row : {0, 2}) {
         DrawHankoMap(parts, 1, row, surfaces);
         EXPECT_EQ(frmMap.DrawWidth, 1);
@@ -173,18 +172,7 @@ ellipse 426.4,2384.6 150,150 filled 4 pen 1/0/12
 )");
 }
 
-TEST_F(ContrastMap, LargeCirclesStandClearOfTheLabels)
-{
-    varn.ContrastSteps = 3;
-    varn.ContrastMaxSize = 400;
-    contrast();
-    const auto circles = operationsOf<EllipseOperation>(drawing);
-    const QString label = QStringLiteral("-100%");
-    ASSERT_EQ(circles.size(), 3 + 3U);
-    EXPECT_GT(circles[3].x - 400, printedAt(drawing, label).x() + frmMap.TextWidth(label));
-}
-
-TEST_F(ContrastMap, HalfTheStepsRoundToTheEvenNeighbour)
+TEST_F(ContrastMap, TheLegendHasHalfTheStepsRoundedToTheEvenNeighbour)
 {
     const std::pair<double, std::size_t> rows[] = {{0, 0}, {1, 0}, {2, 3}, {3, 5}, {5, 5}, {6, 7}};
     varn.ContrastTitle = QStringLiteral("title");
@@ -195,6 +183,13 @@ TEST_F(ContrastMap, HalfTheStepsRoundToTheEvenNeighbour)
         EXPECT_TRUE(wasPrinted(drawing, QStringLiteral("title")));
         EXPECT_EQ(drawing.texts.size(), 1 + labels) << typed;
     }
+    varn.ContrastMaxSize = 400;
+    frmMap.Cls();
+    contrast();
+    const QString label = QStringLiteral("-100%");
+    const float left = operationsOf<EllipseOperation>(drawing).at(3).x - 400;
+    EXPECT_GT(left, printedAt(drawing, label).x() + frmMap.TextWidth(label)) << "large circles";
+
     varn.ContrastMaxSize = 10000;
     varn.ContrastSum(0, 2) = 4;
     EXPECT_EQ(errorOf([&] { contrast(); }).number(), ErrorNumber::Overflow);

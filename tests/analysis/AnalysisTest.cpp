@@ -4,38 +4,12 @@
 #include "analysis/CumulativeTable.h"
 #include "analysis/DiffusionSymbols.h"
 #include "analysis/Statistics.h"
+#include "lingdata/LinguisticFile.h"
 #include "tests/support/TestDrive.h"
 
 #include <functional>
 
 namespace {
-
-/// A table of word forms named "w1", "w2", ... with their identifying strings.
-CumulativeData tableOf(const std::vector<QStringList>& strings)
-{
-    CumulativeData data;
-    for (const QStringList& own : strings) {
-        const int k = ++data.NumWordforms;
-        data.WordformName(k) = QStringLiteral("w%1").arg(k);
-        for (const QString& string : own) {
-            data.SpecifyChars(k, ++data.NumSpecifyChars(k)) = string;
-        }
-    }
-    return data;
-}
-
-/// An item whose localities have these answers; the first of each counts.
-ItemAnswers itemOf(const std::vector<QStringList>& answers)
-{
-    ItemAnswers item;
-    for (const QStringList& own : answers) {
-        const int j = ++item.NLocate;
-        for (const QString& answer : own) {
-            item.WordData(j, ++item.WordCount(j)) = answer;
-        }
-    }
-    return item;
-}
 
 /// A table of one word form with these counts, `items` items accumulated.
 CumulativeTable countsOf(const std::vector<int>& counts, int items)
@@ -78,8 +52,12 @@ struct TotalFile : TestDrive
 
 TEST(Accumulation, TheFirstAnswerCountsForEachStringItContains)
 {
-    CumulativeData data = tableOf({{"a", "am"}, {"m"}, {""}});
-    const ItemAnswers item = itemOf({{"ame", "zzz"}, {"zzz", "ame"}, {}, {"AM"}});
+    SequentialReader strings(QStringLiteral("3\r\n2,\"a\",\"am\"\r\n1,\"m\"\r\n1,\"\"\r\n"));
+    CumulativeData data;
+    readSpecifyChars(strings, data);
+    SequentialReader answers(QStringLiteral("4,\"\",\"\",\"\"\r\n2\r\n\"ame\"\r\n\"zzz\"\r\n"
+                                            "2\r\n\"zzz\"\r\n\"ame\"\r\n0\r\n1\r\n\"AM\"\r\n"));
+    ItemAnswers item = readItem(answers);
     accumulateItem(item, 5, data); // the map has a locality more than the item
     accumulateItem(item, 5, data);
     const int expected[3][5] = {{4, 0, 0, 0, 0}, {2, 0, 0, 0, 0}, {2, 2, 2, 2, 2}};
@@ -91,9 +69,10 @@ TEST(Accumulation, TheFirstAnswerCountsForEachStringItContains)
     EXPECT_EQ(data.NumItemsAccumulated, 2);
 
     data.Counts(2, 4) = 32767;
-    const RunTimeError error = errorOf([&] { accumulateItem(itemOf({{"a"}, {}, {}, {"m"}}), 5, data); });
+    item.WordData(4, 1) = QStringLiteral("m");
+    const RunTimeError error = errorOf([&] { accumulateItem(item, 5, data); });
     EXPECT_EQ(error.number(), ErrorNumber::Overflow);
-    EXPECT_TRUE(error.detail().contains(QStringLiteral("word form 2 (w2) at locality 4")));
+    EXPECT_TRUE(error.detail().contains(QStringLiteral("word form 2 () at locality 4")));
     EXPECT_EQ(data.Counts(1, 1), 4) << "an item that overflows is not half counted";
     EXPECT_EQ(data.NumItemsAccumulated, 2);
 
@@ -153,22 +132,22 @@ TEST(CumulativeFile, AWordFormWithoutStringsMakesTheStringsUnreadable)
 {
     const TestDrive drive;
     const QString path = QStringLiteral("C:\\chars.sum");
-    const auto saved = [&](const std::vector<QStringList>& strings) {
-        CumulativeData data = tableOf(strings);
+    CumulativeData data;
+    const auto saved = [&] {
         SaveSetData(drive.drive(), path, data);
         return drive.read(path);
     };
-    EXPECT_EQ(saved({{"a", ""}, {"b, c"}}), "2\r\n2,\"a\",\"\"\r\n1,\"b, c\"\r\n");
-    CumulativeData loaded;
-    LoadSetData(drive.drive(), path, loaded);
-    EXPECT_EQ(saved({{"a"}, {}, {"c"}}), "3\r\n1,\"a\"\r\n1,\"c\"\r\n");
-    EXPECT_EQ(errorOf([&] { LoadSetData(drive.drive(), path, loaded); }).number(),
-              ErrorNumber::InputPastEndOfFile);
-    EXPECT_EQ(loaded.NumWordforms, 2);
-    EXPECT_EQ(loaded.SpecifyChars(2, 1), QStringLiteral("b, c"));
-    const QStringList ten(10, QStringLiteral("a"));
-    EXPECT_EQ(saved({ten, ten + ten.first(1)}), "2\r\n10" + QByteArray(",\"a\"").repeated(10) + "\r\n")
-        << "eleven have no line";
+    const auto load = [&] { LoadSetData(drive.drive(), path, data); };
+    const QByteArray ten = "10" + QByteArray(",\"a, b\"").repeated(10) + "\r\n";
+    drive.write(path, "3\r\n2,\"a\",\"\"\r\n1,\"b, c\"\r\n" + ten);
+    load();
+    EXPECT_EQ(saved(), "3\r\n2,\"a\",\"\"\r\n1,\"b, c\"\r\n" + ten);
+    EXPECT_EQ(data.SpecifyChars(2, 1), QStringLiteral("b, c"));
+    data.NumSpecifyChars(1) = 11;
+    data.NumSpecifyChars(2) = 0;
+    EXPECT_EQ(saved(), "3\r\n" + ten) << "eleven have no line";
+    EXPECT_EQ(errorOf(load).number(), ErrorNumber::InputPastEndOfFile);
+    EXPECT_EQ(data.NumSpecifyChars(1), 11);
 }
 
 TEST(CumulativeTable, NewWordFormsAreEmptyAndHaveColoursOfTheirOwn)
@@ -197,15 +176,8 @@ TEST(CumulativeTable, NewWordFormsAreEmptyAndHaveColoursOfTheirOwn)
 
 TEST(Statistics, FiguresAreThoseOfTheOccupiedLocalities)
 {
-    struct Row
-    {
-        std::vector<int> counts;
-        int items;
-        /// Median, mode, average, deviation; for each level the localities with at least that, with exactly
-        /// that.
-        std::string figures;
-    };
-    const Row rows[] = {
+    // Median, mode, average, deviation; for each level the localities with at least that, with exactly that.
+    const std::tuple<std::vector<int>, int, std::string> rows[] = {
         {{1, 2, 3, 0, 0}, 3, "3,1,2,1\r\n5,2\r\n3,1\r\n2,1\r\n1,1\r\n"}, // the lowest of the frequent levels
         {{1, 1, 1, 1}, 2, "2,1,1,0\r\n4,0\r\n4,4\r\n0,0\r\n"},
         {{1, 5, 5, 5, 0}, 6, "6,5,4,2\r\n5,1\r\n4,1\r\n3,0\r\n3,0\r\n3,0\r\n3,3\r\n0,0\r\n"},

@@ -4,6 +4,7 @@
 #include "symbols/forms/SymbolPreview.h"
 #include "tests/support/TestDrive.h"
 
+#include <array>
 #include <functional>
 
 namespace {
@@ -31,12 +32,15 @@ protected:
         }
     }
 
-    /// "2/3: k1 k2 k3", the counter and each record with its kind and its symbol.
-    std::string records() const
+    /// "2/3* [1-3] k1 k2=two k3": the counter, a star where the set is not saved, the records that the
+    /// preview shows, and each record's kind, symbol and caption.
+    std::string state() const
     {
-        QString text = editor.counter() + QLatin1Char(':');
+        QString text = editor.counter() + QLatin1String(set.HankoUnsaved ? "*" : "");
+        text += QStringLiteral(" [%1-%2]").arg(editor.firstShown()).arg(editor.lastShown());
         for (int k = 1; k <= set.NHanrei; ++k) {
             text += QLatin1Char(' ') + set.HankoWord(k) + QString::number(set.Hanko(k).HankoNo);
+            text += set.HankoCaption(k).isEmpty() ? QString() : QLatin1Char('=') + set.HankoCaption(k);
         }
         return text.toStdString();
     }
@@ -75,24 +79,21 @@ TEST_F(SymbolEditing, RecordsAreEnteredOneAfterTheOther)
     fields = editor.start();
     EXPECT_EQ(editor.next(fields), fields);
     editor.registerRecord(fields);
-    EXPECT_EQ(records(), "1/New:") << "a record without a kind does not count";
+    EXPECT_EQ(state(), "1/New* [1-0]") << "a record without a kind does not count";
 
     fields = fieldsOf(" a\t  ", 0);
     fields.number = QStringLiteral("2.5");
     fields.caption = QStringLiteral("   ");
     fields.Explain = QStringLiteral("a comment");
     editor.registerRecord(fields);
-    EXPECT_EQ(records(), "1/1:  a\t2") << "blanks are taken from the right end only";
-    EXPECT_EQ(set.HankoCaption(1), QString());
+    EXPECT_EQ(state(), "1/1* [1-1]  a\t2") << "blanks are taken from the right end only";
     EXPECT_EQ(set.Hanko(1), (HankoStyle{2, 0, 0, 0, 1, 1}));
     EXPECT_EQ(set.Explain, QStringLiteral("a comment"));
-    EXPECT_TRUE(set.HankoUnsaved);
 
     fields = editor.next(fields).value();
     EXPECT_EQ(editor.counter(), QStringLiteral("2/New"));
     EXPECT_EQ(fields, SymbolEditor::NewData(QStringLiteral("a comment")));
-    fields.word = QStringLiteral("lost");
-    editor.next(fields);
+    editor.next(fieldsOf("lost", 1));
     EXPECT_EQ(editor.counter(), QStringLiteral("2/New")) << "a new record must be registered first";
     fields = editor.previous(fields);
     EXPECT_EQ(fields.word, QStringLiteral(" a\t"));
@@ -118,71 +119,48 @@ TEST_F(SymbolEditing, ASymbolNumberCarriesOneStyle)
     EXPECT_EQ(set.Hanko(1), fields.style) << "later records do not count";
 }
 
-TEST_F(SymbolEditing, InsertingShiftsTheRecordsBehind)
+TEST_F(SymbolEditing, RecordsAreInsertedDeletedAndEmptied)
 {
     fill(3);
-    set.HankoCaption(3) = QStringLiteral("caption 3");
+    set.HankoCaption(3) = QStringLiteral("three");
     set.HankoUnsaved = false;
-    EXPECT_EQ(editor.insertRecord(4, QString()), std::nullopt);
-    EXPECT_FALSE(set.HankoUnsaved);
-    editor.insertRecord(2, QString());
-    EXPECT_EQ(records(), "2/4: k1 0 k2 k3");
-    EXPECT_EQ(set.Hanko(2), (HankoStyle{0, 0, 0, 0, 1, 1}));
-    EXPECT_EQ(set.HankoCaption(4), QStringLiteral("caption 3"));
-    EXPECT_EQ(editor.lastShown(), 4);
-    EXPECT_TRUE(set.HankoUnsaved);
-
     set.HankoWord(0) = QStringLiteral("scratch");
-    fields = editor.insertRecord(0, QString()).value();
-    EXPECT_EQ(records(), "0/4: k1 0 k2 k3");
-    EXPECT_EQ(set.HankoWord(0), QString());
+    const auto insert = [&](int n) {
+        return [&, n] { editor.insertRecord(n, QStringLiteral("a comment")); };
+    };
+    const auto remove = [&](int n) { return [&, n] { editor.deleteRecord(n); }; };
+    const std::pair<std::function<void()>, const char*> steps[] = {
+        {insert(4), "3/3 [1-3] k1 k2 k3=three"},
+        {remove(4), "3/3 [1-3] k1 k2 k3=three"},
+        {remove(0), "3/3 [1-3] k1 k2 k3=three"},
+        {insert(2), "2/4* [1-4] k1 0 k2 k3=three"},
+        {remove(1), "2/3* [1-3] 0 k2 k3=three"},
+        {[&] { editor.goTo(3, QString()); }, "3/3* [1-3] 0 k2 k3=three"},
+        {remove(1), "3/New* [1-2] k2 k3=three"},
+        {remove(2), "3/New* [1-1] k2"},
+        {remove(1), "3/New* [1-0]"},
+        {[&] { editor.registerRecord(fieldsOf("new", 9)); },
+         "3/New* [1-1] k2"}, // the record that was left at 1
+        {[&] { editor.initialize(); }, "0/0 [1-0]"},
+        {[&] { editor.registerRecord(editor.GetData()); }, "0/0 [1-0]"}, // record 0 is outside the set
+        {[&] { editor.next(editor.GetData()); }, "1/New [1-0]"},
+        {insert(0), "0/0* [1-0]"},
+        {[&] { editor.next(editor.GetData()); }, "0/0* [1-0]"}, // which has emptied record 0
+    };
+    for (const auto& [step, expected] : steps) {
+        step();
+        EXPECT_EQ(state(), expected);
+    }
+    EXPECT_EQ(set.Hanko(0), (HankoStyle{0, 0, 0, 0, 1, 1}));
+    EXPECT_EQ(set.Hanko(1), HankoStyle{});
     EXPECT_EQ(errorOf([&] { editor.previous(fields); }).number(), ErrorNumber::SubscriptOutOfRange);
-    fields.word = QStringLiteral("on");
-    EXPECT_EQ(editor.next(fields)->word, QStringLiteral("k"));
-    EXPECT_EQ(editor.counter(), QStringLiteral("1/4"));
-}
-
-TEST_F(SymbolEditing, DeletingClosesTheGapAndLeavesTheLastBehind)
-{
-    fill(3);
-    editor.deleteRecord(0);
-    editor.deleteRecord(4);
-    EXPECT_EQ(records(), "3/3: k1 k2 k3");
-    editor.deleteRecord(1);
-    EXPECT_EQ(records(), "3/New: k2 k3");
-    EXPECT_EQ(set.HankoWord(3), QStringLiteral("k"));
-    EXPECT_EQ(editor.lastShown(), 2);
-    editor.deleteRecord(2);
-    editor.deleteRecord(1);
-    EXPECT_EQ(records(), "3/New:");
-    EXPECT_LT(editor.lastShown(), editor.firstShown());
-    editor.registerRecord(fieldsOf("new", 9));
-    EXPECT_EQ(records(), "3/New: k2") << "stored as record 3; what was left at 1 counts again";
-}
-
-TEST_F(SymbolEditing, InitializingEmptiesTheSetDownToRecordZero)
-{
-    fill(3);
-    set.Explain = QStringLiteral("a comment");
-    set.HankoWord(0) = QStringLiteral("scratch");
-    fields = editor.initialize();
-    EXPECT_EQ(records(), "0/0:");
-    EXPECT_EQ(fields.word, QStringLiteral("scratch"));
-    EXPECT_EQ(fields.Explain, QString());
-    EXPECT_EQ(set.HankoWord(2), QString());
-    EXPECT_EQ(set.Hanko(3), HankoStyle{});
-
-    editor.registerRecord(fields);
-    EXPECT_EQ(set.NHanrei, 0) << "record 0 does not count";
-    editor.next(fields);
-    EXPECT_EQ(editor.counter(), QStringLiteral("1/New"));
 }
 
 TEST_F(SymbolEditing, WhatCannotBeStoredIsAnErrorThatChangesNothing)
 {
     fill(100);
-    const std::string before = records();
-    EXPECT_TRUE(before.starts_with("100/100: k1 k2")) << "a hundred are the most";
+    const std::string before = state();
+    EXPECT_TRUE(before.starts_with("100/100* [81-100] k1 k2")) << "a hundred are the most";
     const std::pair<std::function<void()>, ErrorNumber> rows[] = {
         {[&] { editor.registerRecord(fieldsOf("other", 40000)); }, ErrorNumber::Overflow},
         {[&] { editor.insertRecord(50, QString()); }, ErrorNumber::SubscriptOutOfRange},
@@ -191,7 +169,7 @@ TEST_F(SymbolEditing, WhatCannotBeStoredIsAnErrorThatChangesNothing)
     };
     for (const auto& [action, expected] : rows) {
         EXPECT_EQ(errorOf(action).number(), expected);
-        EXPECT_EQ(records(), before);
+        EXPECT_EQ(state(), before);
     }
     for (const HankoFields& last : {fields, HankoFields()}) {
         EXPECT_EQ(editor.next(last), std::nullopt) << "whatever the kind is";
@@ -200,12 +178,9 @@ TEST_F(SymbolEditing, WhatCannotBeStoredIsAnErrorThatChangesNothing)
 
 TEST_F(SymbolEditing, PreviewShowsTheLastTwentyAndScrolls)
 {
-    struct Row
-    {
-        int records, ups, downs, first, last;
-    };
-    for (const auto& [records, ups, downs, first, last] :
-         {Row{19, 1, 1, 1, 19}, {25, 0, 0, 6, 25}, {25, 4, 0, 2, 21}, {25, 6, 0, 1, 20}, {25, 6, 9, 6, 25}}) {
+    const std::array<int, 5> rows[] = {
+        {19, 1, 1, 1, 19}, {25, 0, 0, 6, 25}, {25, 4, 0, 2, 21}, {25, 6, 0, 1, 20}, {25, 6, 9, 6, 25}};
+    for (const auto& [records, ups, downs, first, last] : rows) {
         fill(records);
         for (int i = 0; i < ups; ++i) {
             editor.scrollUp();
@@ -213,8 +188,8 @@ TEST_F(SymbolEditing, PreviewShowsTheLastTwentyAndScrolls)
         for (int i = 0; i < downs; ++i) {
             editor.scrollDown();
         }
-        EXPECT_EQ(editor.firstShown(), first) << records << " up " << ups << " down " << downs;
-        EXPECT_EQ(editor.lastShown(), last) << records << " up " << ups << " down " << downs;
+        EXPECT_EQ(std::pair(editor.firstShown(), editor.lastShown()), std::pair(first, last))
+            << records << " up " << ups << " down " << downs;
     }
 }
 

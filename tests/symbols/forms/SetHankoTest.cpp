@@ -172,6 +172,10 @@ TEST_F(OpenSetHanko, ASetIsBuiltAndSavedAndReadAgain)
     EXPECT_EQ(counter(), QStringLiteral("2/2"));
     EXPECT_FALSE(form.isWindowModified());
     EXPECT_TRUE(form.windowTitle().contains(QStringLiteral("Test - rain.dbs - new.han")));
+    undo();
+    EXPECT_TRUE(form.isWindowModified()) << "what is taken back is not in the file";
+    redo();
+    EXPECT_FALSE(form.isWindowModified());
 }
 
 TEST_F(OpenSetHanko, SavingAsksBeforeAFileIsReplaced)
@@ -336,7 +340,6 @@ TEST_F(OpenSetHanko, ASymbolIsChosenFromTheCatalogue)
     auto* picker = form.findChild<SymbolPicker*>();
     auto& symbols = *picker->findChild<QListWidget*>();
     const auto& buttons = *picker->findChild<QDialogButtonBox*>();
-    const auto place = [&](int row) { return symbols.visualItemRect(symbols.item(row)); };
     const auto icon = [&](int row, QIcon::Mode mode = QIcon::Normal) {
         return symbols.item(row)->icon().pixmap(symbols.iconSize(), mode).toImage();
     };
@@ -344,8 +347,8 @@ TEST_F(OpenSetHanko, ASymbolIsChosenFromTheCatalogue)
     EXPECT_EQ(symbols.currentItem()->text(), QStringLiteral("93"));
     EXPECT_EQ(picker->windowTitle(), QStringLiteral("Symbols"));
     EXPECT_EQ(picker->focusWidget(), &symbols);
-    EXPECT_TRUE(symbols.viewport()->rect().contains(place(92)));
-    EXPECT_GT(place(2).left(), place(1).right());
+    EXPECT_TRUE(symbols.viewport()->rect().contains(symbols.visualItemRect(symbols.currentItem())));
+    EXPECT_EQ(symbols.viewMode(), QListView::IconMode);
     EXPECT_EQ(symbols.movement(), QListView::Static) << "the numbers keep their places";
     EXPECT_EQ(icon(0, QIcon::Selected), icon(0));
     EXPECT_EQ(icon(0).pixelColor(0, 0), Qt::white);
@@ -405,6 +408,7 @@ TEST_F(OpenSetHanko, EveryStepIsTakenBackAndDoneAgain)
         redo();
     }
     EXPECT_EQ(work(), works.back());
+    EXPECT_FALSE(form.isWindowModified()) << "an empty set is nothing to lose";
     undo();
     EXPECT_EQ(work(), works[works.size() - 2]);
     EXPECT_TRUE(form.isWindowModified());
@@ -412,26 +416,6 @@ TEST_F(OpenSetHanko, EveryStepIsTakenBackAndDoneAgain)
     dialogs.yesNo = {true};
     openSet("rain.han");
     EXPECT_FALSE(menu("mnuUndo").isEnabled()) << "steps belong to one set";
-}
-
-TEST_F(OpenSetHanko, AfterASaveWhatIsTakenBackIsUnsaved)
-{
-    registerRecord("ame", "1");
-    dialogs.inputs = {"new"};
-    save();
-    EXPECT_FALSE(varn.HankoUnsaved);
-    registerRecord("uyu", "2");
-    const auto undoWhile = [this](const std::function<bool()>& goesOn) {
-        for (int times = 0; times < 50 && goesOn(); ++times) {
-            undo();
-        }
-    };
-    undoWhile([this] { return varn.HankoUnsaved; });
-    EXPECT_EQ(varn.HankoWord(1), QStringLiteral("ame"));
-    undoWhile([this] { return varn.NHanrei > 0; });
-    redo();
-    EXPECT_EQ(varn.NHanrei, 1);
-    EXPECT_FALSE(varn.HankoUnsaved);
 }
 
 TEST_F(OpenSetHanko, ATextBoxTakesBackItsOwnTypingFirst)
