@@ -115,13 +115,11 @@ Av - Sigma=-0.01
 Av + SIgma=5.99)");
 }
 
-TEST_F(TotalHanko, WhatIsEditedIsStoredForTheWordFormShown)
+TEST_F(TotalHanko, WhatIsEditedIsSavedAndReadBack)
 {
     click("cmdNext");
-    EXPECT_EQ(control<QListWidget>("lstWordform").currentRow(), 1);
     EXPECT_EQ(text("txtHanrei"), QStringLiteral("w2"));
     EXPECT_FALSE(form.isWindowModified()) << "showing a word form edits nothing";
-
     type("txtHankoNumber", "49");
     type("txtHanrei", "caption");
     type("txtMinimum", "3");
@@ -134,53 +132,44 @@ TEST_F(TotalHanko, WhatIsEditedIsStoredForTheWordFormShown)
     EXPECT_TRUE(form.isWindowModified());
     type("txtMinimum", "40000");
     EXPECT_EQ(dialogs.errors.size(), 1U);
-    EXPECT_EQ(fileContents(varn), "\"comment\",2\r\n" + First + "49,4,5,0,2,1,3,\"caption\"\r\n");
-    type("txtMinimum", "");
-    EXPECT_EQ(varn.MinimumPoints(2), 0);
-    for (const char* box : {"txtMinimum", "txtHankoNumber"}) {
-        int position = 0;
-        for (QString typed : {"-1", "a", "99999"}) {
-            EXPECT_NE(control<QLineEdit>(box).validator()->validate(typed, position), QValidator::Acceptable);
-        }
-    }
-    control<QListWidget>("lstWordform").setCurrentRow(0);
-    EXPECT_EQ(text("txtHankoNumber"), QStringLiteral("1"));
-    Q_EMIT form.findChild<SymbolPicker*>()->symbolChosen(17);
-    EXPECT_EQ(varn.DiffusionHanko(1).HankoNo, 17);
-}
-
-TEST_F(TotalHanko, SymbolsAreSavedAndReadBack)
-{
-    type("txtExplain", "c");
-    type("txtHankoNumber", "50");
-    type("txtMinimum", "2");
     type("txtFileName", "mine");
     save();
     EXPECT_FALSE(form.isWindowModified());
-    const QByteArray saved = "\"c\",2\r\n50,1,9,1,1,0,2,\"w1\"\r\n" + Second;
+    const QByteArray saved = "\"comment\",2\r\n" + First + "49,4,5,0,2,1,3,\"caption\"\r\n";
     EXPECT_EQ(survey.read(ling("mine.htL")), saved);
 
-    type("txtHankoNumber", "51");
+    type("txtMinimum", "");
     for (const bool overwrite : {false, true}) {
         dialogs.yesNo = {overwrite};
         save();
         EXPECT_EQ(survey.read(ling("mine.htL")) == saved, !overwrite);
     }
-
     survey.write(ling("mine.htL"), saved);
-    type("txtMinimum", "7");
+    control<QListWidget>("lstWordform").setCurrentRow(0);
+    Q_EMIT form.findChild<SymbolPicker*>()->symbolChosen(17);
+    const QByteArray edited = "\"comment\",2\r\n17,1,9,1,1,0,1,\"w1\"\r\n49,4,5,0,2,1,0,\"caption\"\r\n";
     dialogs.yesNo = {false};
     open("mine.htL");
-    EXPECT_EQ(varn.MinimumPoints(1), 7) << "the changes were kept";
+    EXPECT_EQ(fileContents(varn), edited) << "the changes were kept";
     dialogs.yesNo = {true};
     open("mine.htL");
     EXPECT_EQ(fileContents(varn), saved);
-    EXPECT_EQ(text("txtHankoNumber"), QStringLiteral("50"));
+    EXPECT_EQ(text("txtHankoNumber"), QStringLiteral("1"));
     EXPECT_FALSE(form.isWindowModified());
     survey.write(ling("short.htL"), "\"x\",2\r\n" + First);
     open("short.htL");
-    EXPECT_EQ(dialogs.errors.size(), 1U);
+    EXPECT_EQ(dialogs.errors.size(), 2U);
     EXPECT_EQ(fileContents(varn), saved);
+}
+
+TEST_F(TotalHanko, NumbersOfSixteenBitsCanBeTyped)
+{
+    int position = 0;
+    for (const char* box : {"txtMinimum", "txtHankoNumber"}) {
+        for (QString typed : {"-1", "a", "99999"}) {
+            EXPECT_NE(control<QLineEdit>(box).validator()->validate(typed, position), QValidator::Acceptable);
+        }
+    }
 }
 
 TEST_F(TotalHanko, AFileOfAnotherNumberOfWordFormsIsTold)

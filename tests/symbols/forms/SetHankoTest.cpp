@@ -22,7 +22,7 @@ const QByteArray TwoRecords = "\"rain set\"\r\n2\r\n\"ame\",\"AME\"\r\n1\r\n1\r\
                               "\"uyu\",\"UYU\"\r\n49\r\n4\r\n0\r\n0\r\n1\r\n1\r\n";
 const Shown NameQuestion{"Input File Name of Symbol Data", "Save Symbol File"};
 
-/// The symbol set-up form on the map of a `TestSurvey` that has one item, `rain.dbs`, and one symbol file.
+/// The symbol set-up form with the item `rain.dbs`, beside which one symbol file lies.
 class SetHanko : public OneForm<frmSetHanko>
 {
 protected:
@@ -34,6 +34,16 @@ protected:
         for (const auto leaving : {&frmSetHanko::toMain, &frmSetHanko::toDrawMap}) {
             QObject::connect(&form, leaving, &form, [this] { ++leavings; });
         }
+        open("mnuInputWord", "rain.dbs");
+        load();
+        dialogs.shown.clear();
+    }
+
+    void load()
+    {
+        form.Form_Load();
+        form.bringToFront();
+        QApplication::processEvents();
     }
 
     void choose(const char* name, int number) { control<QComboBox>(name).setCurrentIndex(number); }
@@ -85,38 +95,21 @@ protected:
     int leavings = 0;
 };
 
-/// The same with the item loaded and the form shown.
-class OpenSetHanko : public SetHanko
-{
-protected:
-    OpenSetHanko()
-    {
-        open("mnuInputWord", "rain.dbs");
-        form.Form_Load();
-        form.bringToFront();
-        QApplication::processEvents();
-        dialogs.shown.clear();
-    }
-};
-
 } // namespace
 
 TEST_F(SetHanko, WithoutAnItemTheUserIsSentToTheMainForm)
 {
-    form.Form_Load();
-    QApplication::processEvents();
+    EXPECT_EQ(leavings, 0);
+    EXPECT_EQ(varn.LoadState, 1);
+    EXPECT_EQ(work(), "1/New|||||0|0|1|1|");
+    varn.ItemFileName.clear();
+    varn.NKind = 0;
+    load();
     EXPECT_EQ(dialogs.shown, std::vector<Shown>({{"Specify Linguistic Data", "Input Ling. Data"}}));
     EXPECT_EQ(leavings, 1);
-    EXPECT_EQ(work(), "1/New|||||0|0|1|1|");
-
-    open("mnuInputWord", "rain.dbs");
-    form.Form_Load();
-    QApplication::processEvents();
-    EXPECT_EQ(leavings, 1);
-    EXPECT_EQ(varn.LoadState, 1);
 }
 
-TEST_F(OpenSetHanko, KindsAreThoseOfTheirFile)
+TEST_F(SetHanko, KindsAreThoseOfTheirFile)
 {
     EXPECT_EQ(listed("lstKindWord"), QStringList({"1 ame no", "2 uyu"}));
     EXPECT_TRUE(survey.read(ling("rain.srt")).startsWith("2\r\n"));
@@ -138,7 +131,7 @@ TEST_F(OpenSetHanko, KindsAreThoseOfTheirFile)
     EXPECT_EQ(survey.read(ling("rain.srt")), "2\r\n\"ame\"");
 }
 
-TEST_F(OpenSetHanko, ASetIsBuiltAndSavedAndReadAgain)
+TEST_F(SetHanko, ASetIsBuiltAndSavedAndReadAgain)
 {
     click("cmdWord");
     type("txtHankoNumber", "50");
@@ -178,7 +171,7 @@ TEST_F(OpenSetHanko, ASetIsBuiltAndSavedAndReadAgain)
     EXPECT_FALSE(form.isWindowModified());
 }
 
-TEST_F(OpenSetHanko, SavingAsksBeforeAFileIsReplaced)
+TEST_F(SetHanko, SavingAsksBeforeAFileIsReplaced)
 {
     registerRecord("ame", "1");
     const std::string before = work();
@@ -201,27 +194,26 @@ TEST_F(OpenSetHanko, SavingAsksBeforeAFileIsReplaced)
     EXPECT_EQ(varn.SymbolFileName, QString());
 }
 
-TEST_F(OpenSetHanko, SaveProposesTheLoadedItemUnlessTheSetIsItsOwn)
+TEST_F(SetHanko, SaveProposesTheLoadedItemUnlessTheSetIsItsOwn)
 {
-    const auto proposed = [this] {
-        dialogs.inputs = {std::nullopt};
+    const auto proposed = [this](std::optional<QString> answer) {
+        dialogs.inputs = {std::move(answer)};
         save();
         return dialogs.proposals.back().name;
     };
     registerRecord("ame", "1");
-    EXPECT_EQ(proposed(), QStringLiteral("rain"));
+    EXPECT_EQ(proposed(std::nullopt), QStringLiteral("rain"));
     dialogs.yesNo = {true};
     for (const auto& [file, name] : {std::pair("wind.han", "rain"), {"rain2.han", "rain2"}}) {
         survey.write(ling(file), TwoRecords);
         openSet(file);
-        EXPECT_EQ(proposed(), QLatin1String(name));
+        EXPECT_EQ(proposed(std::nullopt), QLatin1String(name));
     }
-    dialogs.inputs = {"mine"};
-    save();
-    EXPECT_EQ(proposed(), QStringLiteral("mine"));
+    proposed("mine");
+    EXPECT_EQ(proposed(std::nullopt), QStringLiteral("mine"));
 }
 
-TEST_F(OpenSetHanko, AFileIsOpenedAtItsLastRecord)
+TEST_F(SetHanko, AFileIsOpenedAtItsLastRecord)
 {
     openSet("rain.han");
     EXPECT_EQ(work(), "2/2|rain set|uyu|UYU|49|4|0|1|1||ame,AME,1|uyu,UYU,49");
@@ -250,7 +242,7 @@ TEST_F(OpenSetHanko, AFileIsOpenedAtItsLastRecord)
     EXPECT_EQ(child<QLabel>(opened, "lblRec").text(), QStringLiteral("2/2"));
 }
 
-TEST_F(OpenSetHanko, RecordsAreInsertedAndDeletedByNumber)
+TEST_F(SetHanko, RecordsAreInsertedAndDeletedByNumber)
 {
     openSet("rain.han");
     dialogs.shown.clear();
@@ -285,7 +277,7 @@ TEST_F(OpenSetHanko, RecordsAreInsertedAndDeletedByNumber)
     EXPECT_EQ(dialogs.shown.back().text, QStringLiteral("Caption Data exceed Maximum."));
 }
 
-TEST_F(OpenSetHanko, WorkIsGivenUpOnlyWhenTheUserAgrees)
+TEST_F(SetHanko, WorkIsGivenUpOnlyWhenTheUserAgrees)
 {
     openSet("rain.han");
     EXPECT_TRUE(form.close()) << "nothing to lose, nothing to ask";
@@ -316,7 +308,7 @@ TEST_F(OpenSetHanko, WorkIsGivenUpOnlyWhenTheUserAgrees)
     EXPECT_TRUE(dialogs.errors.empty());
 }
 
-TEST_F(OpenSetHanko, AClickOnARowGoesToItsRecord)
+TEST_F(SetHanko, AClickOnARowGoesToItsRecord)
 {
     openSet("rain.han");
     clickRow(2);
@@ -333,7 +325,7 @@ TEST_F(OpenSetHanko, AClickOnARowGoesToItsRecord)
     EXPECT_EQ(counter(), QStringLiteral("2/2"));
 }
 
-TEST_F(OpenSetHanko, ASymbolIsChosenFromTheCatalogue)
+TEST_F(SetHanko, ASymbolIsChosenFromTheCatalogue)
 {
     type("txtHankoNumber", "93");
     click("cmdSymbol");
@@ -376,7 +368,7 @@ TEST_F(OpenSetHanko, ASymbolIsChosenFromTheCatalogue)
     EXPECT_TRUE(dialogs.errors.empty());
 }
 
-TEST_F(OpenSetHanko, EveryStepIsTakenBackAndDoneAgain)
+TEST_F(SetHanko, EveryStepIsTakenBackAndDoneAgain)
 {
     openSet("rain.han");
     EXPECT_FALSE(menu("mnuUndo").isEnabled());
@@ -418,7 +410,7 @@ TEST_F(OpenSetHanko, EveryStepIsTakenBackAndDoneAgain)
     EXPECT_FALSE(menu("mnuUndo").isEnabled()) << "steps belong to one set";
 }
 
-TEST_F(OpenSetHanko, ATextBoxTakesBackItsOwnTypingFirst)
+TEST_F(SetHanko, ATextBoxTakesBackItsOwnTypingFirst)
 {
     auto& box = control<QLineEdit>("txtWord");
     choose("cboColor", 4);
