@@ -181,9 +181,8 @@ TEST(Statistics, FiguresAreThoseOfTheOccupiedLocalities)
         {{1, 2, 3, 0, 0}, 3, "3,1,2,1\r\n5,2\r\n3,1\r\n2,1\r\n1,1\r\n"}, // the lowest of the frequent levels
         {{1, 1, 1, 1}, 2, "2,1,1,0\r\n4,0\r\n4,4\r\n0,0\r\n"},
         {{1, 5, 5, 5, 0}, 6, "6,5,4,2\r\n5,1\r\n4,1\r\n3,0\r\n3,0\r\n3,0\r\n3,3\r\n0,0\r\n"},
-        {{2, 2, 2, 4, 0, 5},
-         4,
-         "3,2,2,1\r\n6,1\r\n5,0\r\n5,3\r\n2,0\r\n2,1\r\n"}, // 5 is at least every level
+        {{1, 1, 2, 4, 4, 6, 0}, 6, "3,1,3,2\r\n7,1\r\n6,2\r\n4,1\r\n3,0\r\n3,2\r\n1,0\r\n1,1\r\n"},
+        {{2, 2, 2, 4, 0, 5}, 4, "3,2,2,1\r\n6,1\r\n5,0\r\n5,3\r\n2,0\r\n2,1\r\n"}, // 5 is at least each
     };
     for (const auto& [counts, items, figures] : rows) {
         const CumulativeTable table = countsOf(counts, items);
@@ -234,12 +233,9 @@ TEST(Statistics, WhatHasNoFigureIsAnErrorThatNamesTheWordForm)
 
 TEST(Contrast, SidesAreSummedAndSubtracted)
 {
-    CumulativeTable table = countsOf({5, 1, 4}, 10);
-    table.NumWordforms = 3;
-    for (int j = 1; j <= 3; ++j) {
-        table.Counts(2, j) = 1;
-        table.Counts(3, j) = 4;
-    }
+    SequentialReader counts("3,10,\"\"\r\n" + QStringLiteral("\"w\"\r\n0,0\r\n0,0\r\n").repeated(3) +
+                            "5,1,4\r\n1,1,4\r\n4,1,4\r\n");
+    CumulativeTable table = readTotal(counts, 3);
     SequentialReader groups(
         QStringLiteral("\"\",1,1\r\n2\r\n0,0\r\n\"a\",1\r\n\"b\",2\r\n1\r\n0,0\r\n\"c\",3\r\n"));
     ContrastData contrast = readContrast(groups);

@@ -20,16 +20,8 @@ TEST(SymbolFile, ItIsWrittenAsItIsRead)
     EXPECT_EQ(drive.read(path), two);
 
     const QByteArray record = "\"\",\"\"\r\n1\r\n2\r\n3\r\n4\r\n5\r\n6\r\n";
-    const std::tuple<QByteArray, ErrorNumber, int> faults[] = {
-        {"\"\"\r\n101\r\n" + record.repeated(101), ErrorNumber::SubscriptOutOfRange, 703},
-        {"\"\"\r\n1\r\n\"\",\"\"\r\n1\r\nred\r\n", ErrorNumber::TypeMismatch, 5},
-        {"\"\"\r\n1\r\n\"\",\"\"\r\n1\r\n40000\r\n", ErrorNumber::Overflow, 5},
-    };
-    for (const auto& [text, expected, line] : faults) {
-        drive.write(path, text);
-        const RunTimeError error = errorOf([&] { LoadHankoData(drive.drive(), path, set); });
-        EXPECT_EQ(error.number(), expected) << line;
-        EXPECT_EQ(error.place().line, line);
-        EXPECT_EQ(set.Explain, QStringLiteral("a comment")) << "what was there stays";
-    }
+    drive.write(path, "\"\"\r\n101\r\n" + record.repeated(101));
+    const RunTimeError error = errorOf([&] { LoadHankoData(drive.drive(), path, set); });
+    EXPECT_EQ(error.number(), ErrorNumber::SubscriptOutOfRange);
+    EXPECT_EQ(error.place().line, 2 + 100 * 7 + 1) << "a hundred records are the most";
 }
