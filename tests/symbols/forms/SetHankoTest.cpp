@@ -210,18 +210,15 @@ TEST_F(SetHanko, SaveProposesTheLoadedItemUnlessTheSetIsItsOwn)
     EXPECT_EQ(proposed(std::nullopt), QStringLiteral("mine"));
 }
 
-TEST_F(SetHanko, AFileIsOpenedAtItsLastRecord)
+TEST_F(SetHanko, AFileIsShownAsItIs)
 {
+    const std::string rain = "2/2|rain set|uyu|UYU|49|4|0|1|1||ame,AME,1|uyu,UYU,49";
     openSet("rain.han");
-    EXPECT_EQ(work(), "2/2|rain set|uyu|UYU|49|4|0|1|1||ame,AME,1|uyu,UYU,49");
     EXPECT_EQ(varn.LoadState, 2);
-    click("cmdBefore");
-    const std::string first = "1/2|rain set|ame|AME|1|1|2|0|2|painted|ame,AME,1|uyu,UYU,49";
-    EXPECT_EQ(work(), first);
     openSet("gone.han");
     EXPECT_EQ(dialogs.errors.size(), 1U);
     EXPECT_EQ(varn.SymbolFileName, QStringLiteral("rain.han"));
-    EXPECT_EQ(work(), first);
+    EXPECT_EQ(work(), rain);
 
     survey.write(ling("odd.han"), "\"\"\r\n1\r\n\"k\",\"c\"\r\n9999\r\n16\r\n-1\r\n1\r\n3\r\n-32768\r\n");
     openSet("odd.han");
@@ -233,40 +230,36 @@ TEST_F(SetHanko, AFileIsOpenedAtItsLastRecord)
     type("txtWord", "typed");
     LoadHankoData(varn.Drive, ling("rain.han"), varn); // as another form does
     form.Form_Load();
-    EXPECT_EQ(work(), "2/2|rain set|uyu|UYU|49|4|0|1|1||ame,AME,1|uyu,UYU,49");
+    EXPECT_EQ(work(), rain);
     frmSetHanko opened(varn, dialogs);
     opened.Form_Load();
     EXPECT_EQ(child<QLabel>(opened, "lblRec").text(), QStringLiteral("2/2"));
 }
 
-TEST_F(SetHanko, RecordsAreInsertedAndDeletedByNumber)
+TEST_F(SetHanko, AfterDeleteTheFormSaysThatTheFieldsAreNotTheRecords)
 {
     openSet("rain.han");
-    dialogs.shown.clear();
-    const auto isOrphaned = [this] { return status().contains("no longer those of record 1"); };
-    dialogs.inputs = {"1", "2", std::nullopt};
-    click("cmdInserte");
-    EXPECT_EQ(work(), "1/3|rain set||||0|0|1|1||,,0|ame,AME,1|uyu,UYU,49");
+    const auto isSaid = [this] { return status().contains("no longer those of record 1"); };
+    click("cmdBefore");
+    dialogs.inputs = {"2", "1"};
     click("cmdDelete");
-    EXPECT_FALSE(isOrphaned()) << "record 1 is what it was";
-    click("cmdInserte"); // cancelled
-    EXPECT_EQ(work(), "1/2|rain set||||0|0|1|1||,,0|uyu,UYU,49");
-    EXPECT_EQ(dialogs.shown[0], (Shown{"Specify Number of Insert Data.", "Insert"}));
-    EXPECT_EQ(dialogs.shown[1], (Shown{"Specify Number of Delete Data.", "Delete"}));
-
-    dialogs.inputs = {"1"};
+    EXPECT_FALSE(isSaid()) << "record 1 is what it was";
     click("cmdDelete");
-    EXPECT_TRUE(isOrphaned()) << "the fields are not those of the record that is the first now";
-    EXPECT_EQ(work(), "1/1|rain set||||0|0|1|1||uyu,UYU,49");
+    EXPECT_TRUE(isSaid());
+    EXPECT_EQ(work(), "1/New|rain set|ame|AME|1|1|2|0|2|painted");
     click("cmdSave");
-    EXPECT_FALSE(isOrphaned());
+    EXPECT_FALSE(isSaid());
     undo();
-    EXPECT_TRUE(isOrphaned());
+    EXPECT_TRUE(isSaid());
+}
 
+TEST_F(SetHanko, NextAtRecordHundredTellsThatTheSetIsFull)
+{
     varn.NHanrei = 100;
     varn.CurrentHanko = 100;
     click("cmdNext");
-    EXPECT_EQ(dialogs.shown.back().text, QStringLiteral("Caption Data exceed Maximum."));
+    ASSERT_EQ(dialogs.shown.size(), 1U);
+    EXPECT_EQ(dialogs.shown[0].text, QStringLiteral("Caption Data exceed Maximum."));
 }
 
 TEST_F(SetHanko, WorkIsGivenUpOnlyWhenTheUserAgrees)
@@ -364,37 +357,47 @@ TEST_F(SetHanko, EveryStepIsTakenBackAndDoneAgain)
 {
     openSet("rain.han");
     EXPECT_FALSE(menu("mnuUndo").isEnabled());
-    dialogs.inputs = {"1", "2"};
+    dialogs.shown.clear();
+    dialogs.inputs = {"1", std::nullopt, "2"};
     dialogs.yesNo = {true};
-    const std::function<void()> steps[] = {
-        [&] { choose("cboColor", 9); }, [&] { registerRecord("ame", "93"); },
-        [&] { click("cmdNext"); },      [&] { click("cmdBefore"); },
-        [&] { click("cmdInserte"); },   [&] { click("cmdDelete"); },
-        [&] { clickRow(1); },           [&] { menu("mnuHankoInit").trigger(); },
+    const std::pair<std::function<void()>, std::string> steps[] = {
+        {[&] { click("cmdBefore"); }, "1/2|rain set|ame|AME|1|1|2|0|2|painted|ame,AME,1|uyu,UYU,49"},
+        {[&] { choose("cboColor", 9); }, "1/2|rain set|ame|AME|1|9|2|0|2|painted|ame,AME,1|uyu,UYU,49"},
+        {[&] { registerRecord("sun", "93"); },
+         "1/2|rain set|sun|sun|93|9|2|0|2|painted|sun,sun,93|uyu,UYU,49"},
+        {[&] { click("cmdNext"); }, "2/2|rain set|uyu|UYU|49|4|0|1|1||sun,sun,93|uyu,UYU,49"},
+        {[&] { click("cmdInserte"); }, "1/3|rain set||||0|0|1|1||,,0|sun,sun,93|uyu,UYU,49"},
+        {[&] { click("cmdInserte"); }, "1/3|rain set||||0|0|1|1||,,0|sun,sun,93|uyu,UYU,49"}, // cancelled
+        {[&] { click("cmdDelete"); }, "1/2|rain set||||0|0|1|1||,,0|uyu,UYU,49"},
+        {[&] { clickRow(1); }, "2/2|rain set|uyu|UYU|49|4|0|1|1||,,0|uyu,UYU,49"},
+        {[&] { menu("mnuHankoInit").trigger(); }, "0/0||||0|0|0|0|0|"},
     };
-    std::vector<std::string> works{work()};
-    for (const auto& step : steps) {
+    const std::string first = work();
+    for (const auto& [step, expected] : steps) {
         step();
-        works.push_back(work());
+        EXPECT_EQ(work(), expected);
     }
+    EXPECT_EQ(dialogs.shown[0], (Shown{"Specify Number of Insert Data.", "Insert"}));
+    EXPECT_EQ(dialogs.shown[2], (Shown{"Specify Number of Delete Data.", "Delete"}));
+    const std::string last = work();
     std::vector<std::string> undone{work()};
     while (menu("mnuUndo").isEnabled() && undone.size() < 50) {
         undo();
         undone.push_back(work());
     }
     ASSERT_FALSE(menu("mnuUndo").isEnabled()) << "there is an end";
-    for (const std::string& before : works) {
+    for (const auto& [step, before] : steps) {
         EXPECT_GT(std::ranges::count(undone, before), 0) << before;
     }
-    EXPECT_EQ(work(), works.front());
+    EXPECT_EQ(work(), first);
     EXPECT_FALSE(form.isWindowModified()) << "the set is as it was read";
     for (int times = 0; times < 50 && menu("mnuRedo").isEnabled(); ++times) {
         redo();
     }
-    EXPECT_EQ(work(), works.back());
+    EXPECT_EQ(work(), last);
     EXPECT_FALSE(form.isWindowModified()) << "an empty set is nothing to lose";
     undo();
-    EXPECT_EQ(work(), works[works.size() - 2]);
+    EXPECT_EQ(work(), undone[1]);
     EXPECT_TRUE(form.isWindowModified());
 
     dialogs.yesNo = {true};
