@@ -68,11 +68,12 @@ TEST(Accumulation, TheFirstAnswerCountsForEachStringItContains)
     }
     EXPECT_EQ(data.NumItemsAccumulated, 2);
 
+    data.WordformName(2) = QStringLiteral("two");
     data.Counts(2, 4) = 32767;
     item.WordData(4, 1) = QStringLiteral("m");
     const RunTimeError error = errorOf([&] { accumulateItem(item, 5, data); });
     EXPECT_EQ(error.number(), ErrorNumber::Overflow);
-    EXPECT_TRUE(error.detail().contains(QStringLiteral("word form 2 () at locality 4")));
+    EXPECT_TRUE(error.detail().contains(QStringLiteral("word form 2 (two) at locality 4")));
     EXPECT_EQ(data.Counts(1, 1), 4) << "an item that overflows is not half counted";
     EXPECT_EQ(data.NumItemsAccumulated, 2);
 
