@@ -105,12 +105,12 @@ TEST_F(SymbolEditing, ASymbolNumberCarriesOneStyle)
 {
     fill(4);
     set.Hanko(1) = {7, 1, 2, 1, 0, 2};
-    set.Hanko(2) = {7, 3, 99, 5, 2, -1}; // two styles of one number, as a file may have them
+    set.Hanko(2) = {7, 3, 99, 5, 3, -1}; // two styles of one number, as a file may have them
     fields = fieldsOf("k", 7);
     fields.style.LineColor = 12;
     set.CurrentHanko = 3;
     fields = editor.registerRecord(fields);
-    EXPECT_EQ(set.Hanko(3), (HankoStyle{7, 3, 0, 1, 2, 0})) << "the last earlier one, as the lists show it";
+    EXPECT_EQ(set.Hanko(3), (HankoStyle{7, 3, 0, 1, 0, 0})) << "the last earlier one, as the lists show it";
     EXPECT_EQ(fields.style, set.Hanko(3));
 
     fields.style = {7, 14, 13, 0, 2, 0};
