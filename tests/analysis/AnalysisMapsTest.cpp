@@ -41,14 +41,13 @@ using ContrastMap = CountMaps;
 
 TEST_F(DiffusionGraphs, BarsRiseByTheShareOfItems)
 {
-    DrawBarGraph(parts, 1, 0, surfaces);
+    DrawBarGraph(parts, 2, 0, surfaces);
     DrawBarGraph(parts, 1, 1, surfaces);
     DrawBarGraph(parts, 2, 2, surfaces);
     EXPECT_EQ(transcript(drawing), R"(
-box 932,1614 982,1814 filled 1 pen 1/0/1
-box 4464.4,5266.4 4514.4,5346.4 filled 1 pen 1/0/1
+box 2696,3478 2746,3578 filled 2 pen 1/0/2
 white box
-"form 1" 426.4,314.6 10pt
+"form 2" 426.4,314.6 10pt
 "No. of Items =10" 226.4,8050 10pt
 box 932,1614 982,1814 filled 1 pen 1/0/1
 box 4464.4,5266.4 4514.4,5346.4 filled 1 pen 1/0/1
