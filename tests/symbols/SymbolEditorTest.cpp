@@ -1,278 +1,54 @@
 #include "symbols/SymbolEditor.h"
 
-#include "platform/StandardColors.h"
 #include "render/SymbolSample.h"
-#include "symbols/SymbolFile.h"
 #include "symbols/forms/SymbolPreview.h"
 #include "tests/support/TestDrive.h"
 
+#include <array>
+#include <functional>
+
 namespace {
 
-/// Fields of a record with the kind `word` and the symbol `number`, all else as for a new record.
-HankoFields fieldsOf(const QString& word, const QString& number)
-{
-    HankoFields fields = SymbolEditor::NewData(QString());
-    fields.word = word;
-    fields.number = number;
-    return fields;
-}
-
-/// Registers `count` records "k1", "k2", ... with symbols 1, 2, ... and ends at the last one.
-void fill(SymbolEditor& editor, int count)
-{
-    HankoFields fields = editor.start();
-    for (int k = 1; k <= count; ++k) {
-        if (k > 1) {
-            editor.next(fields);
-        }
-        fields = editor.registerRecord(fieldsOf(QStringLiteral("k%1").arg(k), QString::number(k)));
-    }
-}
-
-/// "k1 k2 ...", the kinds of the set.
-QString kinds(const SymbolSet& set)
-{
-    QStringList words;
-    for (int k = 1; k <= set.NHanrei; ++k) {
-        words << set.HankoWord(k);
-    }
-    return words.join(QLatin1Char(' '));
-}
-
-/// A set of three records and its editor at the last one.
-class ThreeRecords : public testing::Test
+/// An empty symbol set and its editor.
+class SymbolEditing : public testing::Test
 {
 protected:
-    ThreeRecords()
+    /// Fields of a record with the kind `word` and the symbol `number`, all else as for a new record.
+    static HankoFields fieldsOf(const char* word, int number)
     {
-        fill(editor, 3);
-        fields = editor.GetData();
+        HankoFields made = SymbolEditor::NewData(QString());
+        made.word = QLatin1String(word);
+        made.number = QString::number(number);
+        return made;
+    }
+
+    /// Registers `count` records "k" with symbols 1, 2, ... and ends at the last one.
+    void fill(int count)
+    {
+        fields = editor.start();
+        for (int k = 1; k <= count; ++k) {
+            editor.next(fields);
+            fields = editor.registerRecord(fieldsOf("k", k));
+        }
+    }
+
+    /// "2/3* [1-3] k1 k2=two k3": the counter, a star where the set is not saved, the records that the
+    /// preview shows, and each record's kind, symbol and caption.
+    std::string state() const
+    {
+        QString text = editor.counter() + QLatin1String(set.HankoUnsaved ? "*" : "");
+        text += QStringLiteral(" [%1-%2]").arg(editor.firstShown()).arg(editor.lastShown());
+        for (int k = 1; k <= set.NHanrei; ++k) {
+            text += QLatin1Char(' ') + set.HankoWord(k) + QString::number(set.Hanko(k).HankoNo);
+            text += set.HankoCaption(k).isEmpty() ? QString() : QLatin1Char('=') + set.HankoCaption(k);
+        }
+        return text.toStdString();
     }
 
     SymbolSet set;
     SymbolEditor editor{set};
     HankoFields fields;
 };
-
-} // namespace
-
-TEST(SymbolEditor, BlanksAreTakenFromTheRightEndOnly)
-{
-    const std::pair<QString, QString> rows[] = {{QStringLiteral("  a b  "), QStringLiteral("  a b")},
-                                                {QStringLiteral("   "), QString()},
-                                                {QString(), QString()},
-                                                {QStringLiteral("a\t "), QStringLiteral("a\t")}};
-    for (const auto& [text, stripped] : rows) {
-        EXPECT_EQ(DelBlankChar(text), stripped);
-    }
-}
-
-TEST(SymbolEditor, RecordsAreEnteredOneAfterTheOther)
-{
-    SymbolSet set;
-    SymbolEditor editor(set);
-    HankoFields fields = editor.start();
-    EXPECT_EQ(editor.counter(), QStringLiteral("1/New"));
-    editor.next(fields);
-    editor.registerRecord(fields);
-    EXPECT_EQ(editor.counter(), QStringLiteral("1/New")) << "a record without a kind does not count";
-
-    fields.word = QStringLiteral(" ame  ");
-    fields.caption = QStringLiteral("Ame ");
-    fields.number = QStringLiteral("2.5");
-    fields.Explain = QStringLiteral("a comment");
-    editor.registerRecord(fields);
-    EXPECT_EQ(editor.counter(), QStringLiteral("1/1"));
-    EXPECT_EQ(set.HankoWord(1), QStringLiteral(" ame"));
-    EXPECT_EQ(set.HankoCaption(1), QStringLiteral("Ame"));
-    EXPECT_EQ(set.Hanko(1), (HankoStyle{2, 0, 0, 0, 1, 1}));
-    EXPECT_EQ(set.Explain, QStringLiteral("a comment"));
-    EXPECT_TRUE(set.HankoUnsaved);
-
-    fields = editor.next(fields).value();
-    EXPECT_EQ(editor.counter(), QStringLiteral("2/New"));
-    HankoFields blank = fieldsOf(QString(), QString());
-    blank.Explain = QStringLiteral("a comment");
-    EXPECT_EQ(fields, blank);
-    fields.word = QStringLiteral("lost");
-    editor.next(fields);
-    EXPECT_EQ(editor.counter(), QStringLiteral("2/New")) << "a new record must be registered first";
-    fields = editor.previous(fields);
-    EXPECT_EQ(fields.word, QStringLiteral(" ame"));
-    editor.previous(fields);
-    EXPECT_EQ(editor.counter(), QStringLiteral("1/1"));
-}
-
-TEST(SymbolEditor, ASymbolNumberCarriesOneStyle)
-{
-    SymbolSet set;
-    SymbolEditor editor(set);
-    fill(editor, 4);
-    const HankoStyle first{7, 1, 2, 1, 0, 2};
-    const HankoStyle last{7, 3, 99, 5, 2, -1};
-    set.Hanko(1) = first;
-    set.Hanko(2) = last; // two styles of one number, as a file may have them
-    HankoFields fields = fieldsOf(QStringLiteral("k3"), QStringLiteral("7"));
-    fields.style.LineColor = 12;
-    set.CurrentHanko = 3;
-    fields = editor.registerRecord(fields);
-    EXPECT_EQ(set.Hanko(3), (HankoStyle{7, 3, 0, 1, 2, 0})) << "the last earlier one, as the lists show it";
-    EXPECT_EQ(fields.style, set.Hanko(3));
-
-    const HankoStyle own{7, 14, 13, 0, 2, 0};
-    fields.style = own;
-    set.CurrentHanko = 1;
-    editor.registerRecord(fields);
-    EXPECT_EQ(set.Hanko(1), own) << "later records do not count";
-}
-
-TEST_F(ThreeRecords, ANumberTooLargeStoresNothing)
-{
-    fields.word = QStringLiteral("other");
-    fields.number = QStringLiteral("40000");
-    EXPECT_EQ(errorOf([&] { editor.registerRecord(fields); }).number(), ErrorNumber::Overflow);
-    EXPECT_EQ(kinds(set), QStringLiteral("k1 k2 k3"));
-}
-
-TEST_F(ThreeRecords, InsertingShiftsTheRecordsBehind)
-{
-    set.HankoCaption(3) = QStringLiteral("caption 3");
-    set.HankoUnsaved = false;
-    EXPECT_EQ(editor.insertRecord(4, QString()), std::nullopt);
-    EXPECT_FALSE(set.HankoUnsaved);
-    editor.insertRecord(2, QString());
-    EXPECT_EQ(kinds(set), QStringLiteral("k1  k2 k3"));
-    EXPECT_EQ(editor.counter(), QStringLiteral("2/4"));
-    EXPECT_EQ(set.Hanko(2), (HankoStyle{0, 0, 0, 0, 1, 1}));
-    EXPECT_EQ(set.Hanko(3).HankoNo, 2);
-    EXPECT_EQ(set.HankoCaption(4), QStringLiteral("caption 3"));
-    EXPECT_EQ(editor.lastShown(), 4);
-    EXPECT_TRUE(set.HankoUnsaved);
-}
-
-TEST_F(ThreeRecords, InsertingAtZeroMakesTheScratchRecordCurrent)
-{
-    set.HankoWord(0) = QStringLiteral("scratch");
-    fields = editor.insertRecord(0, QString()).value();
-    EXPECT_EQ(editor.counter(), QStringLiteral("0/3"));
-    EXPECT_EQ(set.HankoWord(0), QString());
-    EXPECT_EQ(kinds(set), QStringLiteral("k1 k2 k3"));
-    EXPECT_EQ(errorOf([&] { editor.previous(fields); }).number(), ErrorNumber::SubscriptOutOfRange);
-    EXPECT_EQ(editor.counter(), QStringLiteral("0/3"));
-    fields.word = QStringLiteral("on");
-    fields = editor.next(fields).value();
-    EXPECT_EQ(fields.word, QStringLiteral("k1"));
-}
-
-TEST_F(ThreeRecords, DeletingClosesTheGapAndLeavesTheLastBehind)
-{
-    editor.deleteRecord(0);
-    editor.deleteRecord(4);
-    EXPECT_EQ(kinds(set), QStringLiteral("k1 k2 k3"));
-    editor.deleteRecord(1);
-    EXPECT_EQ(kinds(set), QStringLiteral("k2 k3"));
-    EXPECT_EQ(set.Hanko(1).HankoNo, 2);
-    EXPECT_EQ(set.HankoWord(3), QStringLiteral("k3"));
-    EXPECT_EQ(editor.counter(), QStringLiteral("3/New"));
-    EXPECT_EQ(editor.lastShown(), 2);
-    editor.deleteRecord(2);
-    editor.deleteRecord(1);
-    EXPECT_EQ(set.NHanrei, 0);
-    EXPECT_LT(editor.lastShown(), editor.firstShown());
-
-    fields = fieldsOf(QStringLiteral("new"), QStringLiteral("9"));
-    editor.registerRecord(fields);
-    EXPECT_EQ(kinds(set), QStringLiteral("k2")) << "stored as record 3; what was left at 1 counts again";
-}
-
-TEST_F(ThreeRecords, NegativeNumbersAreErrorsThatChangeNothing)
-{
-    for (const int n : {-1, -32768}) {
-        EXPECT_EQ(errorOf([&] { editor.insertRecord(n, QString()); }).number(),
-                  ErrorNumber::SubscriptOutOfRange);
-        EXPECT_EQ(errorOf([&] { editor.deleteRecord(n); }).number(), ErrorNumber::SubscriptOutOfRange);
-    }
-    EXPECT_EQ(kinds(set), QStringLiteral("k1 k2 k3"));
-    EXPECT_EQ(editor.counter(), QStringLiteral("3/3"));
-}
-
-TEST_F(ThreeRecords, InitializingEmptiesTheSetDownToRecordZero)
-{
-    set.Explain = QStringLiteral("a comment");
-    set.HankoWord(0) = QStringLiteral("scratch");
-    fields = editor.initialize();
-    EXPECT_EQ(editor.counter(), QStringLiteral("0/0"));
-    EXPECT_EQ(fields.word, QStringLiteral("scratch"));
-    EXPECT_EQ(fields.Explain, QString());
-    EXPECT_EQ(set.HankoWord(2), QString());
-    EXPECT_EQ(set.Hanko(3), HankoStyle{});
-
-    fields.word = QStringLiteral("ame");
-    editor.registerRecord(fields);
-    EXPECT_EQ(set.NHanrei, 0) << "record 0 does not count";
-    editor.next(fields);
-    EXPECT_EQ(editor.counter(), QStringLiteral("1/New"));
-}
-
-TEST(SymbolEditor, AHundredRecordsAreTheMost)
-{
-    SymbolSet set;
-    SymbolEditor editor(set);
-    fill(editor, 100);
-    EXPECT_EQ(editor.counter(), QStringLiteral("100/100"));
-    HankoFields fields = editor.GetData();
-    EXPECT_EQ(editor.next(fields), std::nullopt);
-    EXPECT_EQ(errorOf([&] { editor.insertRecord(50, QString()); }).number(),
-              ErrorNumber::SubscriptOutOfRange);
-    EXPECT_EQ(set.NHanrei, 100);
-    EXPECT_EQ(set.HankoWord(50), QStringLiteral("k50"));
-    EXPECT_EQ(set.CurrentHanko, 100);
-    fields.word.clear();
-    EXPECT_EQ(editor.next(fields), std::nullopt) << "told whatever the kind is";
-}
-
-TEST(SymbolEditor, PreviewShowsTheLastTwentyAndScrolls)
-{
-    SymbolSet set;
-    SymbolEditor editor(set);
-    using Range = std::pair<int, int>;
-    const auto shown = [&editor] { return Range(editor.firstShown(), editor.lastShown()); };
-    fill(editor, 19);
-    EXPECT_EQ(shown(), Range(1, 19));
-    editor.scrollUp();
-    editor.scrollDown();
-    EXPECT_EQ(shown(), Range(1, 19));
-    fill(editor, 25);
-    EXPECT_EQ(shown(), Range(6, 25));
-    for (int i = 0; i < 4; ++i) {
-        editor.scrollUp();
-    }
-    EXPECT_EQ(shown(), Range(2, 21));
-    editor.scrollUp();
-    editor.scrollUp();
-    EXPECT_EQ(shown(), Range(1, 20));
-    for (int i = 0; i < 9; ++i) {
-        editor.scrollDown();
-    }
-    EXPECT_EQ(shown(), Range(6, 25));
-}
-
-TEST(SymbolFileNames, EndingIsNotDoubledAndFoldersAreNotLeft)
-{
-    Folders folders;
-    folders.LingFolder = QStringLiteral("\\Ling");
-    const QString path = folders.VarnPath + QStringLiteral("\\Ling\\a.b.han");
-    for (const char* name : {"a.b", "a.b.han", "a.b.HAN"}) {
-        EXPECT_EQ(symbolFilePath(folders, QLatin1String(name)), path) << name;
-    }
-    for (const char* name : {"..\\a", "a/b", "c:a", "a?"}) {
-        EXPECT_EQ(errorOf([&] { symbolFilePath(folders, QLatin1String(name)); }).number(),
-                  ErrorNumber::BadFileName)
-            << name;
-    }
-}
-
-namespace {
 
 /// A preview of the records of a map.
 class SymbolPreview : public testing::Test
@@ -297,6 +73,125 @@ protected:
 };
 
 } // namespace
+
+TEST_F(SymbolEditing, RecordsAreEnteredOneAfterTheOther)
+{
+    fields = editor.start();
+    EXPECT_EQ(editor.next(fields), fields);
+    editor.registerRecord(fields);
+    EXPECT_EQ(state(), "1/New* [1-0]") << "a record without a kind does not count";
+
+    fields = fieldsOf(" a\t  ", 0);
+    fields.number = QStringLiteral("2.5");
+    fields.caption = QStringLiteral("   ");
+    fields.Explain = QStringLiteral("a comment");
+    editor.registerRecord(fields);
+    EXPECT_EQ(state(), "1/1* [1-1]  a\t2") << "blanks are taken from the right end only";
+    EXPECT_EQ(set.Hanko(1), (HankoStyle{2, 0, 0, 0, 1, 1}));
+    EXPECT_EQ(set.Explain, QStringLiteral("a comment"));
+
+    fields = editor.next(fields).value();
+    EXPECT_EQ(editor.counter(), QStringLiteral("2/New"));
+    EXPECT_EQ(fields, SymbolEditor::NewData(QStringLiteral("a comment")));
+    editor.next(fieldsOf("lost", 1));
+    EXPECT_EQ(editor.counter(), QStringLiteral("2/New")) << "a new record must be registered first";
+    fields = editor.previous(fields);
+    EXPECT_EQ(fields.word, QStringLiteral(" a\t"));
+    editor.previous(fields);
+    EXPECT_EQ(editor.counter(), QStringLiteral("1/1"));
+}
+
+TEST_F(SymbolEditing, ASymbolNumberCarriesOneStyle)
+{
+    fill(4);
+    set.Hanko(1) = {7, 1, 2, 1, 0, 2};
+    set.Hanko(2) = {7, 3, 99, 5, 3, -1}; // two styles of one number, as a file may have them
+    fields = fieldsOf("k", 7);
+    fields.style.LineColor = 12;
+    set.CurrentHanko = 3;
+    fields = editor.registerRecord(fields);
+    EXPECT_EQ(set.Hanko(3), (HankoStyle{7, 3, 0, 1, 0, 0})) << "the last earlier one, as the lists show it";
+    EXPECT_EQ(fields.style, set.Hanko(3));
+
+    fields.style = {7, 14, 13, 0, 2, 0};
+    set.CurrentHanko = 1;
+    editor.registerRecord(fields);
+    EXPECT_EQ(set.Hanko(1), fields.style) << "later records do not count";
+}
+
+TEST_F(SymbolEditing, RecordsAreInsertedDeletedAndEmptied)
+{
+    fill(3);
+    set.HankoCaption(3) = QStringLiteral("three");
+    set.HankoUnsaved = false;
+    set.HankoWord(0) = QStringLiteral("scratch");
+    const auto insert = [&](int n) {
+        return [&, n] { editor.insertRecord(n, QStringLiteral("a comment")); };
+    };
+    const auto remove = [&](int n) { return [&, n] { editor.deleteRecord(n); }; };
+    const std::pair<std::function<void()>, const char*> steps[] = {
+        {insert(4), "3/3 [1-3] k1 k2 k3=three"},
+        {remove(4), "3/3 [1-3] k1 k2 k3=three"},
+        {remove(0), "3/3 [1-3] k1 k2 k3=three"},
+        {insert(2), "2/4* [1-4] k1 0 k2 k3=three"},
+        {remove(1), "2/3* [1-3] 0 k2 k3=three"},
+        {[&] { editor.goTo(3, QString()); }, "3/3* [1-3] 0 k2 k3=three"},
+        {remove(1), "3/New* [1-2] k2 k3=three"},
+        {remove(2), "3/New* [1-1] k2"},
+        {remove(1), "3/New* [1-0]"},
+        {[&] { editor.registerRecord(fieldsOf("new", 9)); },
+         "3/New* [1-1] k2"}, // the record that was left at 1
+        {[&] { editor.initialize(); }, "0/0 [1-0]"},
+        {[&] { editor.registerRecord(editor.GetData()); }, "0/0 [1-0]"}, // record 0 is outside the set
+        {[&] { editor.next(editor.GetData()); }, "1/New [1-0]"},
+        {insert(0), "0/0* [1-0]"},
+        {[&] { editor.next(editor.GetData()); }, "0/0* [1-0]"}, // which has emptied record 0
+    };
+    for (const auto& [step, expected] : steps) {
+        step();
+        EXPECT_EQ(state(), expected);
+    }
+    EXPECT_EQ(set.Hanko(0), (HankoStyle{0, 0, 0, 0, 1, 1}));
+    EXPECT_EQ(set.Hanko(1), HankoStyle{});
+    EXPECT_EQ(errorOf([&] { editor.previous(fields); }).number(), ErrorNumber::SubscriptOutOfRange);
+}
+
+TEST_F(SymbolEditing, WhatCannotBeStoredIsAnErrorThatChangesNothing)
+{
+    fill(100);
+    const std::string before = state();
+    EXPECT_TRUE(before.starts_with("100/100* [81-100] k1 k2")) << "a hundred are the most";
+    const std::pair<std::function<void()>, ErrorNumber> rows[] = {
+        {[&] { editor.registerRecord(fieldsOf("other", 40000)); }, ErrorNumber::Overflow},
+        {[&] { editor.insertRecord(50, QString()); }, ErrorNumber::SubscriptOutOfRange},
+        {[&] { editor.insertRecord(-1, QString()); }, ErrorNumber::SubscriptOutOfRange},
+        {[&] { editor.deleteRecord(-1); }, ErrorNumber::SubscriptOutOfRange},
+    };
+    for (const auto& [action, expected] : rows) {
+        EXPECT_EQ(errorOf(action).number(), expected);
+        EXPECT_EQ(state(), before);
+    }
+    for (const HankoFields& last : {fields, HankoFields()}) {
+        EXPECT_EQ(editor.next(last), std::nullopt) << "whatever the kind is";
+    }
+}
+
+TEST_F(SymbolEditing, PreviewShowsTheLastTwentyAndScrolls)
+{
+    const std::array<int, 5> rows[] = {
+        {19, 1, 1, 1, 19}, {25, 0, 0, 6, 25}, {25, 4, 0, 2, 21}, {25, 6, 0, 1, 20}, {25, 6, 9, 6, 25}};
+    for (const auto& [records, ups, downs, first, last] : rows) {
+        fill(records);
+        for (int i = 0; i < ups; ++i) {
+            editor.scrollUp();
+        }
+        for (int i = 0; i < downs; ++i) {
+            editor.scrollDown();
+        }
+        EXPECT_EQ(std::pair(editor.firstShown(), editor.lastShown()), std::pair(first, last))
+            << records << " up " << ups << " down " << downs;
+    }
+}
 
 TEST_F(SymbolPreview, RowsAndColumnsDoNotCollide)
 {
@@ -331,15 +226,7 @@ TEST_F(SymbolPreview, RowsAndColumnsDoNotCollide)
 
 TEST_F(SymbolPreview, CodedWordsAreLettersAndFaultyOnesStayAsWritten)
 {
-    const QString glyph = QStringLiteral("C:\\Varn62E\\Varn\\VarnSymbol\\Standard16\\Symbol1.bmp");
-    QImage picture(8, 16, QImage::Format_RGB32);
-    picture.fill(Qt::black);
-    for (int number = 1; number <= 38; ++number) {
-        QString path = survey.drive().hostPath(glyph).replace(QStringLiteral("Symbol1."),
-                                                              QStringLiteral("Symbol%1.").arg(number));
-        QDir().mkpath(QFileInfo(path).path());
-        ASSERT_TRUE(picture.save(path));
-    }
+    survey.varn.VarnPath = survey.varn.Drive.varnPath(QStringLiteral(INSTALLATION_FOLDER)); // with its glyphs
     add(QStringLiteral("a\\E1b"), QStringLiteral("plain"), {1, 0, 0, 0, 1, 1});
     add(QStringLiteral("a\\Zxb"), QString(), {1, 0, 0, 0, 1, 1});
     DisplayHanrei(survey.varn, 1, 2, surface);
@@ -350,16 +237,14 @@ TEST_F(SymbolPreview, CodedWordsAreLettersAndFaultyOnesStayAsWritten)
 
 TEST_F(SymbolPreview, SymbolsThatCannotBeDrawnAreMarked)
 {
-    const HankoStyle rows[] = {
-        {161, 0, 0, 0, 1, 1}, {-1, 0, 0, 0, 1, 1}, {49, 16, 0, 0, 1, 1}, {49, 0, -1, 0, 1, 1}};
-    for (const HankoStyle& hanko : rows) {
-        EXPECT_FALSE(canDraw(hanko, survey.varn));
+    const std::pair<HankoStyle, bool> rows[] = {
+        {{161, 0, 0, 0, 1, 1}, false}, {{-1, 0, 0, 0, 1, 1}, false}, {{49, 16, 0, 0, 1, 1}, false},
+        {{49, 0, -1, 0, 1, 1}, false}, {{160, 0, 0, 0, 1, 1}, true}, {{49, 15, 15, 7, 9, -4}, true}};
+    for (const auto& [hanko, isDrawn] : rows) {
         survey.varn.NHanrei = 0;
         add(QStringLiteral("k"), QString(), hanko);
         DisplayHanrei(survey.varn, 1, 1, surface);
-        EXPECT_TRUE(wasPrinted(surface.drawing(), QStringLiteral("?")));
-    }
-    for (const HankoStyle& hanko : {HankoStyle{160, 0, 0, 0, 1, 1}, HankoStyle{49, 15, 15, 7, 9, -4}}) {
-        EXPECT_TRUE(canDraw(hanko, survey.varn));
+        EXPECT_EQ(canDraw(hanko, survey.varn), isDrawn) << hanko.HankoNo;
+        EXPECT_EQ(wasPrinted(surface.drawing(), QStringLiteral("?")), !isDrawn) << hanko.HankoNo;
     }
 }

@@ -1,60 +1,26 @@
 #include "analysis/forms/ContrastPages.h"
 #include "analysis/forms/frmRankData.h"
-#include "platform/WholeFile.h"
-#include "tests/support/Controls.h"
-#include "tests/support/ScriptedDialogs.h"
-#include "tests/support/TestDrive.h"
+#include "tests/analysis/forms/AnalysisForm.h"
 
-#include <QAction>
 #include <QComboBox>
-#include <QLineEdit>
-#include <QListWidget>
 #include <QMenu>
-#include <QPushButton>
 
 #include <functional>
 #include <vector>
 
 namespace {
 
-using Shown = ScriptedDialogs::Shown;
 using AddResult = ContrastEditor::AddResult;
 
 const QString Folder = QStringLiteral("C:\\Varn62E\\Varn\\VarnData\\Test\\Ling\\");
 const QString Finished = QStringLiteral("Contrast Analysis is finished.");
 
-/// Makes `table` one of the word forms w1, w2, ..., with count k * j at locality j.
-void fillTable(CumulativeTable& table, int wordforms)
-{
-    table.NumWordforms = wordforms;
-    table.NumItemsAccumulated = 10;
-    for (int k = 1; k <= wordforms; ++k) {
-        table.WordformName(k) = QStringLiteral("w%1").arg(k);
-        for (int j = 1; j <= 3; ++j) {
-            table.Counts(k, j) = static_cast<qint16>(k * j);
-        }
-    }
-}
-
 /// The contrast form on the map of a `TestSurvey` with four word forms.
-class RankData : public testing::Test
+class RankData : public AnalysisForm<frmRankData>
 {
 protected:
-    RankData()
-    {
-        fillTable(survey.varn, 4);
-        form.Form_Load();
-    }
+    RankData() : AnalysisForm(4) {}
 
-    template <typename Control>
-    Control& control(const char* name)
-    {
-        return child<Control>(form, name);
-    }
-    QAction& menu(const char* name) { return control<QAction>(name); }
-    void click(const char* name) { control<QPushButton>(name).click(); }
-    void type(const char* name, const char* text) { control<QLineEdit>(name).setText(QLatin1String(text)); }
-    QString text(const char* name) { return control<QLineEdit>(name).text(); }
     int color(const char* name) { return control<QComboBox>(name).currentIndex(); }
 
     void take(int wordform, const char* button)
@@ -63,20 +29,9 @@ protected:
         click(button);
     }
 
-    QStringList listed(const char* name) { return rowsOf(control<QListWidget>(name)); }
-
-    void open(const char* file)
-    {
-        dialogs.files = {survey.drive().hostPath(Folder + QLatin1String(file))};
-        menu("mnuRankOpen").trigger();
-    }
+    void open(const char* file) { AnalysisForm::open("mnuRankOpen", file); }
 
     bool canDraw() { return menu("mnuRankMap").isEnabled() && control<QMenu>("mnuDisplay").isEnabled(); }
-
-    TestSurvey survey;
-    VarnModule& varn = survey.varn;
-    ScriptedDialogs dialogs;
-    frmRankData form{varn, dialogs};
 };
 
 } // namespace
