@@ -132,27 +132,23 @@ TEST_F(PlotProcess, HelpAndWrongUsage)
     EXPECT_EQ(read("all.ttl"), Table);
 }
 
-TEST_F(PlotProcess, TextStaysTextAndShapesStayVectors)
+TEST_F(PlotProcess, AMapIsTheSameInEveryFormat)
 {
-    expectDone(MapOfRain + " --output map.svg");
+    for (const char* name : {"map.svg", "map.pdf", "map.png"}) {
+        expectDone(MapOfRain + " --output " + name);
+    }
     const QByteArray svg = read("map.svg");
-    EXPECT_TRUE(svg.contains(">the word<") && svg.contains(">Rain<"));
     EXPECT_TRUE(svg.contains("<path") || svg.contains("<ellipse"));
     EXPECT_FALSE(svg.contains("<image"));
     EXPECT_TRUE(svg.contains("width=\"211.667mm\" height=\"158.75mm\""));
 
-    expectDone(MapOfRain + " --output map.pdf");
     const QByteArray pdf = read("map.pdf");
     EXPECT_TRUE(pdf.contains("/MediaBox [0 0 600.000000 450.000000]"));
     EXPECT_TRUE(firstStream(pdf).contains("\n0.050000000 0 0 -0.050000000 0 450 cm\n"))
         << "a twip is a twentieth of a point, and the drawing begins at the corner of the page";
     EXPECT_EQ(pdf.contains("/FontFile2"), anyFont()) << "the text's font is embedded";
     EXPECT_FALSE(pdf.contains("/Subtype /Image"));
-}
 
-TEST_F(PlotProcess, APictureCoversTheDrawingArea)
-{
-    expectDone(MapOfRain + " --output map.png");
     const QImage picture(file("map.png"));
     EXPECT_EQ(picture.size(), QSize(1600, 1200));
     EXPECT_EQ(picture.dotsPerMeterX(), 7559) << "192 dots per inch";
