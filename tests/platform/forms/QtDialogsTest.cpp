@@ -104,6 +104,29 @@ Answer typeFile(const QString& name, int filter = 0)
     };
 }
 
+/// What a dialog shows: its title, and the texts that stand in it.
+QStringList textsOf(const QDialog& dialog)
+{
+    if (const auto* box = qobject_cast<const QMessageBox*>(&dialog)) {
+        EXPECT_EQ(box->textFormat(), Qt::PlainText);
+        return {box->windowTitle(), box->text(), box->informativeText()};
+    }
+    if (const auto* input = qobject_cast<const QInputDialog*>(&dialog)) {
+        return {input->windowTitle(), input->labelText(), input->textValue()};
+    }
+    const auto& files = dynamic_cast<const QFileDialog&>(dialog);
+    return {files.windowTitle(), files.directory().path(), fileName(files).text()};
+}
+
+/// Looks whether these texts are shown, then answers.
+Answer seeing(const QStringList& texts, const Answer& answer)
+{
+    return [=](QDialog& dialog) {
+        EXPECT_EQ(textsOf(dialog), texts);
+        answer(dialog);
+    };
+}
+
 class DialogsOfTheDesktop : public testing::Test
 {
 protected:
@@ -129,33 +152,25 @@ TEST_F(DialogsOfTheDesktop, EnterAndEscapeAnswerWhatLosesNothing)
     };
     for (const auto& [name, ask, answer, expected] : rows) {
         SCOPED_TRACE(name);
-        const Person person({[&answer = answer](QDialog& dialog) {
-            const auto& box = dynamic_cast<QMessageBox&>(dialog);
-            EXPECT_EQ(box.windowTitle(), "title");
-            EXPECT_EQ(box.text(), "<b>lost</b>\nall?");
-            EXPECT_EQ(box.textFormat(), Qt::PlainText);
-            answer(dialog);
-        }});
+        const Person person({seeing({"title", "<b>lost</b>\nall?", ""}, answer)});
         EXPECT_EQ((dialogs.*ask)("<b>lost</b>\r\nall?", "title"), expected);
     }
 }
 
 TEST_F(DialogsOfTheDesktop, MessagesAndErrorsShowTheirTexts)
 {
-    const auto look = [](QMessageBox::Icon icon, const QStringList& texts, Qt::Key close) {
+    const auto close = [](QMessageBox::Icon icon, Qt::Key last) {
         return [=](QDialog& dialog) {
-            const auto& box = dynamic_cast<QMessageBox&>(dialog);
-            EXPECT_EQ(QStringList({box.windowTitle(), box.text(), box.informativeText()}), texts);
-            EXPECT_EQ(box.icon(), icon);
-            EXPECT_GT(box.width(), box.fontMetrics().horizontalAdvance("File: C:\\a"))
+            EXPECT_EQ(dynamic_cast<QMessageBox&>(dialog).icon(), icon);
+            EXPECT_GT(dialog.width(), dialog.fontMetrics().horizontalAdvance("File: C:\\a"))
                 << "a path stays on its line";
-            key(close)(dialog);
+            key(last)(dialog);
         };
     };
     const QString error = QStringLiteral("Run-time error '53': File not found");
     const Person person(
-        {look(QMessageBox::Information, {"Print", "done", ""}, Qt::Key_Return),
-         look(QMessageBox::Critical, {"VARN", error, "File: C:\\a\nLine 2"}, Qt::Key_Escape)});
+        {seeing({"Print", "done", ""}, close(QMessageBox::Information, Qt::Key_Return)),
+         seeing({"VARN", error, "File: C:\\a\nLine 2"}, close(QMessageBox::Critical, Qt::Key_Escape))});
     dialogs.message("done", "Print");
     dialogs.error(error, "File: C:\\a\r\nLine 2");
 }
@@ -165,14 +180,12 @@ TEST_F(DialogsOfTheDesktop, ATextIsTypedOverTheProposedOne)
     const std::tuple<QString, Qt::Key, std::optional<QString>> rows[] = {
         {"new", Qt::Key_Return, "new"}, {"", Qt::Key_Return, ""}, {"new", Qt::Key_Escape, std::nullopt}};
     for (const auto& [text, last, expected] : rows) {
-        const Person person({[&text = text, last = last](QDialog& dialog) {
-            auto& box = dynamic_cast<QInputDialog&>(dialog);
-            EXPECT_EQ(QStringList({box.windowTitle(), box.labelText(), box.textValue()}),
-                      QStringList({"title", "two\nlines", "old"}));
-            EXPECT_GE(box.width(), 360) << "room for a name";
-            box.setTextValue(text);
+        const auto type = [&text = text, last = last](QDialog& dialog) {
+            EXPECT_GE(dialog.width(), 360) << "room for a name";
+            dynamic_cast<QInputDialog&>(dialog).setTextValue(text);
             key(last)(dialog);
-        }});
+        };
+        const Person person({seeing({"title", "two\nlines", "old"}, type)});
         EXPECT_EQ(dialogs.input("two\r\nlines", "title", "old"), expected);
     }
 }
@@ -183,17 +196,14 @@ TEST_F(DialogsOfTheDesktop, AFileToSaveGetsTheEndingOfItsFilter)
                                                       {"map", 2, "map.map"},     {"m.x", 1, "m.x"},
                                                       {"map.png", 0, "map.png"}, {"map.pdf", 1, "map.pdf"}};
     for (const auto& [typed, filter, saved] : rows) {
-        const Person person({[&, &typed = typed, filter = filter](QDialog& dialog) {
-            const auto& files = dynamic_cast<QFileDialog&>(dialog);
-            EXPECT_EQ(QStringList({files.windowTitle(), files.directory().path(), fileName(files).text()}),
-                      QStringList({"Save", folder.root(), "rain"}));
-            EXPECT_EQ(files.nameFilters(),
-                      QStringList({"PDF Files (*.pdf)", "SVG Files (*.svg)", "Map files (*.map *.dat)"}));
-            typeFile(typed, filter)(dialog);
-        }});
+        const Person person({seeing({"Save", folder.root(), "rain"}, typeFile(typed, filter))});
         EXPECT_EQ(dialogs.saveFile("Save", folder.root(), filters, "rain"), folder.hostPath(saved));
     }
-    const Person person({key(Qt::Key_Escape)});
+    const Person person({[](QDialog& dialog) {
+        EXPECT_EQ(dynamic_cast<QFileDialog&>(dialog).nameFilters(),
+                  QStringList({"PDF Files (*.pdf)", "SVG Files (*.svg)", "Map files (*.map *.dat)"}));
+        key(Qt::Key_Escape)(dialog);
+    }});
     EXPECT_EQ(dialogs.saveFile("Save", folder.root(), filters, {}), std::nullopt);
 }
 
@@ -201,12 +211,7 @@ TEST_F(DialogsOfTheDesktop, AnExistingFileIsReplacedOnlyOnYesWhateverItsLetterCa
 {
     folder.write(QStringLiteral("C:\\Loc.map"), "mine");
     const auto ask = [](const Answer& answer) {
-        return [answer](QDialog& dialog) {
-            auto* box = qobject_cast<QMessageBox*>(&dialog);
-            ASSERT_NE(box, nullptr) << "no question";
-            EXPECT_EQ(box->text(), "Loc.map already exists.\nDo you want to replace it?");
-            answer(dialog);
-        };
+        return seeing({"Save", "Loc.map already exists.\nDo you want to replace it?", ""}, answer);
     };
     const std::tuple<QString, std::vector<Answer>, std::optional<QString>> rows[] = {
         {"Loc.map", {ask(press(QMessageBox::Yes))}, "Loc.map"},
@@ -229,13 +234,7 @@ TEST_F(DialogsOfTheDesktop, OnlyWhatExistsIsOpened)
 {
     folder.write("C:\\Ling\\rain.dbs", "");
     const QString ling = folder.hostPath("Ling");
-    const auto inLing = [&](const Answer& answer) {
-        return [&, answer](QDialog& dialog) {
-            EXPECT_EQ(dialog.windowTitle(), "title");
-            EXPECT_EQ(dynamic_cast<QFileDialog&>(dialog).directory().path(), ling);
-            answer(dialog);
-        };
-    };
+    const auto inLing = [&](const Answer& answer) { return seeing({"title", ling, ""}, answer); };
     const auto accept = [](QDialog& dialog) {
         EXPECT_EQ(dynamic_cast<QFileDialog&>(dialog).fileMode(), QFileDialog::Directory);
         QMetaObject::invokeMethod(&dialog, "accept", Qt::QueuedConnection);
