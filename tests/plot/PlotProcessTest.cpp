@@ -21,13 +21,6 @@ QByteArray firstStream(const QByteArray& pdf)
     return qUncompress(anyLength + pdf.mid(pdf.indexOf(begin) + begin.size()));
 }
 
-struct Finished
-{
-    int exitCode;
-    QString out;
-    QString err;
-};
-
 /// A survey with an item, its symbols, and the files of an analysis.
 class PlotProcess : public testing::Test
 {
@@ -57,32 +50,31 @@ protected:
         return survey.read(survey.drive().varnPath(file(QLatin1String(name))));
     }
 
-    /// Runs a command in the survey's folder, on its map; words are separated by blanks.
-    Finished run(const QString& line) const
+    /// Runs a command in the survey's folder, on its map, and expects that it ends with `exitCode`; words are
+    /// separated by blanks. Returns what it says on stdout and stderr.
+    std::pair<QString, QString> run(const QByteArray& line, int exitCode) const
     {
         QProcess process;
         process.setWorkingDirectory(file({}));
         process.start(VARNPLOT,
                       QStringList({"--map", "Test", "--installation", survey.hostPath("Varn62E/Varn")}) +
-                          line.split(QLatin1Char(' '), Qt::SkipEmptyParts));
+                          QString::fromLatin1(line).split(QLatin1Char(' '), Qt::SkipEmptyParts));
         EXPECT_TRUE(process.waitForFinished());
-        EXPECT_EQ(process.exitStatus(), QProcess::NormalExit) << qPrintable(line);
-        return {process.exitCode(), QString::fromUtf8(process.readAllStandardOutput()),
-                QString::fromUtf8(process.readAllStandardError())};
+        EXPECT_EQ(std::pair(process.exitStatus(), process.exitCode()),
+                  std::pair(QProcess::NormalExit, exitCode))
+            << line.constData();
+        return {process.readAllStandardOutput(), process.readAllStandardError()};
     }
     void expectDone(const QByteArray& line) const
     {
-        const Finished done = run(QString::fromLatin1(line));
-        EXPECT_EQ(done.exitCode, 0) << line.constData();
-        EXPECT_EQ(done.err, QString()) << line.constData();
+        EXPECT_EQ(run(line, 0).second, QString()) << line.constData();
     }
-    /// Expects that the command fails and that all of `texts` stand on stderr.
-    void expectFailure(const QByteArray& line, int exitCode, const QStringList& texts) const
+    /// Expects that the command ends with `exitCode` and that all of `texts` stand on stderr.
+    void expectTold(const QByteArray& line, int exitCode, const QStringList& texts) const
     {
-        const Finished failed = run(QString::fromLatin1(line));
-        EXPECT_EQ(failed.exitCode, exitCode) << line.constData();
+        const QString told = run(line, exitCode).second;
         for (const QString& text : texts) {
-            EXPECT_TRUE(failed.err.contains(text)) << line.constData() << '\n' << qPrintable(failed.err);
+            EXPECT_TRUE(told.contains(text)) << line.constData() << '\n' << qPrintable(told);
         }
     }
 
@@ -94,9 +86,9 @@ protected:
 TEST_F(PlotProcess, EveryCommandWritesItsFile)
 {
     // A command, the file that it writes, and what stands in it.
-    const std::tuple<const char*, const char*, const char*> rows[] = {
-        {"linguistic-map --data Ling/rain.dbs --symbols Ling/rain.han", "map.svg", ">the word<"},
-        {"linguistic-map --data Ling/rain.dbs --symbols Ling/rain.han --location top", "top.svg", ">Rain<"},
+    const std::tuple<QByteArray, const char*, const char*> rows[] = {
+        {MapOfRain, "map.svg", ">the word<"},
+        {MapOfRain + " --location top", "top.svg", ">Rain<"},
         {"blank-map --height 100", "blank.svg", "viewBox=\"0 0 7560 5670\""},
         {"blank-map --height 100 --locality-dots", "dots.svg", "viewBox=\"0 0 7560 5670\""},
         {"blank-map --dpi 48", "small.png", "PNG"},
@@ -113,8 +105,8 @@ TEST_F(PlotProcess, EveryCommandWritesItsFile)
     expectDone(
         "accumulate --counts all.ttl --characters all.sum --data Ling/rain.dbs Ling/rain.dbs --count-again");
     for (const auto& [line, output, text] : rows) {
-        expectDone(QByteArray(line) + " --output " + output);
-        EXPECT_TRUE(read(output).contains(text)) << line;
+        expectDone(line + " --output " + output);
+        EXPECT_TRUE(read(output).contains(text)) << line.constData();
     }
     EXPECT_EQ(read("all.ttl"), "1,2,\"All\"\r\n\"am words\"\r\n12,4\r\n0,0\r\n2\r\n0\r\n2\r\n");
     EXPECT_NE(read("map.svg"), read("top.svg")) << "the second word form stands elsewhere";
@@ -124,11 +116,10 @@ TEST_F(PlotProcess, EveryCommandWritesItsFile)
 
 TEST_F(PlotProcess, HelpAndWrongUsage)
 {
-    const Finished help = run("--help");
-    EXPECT_EQ(help.exitCode, 0);
-    EXPECT_TRUE(help.out.contains("usage:") && help.err.isEmpty());
-    expectFailure("", 2, {"a command is missing", "usage:"});
-    expectFailure("statistics --counts all.ttl --output all.ttl", 2, {"--output must end in .stt"});
+    const auto [help, error] = run("--help", 0);
+    EXPECT_TRUE(help.contains("usage:") && error.isEmpty());
+    expectTold("", 2, {"a command is missing", "usage:"});
+    expectTold("statistics --counts all.ttl --output all.ttl", 2, {"--output must end in .stt"});
     EXPECT_EQ(read("all.ttl"), Table);
 }
 
@@ -192,15 +183,15 @@ TEST_F(PlotProcess, AFailedPlotLeavesTheOldFile)
     write("map.pdf", "old");
     write("Ling/zz.dbs", "not a number");
     write("Ling/zz.han", read("Ling/rain.han"));
-    expectFailure("atlas --output map.pdf", 1, {"'13': Type mismatch", file("Ling/zz.dbs")});
+    expectTold("atlas --output map.pdf", 1, {"'13': Type mismatch", file("Ling/zz.dbs")});
     EXPECT_EQ(read("map.pdf"), "old");
-    expectFailure("blank-map --output new.png --map Nowhere", 1, {"'76': Path not found"});
+    expectTold("blank-map --output new.png --map Nowhere", 1, {"'76': Path not found"});
     EXPECT_FALSE(QFile::exists(file("new.png")));
 }
 
 TEST_F(PlotProcess, AnAccumulationSaysWhatItDidNotCount)
 {
-    expectFailure(
+    expectTold(
         "accumulate --counts all.ttl --characters all.sum --data Ling/short.dbs none.dbs Ling/rain.dbs "
         "Ling/rain.dbs",
         1,
@@ -220,33 +211,33 @@ TEST_F(PlotProcess, AnAccumulationSaysWhatItDidNotCount)
 TEST_F(PlotProcess, ErrorsNameTheirFileOnThisMachine)
 {
     const QByteArray map = MapOfRain + " --output o.svg";
-    expectFailure("linguistic-map --data Ling/short.dbs --symbols Ling/rain.han --output o.svg", 0,
-                  {"short.dbs: The item has 2 localities, the map has 3."});
-    expectFailure(map + " --height 8", 1, {"The legend needs a map at least 10.6 mm high."});
-    expectFailure(map + " --height 10.6", 0, {});
+    expectTold("linguistic-map --data Ling/short.dbs --symbols Ling/rain.han --output o.svg", 0,
+               {"short.dbs: The item has 2 localities, the map has 3."});
+    expectTold(map + " --height 8", 1, {"The legend needs a map at least 10.6 mm high."});
+    expectTold(map + " --height 10.6", 0, {});
     write("Ling/rain.han", "\"\"\r\n1\r\n\"ame\",\"\"\r\n50\r\n4\r\n16\r\n1\r\n1\r\n0\r\n");
     const QStringList record = {file("Ling/rain.han"), "Record 1 (ame).", "16 is not a colour number"};
-    expectFailure(map, 1, record);
-    expectFailure("atlas --output o.pdf", 1, record);
+    expectTold(map, 1, record);
+    expectTold("atlas --output o.pdf", 1, record);
     QFile::remove(file("Ling/rain.han"));
-    expectFailure("atlas --output o.pdf", 1, {file("Ling"), "No item there"});
+    expectTold("atlas --output o.pdf", 1, {file("Ling"), "No item there"});
     write("all.ttl", QByteArray(Table).replace("12,4", "12,77"));
-    expectFailure("diffusion-map --counts all.ttl --graph bar --output o.pdf", 1, {});
+    expectTold("diffusion-map --counts all.ttl --graph bar --output o.pdf", 1, {});
     write("all.ttl", QByteArray(Table).replace("12,4", "12,77").replace("1,0", "1,1"));
-    expectFailure("diffusion-map --counts all.ttl --graph bar --output o.pdf", 1,
-                  {file("all.ttl"), "Word form 1 (am words)."});
+    expectTold("diffusion-map --counts all.ttl --graph bar --output o.pdf", 1,
+               {file("all.ttl"), "Word form 1 (am words)."});
     write("all.ttl", QByteArray(Table).replace("1,0", "1,401"));
-    expectFailure("statistics --counts all.ttl --output all.stt", 1, {"at most 400 items, not of 401"});
+    expectTold("statistics --counts all.ttl --output all.stt", 1, {"at most 400 items, not of 401"});
 
     write("all.rnk", "\"\",3,100\r\n1\r\n12,4\r\n\"other\",2\r\n0\r\n9,1\r\n");
-    expectFailure("contrast-map --counts all.ttl --contrast all.rnk --output o.svg", 1,
-                  {"'9': Subscript out of range"});
+    expectTold("contrast-map --counts all.ttl --contrast all.rnk --output o.svg", 1,
+               {"'9': Subscript out of range"});
     write("Map/Loc.map", "1\r\n3e38,1\r\n");
-    expectFailure("blank-map --locality-dots --output o.svg", 1, {"'6': Overflow", "too far out"});
+    expectTold("blank-map --locality-dots --output o.svg", 1, {"'6': Overflow", "too far out"});
     write("Map/kanji.map", "0\r\n100,900\r\n\"km\",1e9,200\r\n");
-    expectFailure("blank-map --output o.svg", 1,
-                  {file("Map/kanji.map"), "Line 3, field 2", "at most 1000 divisions"});
-    expectFailure("blank-map --output no/such.svg", 1, {});
+    expectTold("blank-map --output o.svg", 1,
+               {file("Map/kanji.map"), "Line 3, field 2", "at most 1000 divisions"});
+    expectTold("blank-map --output no/such.svg", 1, {});
     QFile::remove(file("Map/kanji.map"));
-    expectFailure("blank-map --output o.svg", 1, {file("Map/kanji.map")});
+    expectTold("blank-map --output o.svg", 1, {file("Map/kanji.map")});
 }

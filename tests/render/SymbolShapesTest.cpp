@@ -5,6 +5,7 @@
 #include "tests/support/TestDrive.h"
 #include "tests/support/Transcript.h"
 
+#include <QRegularExpression>
 #include <QtMath>
 
 #include <algorithm>
@@ -29,6 +30,15 @@ Drawing drawn(TestSurvey& survey, const std::vector<HankoStyle>& symbols)
         shapes.DrawHanko(hanko, 0, 0);
     }
     return target.drawing();
+}
+
+/// The lines of a transcript joined, each with its pen only where it is another than that of the next.
+std::string onOneLine(const std::string& transcript)
+{
+    return QString::fromStdString(transcript)
+        .replace(QRegularExpression("( pen \\S+)(?=\n.*\\1\n)"), QString())
+        .replace(QRegularExpression("\n(?=.)"), " ")
+        .toStdString();
 }
 
 /// How many pixels of two pictures differ clearly: in a channel by more than 96 of 255.
@@ -79,78 +89,54 @@ bool fillUpAlike(int one, int other, int size)
 TEST(SymbolShapes, EveryDesignHasItsLinesAndFillsAndItsNumbers)
 {
     TestSurvey survey;
-    std::vector<HankoStyle> symbols;
-    for (const int number : {1,  2,  3,  4,  5,  6,  7,  8,  9,   10, 11, 12,
-                             49, 50, 51, 52, 53, 54, 55, 56, 57,  58, 59, // every design
-                             13, 25, 34, 37, 60, 71, 81, 82, 113, 133}) { // where the ranges begin
-        symbols.push_back(symbol(number));
+    std::string found = "\n";
+    for (const int number :
+         {1,  2,  3,  4,  5,  6,  7,  8,  9,  10, 11, 12, 49,  50,  51,  52,
+          53, 54, 55, 56, 57, 58, 59,                                            // every design
+          13, 24, 25, 36, 37, 48, 60, 70, 71, 81, 82, 92, 113, 132, 133, 152}) { // the ends of each range
+        found += std::to_string(number) + onOneLine(transcript(drawn(survey, {symbol(number)})));
     }
-    EXPECT_EQ(transcript(drawn(survey, symbols)), R"(
-box -96,-96 96,96 filled 12 pen 3/0/1
-line 0,-96 0,96 pen 3/0/1
-line -96,0 96,0 pen 3/0/1
-line -96,96 96,-96 pen 3/0/1
-line -96,-96 96,96 pen 3/0/1
-box -96,-96 96,96 pen 3/0/1
-line -96,96 96,-96 pen 3/0/1
-line -96,-96 96,96 pen 3/0/1
-box -96,-96 96,96 filled 12 pen 3/0/1
-line 0,-96 0,96 pen 3/0/1
-line -96,0 96,0 pen 3/0/1
-box -96,-96 0,96 filled 1 pen 1/0/1
-box -96,-96 96,96 pen 3/0/1
-box -96,0 96,96 filled 12 pen 1/0/1
-box -96,-96 96,96 pen 3/0/1
-box -38.4,-38.4 38.4,38.4 filled 1 pen 1/0/1
-box -96,-96 96,96 pen 3/0/1
-box -96,-96 96,96 filled 12 pen 3/0/1
-line -96,96 96,-96 pen 3/0/1
-line 0,-96 96,0 0,96 -96,0 0,-96 pen 3/0/1
-line -96,-96 96,-96 -96,96 96,96 -96,-96 pen 3/0/1
-line 0,-103.5 0,103.5 pen 2/0/1
-line -103.5,0 103.5,0 pen 2/0/1
-line -103.5,103.5 103.5,-103.5 pen 2/0/1
-line -103.5,-103.5 103.5,103.5 pen 2/0/1
-ellipse 0,0 100,100 pen 3/0/1
-ellipse 0,0 100,100 filled 12 pen 3/0/1
-ellipse 0,0 100,100 pen 3/0/1
-ellipse 0,0 50,50 filled 12 pen 1/0/1
-ellipse 0,0 100,100 pen 3/0/1
-line 0,-100 0,100 pen 3/0/1
-ellipse 0,0 100,100 pen 3/0/1
-line -100,0 100,0 pen 3/0/1
-ellipse 0,0 100,100 pen 3/0/1
-line 0,-100 0,100 pen 3/0/1
-line -100,0 100,0 pen 3/0/1
-ellipse 0,0 100,100 pen 3/0/1
-arc 0,0 100,100 360,180 start end filled 12 pen 3/0/1
-ellipse 0,0 100,100 pen 3/0/1
-arc 0,0 100,100 180,180 start end filled 12 pen 3/0/1
-ellipse 0,0 107.5,107.5 pen 2/0/1
-ellipse 0,0 53.8,53.8 pen 2/0/1
-ellipse 0,0 100,100 pen 3/0/1
-line -70.7,70.7 70.7,-70.7 pen 3/0/1
-ellipse 0,0 100,100 pen 3/0/1
-line -70.7,70.7 70.7,-70.7 pen 3/0/1
-line -70.7,-70.7 70.7,70.7 pen 3/0/1
-box -55.5,-55.5 55.5,55.5 filled 12 pen 2/0/1
-box -103.5,-55.5 103.5,55.5 filled 12 pen 2/0/1
-line 0,-55.5 103.5,0 0,55.5 -103.5,0 0,-55.5 pen 2/0/1
-box -55.5,-103.5 55.5,103.5 filled 12 pen 2/0/1
-ellipse 0,0 50,50 pen 3/0/1
-ellipse 0,0 50,100 pen 3/0/1
-ellipse 0,0 57.5,107.5 pen 2/0/1
-line -40.7,76 40.7,-76 pen 2/0/1
-line -40.7,-76 40.7,76 pen 2/0/1
-ellipse 0,0 100,50 pen 3/0/1
-arc 0,0 50,100 360,180 start end filled 12 pen 3/0/1
-arc 0,0 100,50 360,180 start end filled 12 pen 3/0/1
+    EXPECT_EQ(found, R"(
+1 box -96,-96 96,96 filled 12 pen 3/0/1
+2 line 0,-96 0,96 line -96,0 96,0 pen 3/0/1
+3 line -96,96 96,-96 line -96,-96 96,96 pen 3/0/1
+4 box -96,-96 96,96 line -96,96 96,-96 line -96,-96 96,96 pen 3/0/1
+5 box -96,-96 96,96 filled 12 line 0,-96 0,96 line -96,0 96,0 pen 3/0/1
+6 box -96,-96 0,96 filled 1 pen 1/0/1 box -96,-96 96,96 pen 3/0/1
+7 box -96,0 96,96 filled 12 pen 1/0/1 box -96,-96 96,96 pen 3/0/1
+8 box -38.4,-38.4 38.4,38.4 filled 1 pen 1/0/1 box -96,-96 96,96 pen 3/0/1
+9 box -96,-96 96,96 filled 12 line -96,96 96,-96 pen 3/0/1
+10 line 0,-96 96,0 0,96 -96,0 0,-96 pen 3/0/1
+11 line -96,-96 96,-96 -96,96 96,96 -96,-96 pen 3/0/1
+12 line 0,-103.5 0,103.5 line -103.5,0 103.5,0 line -103.5,103.5 103.5,-103.5 line -103.5,-103.5 103.5,103.5 pen 2/0/1
+49 ellipse 0,0 100,100 pen 3/0/1
+50 ellipse 0,0 100,100 filled 12 pen 3/0/1
+51 ellipse 0,0 100,100 pen 3/0/1 ellipse 0,0 50,50 filled 12 pen 1/0/1
+52 ellipse 0,0 100,100 line 0,-100 0,100 pen 3/0/1
+53 ellipse 0,0 100,100 line -100,0 100,0 pen 3/0/1
+54 ellipse 0,0 100,100 line 0,-100 0,100 line -100,0 100,0 pen 3/0/1
+55 ellipse 0,0 100,100 arc 0,0 100,100 360,180 start end filled 12 pen 3/0/1
+56 ellipse 0,0 100,100 arc 0,0 100,100 180,180 start end filled 12 pen 3/0/1
+57 ellipse 0,0 107.5,107.5 ellipse 0,0 53.8,53.8 pen 2/0/1
+58 ellipse 0,0 100,100 line -70.7,70.7 70.7,-70.7 pen 3/0/1
+59 ellipse 0,0 100,100 line -70.7,70.7 70.7,-70.7 line -70.7,-70.7 70.7,70.7 pen 3/0/1
+13 box -55.5,-55.5 55.5,55.5 filled 12 pen 2/0/1
+24 line 0,-63 0,63 line -63,0 63,0 line -63,63 63,-63 line -63,-63 63,63 pen 1/0/1
+25 box -103.5,-55.5 103.5,55.5 filled 12 pen 2/0/1
+36 line 0,-63 0,63 line -111,0 111,0 line -111,63 111,-63 line -111,-63 111,63 pen 1/0/1
+37 box -55.5,-103.5 55.5,103.5 filled 12 pen 2/0/1
+48 line 0,-111 0,111 line -63,0 63,0 line -63,111 63,-111 line -63,-111 63,111 pen 1/0/1
+60 ellipse 0,0 50,50 pen 3/0/1
+70 ellipse 0,0 57.5,57.5 line -40.7,40.7 40.7,-40.7 line -40.7,-40.7 40.7,40.7 pen 2/0/1
+71 ellipse 0,0 50,100 pen 3/0/1
+81 ellipse 0,0 57.5,107.5 line -40.7,76 40.7,-76 line -40.7,-76 40.7,76 pen 2/0/1
+82 ellipse 0,0 100,50 pen 3/0/1
+92 ellipse 0,0 107.5,57.5 line -76,40.7 76,-40.7 line -76,-40.7 76,40.7 pen 2/0/1
+113 arc 0,0 50,100 360,180 start end filled 12 pen 3/0/1
+132 arc 0,0 50,100 360,270 start end pen 3/0/1
+133 arc 0,0 100,50 360,180 start end filled 12 pen 3/0/1
+152 arc 0,0 100,50 360,270 start end pen 3/0/1
 )");
-    const std::pair<int, std::size_t> rangeEnds[] = {{24, 4}, {36, 4},  {48, 4}, {70, 3},
-                                                     {92, 3}, {132, 1}, {152, 1}};
-    for (const auto& [number, operations] : rangeEnds) {
-        EXPECT_EQ(drawn(survey, {symbol(number)}).operations.size(), operations) << number;
-    }
 }
 
 TEST(SymbolShapes, PolygonsAreStretchedAndSlanted)
@@ -169,19 +155,17 @@ line -30,-30 30,30 pen 3/0/1
 TEST(SymbolShapes, SizeAndWidthCodesBeyondTheTablesAreTheLargest)
 {
     TestSurvey survey;
-    std::vector<HankoStyle> symbols;
-    for (const int code : {0, 2, 3, -1}) {
-        symbols.insert(symbols.end(), {symbol(49, code, code), symbol(154, code, code)});
+    std::string found = "\n";
+    for (const int code : {0, 1, 2, 3, -1}) {
+        found += std::to_string(code) +
+                 onOneLine(transcript(drawn(survey, {symbol(49, code, code), symbol(154, code, code)})));
     }
-    EXPECT_EQ(transcript(drawn(survey, symbols)), R"(
-ellipse 0,0 50,50 pen 1/0/1
-line -30,-15 30,15 pen 1/0/1
-ellipse 0,0 150,150 pen 5/0/1
-line -90,-45 90,45 pen 5/0/1
-ellipse 0,0 200,200 pen 7/0/1
-line -120,-60 120,60 pen 7/0/1
-ellipse 0,0 200,200 pen 7/0/1
-line -120,-60 120,60 pen 7/0/1
+    EXPECT_EQ(found, R"(
+0 ellipse 0,0 50,50 line -30,-15 30,15 pen 1/0/1
+1 ellipse 0,0 100,100 line -60,-30 60,30 pen 3/0/1
+2 ellipse 0,0 150,150 line -90,-45 90,45 pen 5/0/1
+3 ellipse 0,0 200,200 line -120,-60 120,60 pen 7/0/1
+-1 ellipse 0,0 200,200 line -120,-60 120,60 pen 7/0/1
 )");
 }
 
