@@ -149,11 +149,11 @@ TEST(DrawingPainter, EachOperationIsPaintedAlone)
     surface.Line(300, 200, 220, 120, QBColor(1));
     const QImage image = painted(surface.drawing(), 1, {400, 260});
     const std::tuple<int, int, int> rows[] = {
-        {30, 60, 0},   {60, 30, 15},  {45, 45, 15},   {25, 25, 0},                   // the open quarter
-        {160, 60, 15}, {120, 60, 0},  {320, 80, 12},  {280, 40, 15},  {320, 40, 15}, // box, filled quarter
-        {75, 180, 12}, {50, 180, 15}, {60, 150, 15},  {95, 180, 15},                 // wedge
-        {160, 160, 4}, {160, 240, 9}, {260, 240, 10}, {210, 240, 15},                // filled box, lines
-        {260, 120, 1}, {300, 160, 1}, {260, 160, 1},  {280, 140, 15}};               // triangle
+        {30, 60, 0},   {60, 30, 15},  {45, 45, 15},   {25, 25, 0},                     // the open quarter
+        {160, 60, 15}, {120, 60, 0},  {320, 80, 12},  {280, 40, 15},  {320, 40, 15},   // box, filled quarter
+        {75, 180, 12}, {50, 180, 15}, {60, 150, 15},  {95, 180, 15},                   // wedge
+        {160, 160, 4}, {160, 240, 9}, {260, 240, 10}, {210, 240, 15},                  // filled box, lines
+        {208, 115, 1}, {260, 120, 1}, {300, 160, 1},  {260, 160, 1},  {280, 140, 15}}; // triangle
     for (const auto& [x, y, color] : rows) {
         EXPECT_EQ(image.pixel(x, y), QBColor(color)) << x << ' ' << y;
     }
@@ -161,23 +161,17 @@ TEST(DrawingPainter, EachOperationIsPaintedAlone)
 
 TEST(DrawingPainter, DashesAndDotsDiffer)
 {
-    // Lengths in pen widths: ink, gap, ink ...
-    const std::vector<int> styles[] = {
-        {60}, {4, 2, 4, 2}, {1, 2, 1, 2}, {4, 2, 1, 2, 4}, {4, 2, 1, 2, 1, 2, 4}};
     DrawSurface surface;
-    for (const std::vector<int>& lengths : styles) {
+    for (const std::string& pattern : std::vector<std::string>{"############", "####..####..", "#..#..#..#..",
+                                                               "####..#..####..#", "####..#..#..####"}) {
         surface.Cls();
         surface.Line(0, 30, 900, 30, QBColor(0));
         const QImage image = painted(surface.drawing(), 10 * ScreenScale, {600, 40}); // a pen of 10 pixels
-        int start = 0;
-        double expected = 1;
-        for (const int length : lengths) {
-            for (const int x : {start + 2, start + 10 * length - 3}) {
-                EXPECT_EQ(ink(image, {x, 20}), expected) << surface.DrawStyle << " at " << x;
-            }
-            start += 10 * length;
-            expected = 1 - expected;
+        std::string found;
+        for (int x = 5; found.size() < pattern.size(); x += 10) {
+            found += ink(image, {x, 20}) > 0.5 ? '#' : '.';
         }
+        EXPECT_EQ(found, pattern) << surface.DrawStyle;
         ++surface.DrawStyle;
     }
 }

@@ -8,8 +8,8 @@
 
 TEST(Numbers, HalvesRoundToTheEvenNeighbour)
 {
-    const std::pair<double, int> rows[] = {{10.5, 10}, {11.5, 12},       {-0.5, 0},          {-1.5, -2},
-                                           {12.4, 12}, {32767.4, 32767}, {-32768.5, -32768}, {0, 0}};
+    const std::pair<double, int> rows[] = {
+        {10.5, 10}, {11.5, 12}, {-1.5, -2}, {32767.4, 32767}, {-32768.5, -32768}};
     for (const auto& [value, expected] : rows) {
         EXPECT_EQ(toInteger(value), expected) << value;
     }

@@ -21,19 +21,8 @@ std::string usageErrorOf(const QByteArray& line)
 
 } // namespace
 
-TEST(PlotOptions, TheCommandLineIsRead)
+TEST(PlotOptions, PlacesGraphsAndTheLargestNumbersAreRead)
 {
-    const auto options = readPlotOptions(
-        words("linguistic-map --installation i --map m --data d.dbs --symbols s.han --output o.SVG "
-              "--location top --locality-dots --height 120.5 --dpi 300"));
-    ASSERT_TRUE(options);
-    EXPECT_EQ(options->command, PlotOptions::Command::LinguisticMap);
-    EXPECT_EQ(options->symbols, "s.han");
-    EXPECT_TRUE(options->localityDots);
-    EXPECT_EQ(options->height, 120.5);
-    EXPECT_EQ(options->dotsPerInch, 300);
-    EXPECT_FALSE(readPlotOptions(words("--help")));
-
     const QByteArray atlas = "atlas --installation i --map m --output o.pdf --height 2000 --location ";
     const char* const places[] = {"center", "right", "left", "top", "bottom"};
     for (qint16 place = HankoCenter; place <= HankoDown; ++place) {

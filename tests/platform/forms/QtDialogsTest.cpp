@@ -80,8 +80,7 @@ Answer press(QMessageBox::StandardButton button)
 {
     return [button](QDialog& dialog) {
         auto* box = qobject_cast<QMessageBox*>(&dialog);
-        ASSERT_NE(box, nullptr) << qPrintable(dialog.windowTitle());
-        ASSERT_NE(box->button(button), nullptr) << "button " << button;
+        ASSERT_TRUE(box != nullptr && box->button(button) != nullptr) << qPrintable(dialog.windowTitle());
         box->button(button)->click();
     };
 }
@@ -144,7 +143,6 @@ TEST_F(DialogsOfTheDesktop, EnterAndEscapeAnswerWhatLosesNothing)
     const std::tuple<const char*, Ask, Answer, bool> rows[] = {
         {"loss, Enter", &QtDialogs::confirmLoss, key(Qt::Key_Return), false},
         {"loss, Escape", &QtDialogs::confirmLoss, key(Qt::Key_Escape), false},
-        {"loss, Yes", &QtDialogs::confirmLoss, press(QMessageBox::Yes), true},
         {"yes or no, Enter", &QtDialogs::askYesNo, key(Qt::Key_Return), true},
         {"yes or no, Escape", &QtDialogs::askYesNo, key(Qt::Key_Escape), false},
         {"ok or cancel, Enter", &QtDialogs::askOkCancel, key(Qt::Key_Return), true},
