@@ -78,12 +78,10 @@ TEST(PhoneticText, GlyphsStandBetweenPlainCharacters)
     const auto glyph = operationsOf<PictureOperation>(drawing).at(0);
     EXPECT_NEAR(glyph.x, 100 + a, 0.1);
     EXPECT_NEAR(glyph.y + 0.75 * glyph.height, 200 + survey.frmMap.TextAscent(), 0.1) << "on the baseline";
-    EXPECT_NEAR(printedAt(drawing, QStringLiteral("b")).x(), 100 + a + 60, 0.1);
-
+    EXPECT_NEAR(printedAt(drawing, "b").x(), 100 + a + 60, 0.1);
     survey.varn.SpecialFontShift = -2;
     survey.plot("\\A5");
-    const auto shifted = operationsOf<PictureOperation>(drawing).at(1);
-    EXPECT_NEAR(shifted.y, glyph.y - 40, 0.1) << "two points up";
+    EXPECT_NEAR(operationsOf<PictureOperation>(drawing).at(1).y, glyph.y - 40, 0.1) << "two points up";
     EXPECT_EQ(survey.plot(""), 100);
 }
 
