@@ -50,7 +50,7 @@ int clearlyDifferent(const QImage& one, const QImage& other)
     };
     const auto* first = reinterpret_cast<const QRgb*>(one.constBits());
     const auto* second = reinterpret_cast<const QRgb*>(other.constBits());
-    return std::inner_product(first, first + one.width() * one.height(), second, 0, std::plus(), differ);
+    return std::inner_product(first, first + one.sizeInBytes() / 4, second, 0, std::plus(), differ);
 }
 
 /// A symbol as it stands on a screen of 96 dpi, at no whole pixel.
