@@ -36,32 +36,20 @@ TEST(SequentialReader, StringsKeepWhatTheirQuotesHold)
 
 TEST(SequentialReader, MalformedFieldsAreErrorsOfTheirKind)
 {
-    struct Row
-    {
-        const char* text;
-        ErrorNumber expected;
+    using enum ErrorNumber;
+    const std::pair<ErrorNumber, std::vector<const char*>> rows[] = {
+        {InputPastEndOfFile, {"\r\n \r\n", "\"open"}},
+        {TypeMismatch, {"\"2\"", "1x", ",1", "nan", "inf"}},
+        {Overflow, {"32768", "1e999"}},
     };
-    const Row rows[] = {
-        {"", ErrorNumber::InputPastEndOfFile},
-        {"\r\n \r\n", ErrorNumber::InputPastEndOfFile},
-        {"two", ErrorNumber::TypeMismatch},
-        {"\"2\"", ErrorNumber::TypeMismatch},
-        {"1x", ErrorNumber::TypeMismatch},
-        {",1", ErrorNumber::TypeMismatch},
-        {"nan", ErrorNumber::TypeMismatch},
-        {"inf", ErrorNumber::TypeMismatch},
-        {"\"open", ErrorNumber::InputPastEndOfFile},
-        {"32768", ErrorNumber::Overflow},
-        {"1e999", ErrorNumber::Overflow},
-        {"-1", ErrorNumber::SubscriptOutOfRange},
-    };
-    for (const Row& row : rows) {
-        EXPECT_EQ(errorOf([&row] { reader(row.text).readCount(); }).number(), row.expected) << row.text;
+    for (const auto& [expected, texts] : rows) {
+        for (const char* text : texts) {
+            EXPECT_EQ(errorOf([text] { reader(text).readCount(); }).number(), expected) << text;
+        }
     }
-    EXPECT_EQ(errorOf([] { reader("1e39").readSingle(); }).number(), ErrorNumber::Overflow);
-    EXPECT_EQ(errorOf([] { reader("#MAYBE#").readBoolean(); }).number(), ErrorNumber::TypeMismatch);
-    EXPECT_EQ(errorOf([] { reader("\"a\"b").readString(); }).number(), ErrorNumber::TypeMismatch);
-    EXPECT_EQ(errorOf([] { reader("\"cut short").readString(); }).number(), ErrorNumber::InputPastEndOfFile);
+    EXPECT_EQ(errorOf([] { reader("1e39").readSingle(); }).number(), Overflow);
+    EXPECT_EQ(errorOf([] { reader("#MAYBE#").readBoolean(); }).number(), TypeMismatch);
+    EXPECT_EQ(errorOf([] { reader("\"a\"b").readString(); }).number(), TypeMismatch);
 }
 
 TEST(SequentialReader, ErrorsNameFileLineAndField)
@@ -78,29 +66,18 @@ TEST(SequentialReader, ErrorsNameFileLineAndField)
             file.readInteger();
         });
     });
-    EXPECT_EQ(error.place().path, path);
-    EXPECT_EQ(error.place().line, 3);
-    EXPECT_EQ(error.place().field, 2);
-    EXPECT_TRUE(error.message().contains(QStringLiteral("Run-time error '13': Type mismatch")));
-    EXPECT_TRUE(error.message().contains(QStringLiteral("\"word\"")));
+    EXPECT_EQ(error.message(), QStringLiteral("Run-time error '13': Type mismatch\nFile: C:\\numbers.txt\n"
+                                              "Line 3, field 2\n\"word\" is not a number."));
 }
 
-TEST(SequentialWriter, ReadsBackWhatItWrote)
+TEST(SequentialWriter, WritesWhatIsReadBack)
 {
-    const QString text = QStringLiteral("a \"b\", c\r\n\\A1 %1").arg(QChar(0x14B));
-    const float single = 0.1F;
-    const double number = 1.0 / 3;
     SequentialWriter writer;
-    writer.write(qint16{-7}, text, true, false, single, number, 20.0F);
-    EXPECT_TRUE(writer.bytes().startsWith("-7,\"a \"\"b\"\", c\r\n\\A1 "));
-    EXPECT_TRUE(writer.bytes().endsWith(",#TRUE#,#FALSE#,0.1,0.3333333333333333,20\r\n"));
-
-    SequentialReader file(QString::fromUtf8(writer.bytes()));
-    EXPECT_EQ(file.readInteger(), -7);
-    EXPECT_EQ(file.readString(), text);
-    EXPECT_TRUE(file.readBoolean());
-    EXPECT_FALSE(file.readBoolean());
-    EXPECT_EQ(file.readSingle(), single);
-    EXPECT_EQ(file.readNumber(), number);
-    EXPECT_EQ(file.readSingle(), 20.0F);
+    writer.write(qint16{-7}, QStringLiteral("a \"b\", c\r\n\\A1 %1").arg(QChar(0x14B)), true, false, 0.1F,
+                 1.0 / 3, 20.0F);
+    EXPECT_EQ(writer.bytes(),
+              "-7,\"a \"\"b\"\", c\r\n\\A1 \xC5\x8B\",#TRUE#,#FALSE#,0.1,0.3333333333333333,20\r\n");
+    EXPECT_FALSE(reader("#FALSE#").readBoolean());
+    EXPECT_EQ(reader("0.1").readSingle(), 0.1F);
+    EXPECT_EQ(reader("0.3333333333333333").readNumber(), 1.0 / 3);
 }

@@ -8,23 +8,21 @@
 namespace {
 
 /// Everyday words of French, German, Spanish, Portuguese, Danish and Italian.
-const char* const WesternWords =
-    "père mère été être élève âge forêt château août île noël garçon français cœur œuf l’eau aujourd’hui là "
-    "où "
-    "hôtel ça crème créée ÉTÉ Mädchen Straße Haus über für Käse Öl öl Äpfel Fuß Übung Löffel Größe ÜBER "
-    "niño señor mañana año corazón café árbol lápiz inglés él único ¿Qué? ¡Hola! 25° coração não mãe maçã "
-    "avó "
-    "você ações água às âncora pêssego København smørrebrød øl ål år æg æble rød gård ø å blåbær Århus Øst "
-    "città perché più è caffè virtù lunedì";
+const char* const WesternWords = R"(
+père mère été être élève âge forêt château île noël garçon français cœur œuf l’eau aujourd’hui là où hôtel
+ça crème créée ÉTÉ Mädchen Straße Haus über für Käse Öl öl Äpfel Fuß Übung Löffel Größe ÜBER niño señor
+mañana año corazón café árbol lápiz inglés él único ¿Qué? ¡Hola! 25° coração não mãe maçã avó você ações
+água às âncora pêssego København smørrebrød øl ål år æg æble rød gård ø å blåbær Århus Øst città perché
+più è caffè virtù lunedì)";
 
 /// Words of kana, kanji and half-width katakana; the second byte of `ソ`, `表` and `能` is a backslash.
-const char* const JapaneseWords = "あめ かえる カタツムリ ソ ソラ ミソ ソース 表 能 表現 能力 雨 方言 目 蛙 "
-                                  "とんぼ 蜻蛉 蚯蚓 蝸牛 霰 霙 噂 ア ー 雪。 １２ "
-                                  "ｱﾒ ｶｴﾙ ﾄﾝﾎﾞ ｶﾀﾂﾑﾘ Tシャツ A型 髙橋 ①";
+const char* const JapaneseWords = R"(
+あめ かえる カタツムリ ソ ソラ ミソ ソース 表 能 表現 能力 雨 方言 目 蛙 とんぼ 蜻蛉 蚯蚓 蝸牛 霰 霙 噂 ア ー
+雪。 １２ ｱﾒ ｶｴﾙ ﾄﾝﾎﾞ ｶﾀﾂﾑﾘ Tシャツ A型 髙橋 ①)";
 
 QStringList words(const char* list)
 {
-    return QString::fromUtf8(list).split(QLatin1Char(' '));
+    return QString::fromUtf8(list).simplified().split(QLatin1Char(' '));
 }
 
 /// Expects that `text` comes back from a file in `encoding`.

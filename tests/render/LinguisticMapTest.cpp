@@ -4,125 +4,87 @@
 #include "render/Legend.h"
 #include "shell/MapParts.h"
 #include "tests/support/TestDrive.h"
+#include "tests/support/Transcript.h"
 
 #include <functional>
 
 namespace {
 
-void setWords(VarnModule& varn, int locality, const QStringList& words)
+/// A survey on which a twip is a map unit; its records draw outline circles.
+struct SymbolSurvey : TestSurvey
 {
-    varn.NLocate = std::max(varn.NLocate, static_cast<qint16>(locality));
-    varn.WordCount(locality) = static_cast<qint16>(words.size());
-    for (int j = 1; j <= words.size(); ++j) {
-        varn.WordData(locality, j) = words[j - 1];
+    SymbolSurvey() { varn.Scale = 1; }
+
+    void setWords(int locality, const QStringList& words)
+    {
+        varn.NLocate = std::max(varn.NLocate, static_cast<qint16>(locality));
+        varn.WordCount(locality) = static_cast<qint16>(words.size());
+        for (int j = 1; j <= words.size(); ++j) {
+            varn.WordData(locality, j) = words[j - 1];
+        }
     }
-}
 
-/// Adds a record whose symbol is an outline circle of the given size code.
-void addSymbol(VarnModule& varn, const QString& kind, int sizeCode)
-{
-    const int k = ++varn.NHanrei;
-    varn.HankoWord(k) = kind;
-    varn.Hanko(k) = {49, 0, 0, 0, static_cast<qint16>(sizeCode), 0};
-}
-
-/// Centre and radius of each circle that the map's symbols draw.
-std::vector<std::array<float, 3>> plottedCircles(TestSurvey& survey)
-{
-    survey.frmMap.Cls();
-    survey.varn.Scale = 1;
-    PlotLinguisticData(linguisticMapParts(survey.varn), survey.surfaces);
-    std::vector<std::array<float, 3>> circles;
-    for (const auto& circle : operationsOf<EllipseOperation>(survey.frmMap.drawing())) {
-        circles.push_back({circle.x, circle.y, circle.halfWidth});
+    void addRecord(const QString& kind, qint16 sizeCode)
+    {
+        const int k = ++varn.NHanrei;
+        varn.HankoWord(k) = kind;
+        varn.Hanko(k) = {49, 0, 0, 0, sizeCode, 0};
     }
-    return circles;
-}
 
-using Circles = std::vector<std::array<float, 3>>;
+    std::string drawn()
+    {
+        frmMap.Cls();
+        PlotLinguisticData(linguisticMapParts(varn), surfaces);
+        return transcript(frmMap.drawing());
+    }
+};
 
 } // namespace
 
-TEST(LinguisticMap, WordFormsStandInTheirSlots)
+TEST(LinguisticMap, ARecordMarksEveryFormThatContainsItsKindInItsSlot)
 {
-    TestSurvey survey;
-    setWords(survey.varn, 1, {QStringLiteral("a"), QStringLiteral("unknown"), QStringLiteral("a")});
-    addSymbol(survey.varn, QStringLiteral("a"), 1);
-    struct Row
-    {
-        qint16 position;
-        std::array<float, 3> third;
-    };
-    const Row rows[] = {{HankoCenter, {150, 250, 100}},
-                        {HankoRight, {310, 250, 100}},
-                        {HankoLeft, {-10, 250, 100}},
-                        {HankoUp, {150, 90, 100}},
-                        {HankoDown, {150, 410, 100}}};
-    for (const Row& row : rows) {
-        survey.varn.HankoPosition = row.position;
-        EXPECT_EQ(plottedCircles(survey), (Circles{{150, 250, 100}, row.third})) << row.position;
-    }
+    SymbolSurvey survey;
+    survey.setWords(1, {"AB"});
+    survey.setWords(2, {"B", "", "ab"});
+    survey.setWords(3, {"xA"});
+    survey.addRecord("A", 1);
+    survey.addRecord("AB", 2);
+    survey.addRecord("", 0); // an empty kind is in every form that is not empty
+    EXPECT_EQ(survey.drawn(), R"(
+ellipse 150,250 100,100 pen 1/0/0
+ellipse 550.5,650.5 100,100 pen 1/0/0
+ellipse 150,250 150,150 pen 1/0/0
+ellipse 150,250 50,50 pen 1/0/0
+ellipse 350,450 50,50 pen 1/0/0
+ellipse 350,450 50,50 pen 1/0/0
+ellipse 550.5,650.5 50,50 pen 1/0/0
+)") << "record by record, in letter case";
     EXPECT_EQ(survey.varn.ScreenXY(1, 0), 150);
+    for (const auto& [position, third] : {std::pair(HankoRight, "510,450"),
+                                          {HankoLeft, "190,450"},
+                                          {HankoUp, "350,290"},
+                                          {HankoDown, "350,610"}}) {
+        survey.varn.HankoPosition = position;
+        EXPECT_NE(survey.drawn().find(std::string("ellipse ") + third), std::string::npos) << third;
+    }
 }
 
 TEST(LinguisticMap, AThickSymbolLeavesThinLinesOnFormAndPrinter)
 {
-    TestSurvey survey;
-    setWords(survey.varn, 1, {QStringLiteral("a")});
-    addSymbol(survey.varn, QStringLiteral("a"), 1);
+    SymbolSurvey survey;
+    survey.setWords(1, {"a"});
+    survey.addRecord("a", 1);
     survey.varn.Hanko(1).LineThick = 2;
-    survey.varn.HankoCaption(1) = QStringLiteral("a");
     DrawSurface printer;
     const MapSurfaces surfaces{printer, survey.frmMap};
     const std::function<void()> steps[] = {
         [&] { PlotLinguisticData(linguisticMapParts(survey.varn), surfaces); },
         [&] { PlotHanrei(linguisticMapParts(survey.varn), surfaces); },
-        [&] { PlotLineData(survey.varn, survey.varn, surfaces); },
-    };
+        [&] { PlotLineData(survey.varn, survey.varn, surfaces); }};
     for (const auto& draw : steps) {
-        printer.DrawWidth = 7;
-        survey.frmMap.DrawWidth = 7;
+        printer.DrawWidth = survey.frmMap.DrawWidth = 7;
         draw();
-        EXPECT_EQ(printer.DrawWidth, 1);
-        EXPECT_EQ(survey.frmMap.DrawWidth, 1);
+        EXPECT_EQ(std::pair(printer.DrawWidth, survey.frmMap.DrawWidth), std::pair(1, 1));
     }
     EXPECT_EQ(printer.drawing().pens.at(0).width, 5) << "the symbol was thick";
-}
-
-TEST(LinguisticMap, ARecordMarksEveryFormThatContainsItsKind)
-{
-    TestSurvey survey;
-    setWords(survey.varn, 1, {QStringLiteral("AB")});
-    setWords(survey.varn, 2, {QStringLiteral("B"), QStringLiteral("ab"), QString()});
-    setWords(survey.varn, 3, {QStringLiteral("xA")});
-    addSymbol(survey.varn, QStringLiteral("A"), 1);
-    addSymbol(survey.varn, QStringLiteral("AB"), 2);
-    EXPECT_EQ(plottedCircles(survey), (Circles{{150, 250, 100}, {550.5F, 650.5F, 100}, {150, 250, 150}}))
-        << "record by record, in letter case";
-
-    survey.varn.NHanrei = 0;
-    addSymbol(survey.varn, QString(), 1);
-    EXPECT_EQ(plottedCircles(survey).size(), 4U) << "an empty kind is in every form that is not empty";
-}
-
-TEST(LinguisticMap, BothInputsAreNeededInEitherOrder)
-{
-    LoadedState state;
-    dataLoaded(state);
-    EXPECT_EQ(state.LoadState, 1);
-    EXPECT_FALSE(canDrawLinguisticMap(state));
-    dataLoaded(state);
-    EXPECT_EQ(state.LoadState, 1);
-    symbolSetLoaded(state);
-    EXPECT_EQ(state.LoadState, 2);
-    dataLoaded(state);
-    EXPECT_EQ(state.LoadState, 2) << "reloading never lowers it";
-    EXPECT_TRUE(canDrawLinguisticMap(state));
-
-    state = {};
-    symbolSetLoaded(state);
-    EXPECT_EQ(state.LoadState, 3);
-    dataLoaded(state);
-    EXPECT_EQ(state.LoadState, 4);
-    EXPECT_TRUE(canDrawLinguisticMap(state));
 }

@@ -4,36 +4,27 @@
 #include "render/SymbolHelp.h"
 #include "shell/MapParts.h"
 #include "tests/support/TestDrive.h"
+#include "tests/support/Transcript.h"
 
-#include <QBuffer>
+#include <QDir>
 
 #include <utility>
 
 namespace {
 
-/// A gray bitmap as wide as `pixels` pixels of 96 dpi and 16 high.
-QByteArray bitmap(int pixels)
-{
-    QImage image(pixels, 16, QImage::Format_Grayscale8);
-    image.fill(128);
-    image.setDotsPerMeterX(3780);
-    image.setDotsPerMeterY(3780);
-    QBuffer buffer;
-    image.save(&buffer, "bmp");
-    return buffer.data();
-}
-
-/// A survey with two glyphs in each set, of different widths.
+/// A survey with two glyphs in each set, which are as wide as many pixels of 96 dpi as stands here.
 struct GlyphSurvey : TestSurvey
 {
     GlyphSurvey()
     {
-        int width = 4;
-        for (const char* set : {"Standard16", "Standard18", "Bold16", "Bold18"}) {
-            const QString folder = varn.VarnPath + QStringLiteral("\\VarnSymbol\\") + QLatin1String(set);
-            write(folder + QStringLiteral("\\Symbol10.bmp"), bitmap(width));
-            write(folder + QStringLiteral("\\SymbolS1.bmp"), bitmap(20));
-            ++width;
+        for (const auto& [set, width] :
+             {std::pair("Standard16", 4), {"Standard18", 5}, {"Bold16", 6}, {"Bold18", 7}}) {
+            QImage glyph(width, 16, QImage::Format_Grayscale8);
+            glyph.setDotsPerMeterX(3780);
+            glyph.setDotsPerMeterY(3780);
+            const QString folder = hostPath("Varn62E/Varn/VarnSymbol/") + set;
+            QDir().mkpath(folder);
+            EXPECT_TRUE(glyph.save(folder + "/Symbol10.bmp") && glyph.save(folder + "/SymbolS1.bmp"));
         }
     }
 
@@ -51,17 +42,16 @@ TEST(PhoneticCode, EveryGlyphHasOneCode)
     // In the order of the glyphs' numbers.
     const std::pair<GlyphSeries, QString> series[] = {
         {GlyphSeries::Main,
-         QStringLiteral(
-             "U1 E2 I1 O1 O2 I2 U2 E3 E1 A1 I4 U4 I5 U3 S1 Z1 H1 F B G2 G1 N1 R1 S2 H2 ' Z2 : ; R2 I3 "
-             "E4 N2 A2 T1 T2 A3 A4")},
-        {GlyphSeries::Second, QStringLiteral("A5 E5 I6 O3 U5 U7 N3 A6 E6 I7 O4 U6 U8 N4 ? !")}};
+         "U1 E2 I1 O1 O2 I2 U2 E3 E1 A1 I4 U4 I5 U3 S1 Z1 H1 F B G2 G1 N1 R1 S2 H2 ' Z2 : ; R2 "
+         "I3 E4 N2 A2 T1 T2 A3 A4"},
+        {GlyphSeries::Second, "A5 E5 I6 O3 U5 U7 N3 A6 E6 I7 O4 U6 U8 N4 ? !"}};
     for (const auto& [glyphs, codes] : series) {
         int number = 0;
         for (const QString& code : codes.split(QLatin1Char(' '))) {
-            const PhoneticUnit unit = decodePhonetic(QLatin1Char('\\') + code + QStringLiteral("xyz"));
-            EXPECT_EQ(unit.kind, PhoneticUnit::Kind::Glyph) << qPrintable(code);
-            EXPECT_EQ(std::pair(unit.series, unit.number), std::pair(glyphs, ++number)) << qPrintable(code);
-            EXPECT_EQ(unit.consumed, code.size() + 1) << qPrintable(code);
+            const PhoneticUnit unit = decodePhonetic("\\" + code + "xyz");
+            EXPECT_EQ(std::tuple(unit.kind, unit.series, unit.number, unit.consumed),
+                      std::tuple(PhoneticUnit::Kind::Glyph, glyphs, ++number, code.size() + 1))
+                << qPrintable(code);
         }
         EXPECT_EQ(number, glyphs == GlyphSeries::Main ? 38 : 16);
     }
@@ -88,28 +78,22 @@ TEST(PhoneticText, GlyphsStandBetweenPlainCharacters)
     const auto glyph = operationsOf<PictureOperation>(drawing).at(0);
     EXPECT_NEAR(glyph.x, 100 + a, 0.1);
     EXPECT_NEAR(glyph.y + 0.75 * glyph.height, 200 + survey.frmMap.TextAscent(), 0.1) << "on the baseline";
-    EXPECT_NEAR(printedAt(drawing, QStringLiteral("b")).x(), 100 + a + 60, 0.1);
-
+    EXPECT_NEAR(printedAt(drawing, "b").x(), 100 + a + 60, 0.1);
     survey.varn.SpecialFontShift = -2;
     survey.plot("\\A5");
-    const auto shifted = operationsOf<PictureOperation>(drawing).at(1);
-    EXPECT_NEAR(shifted.y, glyph.y - 40, 0.1) << "two points up";
+    EXPECT_NEAR(operationsOf<PictureOperation>(drawing).at(1).y, glyph.y - 40, 0.1) << "two points up";
     EXPECT_EQ(survey.plot(""), 100);
 }
 
 TEST(PhoneticText, FontSizeAndBoldChooseTheGlyphSet)
 {
-    struct Row
-    {
-        qint16 fontSize;
-        bool bold;
-        int width;
-    };
-    for (const Row& row : {Row{10, false, 4}, Row{11, false, 5}, Row{10, true, 6}, Row{11, true, 7}}) {
+    const std::tuple<qint16, bool, int> rows[] = {
+        {10, false, 4}, {11, false, 5}, {10, true, 6}, {11, true, 7}};
+    for (const auto& [fontSize, bold, width] : rows) {
         GlyphSurvey survey;
-        survey.varn.MapFontSize = row.fontSize;
-        survey.varn.PhoneticBold = row.bold;
-        EXPECT_NEAR(survey.plot("\\A1"), 100 + row.width * 15, 0.1) << row.fontSize << row.bold;
+        survey.varn.MapFontSize = fontSize;
+        survey.varn.PhoneticBold = bold;
+        EXPECT_NEAR(survey.plot("\\A1"), 100 + width * 15, 0.1) << fontSize << bold;
     }
 }
 
@@ -117,55 +101,54 @@ TEST(PhoneticText, AnIllegalEscapeIsReportedOnTheMapForm)
 {
     GlyphSurvey survey;
     DrawSurface printer;
-    PhoneticText writer(textParts(survey.varn), {printer, survey.frmMap});
-    writer.PlotChar(100, 200, QStringLiteral("\\Q1xy"));
-    EXPECT_TRUE(
-        wasPrinted(survey.frmMap.drawing(), QStringLiteral("\\Q1x Illegal Data for Phonetic Alphabet.")));
-    EXPECT_TRUE(wasPrinted(printer.drawing(), QStringLiteral("y")));
-    EXPECT_TRUE(operationsOf<PictureOperation>(printer.drawing()).empty());
+    PhoneticText(textParts(survey.varn), {printer, survey.frmMap}).PlotChar(100, 200, u"\\Q1xy");
+    EXPECT_EQ(survey.frmMap.drawing().texts,
+              std::vector<QString>({"\\Q1x Illegal Data for Phonetic Alphabet."}));
+    EXPECT_EQ(transcript(printer.drawing()), "\n\"y\" 100,200 10pt\n");
 }
 
 TEST(PhoneticText, AMissingOrBrokenBitmapIsAnErrorThatNamesIt)
 {
     GlyphSurvey survey;
-    const RunTimeError missing = errorOf([&] { survey.plot("\\A2"); });
-    EXPECT_EQ(missing.number(), ErrorNumber::FileNotFound);
-    EXPECT_TRUE(missing.place().path.endsWith(QStringLiteral("\\Standard16\\Symbol34.bmp")));
-    survey.write(survey.varn.VarnPath + QStringLiteral("\\VarnSymbol\\Standard16\\Symbol34.bmp"), "BMx");
-    EXPECT_EQ(errorOf([&] { survey.plot("\\A2"); }).number(), ErrorNumber::TypeMismatch);
+    const QString path = survey.varn.VarnPath + "\\VarnSymbol\\Standard16\\Symbol34.bmp";
+    for (const ErrorNumber expected : {ErrorNumber::FileNotFound, ErrorNumber::TypeMismatch}) {
+        const RunTimeError error = errorOf([&] { survey.plot("\\A2"); });
+        EXPECT_EQ(error.number(), expected);
+        EXPECT_EQ(error.place().path, path);
+        survey.write(path, "BMx");
+    }
 }
 
 TEST(SymbolHelp, AllCodesStandOnThePageWhateverTheFontOfTheMap)
 {
     GlyphSurvey survey;
     for (int i = 1; i <= 54; ++i) {
-        survey.varn.ExpSymbols.push_back(
-            {QStringLiteral("\\A1"), QStringLiteral("a"), QStringLiteral("a long name of vowel %1").arg(i)});
+        survey.varn.ExpSymbols.push_back({"\\A1", "a", QStringLiteral("a long name of vowel %1").arg(i)});
     }
     const QString note = QStringLiteral("Make the map form larger to see all codes.");
+    const auto page = [&]() -> const Drawing& {
+        WriteSymbolHelp(survey.varn.ExpSymbols, textParts(survey.varn), survey.surfaces);
+        return survey.frmMap.drawing();
+    };
     const QRectF paper(0, 0, survey.frmMap.Width, survey.frmMap.Height);
-    survey.varn.MapFontSize = 10;
-    WriteSymbolHelp(survey.varn.ExpSymbols, textParts(survey.varn), survey.surfaces);
-    EXPECT_EQ(printedAt(survey.frmMap.drawing(), QStringLiteral("\\A1")), QPointF(50, 626));
-    EXPECT_EQ(operationsOf<PictureOperation>(survey.frmMap.drawing()).at(1).x, 50 + 528);
-    EXPECT_EQ(printedAt(survey.frmMap.drawing(), QStringLiteral("a")), QPointF(50 + 2 * 528, 626));
-    EXPECT_EQ(printedAt(survey.frmMap.drawing(), QStringLiteral("a long name of vowel 2")),
-              QPointF(50 + 3 * 528, 626 + 288));
     for (const int size : {8, 10, 12, 18, 36}) {
+        SCOPED_TRACE(size);
         survey.varn.MapFontSize = static_cast<qint16>(size);
         survey.frmMap.FontSize = size;
-        WriteSymbolHelp(survey.varn.ExpSymbols, textParts(survey.varn), survey.surfaces);
-        const Drawing& drawing = survey.frmMap.drawing();
-        EXPECT_TRUE(paper.contains(drawnArea(drawing))) << size;
+        const Drawing& drawing = page();
+        EXPECT_TRUE(paper.contains(drawnArea(drawing)));
         EXPECT_EQ(operationsOf<PictureOperation>(drawing).size(), 54U);
-        const QPointF first = printedAt(drawing, QStringLiteral("a long name of vowel 1"));
-        const QPointF second = printedAt(drawing, QStringLiteral("a long name of vowel 2"));
-        EXPECT_GE(second.y() - first.y(), 240) << "as far apart as glyphs are high, size " << size;
-        EXPECT_GT(printedAt(drawing, QStringLiteral("a long name of vowel 54")).x(), first.x());
+        const QPointF first = printedAt(drawing, "a long name of vowel 1");
+        EXPECT_GE(printedAt(drawing, "a long name of vowel 2").y() - first.y(), 240) << "glyphs are so high";
+        EXPECT_GT(printedAt(drawing, "a long name of vowel 54").x(), first.x());
         EXPECT_FALSE(wasPrinted(drawing, note));
         EXPECT_EQ(survey.frmMap.FontSize, size);
     }
+    survey.varn.MapFontSize = 10;
+    EXPECT_EQ(printedAt(page(), "\\A1"), QPointF(50, 626));
+    EXPECT_EQ(operationsOf<PictureOperation>(survey.frmMap.drawing()).at(1).x, 50 + 528);
+    EXPECT_EQ(printedAt(survey.frmMap.drawing(), "a"), QPointF(50 + 2 * 528, 626));
+    EXPECT_EQ(printedAt(survey.frmMap.drawing(), "a long name of vowel 2"), QPointF(50 + 3 * 528, 626 + 288));
     survey.frmMap.Height = 3000;
-    WriteSymbolHelp(survey.varn.ExpSymbols, textParts(survey.varn), survey.surfaces);
-    EXPECT_TRUE(wasPrinted(survey.frmMap.drawing(), note)) << "there is no room for them";
+    EXPECT_TRUE(wasPrinted(page(), note)) << "there is no room for them";
 }

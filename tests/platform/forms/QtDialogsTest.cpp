@@ -2,6 +2,7 @@
 
 #include "platform/forms/QtDialogs.h"
 
+#include "tests/support/Controls.h"
 #include "tests/support/TestDrive.h"
 
 #include <QApplication>
@@ -79,23 +80,49 @@ Answer press(QMessageBox::StandardButton button)
 {
     return [button](QDialog& dialog) {
         auto* box = qobject_cast<QMessageBox*>(&dialog);
-        ASSERT_NE(box, nullptr) << qPrintable(dialog.windowTitle());
-        ASSERT_NE(box->button(button), nullptr) << "button " << button;
+        ASSERT_TRUE(box != nullptr && box->button(button) != nullptr) << qPrintable(dialog.windowTitle());
         box->button(button)->click();
     };
+}
+
+QLineEdit& fileName(const QDialog& dialog)
+{
+    return child<QLineEdit>(dialog, "fileNameEdit");
 }
 
 /// Types `name` as that of a file, with `filter` chosen, and accepts.
 Answer typeFile(const QString& name, int filter = 0)
 {
     return [name, filter](QDialog& dialog) {
-        auto* types = dialog.findChild<QComboBox*>(QStringLiteral("fileTypeCombo"));
-        ASSERT_NE(types, nullptr) << qPrintable(dialog.windowTitle());
-        while (types->currentIndex() < filter) {
-            send(*types, Qt::Key_Down);
+        auto& types = child<QComboBox>(dialog, "fileTypeCombo");
+        while (types.currentIndex() < filter) {
+            send(types, Qt::Key_Down);
         }
-        dialog.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))->setText(name);
+        fileName(dialog).setText(name);
         QMetaObject::invokeMethod(&dialog, "accept", Qt::QueuedConnection);
+    };
+}
+
+/// What a dialog shows: its title, and the texts that stand in it.
+QStringList textsOf(const QDialog& dialog)
+{
+    if (const auto* box = qobject_cast<const QMessageBox*>(&dialog)) {
+        EXPECT_EQ(box->textFormat(), Qt::PlainText);
+        return {box->windowTitle(), box->text(), box->informativeText()};
+    }
+    if (const auto* input = qobject_cast<const QInputDialog*>(&dialog)) {
+        return {input->windowTitle(), input->labelText(), input->textValue()};
+    }
+    const auto& files = dynamic_cast<const QFileDialog&>(dialog);
+    return {files.windowTitle(), files.directory().path(), fileName(files).text()};
+}
+
+/// Looks whether these texts are shown, then answers.
+Answer seeing(const QStringList& texts, const Answer& answer)
+{
+    return [=](QDialog& dialog) {
+        EXPECT_EQ(textsOf(dialog), texts);
+        answer(dialog);
     };
 }
 
@@ -113,226 +140,161 @@ protected:
 TEST_F(DialogsOfTheDesktop, EnterAndEscapeAnswerWhatLosesNothing)
 {
     using Ask = bool (QtDialogs::*)(const QString&, const QString&);
-    struct Row
-    {
-        Ask ask;
-        Answer answer;
-        bool expected;
+    const std::tuple<const char*, Ask, Answer, bool> rows[] = {
+        {"loss, Enter", &QtDialogs::confirmLoss, key(Qt::Key_Return), false},
+        {"loss, Escape", &QtDialogs::confirmLoss, key(Qt::Key_Escape), false},
+        {"yes or no, Enter", &QtDialogs::askYesNo, key(Qt::Key_Return), true},
+        {"yes or no, Escape", &QtDialogs::askYesNo, key(Qt::Key_Escape), false},
+        {"ok or cancel, Enter", &QtDialogs::askOkCancel, key(Qt::Key_Return), true},
+        {"ok or cancel, Escape", &QtDialogs::askOkCancel, key(Qt::Key_Escape), false},
     };
-    const Row rows[] = {
-        {&QtDialogs::confirmLoss, key(Qt::Key_Return), false},
-        {&QtDialogs::confirmLoss, key(Qt::Key_Escape), false},
-        {&QtDialogs::confirmLoss, press(QMessageBox::Yes), true},
-        {&QtDialogs::confirmLoss, press(QMessageBox::No), false},
-        {&QtDialogs::askYesNo, key(Qt::Key_Return), true},
-        {&QtDialogs::askYesNo, key(Qt::Key_Escape), false},
-        {&QtDialogs::askYesNo, press(QMessageBox::No), false},
-        {&QtDialogs::askOkCancel, key(Qt::Key_Return), true},
-        {&QtDialogs::askOkCancel, key(Qt::Key_Escape), false},
-        {&QtDialogs::askOkCancel, press(QMessageBox::Cancel), false},
-    };
-    int n = 0;
-    for (const Row& row : rows) {
-        const Person person({[&row](QDialog& dialog) {
-            EXPECT_EQ(dialog.windowTitle(), QStringLiteral("title"));
-            EXPECT_EQ(dynamic_cast<QMessageBox&>(dialog).text(), QStringLiteral("<b>lost</b>\nall?"));
-            EXPECT_EQ(dynamic_cast<QMessageBox&>(dialog).textFormat(), Qt::PlainText);
-            row.answer(dialog);
-        }});
-        EXPECT_EQ((dialogs.*row.ask)(QStringLiteral("<b>lost</b>\r\nall?"), QStringLiteral("title")),
-                  row.expected)
-            << "row " << n++;
+    for (const auto& [name, ask, answer, expected] : rows) {
+        SCOPED_TRACE(name);
+        const Person person({seeing({"title", "<b>lost</b>\nall?", ""}, answer)});
+        EXPECT_EQ((dialogs.*ask)("<b>lost</b>\r\nall?", "title"), expected);
     }
 }
 
 TEST_F(DialogsOfTheDesktop, MessagesAndErrorsShowTheirTexts)
 {
-    const Person person({[](QDialog& dialog) {
-                             const auto& box = dynamic_cast<QMessageBox&>(dialog);
-                             EXPECT_EQ(box.text(), QStringLiteral("done"));
-                             EXPECT_EQ(box.windowTitle(), QStringLiteral("Print"));
-                             EXPECT_EQ(box.icon(), QMessageBox::Information);
-                             key(Qt::Key_Return)(dialog);
-                         },
-                         [](QDialog& dialog) {
-                             const auto& box = dynamic_cast<QMessageBox&>(dialog);
-                             EXPECT_EQ(box.text(), QStringLiteral("Run-time error '53': File not found"));
-                             EXPECT_EQ(box.informativeText(), QStringLiteral("File: C:\\a\nLine 2"));
-                             EXPECT_EQ(box.icon(), QMessageBox::Critical);
-                             EXPECT_EQ(box.windowTitle(), QStringLiteral("VARN"));
-                             const int line =
-                                 box.fontMetrics().horizontalAdvance(QStringLiteral("File: C:\\a"));
-                             EXPECT_GT(box.width(), line) << "the path stays on its line";
-                             key(Qt::Key_Escape)(dialog);
-                         }});
-    dialogs.message(QStringLiteral("done"), QStringLiteral("Print"));
-    dialogs.error(QStringLiteral("Run-time error '53': File not found"),
-                  QStringLiteral("File: C:\\a\r\nLine 2"));
+    const auto close = [](QMessageBox::Icon icon, Qt::Key last) {
+        return [=](QDialog& dialog) {
+            EXPECT_EQ(dynamic_cast<QMessageBox&>(dialog).icon(), icon);
+            EXPECT_GT(dialog.width(), dialog.fontMetrics().horizontalAdvance("File: C:\\a"))
+                << "a path stays on its line";
+            key(last)(dialog);
+        };
+    };
+    const QString error = QStringLiteral("Run-time error '53': File not found");
+    const Person person(
+        {seeing({"Print", "done", ""}, close(QMessageBox::Information, Qt::Key_Return)),
+         seeing({"VARN", error, "File: C:\\a\nLine 2"}, close(QMessageBox::Critical, Qt::Key_Escape))});
+    dialogs.message("done", "Print");
+    dialogs.error(error, "File: C:\\a\r\nLine 2");
 }
 
 TEST_F(DialogsOfTheDesktop, ATextIsTypedOverTheProposedOne)
 {
-    const auto type = [](const QString& text, Qt::Key last) {
-        return [=](QDialog& dialog) {
-            auto& box = dynamic_cast<QInputDialog&>(dialog);
-            EXPECT_EQ(box.labelText(), QStringLiteral("two\nlines"));
-            EXPECT_EQ(box.textValue(), QStringLiteral("old"));
-            EXPECT_EQ(box.windowTitle(), QStringLiteral("title"));
-            EXPECT_GE(box.width(), 360) << "room for a name";
-            box.setTextValue(text);
+    const std::tuple<QString, Qt::Key, std::optional<QString>> rows[] = {
+        {"new", Qt::Key_Return, "new"}, {"", Qt::Key_Return, ""}, {"new", Qt::Key_Escape, std::nullopt}};
+    for (const auto& [text, last, expected] : rows) {
+        const auto type = [&text = text, last = last](QDialog& dialog) {
+            EXPECT_GE(dialog.width(), 360) << "room for a name";
+            dynamic_cast<QInputDialog&>(dialog).setTextValue(text);
             key(last)(dialog);
         };
-    };
-    const Person person({type(QStringLiteral("new"), Qt::Key_Return), type({}, Qt::Key_Return),
-                         type(QStringLiteral("new"), Qt::Key_Escape)});
-    for (const auto& expected :
-         {std::optional(QStringLiteral("new")), std::optional(QString()), std::optional<QString>()}) {
-        EXPECT_EQ(
-            dialogs.input(QStringLiteral("two\r\nlines"), QStringLiteral("title"), QStringLiteral("old")),
-            expected);
+        const Person person({seeing({"title", "two\nlines", "old"}, type)});
+        EXPECT_EQ(dialogs.input("two\r\nlines", "title", "old"), expected);
     }
 }
 
 TEST_F(DialogsOfTheDesktop, AFileToSaveGetsTheEndingOfItsFilter)
 {
-    struct Row
-    {
-        QString typed;
-        int filter;
-        QString saved;
-    };
-    const Row rows[] = {{"map", 0, "map.pdf"}, {"map", 1, "map.svg"},     {"map", 2, "map.map"},
-                        {"m.x", 1, "m.x"},     {"map.png", 0, "map.png"}, {"map.pdf", 1, "map.pdf"}};
-    for (const Row& row : rows) {
-        const Person person({[&](QDialog& dialog) {
-            const auto& files = dynamic_cast<QFileDialog&>(dialog);
-            EXPECT_EQ(files.directory().path(), folder.root());
-            EXPECT_EQ(files.windowTitle(), QStringLiteral("Save"));
-            EXPECT_EQ(dialog.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))->text(),
-                      QStringLiteral("rain"));
-            EXPECT_EQ(files.nameFilters(),
-                      QStringList({"PDF Files (*.pdf)", "SVG Files (*.svg)", "Map files (*.map *.dat)"}));
-            typeFile(row.typed, row.filter)(dialog);
-        }});
-        EXPECT_EQ(dialogs.saveFile(QStringLiteral("Save"), folder.root(), filters, QStringLiteral("rain")),
-                  folder.hostPath(row.saved));
+    const std::tuple<QString, int, QString> rows[] = {{"map", 0, "map.pdf"},     {"map", 1, "map.svg"},
+                                                      {"map", 2, "map.map"},     {"m.x", 1, "m.x"},
+                                                      {"map.png", 0, "map.png"}, {"map.pdf", 1, "map.pdf"}};
+    for (const auto& [typed, filter, saved] : rows) {
+        const Person person({seeing({"Save", folder.root(), "rain"}, typeFile(typed, filter))});
+        EXPECT_EQ(dialogs.saveFile("Save", folder.root(), filters, "rain"), folder.hostPath(saved));
     }
-    const Person person({key(Qt::Key_Escape)});
-    EXPECT_EQ(dialogs.saveFile(QStringLiteral("Save"), folder.root(), filters, QString()), std::nullopt);
+    const Person person({[](QDialog& dialog) {
+        EXPECT_EQ(dynamic_cast<QFileDialog&>(dialog).nameFilters(),
+                  QStringList({"PDF Files (*.pdf)", "SVG Files (*.svg)", "Map files (*.map *.dat)"}));
+        key(Qt::Key_Escape)(dialog);
+    }});
+    EXPECT_EQ(dialogs.saveFile("Save", folder.root(), filters, {}), std::nullopt);
 }
 
 TEST_F(DialogsOfTheDesktop, AnExistingFileIsReplacedOnlyOnYesWhateverItsLetterCase)
 {
     folder.write(QStringLiteral("C:\\Loc.map"), "mine");
     const auto ask = [](const Answer& answer) {
-        return [answer](QDialog& dialog) {
-            auto* box = qobject_cast<QMessageBox*>(&dialog);
-            ASSERT_NE(box, nullptr) << "no question";
-            EXPECT_EQ(box->text(), QStringLiteral("Loc.map already exists.\nDo you want to replace it?"));
-            answer(dialog);
-        };
+        return seeing({"Save", "Loc.map already exists.\nDo you want to replace it?", ""}, answer);
     };
-    struct Row
-    {
-        QString typed;
-        std::vector<Answer> answers;
-        std::optional<QString> saved;
-    };
-    const Row rows[] = {
-        {"Loc.map", {press(QMessageBox::Yes)}, "Loc.map"},
-        {"loc.map", {press(QMessageBox::Yes)}, "Loc.map"},
-        {"LOC", {press(QMessageBox::Yes)}, "Loc.map"},
-        {"loc.map", {key(Qt::Key_Return), typeFile("loc2.map")}, "loc2.map"},
-        {"Loc.map", {key(Qt::Key_Escape), key(Qt::Key_Escape)}, std::nullopt},
-    };
-    for (const Row& row : rows) {
-        std::vector<Answer> answers = {typeFile(row.typed, 2), ask(row.answers[0])};
-        answers.insert(answers.end(), row.answers.begin() + 1, row.answers.end());
+    const std::tuple<QString, std::vector<Answer>, std::optional<QString>> rows[] = {
+        {"Loc.map", {ask(press(QMessageBox::Yes))}, "Loc.map"},
+        {"loc.map", {ask(press(QMessageBox::Yes))}, "Loc.map"},
+        {"LOC", {ask(press(QMessageBox::Yes))}, "Loc.map"},
+        {"loc.map", {ask(key(Qt::Key_Return)), typeFile("loc2.map")}, "loc2.map"},
+        {"Loc.map", {ask(key(Qt::Key_Escape)), key(Qt::Key_Escape)}, std::nullopt}};
+    for (const auto& [typed, later, saved] : rows) {
+        std::vector<Answer> answers = later;
+        answers.insert(answers.begin(), typeFile(typed, 2));
         const Person person(answers);
-        const auto saved = dialogs.saveFile(QStringLiteral("Save"), folder.root(), filters, QString());
-        EXPECT_EQ(saved, row.saved ? std::optional(folder.hostPath(*row.saved)) : std::nullopt)
-            << qPrintable(row.typed);
+        EXPECT_EQ(dialogs.saveFile("Save", folder.root(), filters, {}),
+                  saved ? std::optional(folder.hostPath(*saved)) : std::nullopt)
+            << qPrintable(typed);
     }
-    EXPECT_EQ(folder.read(QStringLiteral("C:\\Loc.map")), "mine");
+    EXPECT_EQ(folder.read("C:\\Loc.map"), "mine");
 }
 
 TEST_F(DialogsOfTheDesktop, OnlyWhatExistsIsOpened)
 {
-    folder.write(QStringLiteral("C:\\Ling\\rain.dbs"), "");
-    const QString ling = folder.hostPath(QStringLiteral("Ling"));
-    const Person person({typeFile(QStringLiteral("rain.dbs")), typeFile(QStringLiteral("gone.dbs")),
-                         press(QMessageBox::Ok), key(Qt::Key_Escape),
-                         [&](QDialog& dialog) {
-                             EXPECT_EQ(dynamic_cast<QFileDialog&>(dialog).directory().path(), ling);
-                             EXPECT_EQ(dialog.windowTitle(), QStringLiteral("Folder"));
-                             key(Qt::Key_Escape)(dialog);
-                         },
-                         [&](QDialog& dialog) {
-                             EXPECT_EQ(dynamic_cast<QFileDialog&>(dialog).fileMode(), QFileDialog::Directory);
-                             QMetaObject::invokeMethod(&dialog, "accept", Qt::QueuedConnection);
-                         }});
+    folder.write("C:\\Ling\\rain.dbs", "");
+    const QString ling = folder.hostPath("Ling");
+    const auto inLing = [&](const Answer& answer) { return seeing({"title", ling, ""}, answer); };
+    const auto accept = [](QDialog& dialog) {
+        EXPECT_EQ(dynamic_cast<QFileDialog&>(dialog).fileMode(), QFileDialog::Directory);
+        QMetaObject::invokeMethod(&dialog, "accept", Qt::QueuedConnection);
+    };
+    const Person person({inLing(typeFile("rain.dbs")), typeFile("gone.dbs"), press(QMessageBox::Ok),
+                         key(Qt::Key_Escape), inLing(key(Qt::Key_Escape)), inLing(accept)});
     const QString filter = QStringLiteral("DBS Files (*.dbs)|*.dbs");
-    EXPECT_EQ(dialogs.openFile(QStringLiteral("Open"), ling, filter), ling + QStringLiteral("/rain.dbs"));
-    EXPECT_EQ(dialogs.openFile(QStringLiteral("Open"), ling, filter), std::nullopt);
-    EXPECT_EQ(dialogs.chooseFolder(QStringLiteral("Folder"), ling), std::nullopt);
-    EXPECT_EQ(dialogs.chooseFolder(QStringLiteral("Folder"), ling), ling);
+    EXPECT_EQ(dialogs.openFile("title", ling, filter), ling + "/rain.dbs");
+    EXPECT_EQ(dialogs.openFile("title", ling, filter), std::nullopt);
+    EXPECT_EQ(dialogs.chooseFolder("title", ling), std::nullopt);
+    EXPECT_EQ(dialogs.chooseFolder("title", ling), ling);
 }
 
 TEST_F(DialogsOfTheDesktop, AFontThatIsNotInstalledKeepsItsNameUntilAnotherIsChosen)
 {
     const TextFont missing{QStringLiteral("No such font"), 14, true, true};
-    const Person person({key(Qt::Key_Return),
-                         [](QDialog& dialog) {
-                             auto& fonts = dynamic_cast<QFontDialog&>(dialog);
-                             QFont font = fonts.currentFont();
-                             EXPECT_EQ(font.pointSize(), 14);
-                             EXPECT_TRUE(font.bold() && font.italic());
-                             font.setPointSize(18);
-                             fonts.setCurrentFont(font);
-                             key(Qt::Key_Return)(dialog);
-                         },
-                         key(Qt::Key_Escape)});
+    const auto enlarge = [](QDialog& dialog) {
+        auto& fonts = dynamic_cast<QFontDialog&>(dialog);
+        QFont font = fonts.currentFont();
+        EXPECT_EQ(font.pointSize(), 14);
+        EXPECT_TRUE(font.bold() && font.italic());
+        font.setPointSize(18);
+        fonts.setCurrentFont(font);
+        key(Qt::Key_Return)(dialog);
+    };
+    const Person person({key(Qt::Key_Return), enlarge, key(Qt::Key_Escape)});
     EXPECT_EQ(dialogs.chooseFont(missing), missing);
     EXPECT_EQ(dialogs.chooseFont(missing), (TextFont{missing.name, 18, true, true}));
     EXPECT_EQ(dialogs.chooseFont(missing), std::nullopt);
 }
 
-TEST_F(DialogsOfTheDesktop, ThePrinterDialogShowsThePageAndGivesBackWhatIsChosen)
+TEST_F(DialogsOfTheDesktop, ThePrinterDialogShowsThePageAndGivesBackWhatIsChanged)
 {
-    PageLayout layout;
-    layout.PaperOrientation = 2;
-    layout.LeftMargin = 31;
-    layout.TopMargin = 32;
-    layout.RightMargin = 33;
-    layout.BottomMargin = 34;
-    const auto look = [](QDialog& dialog) {
-        auto& print = dynamic_cast<QPrintDialog&>(dialog);
-        const QPageLayout page = print.printer()->pageLayout();
-        EXPECT_EQ(page.pageSize().id(), QPageSize::A4);
-        EXPECT_EQ(page.orientation(), QPageLayout::Landscape);
-        EXPECT_EQ(page.margins(QPageLayout::Millimeter), QMarginsF(31, 32, 33, 34));
-        EXPECT_FALSE(print.testOption(QAbstractPrintDialog::PrintPageRange)) << "a map is one page";
+    const PageLayout layout{"A4", 2, 210, 297, 32, 34, 31, 33};
+    const auto look = [](const Answer& answer) {
+        return [answer](QDialog& dialog) {
+            auto& print = dynamic_cast<QPrintDialog&>(dialog);
+            const QPageLayout page = print.printer()->pageLayout();
+            EXPECT_EQ(page.pageSize().id(), QPageSize::A4);
+            EXPECT_EQ(page.orientation(), QPageLayout::Landscape);
+            EXPECT_EQ(page.margins(QPageLayout::Millimeter), QMarginsF(31, 32, 33, 34));
+            EXPECT_FALSE(print.testOption(QAbstractPrintDialog::PrintPageRange)) << "a map is one page";
+            answer(dialog);
+        };
     };
-    const Person person({[&](QDialog& dialog) {
-                             look(dialog);
-                             key(Qt::Key_Escape)(dialog);
-                         },
-                         [&](QDialog& dialog) {
-                             look(dialog);
-                             QPrinter& printer = *dynamic_cast<QPrintDialog&>(dialog).printer();
-                             printer.setOutputFileName(folder.hostPath(QStringLiteral("map.pdf")));
-                             printer.setPageOrientation(QPageLayout::Portrait);
-                             dialog.done(QDialog::Accepted);
-                         }});
+    const auto change = [&](QDialog& dialog) {
+        QPrinter& printer = *dynamic_cast<QPrintDialog&>(dialog).printer();
+        printer.setOutputFileName(folder.hostPath("map.pdf"));
+        printer.setPageOrientation(QPageLayout::Portrait);
+        printer.setPageMargins({41, 42, 43, 34}, QPageLayout::Millimeter);
+        dialog.done(QDialog::Accepted);
+    };
+    const Person person({look(key(Qt::Key_Escape)), look(change)});
     EXPECT_EQ(dialogs.choosePrinter(layout), nullptr);
     const auto printer = dialogs.choosePrinter(layout);
     ASSERT_NE(printer, nullptr);
-    PageLayout chosen = layout;
+    PageLayout chosen;
     printer->takeChoices(chosen);
     EXPECT_EQ(chosen.PaperOrientation, 1);
-    EXPECT_EQ(chosen.LeftMargin, 31);
-    DrawSurface page;
-    page.Box(0, 0, 500, 500, qRgb(0, 0, 0));
-    printer->print({QStringLiteral("Island"), 1, {page.drawing()}});
-    EXPECT_TRUE(folder.read(QStringLiteral("C:\\map.pdf")).startsWith("%PDF"));
+    EXPECT_EQ(QMargins(chosen.LeftMargin, chosen.TopMargin, chosen.RightMargin, chosen.BottomMargin),
+              QMargins(41, 42, 43, 15))
+        << "the lower margin stays, which was left as it was shown";
+    printer->print({QStringLiteral("Island"), 1, {Drawing()}});
+    EXPECT_TRUE(folder.read("C:\\map.pdf").startsWith("%PDF"));
 }

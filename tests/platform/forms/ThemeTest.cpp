@@ -2,6 +2,7 @@
 
 #include "platform/forms/ThemeColors.h"
 #include "render/forms/WordDelegate.h"
+#include "tests/support/Pixels.h"
 #include "tests/support/TestDrive.h"
 
 #include <QLabel>
@@ -12,21 +13,14 @@
 
 namespace {
 
-QPalette theme(const QColor& button, const QColor& window)
+/// A light theme and a dark one.
+std::vector<QPalette> themes()
 {
-    QPalette palette(button, window);
-    palette.setColor(QPalette::Highlight, QColor(0x2a, 0x82, 0xda));
-    return palette;
-}
-
-QPalette light()
-{
-    return theme(Qt::lightGray, Qt::white);
-}
-
-QPalette dark()
-{
-    return theme({0x31, 0x36, 0x3b}, {0x1b, 0x1e, 0x20});
+    std::vector<QPalette> palettes = {{Qt::lightGray, Qt::white}, {QColor(0x31363b), QColor(0x1b1e20)}};
+    for (QPalette& palette : palettes) {
+        palette.setColor(QPalette::Highlight, QColor(0x2a82da));
+    }
+    return palettes;
 }
 
 /// How bright a colour looks, from 0 to 1.
@@ -41,9 +35,8 @@ double luminance(const QColor& color)
 /// 1 for the same colour to 21 for black on white; a text can be read from 4.5 up.
 double contrast(const QColor& a, const QColor& b)
 {
-    const double first = luminance(a);
-    const double second = luminance(b);
-    return (std::max(first, second) + 0.05) / (std::min(first, second) + 0.05);
+    const auto [darker, lighter] = std::minmax({luminance(a), luminance(b)});
+    return (lighter + 0.05) / (darker + 0.05);
 }
 
 /// A list whose first row is chosen.
@@ -57,8 +50,7 @@ struct WordList
         list.setFont(font);
         list.setPalette(palette);
         list.setItemDelegate(new WordDelegate(survey.varn, &list));
-        list.addItems({QStringLiteral("\\H2"), QStringLiteral("\\H2"), QStringLiteral("mm\\E2"),
-                       QStringLiteral("mm"), QStringLiteral("\\Q1")});
+        list.addItems({"\\H2", "\\H2", "mm\\E2", "mm", "\\Q1"});
         list.setCurrentRow(0);
         list.setFrameShape(QFrame::NoFrame);
         list.resize(600, 400);
@@ -71,14 +63,11 @@ struct WordList
         const QRect cell = list.visualItemRect(list.item(row));
         const QColor background = picture.pixelColor(cell.center().x(), cell.top() + 3);
         double clearest = 0;
-        QRect ink;
-        for (int y = cell.top() + 2; y < cell.bottom() - 1; ++y) {
-            for (int x = cell.left() + 3; x < cell.left() + 40; ++x) {
-                const double here = contrast(picture.pixelColor(x, y), background);
-                clearest = std::max(clearest, here);
-                ink |= here > 2 ? QRect(x, y, 1, 1) : QRect();
-            }
-        }
+        const QRect ink =
+            extent(picture, {3, cell.top() + 2, 37, cell.height() - 4}, [&](const QColor& color) {
+                clearest = std::max(clearest, contrast(color, background));
+                return contrast(color, background) > 2;
+            });
         return {clearest, ink.height()};
     }
 
@@ -91,7 +80,7 @@ struct WordList
 
 TEST(Theme, WordsStandOutFromTheirCells)
 {
-    for (const QPalette& palette : {light(), dark()}) {
+    for (const QPalette& palette : themes()) {
         const WordList words(palette, 24);
         for (int row = 0; row < words.list.count(); ++row) {
             EXPECT_GT(words.word(row).first, row == 4 ? 4.5 : 8) << "row " << row;
@@ -101,14 +90,14 @@ TEST(Theme, WordsStandOutFromTheirCells)
 
 TEST(Theme, PhoneticLettersAreAsLargeAsTheListsFont)
 {
-    const int small = WordList(light(), 12).word(1).second;
+    const int small = WordList({}, 12).word(1).second;
     EXPECT_NEAR(small, 9, 2) << "the h of a text of 12 pixels";
-    EXPECT_NEAR(WordList(light(), 36).word(1).second, 3 * small, 4);
+    EXPECT_NEAR(WordList({}, 36).word(1).second, 3 * small, 4);
 }
 
 TEST(Theme, ColorsBesideThePaletteCanBeReadOnIt)
 {
-    for (const QPalette& palette : {light(), dark()}) {
+    for (const QPalette& palette : themes()) {
         const QColor base = palette.color(QPalette::Base);
         for (const QColor& ground : {base, chosenCell(palette)}) {
             EXPECT_GT(contrast(quietText(palette), ground), 4);

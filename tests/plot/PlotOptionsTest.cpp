@@ -1,0 +1,74 @@
+#include "plot/PlotOptions.h"
+
+#include "tests/support/TestDrive.h"
+
+namespace {
+
+QStringList words(const QByteArray& line)
+{
+    return QString::fromLatin1(line).split(QLatin1Char(' '), Qt::SkipEmptyParts);
+}
+
+std::string usageErrorOf(const QByteArray& line)
+{
+    try {
+        readPlotOptions(words(line));
+    } catch (const UsageError& error) {
+        return error.what();
+    }
+    return "";
+}
+
+} // namespace
+
+TEST(PlotOptions, PlacesGraphsAndTheLargestNumbersAreRead)
+{
+    const QByteArray atlas = "atlas --installation i --map m --output o.pdf --height 2000 --location ";
+    const char* const places[] = {"center", "right", "left", "top", "bottom"};
+    for (qint16 place = HankoCenter; place <= HankoDown; ++place) {
+        EXPECT_EQ(readPlotOptions(words(atlas + places[place]))->location, place);
+    }
+    const QByteArray diffusion = "diffusion-map --installation i --map m --counts c.ttl --output o.png "
+                                 "--dpi 2400 --word-form 10 --graph ";
+    for (const char* name : {"bar", "layered-bar", "circle", "layered-circle"}) {
+        const auto read = readPlotOptions(words(diffusion + name));
+        EXPECT_EQ(read->graph == DiffusionGraph::Bar, QByteArray(name).endsWith("bar")) << name;
+        EXPECT_EQ(read->layered, QByteArray(name).startsWith("layered")) << name;
+        EXPECT_EQ(read->wordForm, 10);
+    }
+}
+
+TEST(PlotOptions, WhatIsNotUnderstoodIsSaid)
+{
+    // Endings: a file of another ending would be read, and one of the right ending written over.
+    const std::tuple<const char*, const char*, const char*> rows[] = {
+        {"", "", "a command is missing"},
+        {"draw", "", "unknown command 'draw'"},
+        {"blank-map", "", "blank-map needs --output"},
+        {"blank-map", "--output o.png --data d", "blank-map takes no --data"},
+        {"blank-map", "--output o.png extra", "unexpected 'extra'"},
+        {"blank-map", "--output o.png --height 0", "--height is a number above 0, at most 2000"},
+        {"blank-map", "--output o.png --height 2001", "--height is"},
+        {"blank-map", "--output o.png --height tall", "--height is"},
+        {"blank-map", "--output o.png --dpi 2401", "--dpi is a number above 0, at most 2400"},
+        {"blank-map", "--output o.png --colour red", "colour"},
+        {"blank-map", "--output o.gif", "--output must end in .svg, .pdf, .png"},
+        {"symbols", "--output o.png", "--output must end in .pdf"},
+        {"atlas", "--output o.pdf --location above", "--location is one of center, right, left, top, bottom"},
+        {"linguistic-map", "--data a.dbs --symbols a.htL --output o.svg", "--symbols must end in .han"},
+        {"accumulate", "--counts all.bak --characters a.sum --data a.dbs", "--counts must end in .ttl"},
+        {"accumulate", "--counts a.ttl --characters a.txt --data a.dbs", "--characters must end in .sum"},
+        {"accumulate", "--counts a.ttl --characters a.sum --data a.dbs x.han", "--data must end in .dbs"},
+        {"diffusion-map", "--counts c.ttl --graph pie --output o.svg", "--graph is one of bar, layered-bar"},
+        {"symbol-diffusion-map", "--counts c.ttl --symbols s.htl --output o.png --word-form 11",
+         "--word-form is a number above 0, at most 10"},
+        {"symbol-diffusion-map", "--counts c.ttl --symbols a.han --output o.svg",
+         "--symbols must end in .htl"},
+        {"contrast-map", "--counts c.ttl --contrast c.ttl --output o.svg", "--contrast must end in .rnk"},
+    };
+    for (const auto& [command, options, text] : rows) {
+        const QByteArray line = QByteArray(command) + " --installation i --map m " + options;
+        EXPECT_TRUE(usageErrorOf(line).find(text) != std::string::npos) << line.constData() << '\n'
+                                                                        << usageErrorOf(line);
+    }
+}
