@@ -1,7 +1,5 @@
-#include "analysis/CumulativeFile.h"
 #include "analysis/forms/frmCalExec.h"
 #include "analysis/forms/frmCalc.h"
-#include "shell/MapChoice.h"
 #include "tests/support/Controls.h"
 #include "tests/support/ScriptedDialogs.h"
 #include "tests/support/TestDrive.h"
@@ -23,8 +21,9 @@ using Shown = ScriptedDialogs::Shown;
 using Answers = std::deque<bool>;
 
 const QString Analysis = "Analysis of Linguistic Data.";
+const QString Completed = "Analyse of Linguistic Data File is completed.";
+const QString NoNumber = "No. of Specify Data is inadequate.";
 const QString NoName = "Input Name of Aalysis File.";
-const QString Overflow = "Run-time error '6': Overflow";
 const QString OutOfRange = "Run-time error '9': Subscript out of range";
 
 /// Both forms of cumulative analysis on the map of a `TestSurvey`, which has an item and the files of a table
@@ -54,8 +53,10 @@ protected:
     QString text(const char* name) { return control<QLineEdit>(name).text(); }
     void type(const char* name, const char* text) { control<QLineEdit>(name).setText(text); }
     QString listed(const char* list) { return rowsOf(control<QListWidget>(list)).join(", "); }
+    bool shows(const char* text) const { return wasPrinted(exec.surface().drawing(), text); }
 
-    /// Uses a menu entry or button of either form and gives `answers` to what it asks; what was told last.
+    /// Uses a menu entry or button of either form and gives `answers` to what it asks. What was told last: a
+    /// message, a question, or the title of an error.
     QString use(const char* name, const Answers& answers = {})
     {
         dialogs.shown.clear();
@@ -71,15 +72,8 @@ protected:
             entry->trigger();
         }
         EXPECT_EQ(dialogs.yesNo.size(), 0U) << name << " did not ask all that it should";
-        return told();
-    }
-    /// The last message or question, or the title of an error.
-    QString told() const
-    {
-        if (!dialogs.errors.empty()) {
-            return dialogs.errors.back().title;
-        }
-        return dialogs.shown.empty() ? QString() : dialogs.shown.back().text;
+        const auto& told = dialogs.errors.empty() ? dialogs.shown : dialogs.errors;
+        return told.empty() ? "" : dialogs.errors.empty() ? told.back().text : told.back().title;
     }
     QString open(const char* entry, const char* file, const Answers& answers = {})
     {
@@ -96,7 +90,6 @@ protected:
         dialogs.okCancel = {wanted};
         return use("mnuInitialize");
     }
-    bool shows(const char* text) const { return wasPrinted(exec.surface().drawing(), text); }
 
     TestSurvey survey;
     VarnModule& varn = survey.varn;
@@ -113,8 +106,6 @@ protected:
     {
         open("mnuFileOpen", "all.ttl", {true}); // and the strings of the same name
         open("mnuGengoOpen", "rain.dbs");
-        dialogs.shown.clear();
-        calc.Form_Load();
         exec.Form_Load();
     }
 };
@@ -123,13 +114,12 @@ protected:
 
 TEST_F(CalcForms, ANewTableIsSetUpAndSaved)
 {
-    const std::pair<const char*, QString> numbers[] = {
-        {"none", "No. of Specify Data is inadequate."}, {"2", ""}, {"11", OutOfRange}};
+    const std::pair<const char*, QString> numbers[] = {{"none", NoNumber}, {"2", ""}, {"11", OutOfRange}};
     for (const auto& [number, message] : numbers) {
         type("txtTotalNumber", number);
         EXPECT_EQ(use("cmdTotalNumber"), message) << number;
     }
-    EXPECT_EQ(varn.NumWordforms, 2);
+    EXPECT_FALSE(calc.isWindowModified()) << "a number of word forms is nothing to lose";
 
     type("txtTotalName", "one");
     control<QComboBox>("cboForeColor").setCurrentIndex(12);
@@ -159,19 +149,6 @@ TEST_F(CalcForms, ANewTableIsSetUpAndSaved)
     EXPECT_TRUE(saved("all.ttl").startsWith("2,5,")) << "another file is kept";
 }
 
-TEST_F(LoadedCalcForms, TheWordFormChosenIsShownAndBadFilesChangeNothing)
-{
-    control<QListWidget>("lstTotal").setCurrentRow(1);
-    QApplication::processEvents();
-    write("bad.ttl", "2,5,\"\"\n\"one\"\n");
-    EXPECT_EQ(open("mnuFileOpen", "bad.ttl"), "Run-time error '62': Input past end of file");
-    EXPECT_EQ(text("txtTotalName") + ": " + listed("LstWord") + ": " + text("txtInputWord"), "two: u: u");
-    write("empty.dbs", "3,\"\",\"\",\"\"\n0\n0\n0\n");
-    open("mnuGengoOpen", "empty.dbs");
-    EXPECT_EQ(dialogs.shown.back(), (Shown{"Specify Linguistic Data.", "Input Wordform Data."}));
-    EXPECT_EQ(listed("lstDisplay"), "");
-}
-
 TEST_F(LoadedCalcForms, StringsAreEditedFromTheKindsAndSaved)
 {
     const auto after = [this](const char* button) {
@@ -182,21 +159,22 @@ TEST_F(LoadedCalcForms, StringsAreEditedFromTheKindsAndSaved)
     type("txtInputWord", "mu");
     EXPECT_EQ(after("cmdWordSelect"), "a, am, mu: mu");
     EXPECT_EQ(after("cmdWordBefore"), "a, am, mu: am");
-    type("txtInputWord", "");
-    for (const char* button : {"cmdWordSelect", "cmdWordRewrite"}) {
-        EXPECT_EQ(use(button, {false}), "An empty string is found in every answer. Register it?");
-    }
-    type("txtInputWord", "AM");
-    EXPECT_EQ(after("cmdWordRewrite"), "a, AM, mu: AM");
-
     type("txtSetFileName", " ");
     EXPECT_EQ(use("cmdWordSave"), "Input Name of Specify Characters.");
     type("txtSetFileName", "mine");
     EXPECT_EQ(use("cmdWordSave"), "");
-    EXPECT_EQ(saved("mine.sum"), "2\r\n3,\"a\",\"AM\",\"mu\"\r\n1,\"u\"\r\n");
+    EXPECT_EQ(saved("mine.sum"), "2\r\n3,\"a\",\"am\",\"mu\"\r\n1,\"u\"\r\n");
+
     EXPECT_FALSE(calc.isWindowModified());
+    type("txtInputWord", "AM");
+    EXPECT_EQ(after("cmdWordRewrite"), "a, AM, mu: AM");
+    EXPECT_TRUE(calc.isWindowModified());
+    type("txtInputWord", "");
+    EXPECT_EQ(use("cmdWordRewrite", {false}), "An empty string is found in every answer. Register it?");
     use("cmdWordBefore");
-    EXPECT_EQ(after("cmdWordDelete"), "AM, mu: AM");
+    EXPECT_EQ(after("cmdWordDelete"), "AM, mu: AM") << "the next one";
+    use("cmdWordNext");
+    EXPECT_EQ(after("cmdWordDelete"), "AM: AM") << "the last one";
     EXPECT_EQ(after("cmdWordReset"), ": ");
     EXPECT_TRUE(use("cmdWordSave").endsWith("\n1 one (0 strings)"));
     for (int strings = 1; strings <= 11; ++strings) {
@@ -204,18 +182,28 @@ TEST_F(LoadedCalcForms, StringsAreEditedFromTheKindsAndSaved)
         use("cmdWordSelect");
         EXPECT_EQ(use("cmdWordSave").endsWith("\n1 one (11 strings)"), strings == 11) << strings;
     }
+    varn.NumSpecifyChars(1) = 400;
+    EXPECT_EQ(use("cmdWordSelect"), OutOfRange);
+    EXPECT_EQ(varn.NumSpecifyChars(1), 400);
+
+    control<QListWidget>("lstTotal").setCurrentRow(1);
+    QApplication::processEvents();
+    EXPECT_EQ(text("txtTotalName") + ": " + listed("LstWord") + ": " + text("txtInputWord"), "two: u: u");
+    write("empty.dbs", "3,\"\",\"\",\"\"\n0\n0\n0\n");
+    open("mnuGengoOpen", "empty.dbs");
+    EXPECT_EQ(dialogs.shown.back(), (Shown{"Specify Linguistic Data.", "Input Wordform Data."}));
+    EXPECT_EQ(listed("lstDisplay"), "");
 }
 
 TEST_F(LoadedCalcForms, OnlyUnsavedWorkIsAskedAbout)
 {
     EXPECT_TRUE(calc.close());
-    EXPECT_EQ(told(), "");
     type("txtTotalName", "changed");
     use("cmdNext", {false});
     EXPECT_EQ(text("txtTotalName"), "changed");
     use("cmdSet");
     use("cmdWordReset");
-    for (const auto& answers : {Answers{false}, {true, false}}) { // table and strings have their own question
+    for (const auto& answers : {Answers{false}, {true, false}}) { // for the table and for the strings
         dialogs.yesNo = answers;
         EXPECT_FALSE(calc.close());
     }
@@ -229,29 +217,12 @@ TEST_F(LoadedCalcForms, OnlyUnsavedWorkIsAskedAbout)
     EXPECT_EQ(varn.NumWordforms, 2) << "strings of other word forms are not taken unasked";
 }
 
-TEST_F(LoadedCalcForms, InitializingEmptiesTheCountsAndTheFile)
-{
-    initialize(false);
-    EXPECT_EQ(varn.NumItemsAccumulated, 5);
-    initialize(true);
-    EXPECT_EQ(dialogs.shown,
-              std::vector<Shown>(
-                  {{"Initialize Analysis File. All Data will be Lost. O.K.?", "Initialize of Analysis File."},
-                   {"Analysis File is initialized.", "Initialize of Analysis File."}}));
-    EXPECT_EQ(text("txtTotalItems"), "0");
-    EXPECT_EQ(saved("all.ttl"), "2,0,\"the caption\"\r\n\"one\"\r\n12,9\r\n\"kept\",3\r\n\"two\"\r\n0,15\r\n"
-                                "2.5,0\r\n0,0\r\n0,0\r\n0,0\r\n");
-    EXPECT_EQ(varn.NumSpecifyChars(1), 2);
-    type("txtTotalFileName", "");
-    EXPECT_EQ(initialize(true), NoName);
-}
-
 TEST_F(CalcForms, WithoutAnItemOrATableNothingIsCounted)
 {
     use("mnuExecCalc");
     EXPECT_EQ(dialogs.shown.back(), (Shown{"Specify Linguistic Data.", "Input Wordform Data."}));
     open("mnuGengoOpen", "rain.dbs");
-    EXPECT_EQ(use("mnuExecCalc"), "No. of Specify Data is inadequate.");
+    EXPECT_EQ(use("mnuExecCalc"), NoNumber);
     EXPECT_EQ(use("mnuExecSave"), NoName);
     open("mnuFileOpen", "all.ttl", {false}); // nor the strings of the same name
     EXPECT_TRUE(use("mnuExecCalc", {false}).startsWith("No word form has an identifying string"));
@@ -261,30 +232,23 @@ TEST_F(CalcForms, WithoutAnItemOrATableNothingIsCounted)
 TEST_F(LoadedCalcForms, ExecutingCountsTheItemAndSavesTheTable)
 {
     use("mnuDisplay");
-    varn.NLocality = 2;
-    const QString mismatch = "The item has 3 localities, the map has 2.";
-    EXPECT_TRUE(use("mnuExecCalc", {false}).startsWith(mismatch));
-    EXPECT_EQ(varn.NumItemsAccumulated, 5);
-    varn.NLocality = 3;
     use("mnuExecCalc");
-    EXPECT_EQ(dialogs.shown,
-              std::vector<Shown>({{"Analyse of Linguistic Data File is completed.", Analysis}}));
-    const QByteArray counted = saved("all.ttl");
-    EXPECT_TRUE(counted.startsWith("2,6,") && counted.endsWith("\r\n3,2\r\n4,3\r\n5,5\r\n")) << counted.constData();
+    EXPECT_EQ(dialogs.shown, std::vector<Shown>({{Completed, Analysis}}));
+    EXPECT_TRUE(saved("all.ttl").startsWith("2,6,"));
+    EXPECT_TRUE(saved("all.ttl").endsWith("\r\n3,2\r\n4,3\r\n5,5\r\n"));
     EXPECT_TRUE(shows("Item No.6  Characteristis of Words 1 one")) << "the page shows the new counts";
-    EXPECT_TRUE(shows("4"));
-
     varn.Counts(1, 2) = 32767;
     use("mnuExecSave");
     EXPECT_EQ(dialogs.shown.back(), (Shown{"Linguistic Data File is saved.", "Save of Linguistic Data"}));
+
     const QByteArray before = saved("all.ttl");
     const QString again = "rain.dbs is counted in the table already. Count it once more?";
     EXPECT_EQ(use("mnuExecCalc", {false}), again);
-    EXPECT_EQ(use("mnuExecCalc", {true}), Overflow);
+    EXPECT_EQ(use("mnuExecCalc", {true}), "Run-time error '6': Overflow");
+    varn.NLocality = 1;
+    EXPECT_TRUE(use("mnuExecCalc", {false}).startsWith("The item has 3 localities, the map has 1."));
     EXPECT_EQ(saved("all.ttl"), before);
-    varn.Counts(1, 2) = 4;
-    varn.NLocality = 2;
-    EXPECT_EQ(use("mnuExecCalc", {true, true}), "Analyse of Linguistic Data File is completed.");
+    EXPECT_EQ(use("mnuExecCalc", {true, true}), Completed);
 }
 
 TEST_F(LoadedCalcForms, AllItemsOfAFolderAreCountedUntilStop)
@@ -293,8 +257,7 @@ TEST_F(LoadedCalcForms, AllItemsOfAFolderAreCountedUntilStop)
     write("snow.srt", "no kinds");
     write("bad.dbs", "no item");
     write("far.dbs", "1,\"\",\"\",\"\"\n1\n\"am\"\n");
-    EXPECT_EQ(executeAll(), "Analyse of Linguistic Data File is completed.\n2 of 4 items were counted.\n\n"
-                            "Not counted:\nbad.dbs\nfar.dbs");
+    EXPECT_EQ(executeAll(), Completed + "\n2 of 4 items were counted.\n\nNot counted:\nbad.dbs\nfar.dbs");
     EXPECT_EQ(dialogs.shown.back().title, Analysis);
     EXPECT_TRUE(shows("bad.dbs:")) << "why is told on the page";
     EXPECT_TRUE(shows("    The item has 1 localities, the map has 3."));
@@ -318,7 +281,7 @@ TEST_F(LoadedCalcForms, AllItemsOfAFolderAreCountedUntilStop)
     EXPECT_EQ(varn.NumItemsAccumulated, 9);
 }
 
-TEST_F(LoadedCalcForms, FewerWordFormsAreAskedAbout)
+TEST_F(LoadedCalcForms, TheTableIsCutAndEmptiedOnlyIfWanted)
 {
     for (const bool wanted : {false, true}) {
         type("txtTotalNumber", "1");
@@ -329,9 +292,19 @@ TEST_F(LoadedCalcForms, FewerWordFormsAreAskedAbout)
         type("txtTotalNumber", number);
         EXPECT_EQ(use("cmdTotalNumber"), "") << "there is nothing to lose";
     }
-    EXPECT_EQ(listed("lstTotal"), "1 one, 2 ");
+    initialize(false);
+    EXPECT_EQ(varn.NumItemsAccumulated, 5);
     EXPECT_EQ(varn.Counts(1, 3), 5) << "what the table has stays";
-    EXPECT_EQ(varn.WordformPaintColor(1), 9);
+    initialize(true);
+    const QString title = "Initialize of Analysis File.";
+    const Shown question = {"Initialize Analysis File. All Data will be Lost. O.K.?", title};
+    EXPECT_EQ(dialogs.shown, std::vector<Shown>({question, {"Analysis File is initialized.", title}}));
+    EXPECT_EQ(text("txtTotalItems"), "0");
+    EXPECT_EQ(saved("all.ttl"), "2,0,\"the caption\"\r\n\"one\"\r\n12,9\r\n\"kept\",3\r\n\"\"\r\n9,9\r\n"
+                                "0,0\r\n0,0\r\n0,0\r\n0,0\r\n");
+    EXPECT_EQ(varn.NumSpecifyChars(1), 2);
+    type("txtTotalFileName", "");
+    EXPECT_EQ(initialize(true), NoName);
 }
 
 TEST_F(LoadedCalcForms, AnotherTableDoesNotCountByTheOldStringsUnasked)
@@ -349,13 +322,10 @@ TEST_F(LoadedCalcForms, AnotherTableDoesNotCountByTheOldStringsUnasked)
     write("new.sum", "1\n1,\"x\"\n");
     open("mnuFileOpen", "all.ttl", {true});
     EXPECT_EQ(text("txtSetFileName"), "all");
-    type("txtInputWord", "z");
     use("cmdWordSelect");
     open("mnuFileOpen", "new.ttl", {true, false, true}); // the file of one word form would drop the other
-    const QString own =
-        "Open new.sum, the identifying strings of the same name? Those that are there are not "
-        "saved.";
-    EXPECT_EQ(dialogs.shown.end()[-3].text, own);
+    EXPECT_TRUE(dialogs.shown.end()[-3].text.startsWith("Open new.sum, the identifying strings"));
+    EXPECT_TRUE(dialogs.shown.end()[-3].text.endsWith("are not saved."));
     EXPECT_TRUE(dialogs.shown.end()[-2].text.contains("2 two."));
     EXPECT_EQ(varn.NumSpecifyChars(1), 3);
 }
@@ -369,8 +339,7 @@ TEST_F(LoadedCalcForms, EveryChangeOfTheCountsOutdatesTheContrast)
         {"no items", [this] { initialize(true); }},
         {"a number", [this] { use("cmdTotalNumber"); }},
         {"strings", [this] { open("mnuSetFileLoad", "three.sum", {true}); }},
-        {"a table", [this] { open("mnuFileOpen", "all.ttl", {true}); }},
-        {"a map", [this] { applyMapChoice(currentMapChoice(varn), varn); }}};
+        {"a table", [this] { open("mnuFileOpen", "all.ttl", {true}); }}};
     for (const auto& [name, change] : changes) {
         varn.ContrastAnalysed = true;
         change();
@@ -406,8 +375,7 @@ TEST_F(LoadedCalcForms, StatisticsAreShownSavedAndOpened)
     use("mnuStatsDisplayAll");
     EXPECT_TRUE(shows("Kt=2 two"));
     use("mnuStatsSave");
-    const QByteArray file = saved("all.stt");
-    EXPECT_TRUE(file.startsWith("2,5\r\n1\r\n4,1,3,2\r\n3,0\r\n3,1\r\n"));
+    EXPECT_TRUE(saved("all.stt").startsWith("2,5\r\n1\r\n4,1,3,2\r\n3,0\r\n3,1\r\n"));
     EXPECT_EQ(varn.StatsFileName, ling("all.stt"));
     varn.TotalFileName.clear();
     EXPECT_EQ(use("mnuStatsSave"), NoName);

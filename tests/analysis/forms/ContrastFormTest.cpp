@@ -81,7 +81,7 @@ protected:
 
 } // namespace
 
-TEST(ContrastEditor, ASideHasEachWordFormOnceAndTenAtMost)
+TEST(ContrastEditor, ASideHasTenWordFormsAtMost)
 {
     CumulativeTable table;
     fillTable(table, 10);
@@ -90,17 +90,13 @@ TEST(ContrastEditor, ASideHasEachWordFormOnceAndTenAtMost)
     for (int k = 10; k >= 1; --k) {
         EXPECT_EQ(editor.addWordform(2, k), AddResult::Added);
     }
-    EXPECT_EQ(editor.addWordform(2, 3), AddResult::Present);
-    EXPECT_EQ(editor.addWordform(1, 3), AddResult::Added);
     contrast.ContrastWord(2, 4) = 1; // as a file may have it
     EXPECT_EQ(editor.addWordform(2, 7), AddResult::Full);
     editor.removeWordform(2, 1);
     EXPECT_EQ(editor.wordforms(2).join(' '), "w9 w8 w7 w6 w5 w4 w3 w2 w1");
     EXPECT_EQ(contrast.ContrastWord(2, 9), 1);
-    for (const auto& outside : {std::function([&] { editor.addWordform(1, 11); }),
-                                std::function([&] { editor.removeWordform(2, 10); })}) {
-        EXPECT_EQ(errorOf(outside).number(), ErrorNumber::SubscriptOutOfRange);
-    }
+    EXPECT_EQ(errorOf([&] { editor.addWordform(1, 11); }).number(), ErrorNumber::SubscriptOutOfRange);
+    EXPECT_EQ(errorOf([&] { editor.removeWordform(2, 10); }).number(), ErrorNumber::SubscriptOutOfRange);
 }
 
 TEST(ContrastEditor, SumsAreOutdatedByEditsAndByOtherCounts)
@@ -111,19 +107,19 @@ TEST(ContrastEditor, SumsAreOutdatedByEditsAndByOtherCounts)
     ContrastEditor editor(table, contrast);
     editor.addWordform(1, 1);
     editor.addWordform(2, 2);
-    const std::pair<const char*, std::function<void()>> changes[] = {
-        {"nothing", [] {}},
-        {"one more", [&] { editor.addWordform(1, 3); }},
-        {"one less", [&] { editor.removeWordform(1, 2); }},
-        {"a count", [&] { table.Counts(2, 3) = 0; }},
-        {"a word form that is gone", [&] { table.NumWordforms = 1; }}};
-    for (const auto& [name, change] : changes) {
+    const std::pair<bool, std::function<void()>> changes[] = {{false, [&] { editor.addWordform(1, 3); }},
+                                                              {false, [&] { editor.removeWordform(1, 2); }},
+                                                              {true, [&] { table.Counts(2, 3) = 0; }},
+                                                              {true, [&] { table.NumWordforms = 1; }}};
+    for (const auto& [ofTable, change] : changes) {
         analyseContrast(table, 3, contrast);
-        change();
-        const bool edited = !contrast.ContrastAnalysed;
         editor.followTable(3);
-        EXPECT_EQ(contrast.ContrastAnalysed, name == std::string("nothing")) << name;
-        EXPECT_EQ(edited, QByteArray(name).startsWith("one")) << name;
+        EXPECT_TRUE(contrast.ContrastAnalysed);
+        change();
+        if (ofTable) {
+            editor.followTable(3);
+        }
+        EXPECT_FALSE(contrast.ContrastAnalysed) << table.NumWordforms << ' ' << table.Counts(2, 3);
     }
 }
 
@@ -136,25 +132,23 @@ TEST(ContrastEditor, BoxesBecomeTheSharedValues)
     boxes.fillColor(1) = 0;
     ContrastData contrast;
     SetRankData(boxes, contrast);
+    boxes.size = "32768";
+    boxes.title.clear();
+    EXPECT_EQ(errorOf([&] { SetRankData(boxes, contrast); }).number(), ErrorNumber::Overflow);
     SequentialWriter file;
     writeContrast(file, contrast);
     EXPECT_EQ(file.bytes(), "\"t\",6,100\r\n0\r\n12,0\r\n0\r\n9,9\r\n");
     EXPECT_EQ(boxes.setColor(1), 12) << "the empty box is filled";
 
-    boxes.size = "32768";
-    boxes.title.clear();
-    EXPECT_EQ(errorOf([&] { SetRankData(boxes, contrast); }).number(), ErrorNumber::Overflow);
-    EXPECT_EQ(contrast.ContrastTitle, "t");
-
-    for (const double steps : {0.1, 0.0, 6.3, 1e17, 7.0}) {
+    const std::tuple<double, qint16, int> rows[] = {
+        {0.1, -1, -1}, {0.0, 0, 0}, {6.3, 15, 15}, {1e17, 16, -1}, {7.0, 1, 1}};
+    for (const auto& [steps, color, box] : rows) {
         contrast.ContrastSteps = steps;
+        contrast.ContrastSymbolColor(2) = color;
         boxes = boxesOf(contrast);
+        EXPECT_EQ(boxes.setColor(2), box);
         SetRankData(boxes, contrast);
         EXPECT_EQ(contrast.ContrastSteps, steps);
-    }
-    for (const auto& [number, box] : {std::pair(-1, -1), {0, 0}, {15, 15}, {16, -1}}) {
-        contrast.ContrastSymbolColor(2) = static_cast<qint16>(number);
-        EXPECT_EQ(boxesOf(contrast).setColor(2), box);
     }
 }
 
@@ -168,33 +162,27 @@ TEST(ContrastPages, LocalitiesFillColumnsAndPages)
     for (int j = 1; j <= 1000; ++j) {
         survey.varn.ContrastSum(0, j) = static_cast<qint16>(-j - 2000);
     }
-    DrawSurface page;
-    ContrastPages(survey.varn, "west").draw(9, page);
-    EXPECT_TRUE(wasPrinted(page.drawing(), "Contrast Analysis File Name west"));
-    EXPECT_FALSE(wasPrinted(page.drawing(), "-2960"));
-    const QPointF first = printedAt(page.drawing(), "-2961");
-    const QPointF last = printedAt(page.drawing(), "-3000");
-    EXPECT_NEAR(first.x(), last.x(), 1) << "the forty of the last page are one column";
-    EXPECT_LT(last.y() + page.TextHeight() / 2, ContrastPages::area().height()) << "in whatever font";
-
-    page.Cls();
     survey.varn.ContrastSum(1, 41) = 417;
     survey.varn.ContrastSum(2, 41) = 418;
-    ContrastPages(survey.varn, QString(300, 'm')).draw(1, page);
-    const std::pair<const char*, double> ends[] = {
-        {"Loc.", 480},        {"Diff.", 3000},      {"-2001", 3000},        {"41", 3480 + 480},
-        {"417", 3480 + 1320}, {"418", 3480 + 2160}, {"-2041", 3480 + 3000}, {"-2081", 2 * 3480 + 3000}};
-    for (const auto& [text, end] : ends) {
-        const QPointF place = printedAt(page.drawing(), text);
-        EXPECT_NEAR(place.x() + page.TextWidth(text), end, 1) << text;
-        EXPECT_NEAR(place.y(), QByteArray(text).endsWith('.') ? 900 : 1180, 1) << text;
-    }
-    for (const TextOperation& text : operationsOf<TextOperation>(page.drawing())) {
-        EXPECT_LE(text.x + page.TextWidth(page.drawing().texts[text.text]), ContrastPages::area().width());
+    const std::tuple<int, const char*, double, double> places[] = {
+        {1, "Loc.", 480, 900},           {1, "Diff.", 3000, 900},       {1, "-2001", 3000, 1180},
+        {1, "41", 3480 + 480, 1180},     {1, "417", 3480 + 1320, 1180}, {1, "418", 3480 + 2160, 1180},
+        {1, "-2041", 3480 + 3000, 1180}, {1, "-2081", 9960, 1180},      {9, "-2961", 3000, 1180},
+        {9, "-3000", 3000, 10540}};
+    for (const auto& [number, text, end, y] : places) {
+        DrawSurface page;
+        ContrastPages(survey.varn, QString(300, 'm')).draw(number, page);
+        EXPECT_NEAR(printedAt(page.drawing(), text).x() + page.TextWidth(text), end, 1) << text;
+        EXPECT_NEAR(printedAt(page.drawing(), text).y(), y, 1) << text;
+        for (const TextOperation& any : operationsOf<TextOperation>(page.drawing())) {
+            EXPECT_LE(any.x + page.TextWidth(page.drawing().texts[any.text]), ContrastPages::area().width());
+        }
+        EXPECT_EQ(wasPrinted(page.drawing(), "-2120"), number == 1);
+        EXPECT_FALSE(wasPrinted(page.drawing(), "-2960")) << "it is on page 8";
     }
 }
 
-TEST_F(RankData, GroupsAreBuiltAndAnalysed)
+TEST_F(RankData, GroupsAreBuiltAnalysedAndShown)
 {
     EXPECT_FALSE(control<QPushButton>("cmdCalc").isEnabled());
     take(4, "cmdData1");
@@ -207,16 +195,23 @@ TEST_F(RankData, GroupsAreBuiltAndAnalysed)
     EXPECT_EQ(listed("lstData1") + listed("lstData2"), QStringList({"w4", "w1"}));
     EXPECT_FALSE(canDraw());
 
+    varn.NLocality = 130;
     type("txtStep", "3");
     click("cmdCalc");
     EXPECT_EQ(dialogs.shown.back().text, Finished);
     EXPECT_EQ(varn.ContrastSum(0, 3), 12 - 3);
     EXPECT_EQ(varn.ContrastSteps, 4);
     EXPECT_EQ(color("txtSetColor1"), 12) << "the default is shown";
-    EXPECT_TRUE(canDraw());
+    EXPECT_TRUE(canDraw() && !menu("mnuDisplayNext").isEnabled());
+    for (const char* entry : {"mnuDisplayRank", "mnuDisplayNext", "mnuDisplayPrevious"}) {
+        menu(entry).trigger();
+        const bool isLast = entry == std::string("mnuDisplayNext");
+        EXPECT_EQ(menu("mnuDisplayNext").isEnabled(), !isLast) << entry;
+        EXPECT_EQ(menu("mnuDisplayPrevious").isEnabled(), isLast) << entry;
+    }
     int drawn = 0;
     QObject::connect(&form, &frmRankData::toDrawMap, &form, [&drawn] { ++drawn; });
-    for (const char* size : {"77", "40000"}) {
+    for (const char* size : {"40000", "77"}) {
         type("txtSize", size);
         menu("mnuRankMap").trigger();
     }
@@ -225,8 +220,9 @@ TEST_F(RankData, GroupsAreBuiltAndAnalysed)
     ASSERT_EQ(dialogs.errors.size(), 1U);
     EXPECT_EQ(dialogs.errors[0].title, "Run-time error '6': Overflow");
 
-    type("txtSize", "77");
-    varn.Counts(3, 2) = 32767;
+    varn.Counts(4, 2) = 32767; // another form accumulated an item
+    form.Form_Load();
+    EXPECT_FALSE(canDraw() || menu("mnuDisplayNext").isEnabled());
     take(3, "cmdData1");
     dialogs.shown.clear();
     click("cmdCalc");
@@ -240,8 +236,6 @@ TEST_F(RankData, AContrastIsSavedAndReadBack)
     take(3, "cmdData2");
     take(2, "cmdData2");
     type("txtRankTitle", "one, \"two\"");
-    type("txtStep", "6");
-    type("txtSize", "150");
     control<QComboBox>("txtFillColor2").setCurrentIndex(1);
     type("txtRankFileName", "mine.RNK");
     EXPECT_TRUE(form.isWindowModified());
@@ -254,12 +248,9 @@ TEST_F(RankData, AContrastIsSavedAndReadBack)
     EXPECT_EQ(survey.read(file), saved);
 
     type("txtRankTitle", "another");
-    for (const bool overwrite : {false, true}) {
-        dialogs.yesNo = {overwrite};
-        menu("mnuRankSave").trigger();
-        EXPECT_EQ(survey.read(file) == saved, !overwrite);
-    }
-    survey.write(file, saved);
+    dialogs.yesNo = {false};
+    menu("mnuRankSave").trigger();
+    EXPECT_EQ(survey.read(file), saved) << "it is not replaced unasked";
     click("cmdDel1");
     for (const bool giveUp : {false, true}) {
         dialogs.yesNo = {giveUp};
@@ -279,43 +270,18 @@ TEST_F(RankData, AContrastIsSavedAndReadBack)
 TEST_F(RankData, AFileOfOtherWordFormsIsNotTakenUnseen)
 {
     survey.write(Folder + "five.rnk", "\"f\",1,1\n1\n1,1\n\"w5\",5\n0\n1,1\n");
-    survey.write(Folder + "short.rnk", "\"f\",1,1\n2\n1,1\n\"w1\",1\n");
     survey.write(Folder + "name.rnk", "\"f\",1,1\n1\n1,1\n\"old\",2\n0\n1,1\n");
     take(1, "cmdData1");
-    const std::tuple<const char*, std::deque<bool>, const char*> rows[] = {{"five.rnk", {true}, "w1"},
-                                                                           {"short.rnk", {true}, "w1"},
-                                                                           {"name.rnk", {true, false}, "w1"},
-                                                                           {"name.rnk", {true, true}, "w2"}};
-    for (const auto& [file, answers, wordform] : rows) {
+    const std::tuple<const char*, std::deque<bool>, bool> rows[] = {
+        {"five.rnk", {true}, false}, {"name.rnk", {true, false}, false}, {"name.rnk", {true, true}, true}};
+    for (const auto& [file, answers, taken] : rows) {
         dialogs.yesNo = answers;
-        dialogs.errors.clear();
         open(file);
-        EXPECT_EQ(dialogs.errors.size(), answers.size() == 1 ? 1U : 0U) << file;
-        EXPECT_TRUE(dialogs.errors.empty() || dialogs.errors[0].text.contains(file)) << file;
-        EXPECT_EQ(listed("lstData1"), QStringList(wordform)) << file;
-        EXPECT_EQ(text("txtRankFileName").isEmpty(), listed("lstData1") == QStringList("w1")) << file;
+        EXPECT_EQ(listed("lstData1"), QStringList(taken ? "w2" : "w1")) << file;
+        EXPECT_EQ(text("txtRankFileName"), taken ? "name" : "") << file;
     }
+    ASSERT_EQ(dialogs.errors.size(), 1U);
+    EXPECT_TRUE(dialogs.errors[0].text.contains("five.rnk"));
     EXPECT_TRUE(dialogs.shown.back().text.contains("\"old\" in the file and \"w2\""));
-}
-
-TEST_F(RankData, TheResultTableIsPagedAndHiddenWhenOutdated)
-{
-    varn.NLocality = 130;
-    take(1, "cmdData1");
-    click("cmdCalc");
-    const auto ways = [this] {
-        return std::pair(menu("mnuDisplayPrevious").isEnabled(), menu("mnuDisplayNext").isEnabled());
-    };
-    EXPECT_EQ(ways(), std::pair(false, false));
-    const std::tuple<const char*, bool, bool> steps[] = {{"mnuDisplayRank", false, true},
-                                                         {"mnuDisplayNext", true, false},
-                                                         {"mnuDisplayPrevious", false, true}};
-    for (const auto& [entry, previous, next] : steps) {
-        menu(entry).trigger();
-        EXPECT_EQ(ways(), std::pair(previous, next)) << entry;
-    }
-    varn.Counts(1, 1) = 9; // another form accumulated an item
-    form.Form_Load();
-    EXPECT_FALSE(canDraw());
-    EXPECT_EQ(ways(), std::pair(false, false));
+    EXPECT_TRUE(form.isWindowModified()) << "the file has another name";
 }
