@@ -168,6 +168,7 @@ TEST(ContrastPages, LocalitiesFillColumnsAndPages)
         for (const TextOperation& any : operationsOf<TextOperation>(page.drawing())) {
             EXPECT_LE(any.x + page.TextWidth(page.drawing().texts[any.text]), ContrastPages::area().width());
         }
+        EXPECT_TRUE(page.drawing().texts.at(0).startsWith("Contrast Analysis File Name mmm"));
         EXPECT_EQ(wasPrinted(page.drawing(), "-2120"), number == 1);
         EXPECT_FALSE(wasPrinted(page.drawing(), "-2960")) << "it is on page 8";
     }
