@@ -1,7 +1,5 @@
-#include "analysis/CumulativeFile.h"
 #include "analysis/forms/frmCalExec.h"
 #include "analysis/forms/frmCalc.h"
-#include "shell/MapChoice.h"
 #include "tests/support/Controls.h"
 #include "tests/support/ScriptedDialogs.h"
 #include "tests/support/TestDrive.h"
@@ -9,20 +7,22 @@
 #include <QAction>
 #include <QApplication>
 #include <QComboBox>
-#include <QDir>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QProgressDialog>
 #include <QPushButton>
 #include <QTimer>
 
-#include <functional>
-
 namespace {
 
 using Shown = ScriptedDialogs::Shown;
+using Answers = std::deque<bool>;
 
-const QString Analysis = QStringLiteral("Analysis of Linguistic Data.");
+const QString Analysis = "Analysis of Linguistic Data.";
+const QString Completed = "Analyse of Linguistic Data File is completed.";
+const QString NoNumber = "No. of Specify Data is inadequate.";
+const QString NoName = "Input Name of Aalysis File.";
+const QString OutOfRange = "Run-time error '9': Subscript out of range";
 
 /// Both forms of cumulative analysis on the map of a `TestSurvey`, which has an item and the files of a table
 /// of two word forms.
@@ -31,20 +31,17 @@ class CalcForms : public testing::Test
 protected:
     CalcForms()
     {
-        survey.write(ling("rain.dbs"),
-                     "3,\"\",\"Rain\",\"\"\r\n2\r\n\"ame\"\r\n\"uyu\"\r\n1\r\n\"a mu\"\r\n1\r\n\"uyu\"\r\n");
-        survey.write(ling("all.ttl"),
-                     "2,5,\"the caption\"\r\n\"one\"\r\n12,9\r\n\"kept\",3\r\n\"two\"\r\n0,15\r\n2.5,0\r\n"
-                     "1,2\r\n3,2\r\n5,4\r\n");
-        survey.write(ling("all.sum"), "2\r\n2,\"a\",\"am\"\r\n1,\"u\"\r\n");
+        write("rain.dbs", "3,\"\",\"Rain\",\"\"\n2\n\"ame\"\n\"uyu\"\n1\n\"a mu\"\n1\n\"uyu\"\n");
+        write("all.ttl", "2,5,\"the caption\"\n\"one\"\n12,9\n\"kept\",3\n\"two\"\n0,15\n2.5,0\n"
+                         "1,2\n3,2\n5,4\n");
+        write("all.sum", "2\n2,\"a\",\"am\"\n1,\"u\"\n");
         calc.Form_Load();
         exec.Form_Load();
     }
 
-    static QString ling(const char* file)
-    {
-        return QStringLiteral("C:\\Varn62E\\Varn\\VarnData\\Test\\Ling\\") + QLatin1String(file);
-    }
+    static QString ling(const QString& file) { return "C:\\Varn62E\\Varn\\VarnData\\Test\\Ling\\" + file; }
+    void write(const char* file, const QByteArray& text) const { survey.write(ling(file), text); }
+    QByteArray saved(const char* file) const { return survey.read(ling(file)); }
 
     template <typename Control>
     Control& control(const char* name)
@@ -52,39 +49,48 @@ protected:
         return child<Control>(calc, name);
     }
     QString text(const char* name) { return control<QLineEdit>(name).text(); }
-    void type(const char* name, const char* text) { control<QLineEdit>(name).setText(QLatin1String(text)); }
-    void click(const char* name)
+    void type(const char* name, const char* text) { control<QLineEdit>(name).setText(text); }
+    QString listed(const char* list) { return rowsOf(control<QListWidget>(list)).join(", "); }
+    bool shows(const char* text) const { return wasPrinted(exec.surface().drawing(), text); }
+
+    /// Uses a menu entry or button of either form and gives `answers` to what it asks. What was told last: a
+    /// message, a question, or the title of an error. The contrast is analysed before.
+    QString use(const char* name, const Answers& answers = {})
     {
-        auto& button = control<QPushButton>(name);
-        ASSERT_TRUE(button.isEnabled()) << name;
-        button.click();
+        dialogs.shown.clear();
+        dialogs.errors.clear();
+        dialogs.yesNo = answers;
+        varn.ContrastAnalysed = true;
+        if (auto* button = calc.findChild<QPushButton*>(name)) {
+            EXPECT_TRUE(button->isEnabled()) << name;
+            button->click();
+        } else {
+            auto* entry = calc.findChild<QAction*>(name);
+            entry = entry != nullptr ? entry : &child<QAction>(exec, name);
+            EXPECT_TRUE(entry->isEnabled()) << name;
+            entry->trigger();
+        }
+        EXPECT_EQ(dialogs.yesNo.size(), 0U) << name << " did not ask all that it should";
+        if (!dialogs.errors.empty()) {
+            return dialogs.errors.back().title;
+        }
+        return dialogs.shown.empty() ? QString() : dialogs.shown.back().text;
     }
-    void set(const char* entry) { control<QAction>(entry).trigger(); }
-    void execute(const char* entry)
-    {
-        auto& action = child<QAction>(exec, entry);
-        ASSERT_TRUE(action.isEnabled()) << entry;
-        action.trigger();
-    }
-    void open(const char* entry, const char* file)
+    QString open(const char* entry, const char* file, const Answers& answers = {})
     {
         dialogs.files = {survey.drive().hostPath(ling(file))};
-        set(entry);
+        return use(entry, answers);
     }
-    void openAll()
+    QString executeAll(const Answers& answers = {})
     {
-        dialogs.yesNo = {true}; // the strings of the same name
-        open("mnuFileOpen", "all.ttl");
-        open("mnuGengoOpen", "rain.dbs");
-        dialogs.shown.clear();
-        calc.Form_Load();
-        exec.Form_Load();
+        dialogs.folders = {survey.drive().hostPath(ling("rain.dbs")).chopped(9)};
+        return use("mnuExecAll", answers);
     }
-    QStringList listed(const char* list) { return rowsOf(control<QListWidget>(list)); }
-    /// The last message; its title is not part of what is fixed.
-    QString lastMessage() { return dialogs.shown.empty() ? QString() : dialogs.shown.back().text; }
-    const Drawing& drawing() const { return exec.surface().drawing(); }
-    bool header(const char* text) const { return wasPrinted(drawing(), QLatin1String(text)); }
+    QString initialize(bool wanted)
+    {
+        dialogs.okCancel = {wanted};
+        return use("mnuInitialize");
+    }
 
     TestSurvey survey;
     VarnModule& varn = survey.varn;
@@ -97,433 +103,287 @@ protected:
 class LoadedCalcForms : public CalcForms
 {
 protected:
-    LoadedCalcForms() { openAll(); }
+    LoadedCalcForms()
+    {
+        open("mnuFileOpen", "all.ttl", {true}); // and the strings of the same name
+        open("mnuGengoOpen", "rain.dbs");
+        exec.Form_Load();
+    }
 };
 
 } // namespace
 
-TEST_F(CalcForms, ANewTableIsSetUpAndSavedAndReadAgain)
+TEST_F(CalcForms, ANewTableIsSetUpAndSaved)
 {
-    for (const char* number : {"", "none", "0"}) {
+    const std::pair<const char*, QString> numbers[] = {{"none", NoNumber}, {"2", ""}, {"11", OutOfRange}};
+    for (const auto& [number, message] : numbers) {
         type("txtTotalNumber", number);
-        click("cmdTotalNumber");
-        EXPECT_EQ(lastMessage(), QStringLiteral("No. of Specify Data is inadequate.")) << number;
-        dialogs.shown.clear();
+        EXPECT_EQ(use("cmdTotalNumber"), message) << number;
     }
-    type("txtTotalNumber", "2");
-    click("cmdTotalNumber");
-    type("txtTotalNumber", "11");
-    click("cmdTotalNumber");
-    ASSERT_EQ(dialogs.errors.size(), 1U);
-    EXPECT_EQ(dialogs.errors[0].title, QStringLiteral("Run-time error '9': Subscript out of range"));
-    EXPECT_EQ(varn.NumWordforms, 2);
+    EXPECT_FALSE(calc.isWindowModified()) << "a number of word forms is nothing to lose";
 
     type("txtTotalName", "one");
     control<QComboBox>("cboForeColor").setCurrentIndex(12);
     control<QComboBox>("cboFillColor").setCurrentIndex(9);
-    click("cmdSet");
-    click("cmdNext");
+    use("cmdSet");
+    EXPECT_EQ(use("cmdNext"), "") << "registered fields are left without a question";
     type("txtTotalName", "two");
-    click("cmdSet");
-    EXPECT_EQ(listed("lstTotal"), QStringList({QStringLiteral("1 one"), QStringLiteral("2 two")}));
+    use("cmdSet");
+    EXPECT_EQ(listed("lstTotal"), "1 one, 2 two");
     EXPECT_FALSE(control<QPushButton>("cmdNext").isEnabled());
-    EXPECT_EQ(dialogs.shown, std::vector<Shown>()) << "registered fields are left without a question";
 
     type("txtExplain", "a caption");
-    set("mnuFileSave");
-    EXPECT_EQ(lastMessage(), QStringLiteral("Input Name of Aalysis File."));
-    type("txtTotalFileName", "..\\out");
-    click("cmdTotalFileSave");
-    EXPECT_EQ(dialogs.errors.size(), 2U) << "the name of no file";
-    type("txtTotalFileName", "new.ttl");
     type("txtTotalItems", "7");
-    click("cmdSetInput");
-    EXPECT_TRUE(calc.isWindowModified());
-    click("cmdTotalFileSave");
+    use("cmdSetInput");
+    const std::pair<const char*, QString> names[] = {
+        {"", NoName}, {"..\\out", "Run-time error '52': Bad file name or number"}, {"new.ttl", ""}};
+    for (const auto& [name, message] : names) {
+        EXPECT_TRUE(calc.isWindowModified());
+        type("txtTotalFileName", name);
+        EXPECT_EQ(use("cmdTotalFileSave"), message) << name;
+    }
     EXPECT_FALSE(calc.isWindowModified());
-    EXPECT_EQ(
-        survey.read(ling("new.ttl")),
-        "2,7,\"a caption\"\r\n\"one\"\r\n12,9\r\n0,0\r\n\"two\"\r\n9,9\r\n0,0\r\n0,0\r\n0,0\r\n0,0\r\n");
-
+    EXPECT_EQ(saved("new.ttl"), "2,7,\"a caption\"\r\n\"one\"\r\n12,9\r\n0,0\r\n\"two\"\r\n9,9\r\n0,0\r\n"
+                                "0,0\r\n0,0\r\n0,0\r\n");
     type("txtTotalFileName", "all");
-    dialogs.yesNo = {false};
-    set("mnuFileSave");
-    EXPECT_TRUE(survey.read(ling("all.ttl")).startsWith("2,5,")) << "another file is kept";
-}
-
-TEST_F(LoadedCalcForms, TablesStringsAndItemAreShown)
-{
-    control<QListWidget>("lstTotal").setCurrentRow(1);
-    QApplication::processEvents();
-    EXPECT_EQ(text("txtTotalName"), QStringLiteral("two"));
-    EXPECT_EQ(listed("LstWord"), QStringList(QStringLiteral("u")));
-    EXPECT_EQ(text("txtInputWord"), QStringLiteral("u"));
-
-    survey.write(ling("bad.ttl"), "2,5,\"\"\r\n\"one\"\r\n");
-    open("mnuFileOpen", "bad.ttl");
-    EXPECT_EQ(dialogs.errors.size(), 1U);
-    EXPECT_EQ(text("txtTotalName"), QStringLiteral("two")) << "the table is as it was";
-    survey.write(ling("empty.dbs"), "3,\"\",\"\",\"\"\r\n0\r\n0\r\n0\r\n");
-    open("mnuGengoOpen", "empty.dbs");
-    EXPECT_EQ(dialogs.shown.back(),
-              (Shown{QStringLiteral("Specify Linguistic Data."), QStringLiteral("Input Wordform Data.")}));
-    EXPECT_EQ(listed("lstDisplay"), QStringList());
+    use("mnuFileSave", {false});
+    EXPECT_TRUE(saved("all.ttl").startsWith("2,5,")) << "another file is kept";
 }
 
 TEST_F(LoadedCalcForms, StringsAreEditedFromTheKindsAndSaved)
 {
-    click("cmdSetWord");
-    EXPECT_EQ(text("txtInputWord"), QStringLiteral("a mu")) << "the text after the first blank";
+    const auto after = [this](const char* button) {
+        use(button);
+        return listed("LstWord") + ": " + text("txtInputWord");
+    };
+    EXPECT_EQ(after("cmdSetWord"), "a, am: a mu") << "the text after the first blank";
     type("txtInputWord", "mu");
-    click("cmdWordSelect");
-    click("cmdWordBefore");
-    EXPECT_EQ(text("txtInputWord"), QStringLiteral("am"));
-    type("txtInputWord", "AM");
-    click("cmdWordRewrite");
-    EXPECT_EQ(listed("LstWord"),
-              QStringList({QStringLiteral("a"), QStringLiteral("AM"), QStringLiteral("mu")}));
-    type("txtInputWord", "");
-    dialogs.yesNo = {false};
-    click("cmdWordRewrite");
-    EXPECT_EQ(listed("LstWord")[1], QStringLiteral("AM")) << "an empty string is asked about";
-
+    EXPECT_EQ(after("cmdWordSelect"), "a, am, mu: mu");
+    EXPECT_EQ(after("cmdWordBefore"), "a, am, mu: am");
     type("txtSetFileName", " ");
-    click("cmdWordSave");
-    EXPECT_EQ(lastMessage(), QStringLiteral("Input Name of Specify Characters."));
+    EXPECT_EQ(use("cmdWordSave"), "Input Name of Specify Characters.");
     type("txtSetFileName", "mine");
-    click("cmdWordSave");
-    EXPECT_EQ(survey.read(ling("mine.sum")), "2\r\n3,\"a\",\"AM\",\"mu\"\r\n1,\"u\"\r\n");
+    EXPECT_EQ(use("cmdWordSave"), "");
+    EXPECT_EQ(saved("mine.sum"), "2\r\n3,\"a\",\"am\",\"mu\"\r\n1,\"u\"\r\n");
+
     EXPECT_FALSE(calc.isWindowModified());
-    click("cmdWordBefore");
-    click("cmdWordDelete");
-    EXPECT_EQ(listed("LstWord"), QStringList({QStringLiteral("AM"), QStringLiteral("mu")}));
-    EXPECT_EQ(text("txtInputWord"), QStringLiteral("AM"));
-    click("cmdWordReset");
-    EXPECT_EQ(varn.NumSpecifyChars(1), 0);
-    EXPECT_EQ(text("txtInputWord"), QString());
-    const std::size_t before = dialogs.shown.size();
-    click("cmdWordSave");
-    EXPECT_EQ(survey.read(ling("mine.sum")), "2\r\n1,\"u\"\r\n");
-    ASSERT_EQ(dialogs.shown.size(), before + 1);
-    EXPECT_TRUE(lastMessage().contains(QStringLiteral("1 one (0 strings)")));
+    type("txtInputWord", "AM");
+    EXPECT_EQ(after("cmdWordRewrite"), "a, AM, mu: AM");
+    EXPECT_TRUE(calc.isWindowModified());
+    type("txtInputWord", "");
+    EXPECT_EQ(use("cmdWordRewrite", {false}), "An empty string is found in every answer. Register it?");
+    use("cmdWordBefore");
+    EXPECT_EQ(after("cmdWordDelete"), "AM, mu: AM") << "the next one";
+    use("cmdWordNext");
+    EXPECT_EQ(after("cmdWordDelete"), "AM: AM") << "the last one";
+    EXPECT_EQ(after("cmdWordReset"), ": ");
+    EXPECT_TRUE(use("cmdWordSave").endsWith("\n1 one (0 strings)"));
     for (int strings = 1; strings <= 11; ++strings) {
-        click("cmdSetWord");
-        click("cmdWordSelect");
-        dialogs.shown.clear();
-        click("cmdWordSave");
-        EXPECT_EQ(lastMessage().endsWith(QStringLiteral("\n1 one (11 strings)")), strings == 11) << strings;
+        use("cmdSetWord");
+        use("cmdWordSelect");
+        EXPECT_EQ(use("cmdWordSave") == "", strings <= 10) << strings;
     }
+    EXPECT_TRUE(dialogs.shown.back().text.endsWith("\n1 one (11 strings)"));
+    varn.NumSpecifyChars(1) = 400;
+    EXPECT_EQ(use("cmdWordSelect"), OutOfRange);
+    EXPECT_EQ(varn.NumSpecifyChars(1), 400);
+
+    control<QListWidget>("lstTotal").setCurrentRow(1);
+    QApplication::processEvents();
+    EXPECT_EQ(text("txtTotalName") + ": " + listed("LstWord") + ": " + text("txtInputWord"), "two: u: u");
+    write("empty.dbs", "3,\"\",\"\",\"\"\n0\n0\n0\n");
+    open("mnuGengoOpen", "empty.dbs");
+    EXPECT_EQ(dialogs.shown.back(), (Shown{"Specify Linguistic Data.", "Input Wordform Data."}));
+    EXPECT_EQ(listed("lstDisplay"), "");
 }
 
 TEST_F(LoadedCalcForms, OnlyUnsavedWorkIsAskedAbout)
 {
     EXPECT_TRUE(calc.close());
-    EXPECT_EQ(dialogs.shown, std::vector<Shown>());
     type("txtTotalName", "changed");
     dialogs.yesNo = {false};
-    click("cmdNext");
-    EXPECT_EQ(text("txtTotalName"), QStringLiteral("changed"));
-    click("cmdSet");
-    click("cmdWordReset");
-    dialogs.yesNo = {false};
-    EXPECT_FALSE(calc.close());
-    dialogs.yesNo = {true, false};
-    EXPECT_FALSE(calc.close()) << "the strings are asked about by themselves";
-    dialogs.yesNo = {false, false};
-    dialogs.files.clear();
-    set("mnuFileOpen");
-    set("mnuSetFileLoad");
-    EXPECT_EQ(varn.WordformName(1), QStringLiteral("changed"));
-    dialogs.yesNo = {true};
-    open("mnuFileOpen", "all.ttl");
-    EXPECT_EQ(text("txtTotalName"), QStringLiteral("one"));
-
-    survey.write(ling("three.sum"), "3\r\n1,\"a\"\r\n1,\"b\"\r\n1,\"c\"\r\n");
-    dialogs.yesNo = {true, false};
-    open("mnuSetFileLoad", "three.sum");
-    EXPECT_EQ(varn.NumWordforms, 2) << "strings of other word forms are not taken unasked";
-}
-
-TEST_F(LoadedCalcForms, InitializingEmptiesTheCountsAndTheFile)
-{
-    dialogs.okCancel = {false, true, true};
-    set("mnuInitialize");
-    EXPECT_EQ(dialogs.shown,
-              std::vector<Shown>({{QStringLiteral("Initialize Analysis File. All Data will be Lost. O.K.?"),
-                                   QStringLiteral("Initialize of Analysis File.")}}));
-    EXPECT_EQ(varn.NumItemsAccumulated, 5);
-    set("mnuInitialize");
-    EXPECT_EQ(dialogs.shown.back(), (Shown{QStringLiteral("Analysis File is initialized."),
-                                           QStringLiteral("Initialize of Analysis File.")}));
-    EXPECT_EQ(text("txtTotalItems"), QStringLiteral("0"));
-    EXPECT_EQ(survey.read(ling("all.ttl")),
-              "2,0,\"the caption\"\r\n\"one\"\r\n12,9\r\n\"kept\",3\r\n\"two\"\r\n0,15\r\n2.5,0\r\n"
-              "0,0\r\n0,0\r\n0,0\r\n");
-    EXPECT_EQ(varn.NumSpecifyChars(1), 2);
-    type("txtTotalFileName", "");
-    set("mnuInitialize");
-    EXPECT_EQ(lastMessage(), QStringLiteral("Input Name of Aalysis File."));
+    control<QListWidget>("lstTotal").setCurrentRow(1);
+    QApplication::processEvents();
+    EXPECT_EQ(control<QListWidget>("lstTotal").currentRow(), 0);
+    EXPECT_EQ(text("txtTotalName"), "changed");
+    use("cmdSet");
+    use("cmdWordReset");
+    for (const auto& answers : {Answers{false}, {true, false}}) { // for the table and for the strings
+        dialogs.yesNo = answers;
+        EXPECT_FALSE(calc.close());
+    }
+    use("mnuFileOpen", {false});
+    use("mnuSetFileLoad", {false});
+    EXPECT_EQ(varn.WordformName(1), "changed");
+    open("mnuFileOpen", "all.ttl", {true});
+    EXPECT_EQ(text("txtTotalName"), "one");
+    EXPECT_FALSE(varn.ContrastAnalysed) << "it is of another table";
+    write("three.sum", "3\n1,\"a\"\n1,\"b\"\n1,\"c\"\n");
+    for (const bool wanted : {false, true}) { // strings of other word forms
+        open("mnuSetFileLoad", "three.sum", {true, wanted});
+        EXPECT_EQ(varn.NumWordforms, wanted ? 3 : 2);
+        EXPECT_EQ(varn.ContrastAnalysed, !wanted);
+    }
 }
 
 TEST_F(CalcForms, WithoutAnItemOrATableNothingIsCounted)
 {
-    execute("mnuExecCalc");
-    EXPECT_EQ(dialogs.shown.back(),
-              (Shown{QStringLiteral("Specify Linguistic Data."), QStringLiteral("Input Wordform Data.")}));
+    use("mnuExecCalc");
+    EXPECT_EQ(dialogs.shown.back(), (Shown{"Specify Linguistic Data.", "Input Wordform Data."}));
     open("mnuGengoOpen", "rain.dbs");
-    execute("mnuExecCalc");
-    EXPECT_EQ(lastMessage(), QStringLiteral("No. of Specify Data is inadequate."));
-    execute("mnuExecSave");
-    EXPECT_EQ(lastMessage(), QStringLiteral("Input Name of Aalysis File."));
-    dialogs.yesNo = {false, false}; // nor the strings of the same name
-    open("mnuFileOpen", "all.ttl");
-    execute("mnuExecCalc");
-    EXPECT_TRUE(lastMessage().contains(QStringLiteral("No word form has an identifying string")));
+    EXPECT_EQ(use("mnuExecCalc"), NoNumber);
+    EXPECT_EQ(use("mnuExecSave"), NoName);
+    open("mnuFileOpen", "all.ttl", {false}); // nor the strings of the same name
+    EXPECT_TRUE(use("mnuExecCalc", {false}).startsWith("No word form has an identifying string"));
     EXPECT_EQ(varn.NumItemsAccumulated, 5);
 }
 
 TEST_F(LoadedCalcForms, ExecutingCountsTheItemAndSavesTheTable)
 {
-    execute("mnuDisplay");
-    execute("mnuExecCalc");
-    EXPECT_EQ(dialogs.shown, std::vector<Shown>({{QStringLiteral("Analyse of Linguistic Data File is "
-                                                                 "completed."),
-                                                  Analysis}}));
-    EXPECT_TRUE(survey.read(ling("all.ttl")).startsWith("2,6,"));
-    EXPECT_TRUE(survey.read(ling("all.ttl")).endsWith("\r\n3,2\r\n4,3\r\n5,5\r\n"));
-    EXPECT_TRUE(header("Item No.6  Characteristis of Words 1 one")) << "the page shows the new counts";
-    EXPECT_TRUE(wasPrinted(drawing(), QStringLiteral("4")));
-
+    use("mnuDisplay");
+    use("mnuExecCalc");
+    EXPECT_EQ(dialogs.shown, std::vector<Shown>({{Completed, Analysis}}));
+    EXPECT_FALSE(varn.ContrastAnalysed) << "it is of other counts";
+    EXPECT_TRUE(saved("all.ttl").startsWith("2,6,"));
+    EXPECT_TRUE(saved("all.ttl").endsWith("\r\n3,2\r\n4,3\r\n5,5\r\n"));
+    EXPECT_TRUE(shows("Item No.6  Characteristis of Words 1 one")) << "the page shows the new counts";
     varn.Counts(1, 2) = 32767;
-    execute("mnuExecSave");
-    EXPECT_EQ(dialogs.shown.back(), (Shown{QStringLiteral("Linguistic Data File is saved."),
-                                           QStringLiteral("Save of Linguistic Data")}));
-    const QByteArray before = survey.read(ling("all.ttl"));
-    dialogs.yesNo = {false, true};
-    execute("mnuExecCalc");
-    EXPECT_EQ(lastMessage(), QStringLiteral("rain.dbs is counted in the table already. Count it once more?"));
-    execute("mnuExecCalc");
-    ASSERT_EQ(dialogs.errors.size(), 1U);
-    EXPECT_EQ(dialogs.errors[0].title, QStringLiteral("Run-time error '6': Overflow"));
-    EXPECT_TRUE(dialogs.errors[0].text.contains(QStringLiteral("locality 2")));
-    EXPECT_EQ(survey.read(ling("all.ttl")), before);
+    use("mnuExecSave");
+    EXPECT_EQ(dialogs.shown.back(), (Shown{"Linguistic Data File is saved.", "Save of Linguistic Data"}));
 
-    varn.Counts(1, 2) = 4;
-    varn.TotalFileName = QStringLiteral("blocked");
-    dialogs.yesNo = {true};
-    QDir().mkpath(survey.drive().hostPath(ling("blocked.ttl\\in the way")));
-    execute("mnuExecCalc");
-    EXPECT_EQ(dialogs.errors.size(), 2U);
-    EXPECT_EQ(varn.NumItemsAccumulated, 6) << "what could not be saved is not counted";
-    EXPECT_EQ(varn.Counts(1, 1), 3);
+    const QByteArray before = saved("all.ttl");
+    const QString again = "rain.dbs is counted in the table already. Count it once more?";
+    EXPECT_EQ(use("mnuExecCalc", {false}), again);
+    EXPECT_EQ(use("mnuExecCalc", {true}), "Run-time error '6': Overflow");
+    varn.NLocality = 1;
+    EXPECT_TRUE(use("mnuExecCalc", {false}).startsWith("The item has 3 localities, the map has 1."));
+    EXPECT_EQ(saved("all.ttl"), before);
+    EXPECT_EQ(use("mnuExecCalc", {true, true}), Completed);
 }
 
 TEST_F(LoadedCalcForms, AllItemsOfAFolderAreCountedUntilStop)
 {
-    survey.write(ling("snow.dbs"), "3,\"\",\"\",\"\"\r\n1\r\n\"am\"\r\n0\r\n0\r\n");
-    survey.write(ling("snow.srt"), "no kinds");
-    survey.write(ling("bad.dbs"), "no item");
-    survey.write(ling("far.dbs"), "1,\"\",\"\",\"\"\r\n1\r\n\"am\"\r\n");
-    const QString folder = survey.drive().hostPath(ling("rain.dbs")).chopped(9);
-    dialogs.folders = {std::nullopt, folder, folder};
-    execute("mnuExecAll");
-    EXPECT_EQ(varn.NumItemsAccumulated, 5);
-    execute("mnuExecAll");
+    write("snow.dbs", "3,\"\",\"\",\"\"\n1\n\"am\"\n0\n0\n");
+    write("snow.srt", "no kinds");
+    write("bad.dbs", "no item");
+    write("far.dbs", "1,\"\",\"\",\"\"\n1\n\"am\"\n");
+    EXPECT_EQ(executeAll(), Completed + "\n2 of 4 items were counted.\n\nNot counted:\nbad.dbs\nfar.dbs");
     EXPECT_EQ(dialogs.shown.back().title, Analysis);
-    EXPECT_TRUE(lastMessage().startsWith(QStringLiteral("Analyse of Linguistic Data File is completed.\n"
-                                                        "2 of 4 items were counted.")));
-    EXPECT_TRUE(lastMessage().endsWith(QStringLiteral("\nbad.dbs\nfar.dbs")));
-    EXPECT_TRUE(header("bad.dbs:")) << "why is told on the page";
-    EXPECT_TRUE(header("    The item has 1 localities, the map has 3."));
-    EXPECT_TRUE(survey.read(ling("all.ttl")).startsWith("2,7,"));
+    EXPECT_FALSE(varn.ContrastAnalysed) << "it is of other counts";
+    EXPECT_TRUE(shows("bad.dbs:")) << "why is told on the page";
+    EXPECT_TRUE(shows("    The item has 1 localities, the map has 3."));
+    EXPECT_TRUE(saved("all.ttl").startsWith("2,7,"));
     EXPECT_EQ(varn.Counts(1, 1), 1 + 2 + 2);
-
-    dialogs.folders = {folder, folder, folder};
-    dialogs.yesNo = {false, true, true};
-    execute("mnuExecAll");
-    EXPECT_TRUE(dialogs.shown.end()[-2].text.startsWith(QStringLiteral("2 of the 4 items are counted")));
-    EXPECT_TRUE(lastMessage().contains(QStringLiteral("\n0 of 4 items were counted.\n2 had been counted")));
-    execute("mnuExecAll");
-    EXPECT_TRUE(lastMessage().contains(QStringLiteral("\n2 of 4 items were counted.\n\n")));
+    EXPECT_TRUE(executeAll({false}).contains("\n0 of 4 items were counted.\n2 had been counted before."));
+    EXPECT_TRUE(dialogs.shown.end()[-2].text.startsWith("2 of the 4 items are counted"));
+    EXPECT_TRUE(executeAll({true}).contains("\n2 of 4 items were counted.\n\n"));
     EXPECT_EQ(varn.Counts(1, 1), 1 + 2 * (2 + 2));
 
     QTimer::singleShot(0, &exec, [this] {
         const auto& progress = *exec.findChild<QProgressDialog*>();
         EXPECT_EQ(progress.windowTitle(), Analysis);
         EXPECT_EQ(progress.windowModality(), Qt::ApplicationModal);
-        EXPECT_EQ(progress.labelText(), QStringLiteral("bad.dbs (1 of 4)"));
+        EXPECT_EQ(progress.labelText(), "bad.dbs (1 of 4)");
         EXPECT_EQ(progress.maximum(), 4);
-        EXPECT_EQ(progress.findChild<QPushButton*>()->text(), QStringLiteral("Stop"));
+        EXPECT_EQ(progress.findChild<QPushButton*>()->text(), "Stop");
         progress.findChild<QPushButton*>()->click();
     });
-    execute("mnuExecAll");
-    EXPECT_TRUE(lastMessage().contains(QStringLiteral("0 of 4 items were counted.")));
+    EXPECT_TRUE(executeAll({true}).startsWith("Analyse of Linguistic Data Files is stopped.\n0 of 4 items"));
     EXPECT_EQ(varn.NumItemsAccumulated, 9);
 }
 
-TEST_F(LoadedCalcForms, AnItemOfAnotherMapIsCountedOnlyIfWanted)
+TEST_F(LoadedCalcForms, TheTableIsCutAndEmptiedOnlyIfWanted)
 {
-    varn.NLocality = 2;
     for (const bool wanted : {false, true}) {
-        dialogs.yesNo = {wanted};
-        execute("mnuExecCalc");
-        EXPECT_EQ(dialogs.shown[0].title, Analysis);
-        EXPECT_TRUE(
-            dialogs.shown[0].text.startsWith(QStringLiteral("The item has 3 localities, the map has 2.")));
-        EXPECT_EQ(varn.NumItemsAccumulated, wanted ? 6 : 5);
-    }
-}
-
-TEST_F(LoadedCalcForms, FewerWordFormsAreAskedAboutAndLeaveNothing)
-{
-    type("txtTotalNumber", "1");
-    for (const bool wanted : {false, true}) {
-        dialogs.yesNo = {wanted};
-        click("cmdTotalNumber");
-        EXPECT_TRUE(lastMessage().contains(QStringLiteral("counts and strings: 2 two.")));
-        EXPECT_EQ(varn.NumWordforms, wanted ? 1 : 2);
-        EXPECT_EQ(text("txtTotalNumber"), QString::number(varn.NumWordforms));
         type("txtTotalNumber", "1");
+        EXPECT_TRUE(use("cmdTotalNumber", {wanted}).endsWith("counts and strings: 2 two. O.K.?"));
+        EXPECT_EQ(text("txtTotalNumber"), wanted ? "1" : "2");
     }
-    type("txtTotalNumber", "3");
-    click("cmdTotalNumber");
+    for (const char* number : {"3", "2"}) {
+        type("txtTotalNumber", number);
+        EXPECT_EQ(use("cmdTotalNumber"), "") << "there is nothing to lose";
+        EXPECT_FALSE(varn.ContrastAnalysed) << "it is of other word forms";
+    }
+    initialize(false);
+    EXPECT_TRUE(varn.ContrastAnalysed);
+    EXPECT_EQ(varn.NumItemsAccumulated, 5);
     EXPECT_EQ(varn.Counts(1, 3), 5) << "what the table has stays";
-    EXPECT_EQ(varn.WordformPaintColor(1), 9);
-    EXPECT_EQ(varn.WordformName(2), QString());
-    EXPECT_EQ(varn.NumSpecifyChars(2), 0);
-    EXPECT_EQ(varn.Counts(2, 1), 0);
-    EXPECT_NE(varn.WordformSymbolColor(2), varn.WordformSymbolColor(3));
-    type("txtTotalNumber", "2");
-    dialogs.shown.clear();
-    click("cmdTotalNumber");
-    EXPECT_EQ(dialogs.shown, std::vector<Shown>()) << "there is nothing to lose";
+    initialize(true);
+    const QString title = "Initialize of Analysis File.";
+    const Shown question = {"Initialize Analysis File. All Data will be Lost. O.K.?", title};
+    EXPECT_EQ(dialogs.shown, std::vector<Shown>({question, {"Analysis File is initialized.", title}}));
+    EXPECT_FALSE(varn.ContrastAnalysed) << "it is of other counts";
+    EXPECT_EQ(text("txtTotalItems"), "0");
+    EXPECT_EQ(saved("all.ttl"), "2,0,\"the caption\"\r\n\"one\"\r\n12,9\r\n\"kept\",3\r\n\"\"\r\n9,9\r\n"
+                                "0,0\r\n0,0\r\n0,0\r\n0,0\r\n");
+    EXPECT_EQ(varn.NumSpecifyChars(1), 2);
+    type("txtTotalFileName", "");
+    EXPECT_EQ(initialize(true), NoName);
 }
 
 TEST_F(LoadedCalcForms, AnotherTableDoesNotCountByTheOldStringsUnasked)
 {
-    survey.write(ling("new.ttl"), survey.read(ling("all.ttl")));
-    const auto openNew = [this](std::initializer_list<bool> answers) {
-        dialogs.yesNo = answers;
-        open("mnuFileOpen", "new.ttl");
-        EXPECT_TRUE(dialogs.yesNo.empty());
-    };
-    openNew({true});
-    EXPECT_EQ(lastMessage(),
-              QStringLiteral("The identifying strings are still those of all.sum. Keep them for "
-                             "new.ttl?"));
+    write("new.ttl", saved("all.ttl"));
+    EXPECT_EQ(open("mnuFileOpen", "new.ttl", {true}),
+              "The identifying strings are still those of all.sum. Keep them for new.ttl?");
     EXPECT_EQ(varn.NumSpecifyChars(1), 2);
-    openNew({}); // it is the same table
+    open("mnuFileOpen", "new.ttl"); // it is the same table
     open("mnuFileOpen", "all.ttl");
-    openNew({false});
+    open("mnuFileOpen", "new.ttl", {false});
     EXPECT_EQ(varn.NumSpecifyChars(1), 0);
-    EXPECT_EQ(text("txtSetFileName"), QString());
+    EXPECT_EQ(text("txtSetFileName"), "");
 
-    survey.write(ling("new.sum"), "1\r\n1,\"x\"\r\n");
-    dialogs.yesNo = {true};
-    open("mnuFileOpen", "all.ttl");
-    EXPECT_EQ(text("txtSetFileName"), QStringLiteral("all"));
-    type("txtInputWord", "z");
-    click("cmdWordSelect");
-    openNew({true, false, true}); // the file of one word form would drop the other
-    EXPECT_TRUE(dialogs.shown.end()[-3].text.contains(QStringLiteral("new.sum")));
-    EXPECT_TRUE(dialogs.shown.end()[-3].text.endsWith(QStringLiteral("are not saved.")));
-    EXPECT_TRUE(dialogs.shown.end()[-2].text.contains(QStringLiteral("2 two.")));
+    write("new.sum", "1\n1,\"x\"\n");
+    open("mnuFileOpen", "all.ttl", {true});
+    EXPECT_EQ(text("txtSetFileName"), "all");
+    use("cmdWordSelect");
+    open("mnuFileOpen", "new.ttl", {true, false, true}); // the file of one word form would drop the other
+    EXPECT_TRUE(dialogs.shown.end()[-3].text.startsWith("Open new.sum, the identifying strings"));
+    EXPECT_TRUE(dialogs.shown.end()[-3].text.endsWith("are not saved."));
+    EXPECT_TRUE(dialogs.shown.end()[-2].text.contains("2 two."));
     EXPECT_EQ(varn.NumSpecifyChars(1), 3);
-}
-
-TEST_F(LoadedCalcForms, EveryChangeOfTheCountsOutdatesTheContrast)
-{
-    survey.write(ling("three.sum"), "3\r\n1,\"a\"\r\n1,\"b\"\r\n1,\"c\"\r\n");
-    const auto count = [this] { execute("mnuExecCalc"); };
-    const auto countAll = [this] {
-        dialogs.folders = {survey.drive().hostPath(ling("rain.dbs")).chopped(9)};
-        dialogs.yesNo = {true};
-        execute("mnuExecAll");
-    };
-    const auto initialize = [this] {
-        dialogs.okCancel = {true};
-        set("mnuInitialize");
-    };
-    const auto setNumber = [this] { click("cmdTotalNumber"); };
-    const auto openSum = [this] {
-        dialogs.yesNo = {true};
-        open("mnuSetFileLoad", "three.sum");
-    };
-    const auto openTable = [this] {
-        dialogs.yesNo = {true};
-        open("mnuFileOpen", "all.ttl");
-    };
-    const auto chooseMap = [this] { applyMapChoice(currentMapChoice(varn), varn); };
-    const std::function<void()> changes[] = {count,   countAll,  initialize, setNumber,
-                                             openSum, openTable, chooseMap};
-    int change = 0;
-    for (const auto& make : changes) {
-        varn.ContrastAnalysed = true;
-        make();
-        EXPECT_FALSE(varn.ContrastAnalysed) << change;
-        ++change;
-    }
-    EXPECT_EQ(dialogs.errors, std::vector<Shown>());
 }
 
 TEST_F(LoadedCalcForms, PagesAndItemsGoRound)
 {
     varn.NLocality = 320;
-    execute("mnuDisplay");
-    const std::pair<const char*, const char*> steps[] = {
-        {"mnuDisplayPrevious", "Item No.5  Characteristis of Words 1 one"},
-        {"mnuDisplayNext", "Item No.5  Characteristis of Words 1 one"},
-        {"mnuItemPrevious", "Item No.5  Characteristis of Words 2 two"},
-        {"mnuItemNext", "Item No.5  Characteristis of Words 1 one"}};
-    const bool firstPage[] = {false, true, true, true};
-    int step = 0;
-    for (const auto& [entry, text] : steps) {
-        execute(entry);
-        EXPECT_TRUE(header(text)) << entry;
-        EXPECT_EQ(wasPrinted(drawing(), QStringLiteral("160")), firstPage[step++]) << entry;
+    const std::tuple<const char*, const char*, const char*> steps[] = {
+        {"mnuDisplay", "1 one", "160"},     {"mnuDisplayPrevious", "1 one", ""},
+        {"mnuDisplayNext", "1 one", "160"}, {"mnuItemPrevious", "2 two", "160"},
+        {"mnuItemNext", "1 one", "160"},    {"mnuDisplayNext", "1 one", "320"},
+        {"mnuItemNext", "2 two", "160"}}; // another item begins with page 1
+    for (const auto& [entry, wordform, lastLocality] : steps) {
+        use(entry);
+        const auto& texts = exec.surface().drawing().texts;
+        EXPECT_EQ(texts.at(0), QString("Item No.5  Characteristis of Words ") + wordform) << entry;
+        EXPECT_EQ(texts.size() > 1 ? texts.end()[-2] : "", lastLocality) << entry;
     }
-    execute("mnuDisplayNext");
-    EXPECT_TRUE(wasPrinted(drawing(), QStringLiteral("320")));
-    execute("mnuItemNext");
-    EXPECT_TRUE(wasPrinted(drawing(), QStringLiteral("160"))) << "another item begins with page 1";
-    EXPECT_EQ(varn.CurrentWordform, 2);
     calc.Form_Load();
-    EXPECT_EQ(text("txtTotalName"), QStringLiteral("two")) << "the set-up form shows the same word form";
+    EXPECT_EQ(text("txtTotalName"), "two") << "the set-up form shows the same word form";
 }
 
 TEST_F(LoadedCalcForms, StatisticsAreShownSavedAndOpened)
 {
-    EXPECT_FALSE(child<QAction>(exec, "mnuStatsSave").isEnabled());
-    execute("mnuStatsExec");
-    EXPECT_TRUE(header("Kt=1"));
-    EXPECT_TRUE(header("Average=3"));
-    execute("mnuStatsDisplayAll");
-    EXPECT_TRUE(header("Kt=2 two"));
-    execute("mnuStatsSave");
-    const QByteArray file = survey.read(ling("all.stt"));
-    EXPECT_TRUE(file.startsWith("2,5\r\n1\r\n4,1,3,2\r\n3,0\r\n3,1\r\n"));
+    const auto& save = child<QAction>(exec, "mnuStatsSave");
+    EXPECT_FALSE(save.isEnabled());
+    use("mnuStatsExec");
+    EXPECT_TRUE(shows("Kt=1") && shows("Average=3"));
+    use("mnuStatsDisplayAll");
+    EXPECT_TRUE(shows("Kt=2 two"));
+    use("mnuStatsSave");
+    EXPECT_TRUE(saved("all.stt").startsWith("2,5\r\n1\r\n4,1,3,2\r\n3,0\r\n3,1\r\n"));
     EXPECT_EQ(varn.StatsFileName, ling("all.stt"));
-
     varn.TotalFileName.clear();
-    execute("mnuStatsSave");
-    EXPECT_EQ(lastMessage(), QStringLiteral("Input Name of Aalysis File."));
-    EXPECT_EQ(survey.read(ling("all.stt")), file);
+    EXPECT_EQ(use("mnuStatsSave"), NoName);
 
     varn.Counts(1, 2) = 0;
     varn.Counts(1, 3) = 0;
-    execute("mnuStatsExec");
-    ASSERT_EQ(dialogs.errors.size(), 1U);
-    EXPECT_EQ(dialogs.errors[0].title, QStringLiteral("Run-time error '11': Division by zero"));
-    EXPECT_FALSE(child<QAction>(exec, "mnuStatsSave").isEnabled()) << "they are not of these counts";
-
-    survey.write(ling("other.stt"), "1,1\r\n1\r\n1,1,1.5,0\r\n2,0\r\n2,2\r\n");
-    dialogs.files = {survey.drive().hostPath(ling("other.stt"))};
-    execute("mnuStatsOpen");
-    EXPECT_TRUE(header("Average=1.5"));
-    EXPECT_TRUE(lastMessage().startsWith(QStringLiteral("The statistics are of 1 word forms and 1 items")));
-    survey.write(ling("many.stt"), "11,1\r\n");
-    dialogs.files = {survey.drive().hostPath(ling("many.stt"))};
-    execute("mnuStatsOpen");
-    EXPECT_EQ(dialogs.errors.back().title, QStringLiteral("Run-time error '9': Subscript out of range"));
-    EXPECT_TRUE(header("Average=1.5"));
+    EXPECT_EQ(use("mnuStatsExec"), "Run-time error '11': Division by zero");
+    EXPECT_FALSE(save.isEnabled()) << "they are not of these counts";
+    write("other.stt", "1,1\n1\n1,1,1.5,0\n2,0\n2,2\n");
+    EXPECT_EQ(open("mnuStatsOpen", "other.stt"),
+              "The statistics are of 1 word forms and 1 items, the cumulative data has 2 and 5.");
+    write("many.stt", "11,1\n");
+    EXPECT_EQ(open("mnuStatsOpen", "many.stt"), OutOfRange);
+    EXPECT_TRUE(shows("Average=1.5")) << "what was shown stays";
 }
