@@ -5,7 +5,6 @@
 #include "analysis/Statistics.h"
 #include "lingdata/EnteredItem.h"
 #include "lingdata/ItemLoader.h"
-#include "mapdata/MapFiles.h"
 #include "mapdata/RegisteredMap.h"
 #include "plot/DrawingFile.h"
 #include "render/BlankMap.h"
@@ -69,23 +68,6 @@ extern "C" int rename(const char* from, const char* to)
     return renameat(AT_FDCWD, from, AT_FDCWD, to);
 }
 
-TEST(FullDisk, FilesOfEverySizeAreKept)
-{
-    constexpr long long Buffer = 16LL * 1024;
-    const TestDrive drive;
-    const QString path = "C:\\item.dbs";
-    const auto save = [&](long long size) {
-        return [&, size] { replaceFile(drive.drive(), path, QByteArray(size, 'x')); };
-    };
-    for (const long long size : {100LL, 3072LL, Buffer - 1, Buffer, Buffer + 1, 100000LL}) {
-        for (const long long missing : {1LL, std::min(size, Buffer) - 1, size}) {
-            expectOldFile(drive, path, size - missing, save(size));
-        }
-        EXPECT_FALSE(errorWithin(size, save(size))) << size;
-        EXPECT_EQ(drive.read(path).size(), size);
-    }
-}
-
 TEST(FullDisk, EveryWriterKeepsTheOldFile)
 {
     TestSurvey survey;
@@ -99,6 +81,10 @@ TEST(FullDisk, EveryWriterKeepsTheOldFile)
     const auto picture = [&](const QString& path) {
         saveDrawing(survey.frmMap.drawing(), {3000, 3000}, survey.drive().hostPath(path), 96);
     };
+    constexpr qsizetype Buffer = 16 * 1024;
+    const auto bytes = [&](qsizetype size) {
+        return [&varn, size](const QString& path) { replaceFile(varn.Drive, path, QByteArray(size, 'x')); };
+    };
     const std::pair<QString, std::function<void(const QString& path)>> rows[] = {
         {folder + "a.dbs", [&](const QString& path) { saveItem(varn, path, editor); }},
         {folder + "a.srt", [&](const QString& path) { FileWordData(varn, path, varn); }},
@@ -111,14 +97,14 @@ TEST(FullDisk, EveryWriterKeepsTheOldFile)
         {folder + "a.sum", [&](const QString& path) { SaveSetData(varn.Drive, path, varn); }},
         {folder + "a.stt", [&](const QString& path) { SaveStats(varn.Drive, path, varn, varn); }},
         {folder + "a.rnk", [&](const QString& path) { SaveRankFile(varn.Drive, path, varn); }},
-        {folder + "Loc.map",
-         [&](const QString& path) {
-             writeSequentialFile(varn.Drive, path,
-                                 [&](SequentialWriter& file) { writeLocalities(file, varn); });
-         }},
         {varn.MapNameFile, [&](const QString&) { saveMapChoice(varn, currentMapChoice(varn)); }},
         {varn.DriveFileName, [&](const QString&) { saveDriveFile(varn); }},
         {registeredMapFile(), [&](const QString&) { saveRegisteredMap(varn, varn); }},
+        {folder + "small", bytes(3072)},
+        {folder + "nearly a buffer", bytes(Buffer - 1)},
+        {folder + "a buffer", bytes(Buffer)},
+        {folder + "more than a buffer", bytes(Buffer + 1)},
+        {folder + "large", bytes(100000)},
         {folder + "map.svg", picture},
         {folder + "map.pdf", picture},
         {folder + "map.png", picture},
@@ -127,9 +113,10 @@ TEST(FullDisk, EveryWriterKeepsTheOldFile)
         save(path);
         const qsizetype size = survey.read(path).size();
         ASSERT_GT(size, 0) << qPrintable(path);
-        for (const qsizetype limit : {size - 1, size / 2, qsizetype(0)}) {
+        for (const qsizetype limit : {size - 1, size - std::min(size, Buffer) + 1, size / 2, qsizetype(0)}) {
             expectOldFile(survey, path, limit, [&] { save(path); });
         }
+        EXPECT_FALSE(errorWithin(size, [&] { save(path); })) << qPrintable(path);
     }
 }
 

@@ -74,11 +74,14 @@ protected:
     void perform(const QString& step);
     std::map<QString, std::function<void()>> preparations();
 
-    static void showOnly(const VarnForm& form)
+    /// Hides all windows and brings the form to the front.
+    static void showOnly(VarnForm& form)
     {
         for (QWidget* window : QApplication::topLevelWidgets()) {
             window->setVisible(window == &form);
         }
+        QEvent activated(QEvent::WindowActivate);
+        QApplication::sendEvent(&form, &activated);
         QApplication::processEvents();
     }
 

@@ -75,7 +75,7 @@ protected:
     static void expectStates(const QString& states)
     {
         for (const QString& expected : states.split('#').mid(1)) {
-            const VarnForm& form = formNamed(expected.section(':', 0, 0));
+            VarnForm& form = formNamed(expected.section(':', 0, 0));
             showOnly(form);
             const QString title = form.windowTitle().replace("[*]", form.isWindowModified() ? "*" : "");
             const QStringList state = {form.metaObject()->className() + (": " + title),
@@ -178,15 +178,33 @@ cboSize=Normal cboWidth=Thin txtMinimum=1)");
 #frmCalExec: Execution of Cumulative Analysis - Test - all.ttl Status: Statistics of 5 items Greyed:
 mnuDisplayNext mnuDisplayPrevious Held:)");
     trigger<frmCalExec>("mnuStatsExec");
-    program->varn.Counts(1, 1) += 1;
     expectStates(R"(
 #frmCalExec: Execution of Cumulative Analysis - Test - all.ttl Status: Wordform 1 one | Columns: count,
 localities with at least that, with exactly that | Statistics of 5 items Greyed: mnuDisplayNext
 mnuDisplayPrevious Held:)");
+    program->varn.Counts(1, 1) += 1;
     trigger<frmCalExec>("mnuStatsDisplayAll");
     expectStates(R"(
 #frmCalExec: Execution of Cumulative Analysis - Test - all.ttl Status: Statistics of 5 items | The counts are
 others now Greyed: mnuDisplayNext mnuDisplayPrevious mnuStatsSave Held:)");
+}
+
+TEST_F(FormStates, TheMapFormInFrontShowsWhatOtherFormsChanged)
+{
+    open();
+    VarnModule& varn = program->varn;
+    varn.NLocality = 4;
+    varn.LoadState = 0;
+    expectStates(R"(
+#frmMap: VARN Map - Test - rain.dbs - rain.han Status: The item has 3 localities, the map has 4. | Item: Rain
+(3 localities) | Symbols: rain.han (2 captions) Greyed: mnuMapLing Held:)");
+    varn.ItemFileName.clear();
+    varn.LoadState = 2;
+    varn.ContrastAnalysed = false;
+    varn.NDiffusion = 0;
+    expectStates(R"(
+#frmMap: VARN Map - Test - rain.han Status: No linguistic file loaded | Symbols: rain.han (2 captions)
+Greyed: mnuRank mnuTotalHanko Held:)");
 }
 
 TEST_F(FormStates, ControlsOfOneKindAreMadeAlike)
@@ -313,9 +331,7 @@ TEST_F(FormStates, WhatIsChosenAndTypedStaysWhenAFormComesBackToTheFront)
             }
         }
         const QStringList before = chosen();
-        QEvent activated(QEvent::WindowActivate);
-        QApplication::sendEvent(form, &activated);
-        QApplication::processEvents();
+        showOnly(*form);
         EXPECT_EQ(chosen(), before) << form->metaObject()->className();
     }
 }

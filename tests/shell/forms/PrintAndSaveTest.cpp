@@ -97,28 +97,6 @@ TEST_F(LoadedProgram, TheSwitchSendsEveryDrawingToThePrinter)
     EXPECT_EQ(program.dialogs.errors, std::vector<Shown>());
 }
 
-TEST_F(LoadedProgram, TheMapFormInFrontShowsWhatOtherFormsChanged)
-{
-    const auto labels = program.map().statusBar()->findChildren<QLabel*>();
-    const auto loaded = std::ranges::find(labels, "Loaded files", &QLabel::accessibleName);
-    ASSERT_NE(loaded, labels.end());
-    const auto expectShown = [&](const char* status, bool linguistic, bool contrast) {
-        QEvent toFront(QEvent::WindowActivate);
-        QCoreApplication::sendEvent(&program.map(), &toFront);
-        EXPECT_TRUE((*loaded)->text().startsWith(status)) << qPrintable((*loaded)->text());
-        EXPECT_EQ(program.menu("mnuMapLing").isEnabled(), linguistic);
-        EXPECT_EQ(program.menu("mnuRank").isEnabled(), contrast);
-    };
-    program.varn.NLocality = 4;
-    program.varn.LoadState = 0;
-    program.varn.ContrastAnalysed = true;
-    expectShown("The item has 3 localities, the map has 4.    |    Item: Rain", false, true);
-    program.varn.ItemFileName.clear();
-    program.varn.LoadState = 2;
-    program.varn.ContrastAnalysed = false;
-    expectShown("No linguistic file loaded", true, false);
-}
-
 TEST_F(LoadedProgram, TheTabKeyGoesFromTheMapToThePrintSwitch)
 {
     EXPECT_EQ(printSwitch().accessibleDescription(), "Turn printing on or off");
