@@ -2,8 +2,6 @@
 
 #include "tests/shell/forms/EveryWayOut.h"
 
-#include <QTimer>
-
 #include <set>
 
 namespace {
@@ -43,16 +41,6 @@ TEST_F(EveryWayOut, HasARow)
             EXPECT_TRUE(rows.contains(row)) << qPrintable(row) << " has no row";
         }
     }
-}
-
-TEST_F(EveryWayOut, ExitEndsTheProgram)
-{
-    open();
-    QTimer::singleShot(0, [this] { program->click("cmdExit"); });
-    QTimer tooLong;
-    QObject::connect(&tooLong, &QTimer::timeout, [] { QCoreApplication::exit(1); });
-    tooLong.start(5000);
-    EXPECT_EQ(QApplication::exec(), 0);
 }
 
 TEST_F(EveryWayOut, AFormWithUnsavedWorkStaysOpenOnNo)
