@@ -121,6 +121,7 @@ TEST(MapSearch, TheMapOfAFileIsFoundInItsPath)
         {"C:\\V\\varndata\\Test\\VarnData\\Other\\Loc.map", MapPlace{"C:\\V", "\\Test"}},
         {"C:\\V\\VarnDataOld\\A\\VarnData\\B\\README.txt", MapPlace{"C:\\V\\VarnDataOld\\A", "\\B"}},
         {"C:\\V\\VarnData\\Square.sbl", std::nullopt},
+        {"C:\\V\\VarnData\\\\Loc.map", std::nullopt},
         {"C:\\V\\VarnData", std::nullopt},
         {"C:\\elsewhere\\Loc.map", std::nullopt},
     };
@@ -169,10 +170,12 @@ TEST_F(ImportCommands, FilesAreSavedAndLoadedIfTheyAreOfTheCurrentMap)
     using Import = void (*)(VarnModule&, Dialogs&);
     using Counts = std::array<int, 3>;
     const std::tuple<Import, QByteArray, QByteArray, QString, Counts> rows[] = {
-        {SaveLocateData, "x y\n1 2\n", "1\r\n1,2\r\n", MapFolder + "loc.map", {1, 1, 2}},
-        {SaveLineData, Lines, Lines, MapFolder + "Line.map", {1, 2, 2}},
+        {SaveLocateData, "x y\n1 2\n", "1\r\n1,2\r\n", MapFolder + "loc.map", {1, 0, 0}},
+        {SaveLineData, Lines, Lines, MapFolder + "Line.map", {1, 2, 0}},
         {SaveSquareData, polygon, polygon, Data + "Square.sbl", {1, 2, 1}}};
-    Counts before = {3, 1, 2};
+    Counts before = {2, 0, 0};
+    varn.NLocality = 2; // not what the files of the current map hold
+    varn.NLine = varn.Nsquare = 0;
     for (const auto& [import, source, written, file, loaded] : rows) {
         for (const QString& target : {QString("C:\\import\\saved.map"), file}) {
             answer(source, target);

@@ -89,7 +89,9 @@ TEST_F(RecoveryOf, ATableIsUnsavedAgainstItsFile)
     const UnsavedWork work = unsavedWork(varn, std::nullopt);
     EXPECT_EQ(describe(work), "cumulative data sum");
     static_cast<CumulativeData&>(varn) = {};
+    varn.ContrastAnalysed = true;
     restoreWork(work, varn);
+    EXPECT_FALSE(varn.ContrastAnalysed) << "it was of other counts";
     EXPECT_EQ(varn.TotalFilePath, varn.dataFolder() + "\\sum.ttl");
     EXPECT_EQ(varn.SavedTable.Counts(2, 3), 7);
     EXPECT_EQ(varn.Counts(2, 3), 8);

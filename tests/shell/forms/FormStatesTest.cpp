@@ -215,6 +215,11 @@ TEST_F(FormStates, ControlsOfOneKindAreMadeAlike)
         for (const QLabel* label : statusLabels(*form)) {
             EXPECT_EQ(label->textFormat(), Qt::PlainText) << "a file name is no markup";
         }
+        if (const auto* scroll = qobject_cast<QScrollArea*>(form->centralWidget());
+            scroll != nullptr && scroll->objectName().isEmpty()) { // a small screen
+            EXPECT_FALSE(scroll->accessibleName().isEmpty());
+            EXPECT_TRUE(scroll->widgetResizable());
+        }
         for (const QLineEdit* box : form->findChildren<QLineEdit*>()) {
             const QPalette& palette = box->palette();
             EXPECT_EQ(palette.color(QPalette::Base) == palette.color(QPalette::Window), box->isReadOnly())
