@@ -2,11 +2,9 @@
 
 #include "analysis/ContrastData.h"
 #include "analysis/CumulativeFile.h"
-#include "analysis/DiffusionSymbols.h"
 #include "analysis/Statistics.h"
 #include "lingdata/EnteredItem.h"
 #include "lingdata/ItemLoader.h"
-#include "mapdata/MapFiles.h"
 #include "mapdata/RegisteredMap.h"
 #include "plot/DrawingFile.h"
 #include "render/BlankMap.h"
@@ -70,87 +68,62 @@ extern "C" int rename(const char* from, const char* to)
     return renameat(AT_FDCWD, from, AT_FDCWD, to);
 }
 
-TEST(FullDisk, FilesOfEverySizeAreKept)
-{
-    constexpr long long Buffer = 16LL * 1024;
-    const TestDrive drive;
-    const QString path = QStringLiteral("C:\\item.dbs");
-    const auto save = [&](long long size) {
-        return [&, size] { replaceFile(drive.drive(), path, QByteArray(size, 'x')); };
-    };
-    for (const long long size : {100LL, 3072LL, Buffer - 1, Buffer, Buffer + 1, 100000LL}) {
-        for (const long long missing : {1LL, std::min(size, Buffer) - 1, size}) {
-            expectOldFile(drive, path, size - missing, save(size));
-        }
-        EXPECT_FALSE(errorWithin(size, save(size))) << size;
-        EXPECT_EQ(drive.read(path).size(), size);
-    }
-}
-
 TEST(FullDisk, EveryWriterKeepsTheOldFile)
 {
     TestSurvey survey;
     VarnModule& varn = survey.varn;
     fixPaths(varn);
     setNumWordforms(varn, 1);
-    varn.TotalFileName = QStringLiteral("all");
+    varn.TotalFileName = "all";
     DrawBlankMap(blankMapParts(varn), survey.surfaces);
     ItemEditor editor;
-    const QString folder = varn.dataFolder() + QLatin1Char('\\');
+    const QString folder = varn.dataFolder() + '\\';
     const auto picture = [&](const QString& path) {
         saveDrawing(survey.frmMap.drawing(), {3000, 3000}, survey.drive().hostPath(path), 96);
     };
-    const auto writer = [&](auto write, const auto& map) {
-        return [&varn, &map, write](const QString& path) {
-            writeSequentialFile(varn.Drive, path, [&](SequentialWriter& file) { write(file, map); });
-        };
+    constexpr qsizetype Buffer = 16 * 1024;
+    const auto bytes = [&](qsizetype size) {
+        return [&varn, size](const QString& path) { replaceFile(varn.Drive, path, QByteArray(size, 'x')); };
     };
-    struct Row
-    {
-        QString path;
-        std::function<void(const QString& path)> save;
-    };
-    const Row rows[] = {
-        {folder + QStringLiteral("a.dbs"), [&](const QString& path) { saveItem(varn, path, editor); }},
-        {folder + QStringLiteral("a.srt"), [&](const QString& path) { FileWordData(varn, path, varn); }},
-        {folder + QStringLiteral("a.han"),
-         [&](const QString& path) { SaveHankoData(varn.Drive, path, varn); }},
-        {folder + QStringLiteral("all.ttl"),
+    const std::pair<QString, std::function<void(const QString& path)>> rows[] = {
+        {folder + "a.dbs", [&](const QString& path) { saveItem(varn, path, editor); }},
+        {folder + "a.srt", [&](const QString& path) { FileWordData(varn, path, varn); }},
+        {folder + "a.han", [&](const QString& path) { SaveHankoData(varn.Drive, path, varn); }},
+        {folder + "all.ttl",
          [&](const QString&) {
              varn.TotalFilePath.clear(); // the old file is none that was read
              SaveTotalFile(varn.Drive, totalFilePath(varn.dataFolder(), varn), varn.NLocality, varn);
          }},
-        {folder + QStringLiteral("a.sum"), [&](const QString& path) { SaveSetData(varn.Drive, path, varn); }},
-        {folder + QStringLiteral("a.stt"),
-         [&](const QString& path) { SaveStats(varn.Drive, path, varn, varn); }},
-        {folder + QStringLiteral("a.rnk"),
-         [&](const QString& path) { SaveRankFile(varn.Drive, path, varn); }},
-        {folder + QStringLiteral("a.htL"), writer(writeDiffusionSymbols, varn)},
-        {folder + QStringLiteral("Loc.map"), writer(writeLocalities, varn)},
-        {folder + QStringLiteral("Line.map"), writer(writeLines, varn)},
-        {folder + QStringLiteral("kanji.map"), writer(writePlaceNames, varn)},
-        {folder + QStringLiteral("Square.sbl"), writer(writeAbsolutePolygons, varn)},
+        {folder + "a.sum", [&](const QString& path) { SaveSetData(varn.Drive, path, varn); }},
+        {folder + "a.stt", [&](const QString& path) { SaveStats(varn.Drive, path, varn, varn); }},
+        {folder + "a.rnk", [&](const QString& path) { SaveRankFile(varn.Drive, path, varn); }},
         {varn.MapNameFile, [&](const QString&) { saveMapChoice(varn, currentMapChoice(varn)); }},
         {varn.DriveFileName, [&](const QString&) { saveDriveFile(varn); }},
         {registeredMapFile(), [&](const QString&) { saveRegisteredMap(varn, varn); }},
-        {folder + QStringLiteral("map.svg"), picture},
-        {folder + QStringLiteral("map.pdf"), picture},
-        {folder + QStringLiteral("map.png"), picture},
+        {folder + "small", bytes(3072)},
+        {folder + "nearly a buffer", bytes(Buffer - 1)},
+        {folder + "a buffer", bytes(Buffer)},
+        {folder + "more than a buffer", bytes(Buffer + 1)},
+        {folder + "large", bytes(100000)},
+        {folder + "map.svg", picture},
+        {folder + "map.pdf", picture},
+        {folder + "map.png", picture},
     };
-    for (const Row& row : rows) {
-        row.save(row.path);
-        const qsizetype size = survey.read(row.path).size();
-        ASSERT_GT(size, 0) << qPrintable(row.path);
-        for (const qsizetype limit : {size - 1, size / 2, qsizetype(0)}) {
-            expectOldFile(survey, row.path, limit, [&row] { row.save(row.path); });
+    for (const auto& [path, save] : rows) {
+        save(path);
+        const qsizetype size = survey.read(path).size();
+        ASSERT_GT(size, 0) << qPrintable(path);
+        for (const qsizetype limit : {size - 1, size - std::min(size, Buffer) + 1, size / 2, qsizetype(0)}) {
+            expectOldFile(survey, path, limit, [&] { save(path); });
         }
+        EXPECT_FALSE(errorWithin(size, [&] { save(path); })) << qPrintable(path);
     }
 }
 
 TEST(FullDisk, ADiskThatIsFullWhenTheFileIsPutInItsPlaceIsFull)
 {
     const TestDrive drive;
-    const QString path = QStringLiteral("C:\\item.dbs");
+    const QString path = "C:\\item.dbs";
     drive.write(path, "old");
     renamesFail = true;
     const RunTimeError error = errorOf([&] { replaceFile(drive.drive(), path, "new"); });

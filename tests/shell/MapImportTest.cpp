@@ -11,9 +11,9 @@
 
 namespace {
 
-const QString Source = QStringLiteral("C:\\import\\source.txt");
-const QString Data = QStringLiteral("C:\\Varn62E\\Varn\\VarnData\\");
-const QString MapFolder = QStringLiteral("C:\\Varn62E\\Varn\\VarnData\\Test\\Map\\");
+const QString Source = "C:\\import\\source.txt";
+const QString Data = "C:\\Varn62E\\Varn\\VarnData\\";
+const QString MapFolder = "C:\\Varn62E\\Varn\\VarnData\\Test\\Map\\";
 
 const QByteArray Lines = "2\r\n3,2,1,0,0.5,-2\r\n0,0\r\n100.25,1000\r\n0,0,0,5,0,0\r\n";
 const QByteArray Names = "1\r\n20,30.5\r\n\"A \"\"B\"\"\"\r\n1,2.5\r\n\"20 km\",4.5,200\r\n";
@@ -53,34 +53,23 @@ protected:
 
 TEST(MapFileWriters, FilesAreWrittenAsTheyAreRead)
 {
-    const QByteArray localities = "3\r\n100,200\r\n-0.1,1e+20\r\n500.5,600.5\r\n";
-    EXPECT_EQ(rewritten(readLocalities, writeLocalities, localities), localities);
-    EXPECT_EQ(rewritten(readLocalities, writeLocalities, "0\r\n"), "0\r\n");
-    EXPECT_EQ(rewritten(readLines, writeLines, Lines), Lines);
-    EXPECT_EQ(rewritten(readPlaceNames, writePlaceNames, Names), Names);
-    EXPECT_EQ(rewritten(readAbsolutePolygons, writeAbsolutePolygons, Polygons), Polygons);
-    EXPECT_EQ(rewritten(readLocalities, writeLocalities, "2 1,2\n3\n4"), "2\r\n1,2\r\n3,4\r\n");
-}
-
-TEST(MapFileWriters, TheInstallationsFilesComeBackTheSame)
-{
     const DriveC drive;
-    const QString folder = drive.varnPath(QStringLiteral(INSTALLATION_FOLDER "/VarnData"));
-    const auto expectSame = [&](const char* name, auto read, auto write) {
-        const QByteArray bytes = readBytes(drive, folder + QLatin1String(name));
-        EXPECT_EQ(rewritten(read, write, bytes), bytes) << name;
+    const auto expectSame = [&](const char* installed, const QByteArray& text, auto read, auto write) {
+        EXPECT_EQ(rewritten(read, write, text), text);
+        const QString folder = drive.varnPath(INSTALLATION_FOLDER "/VarnData\\");
+        const QByteArray sample = readBytes(drive, folder + installed);
+        EXPECT_EQ(rewritten(read, write, sample), sample) << installed;
     };
-    expectSame("\\Sample\\Map\\Loc.map", readLocalities, writeLocalities);
-    expectSame("\\Sample\\Map\\Line.map", readLines, writeLines);
-    expectSame("\\Sample\\Map\\kanji.map", readPlaceNames, writePlaceNames);
-    expectSame("\\Square.sbl", readAbsolutePolygons, writeAbsolutePolygons);
+    expectSame("Sample\\Map\\Loc.map", "2\r\n100,200\r\n-0.1,1e+20\r\n", readLocalities, writeLocalities);
+    expectSame("Sample\\Map\\Line.map", Lines, readLines, writeLines);
+    expectSame("Sample\\Map\\kanji.map", Names, readPlaceNames, writePlaceNames);
+    expectSame("Square.sbl", Polygons, readAbsolutePolygons, writeAbsolutePolygons);
 }
 
 TEST(MapImport, LocalitiesComeFromFilesAndTables)
 {
     const TestDrive drive;
     const QByteArray rows[] = {
-        "2\r\n1.5,2\r\n3,-4\r\n",
         "2,\r\n1.5,2\r\n3,-4\r\n", // as a spreadsheet writes it
         "\n2\n1.5 2\n3 -4\n",
         "1.5,2\n3,-4",
@@ -93,67 +82,51 @@ TEST(MapImport, LocalitiesComeFromFilesAndTables)
     };
     for (const QByteArray& text : rows) {
         drive.write(Source, text);
-        const Localities map = importLocalities(drive.drive(), Source);
-        ASSERT_EQ(map.NLocality, 2) << text.constData();
-        EXPECT_EQ(map.LocXY(1, 0), 1.5F) << text.constData();
-        EXPECT_EQ(map.LocXY(1, 1), 2) << text.constData();
-        EXPECT_EQ(map.LocXY(2, 0), 3) << text.constData();
-        EXPECT_EQ(map.LocXY(2, 1), -4) << text.constData();
+        SequentialWriter written;
+        writeLocalities(written, importLocalities(drive.drive(), Source));
+        EXPECT_EQ(written.bytes(), "2\r\n1.5,2\r\n3,-4\r\n") << text.constData();
     }
 }
 
 TEST(MapImport, BadTablesAreRefusedWithTheirLine)
 {
-    struct Row
-    {
-        QByteArray text;
-        ErrorNumber number;
-        int line;
-        int field = 0;
-    };
-    const Row rows[] = {
-        {"x,y\n1,2\n3,four\n", ErrorNumber::TypeMismatch, 3, 2},
-        {"1,y\n", ErrorNumber::TypeMismatch, 1, 2},
-        {"x,y\nx,y\n1,2\n", ErrorNumber::TypeMismatch, 2, 1},
-        {"1 2\n3\n", ErrorNumber::TypeMismatch, 2, 2},
-        {"x;y\n1,5;2,5\n", ErrorNumber::TypeMismatch, 2, 1},
-        {"1,nan\n", ErrorNumber::TypeMismatch, 1, 2},
-        {"1,2\n1,1e39\n", ErrorNumber::Overflow, 2, 2},
-        {"x,y\n" + QByteArray("1,2\n").repeated(1001), ErrorNumber::SubscriptOutOfRange, 1002},
-        {"", ErrorNumber::InputPastEndOfFile, 1},
-        {"x,y\n", ErrorNumber::InputPastEndOfFile, 2},
-        {"3\n1,2\n3,4\n", ErrorNumber::InputPastEndOfFile, 4, 1},
-        {"2\n1,2\n3,x\n", ErrorNumber::TypeMismatch, 3, 2},
+    const std::tuple<QByteArray, ErrorNumber, const char*> rows[] = {
+        {"x,y\n1,2\n3,four\n", ErrorNumber::TypeMismatch, "Line 3, field 2\n"},
+        {"1,y\n", ErrorNumber::TypeMismatch, "Line 1, field 2\n"},
+        {"x,y\nx,y\n1,2\n", ErrorNumber::TypeMismatch, "Line 2, field 1\n"},
+        {"1 2\n3\n", ErrorNumber::TypeMismatch, "Line 2, field 2\n"},
+        {"x;y\n1,5;2,5\n", ErrorNumber::TypeMismatch, "Line 2, field 1\n"},
+        {"1,nan\n", ErrorNumber::TypeMismatch, "Line 1, field 2\n"},
+        {"1,2\n1,1e39\n", ErrorNumber::Overflow, "Line 2, field 2"},
+        {"x,y\n" + QByteArray("1,2\n").repeated(1001), ErrorNumber::SubscriptOutOfRange, "Line 1002"},
+        {"", ErrorNumber::InputPastEndOfFile, "Line 1\n"},
+        {"x,y\n", ErrorNumber::InputPastEndOfFile, "Line 2\n"},
+        {"2\n1,2\n3,x\n", ErrorNumber::TypeMismatch, "Line 3, field 2"},
     };
     const TestDrive drive;
-    for (const Row& row : rows) {
-        drive.write(Source, row.text);
+    for (const auto& [text, number, place] : rows) {
+        SCOPED_TRACE(text.left(30).constData());
+        drive.write(Source, text);
         const RunTimeError error = errorOf([&] { importLocalities(drive.drive(), Source); });
-        EXPECT_EQ(error.number(), row.number) << row.text.left(30).constData();
-        EXPECT_EQ(error.place().line, row.line) << row.text.left(30).constData();
-        EXPECT_EQ(error.place().field, row.field) << row.text.left(30).constData();
-        EXPECT_FALSE(error.where().contains(QStringLiteral("field 0")));
-        EXPECT_EQ(error.place().path, Source);
+        EXPECT_EQ(error.number(), number);
+        EXPECT_TRUE((error.where() + '\n').startsWith("File: " + Source + '\n' + place))
+            << qPrintable(error.where());
     }
 }
 
 TEST(MapSearch, TheMapOfAFileIsFoundInItsPath)
 {
-    const QString place = QStringLiteral("C:\\V");
-    const QString map = QStringLiteral("\\Test");
     const std::pair<const char*, std::optional<MapPlace>> rows[] = {
-        {"C:\\V\\VarnData\\Test\\Map\\Loc.map", MapPlace{place, map}},
-        {"C:\\V\\VarnData\\Test\\Ling\\a.dbs", MapPlace{place, map}},
-        {"C:\\V\\varndata\\Test\\README.txt", MapPlace{place, map}},
-        {"C:\\V\\VarnData\\Test\\VarnData\\Other\\Loc.map", MapPlace{place, map}},
-        {"C:\\V\\VarnDataOld\\A\\VarnData\\B\\Loc.map",
-         MapPlace{QStringLiteral("C:\\V\\VarnDataOld\\A"), QStringLiteral("\\B")}},
+        {"C:\\V\\VarnData\\Test\\Ling\\a.dbs", MapPlace{"C:\\V", "\\Test"}},
+        {"C:\\V\\varndata\\Test\\VarnData\\Other\\Loc.map", MapPlace{"C:\\V", "\\Test"}},
+        {"C:\\V\\VarnDataOld\\A\\VarnData\\B\\README.txt", MapPlace{"C:\\V\\VarnDataOld\\A", "\\B"}},
         {"C:\\V\\VarnData\\Square.sbl", std::nullopt},
+        {"C:\\V\\VarnData\\\\Loc.map", std::nullopt},
         {"C:\\V\\VarnData", std::nullopt},
         {"C:\\elsewhere\\Loc.map", std::nullopt},
     };
     for (const auto& [path, expected] : rows) {
-        EXPECT_EQ(mapPlaceOf(QLatin1String(path)), expected) << path;
+        EXPECT_EQ(mapPlaceOf(path), expected) << path;
     }
 }
 
@@ -161,23 +134,22 @@ TEST(MapSearch, AMapIsChosenAsAWholeOrNotAtAll)
 {
     TestSurvey survey;
     VarnModule& varn = survey.varn;
-    const MapPlace place{QStringLiteral("Z:\\other"), QStringLiteral("\\Isle")};
     const TestDrive other;
-    const MapPlace isle{varn.Drive.varnPath(other.root()), place.VarnMapName};
+    const MapPlace isle{varn.Drive.varnPath(other.root()), "\\Isle"};
     const auto write = [&](const char* name, const QByteArray& text) {
-        survey.write(isle.VarnPath + QStringLiteral("\\VarnData\\") + QLatin1String(name), text);
+        survey.write(isle.VarnPath + "\\VarnData\\" + name, text);
     };
     write("Isle\\Map\\Line.map", Lines);
     write("Isle\\Map\\Loc.map", "1\r\n7,8\r\n");
     write("Isle\\Map\\kanji.map", "1\r\n20,");
     EXPECT_EQ(errorOf([&] { chooseMap(isle, varn, varn); }).number(), ErrorNumber::InputPastEndOfFile);
-    EXPECT_EQ(varn.VarnMapName, QStringLiteral("\\Test"));
+    EXPECT_EQ(varn.VarnMapName, "\\Test");
     EXPECT_EQ(varn.NLine, 1);
     EXPECT_EQ(varn.NLocality, 3);
 
     write("Isle\\Map\\kanji.map", Names);
     chooseMap(isle, varn, varn);
-    EXPECT_EQ(varn.dataFolder(), isle.VarnPath + QStringLiteral("\\VarnData\\Isle\\Ling"));
+    EXPECT_EQ(varn.dataFolder(), isle.VarnPath + "\\VarnData\\Isle\\Ling");
     EXPECT_EQ(varn.NLine, 2);
     EXPECT_EQ(varn.LocXY(1, 1), 8);
     EXPECT_EQ(varn.NKanji, 1);
@@ -185,57 +157,40 @@ TEST(MapSearch, AMapIsChosenAsAWholeOrNotAtAll)
     write("Square.sbl", "1\r\n1\r\n1,2,0\r\n3,4\r\n");
     chooseMap(isle, varn, varn);
     EXPECT_EQ(varn.Nsquare, 1);
-}
 
-TEST(MapSearch, AMapIsMadeOfItsFoldersUnderItsName)
-{
-    TestSurvey survey;
-    VarnModule& varn = survey.varn;
     for (const char* name : {"", " ", "a\\b", "a:", "?"}) {
-        varn.VarnMapName = QLatin1Char('\\') + QLatin1String(name);
+        varn.VarnMapName = QString("\\") + name;
         EXPECT_EQ(errorOf([&] { makeMap(varn); }).number(), ErrorNumber::BadFileName) << name;
     }
-    varn.VarnMapName = QStringLiteral("\\I");
-    varn.LingFolder = QStringLiteral("\\VarnData\\I\\Ling");
-    makeMap(varn);
-    EXPECT_TRUE(folderExists(varn.Drive, Data + QStringLiteral("I\\Map")));
-    EXPECT_TRUE(folderExists(varn.Drive, Data + QStringLiteral("I\\Ling")));
 }
 
-TEST_F(ImportCommands, FilesAreSavedWhereTheUserSays)
+TEST_F(ImportCommands, FilesAreSavedAndLoadedIfTheyAreOfTheCurrentMap)
 {
-    const QString target = QStringLiteral("C:\\import\\saved.map");
-    answer("x y\n1 2\n", target);
-    SaveLocateData(varn, dialogs);
-    EXPECT_EQ(survey.read(target), "1\r\n1,2\r\n");
-    answer(Lines, target);
-    SaveLineData(varn, dialogs);
-    EXPECT_EQ(survey.read(target), Lines);
-    answer(Polygons, target);
-    SaveSquareData(varn, dialogs);
-    EXPECT_EQ(survey.read(target), Polygons);
-    EXPECT_EQ(varn.NLocality, 3) << "the current map is another file";
-    EXPECT_EQ(varn.NLine, 1);
-    EXPECT_EQ(varn.Nsquare, 2);
-}
-
-TEST_F(ImportCommands, WhatReplacesAFileOfTheCurrentMapIsLoaded)
-{
-    answer("1,2\n", MapFolder + QStringLiteral("loc.map"));
-    SaveLocateData(varn, dialogs);
-    EXPECT_EQ(varn.NLocality, 1);
-    answer(Lines, MapFolder + QStringLiteral("Line.map"));
-    SaveLineData(varn, dialogs);
-    EXPECT_EQ(varn.NLine, 2);
-    answer("1\r\n1\r\n1,2,0\r\n3,5\r\n", Data + QStringLiteral("Square.sbl"));
-    SaveSquareData(varn, dialogs);
-    EXPECT_EQ(varn.Nsquare, 1);
-    EXPECT_EQ(varn.SquareXY(1, 1, 1), 3);
+    const QByteArray polygon = "1\r\n1\r\n1,2,0\r\n3,5\r\n";
+    using Import = void (*)(VarnModule&, Dialogs&);
+    using Counts = std::array<int, 3>;
+    const std::tuple<Import, QByteArray, QByteArray, QString, Counts> rows[] = {
+        {SaveLocateData, "x y\n1 2\n", "1\r\n1,2\r\n", MapFolder + "loc.map", {1, 0, 0}},
+        {SaveLineData, Lines, Lines, MapFolder + "Line.map", {1, 2, 0}},
+        {SaveSquareData, polygon, polygon, Data + "Square.sbl", {1, 2, 1}}};
+    Counts before = {2, 0, 0};
+    varn.NLocality = 2; // not what the files of the current map hold
+    varn.NLine = varn.Nsquare = 0;
+    for (const auto& [import, source, written, file, loaded] : rows) {
+        for (const QString& target : {QString("C:\\import\\saved.map"), file}) {
+            answer(source, target);
+            import(varn, dialogs);
+            EXPECT_EQ(survey.read(target), written) << qPrintable(file);
+            const Counts now = {varn.NLocality, varn.NLine, varn.Nsquare};
+            EXPECT_EQ(now, target == file ? loaded : before) << qPrintable(target);
+        }
+        before = loaded;
+    }
 }
 
 TEST_F(ImportCommands, BadFilesAndCancelledDialogsChangeNothing)
 {
-    const QString target = MapFolder + QStringLiteral("Loc.map");
+    const QString target = MapFolder + "Loc.map";
     const QByteArray before = survey.read(target);
     answer("1,x\n", target);
     EXPECT_EQ(errorOf([&] { SaveLocateData(varn, dialogs); }).place().path, Source);
@@ -252,17 +207,15 @@ TEST_F(ImportCommands, BadFilesAndCancelledDialogsChangeNothing)
 
 TEST_F(ImportCommands, PlaceNamesBecomeTheSpecialOnesAndAreDrawn)
 {
-    const QString special = QStringLiteral("C:\\Varn62E\\Varn\\varnsymbols\\TarkaKanji.map");
     choose(Names);
     SaveKanjiData(varn, dialogs, survey.surfaces);
-    EXPECT_EQ(survey.read(special), Names);
-    EXPECT_TRUE(wasPrinted(survey.frmMap.drawing(), QStringLiteral("A \"B\"")));
-    EXPECT_FALSE(wasPrinted(survey.frmMap.drawing(), QStringLiteral("Town")));
+    EXPECT_TRUE(wasPrinted(survey.frmMap.drawing(), "A \"B\""));
+    EXPECT_FALSE(wasPrinted(survey.frmMap.drawing(), "Town"));
     EXPECT_EQ(dialogs.shown.size(), 1U) << "no name is asked for";
 
     choose("1\r\n20,");
     EXPECT_EQ(errorOf([&] { SaveKanjiData(varn, dialogs, survey.surfaces); }).number(),
               ErrorNumber::InputPastEndOfFile);
-    EXPECT_EQ(survey.read(special), Names);
-    EXPECT_EQ(varn.KanjiText(1), QStringLiteral("A \"B\""));
+    EXPECT_EQ(survey.read("C:\\Varn62E\\Varn\\varnsymbols\\TarkaKanji.map"), Names);
+    EXPECT_EQ(varn.KanjiText(1), "A \"B\"");
 }

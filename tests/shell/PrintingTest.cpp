@@ -4,6 +4,7 @@
 #include "shell/MapParts.h"
 #include "tests/support/RecordingPrinter.h"
 #include "tests/support/TestDrive.h"
+#include "tests/support/Transcript.h"
 
 namespace {
 
@@ -18,7 +19,7 @@ struct PrintedSurvey : TestSurvey
 
     void drawMap()
     {
-        PrintYesNo(varn, frmMap, QStringLiteral("Test - Town"));
+        PrintYesNo(varn, frmMap, "Test - Town");
         DrawBlankMap(blankMapParts(varn), {*varn.DrawTarget, frmMap});
         PrintEnd(varn);
     }
@@ -27,19 +28,6 @@ struct PrintedSurvey : TestSurvey
 };
 
 } // namespace
-
-TEST(Printing, PaperIsA4InEitherOrientation)
-{
-    PageSetup page;
-    setPaper(page, 1);
-    EXPECT_EQ(paperLabel(page), QStringLiteral("A4 Portrait(297 X 210) mm"));
-    EXPECT_EQ(paperSpaceLabel(page), QStringLiteral("Height:297(mm) Width:210(mm)"));
-    setPaper(page, 2);
-    EXPECT_EQ(paperLabel(page), QStringLiteral("A4 Landscape(210 X 297) mm"));
-    EXPECT_EQ(printModeLabel(page), QStringLiteral("Don't print"));
-    page.PrintMode = true;
-    EXPECT_EQ(printModeLabel(page), QStringLiteral("Print A4 Landscape"));
-}
 
 TEST(Printing, TheScaleWouldFillThePaperBetweenTheMargins)
 {
@@ -59,7 +47,7 @@ TEST(Printing, EachDrawingCommandIsADocument)
     PrintedSurvey survey;
     survey.drawMap();
     EXPECT_TRUE(survey.documents.empty()) << "printing is off";
-    EXPECT_FALSE(survey.frmMap.drawing().operations.empty());
+    const QPointF onForm = printedAt(survey.frmMap.drawing(), "Town");
 
     survey.varn.PrintMode = true;
     survey.drawMap();
@@ -68,16 +56,20 @@ TEST(Printing, EachDrawingCommandIsADocument)
     survey.drawMap();
     ASSERT_EQ(survey.documents.size(), 2U);
     EXPECT_TRUE(survey.frmMap.drawing().operations.empty());
-    const QPointF onForm(400 * 8.82F + 50, 500 * 8.82F + 50);
-    const QPointF first = printedAt(survey.documents[0].at(0), QStringLiteral("Town"));
-    const QPointF second = printedAt(survey.documents[1].at(0), QStringLiteral("Town"));
-    EXPECT_NEAR(first.x(), onForm.x() + 20 * 56.7, 0.01);
-    EXPECT_NEAR(first.y(), onForm.y() + 15 * 56.7, 0.01);
-    EXPECT_NEAR(second.x(), onForm.x() + 30 * 56.7, 0.01);
-    EXPECT_NEAR(second.y(), onForm.y() + 25 * 56.7, 0.01);
+    const QPointF margins[] = {{20, 15}, {30, 25}};
+    for (const int n : {0, 1}) {
+        const QPointF moved = printedAt(survey.documents[n].at(0), "Town") - onForm;
+        EXPECT_LT((moved - 56.7 * margins[n]).manhattanLength(), 0.02) << n;
+    }
+
+    connectPrinter(survey.varn, nullptr);
+    survey.drawMap();
+    EXPECT_TRUE(wasPrinted(survey.frmMap.drawing(), "Town")) << "print mode is off";
+    beginDocument(survey.varn, survey.varn, {});
+    EXPECT_EQ(errorOf([&] { endDocument(survey.varn); }).number(), ErrorNumber::DeviceIOError);
 }
 
-TEST(Printing, APageHasThePaperAndTheFontChosenWhenItBegins)
+TEST(Printing, EachPageHasThePaperAndTheFontChosenWhenTheDocumentBegins)
 {
     TestSurvey survey;
     VarnModule& varn = survey.varn;
@@ -85,27 +77,28 @@ TEST(Printing, APageHasThePaperAndTheFontChosenWhenItBegins)
     PageLayout chosen;
     chosen.PaperOrientation = 1;
     connectPrinter(varn, std::make_unique<RecordingPrinter>(documents, chosen));
-    EXPECT_EQ(paperLabel(varn), QStringLiteral("A4 Portrait(297 X 210) mm")) << "as chosen with the printer";
+    EXPECT_EQ(paperLabel(varn), "A4 Portrait(297 X 210) mm") << "as chosen with the printer";
     EXPECT_EQ(varn.Printer.FontSize, 10);
 
     setPaper(varn, 2);
     varn.MapFontSize = 14;
-    varn.MapFontName = QStringLiteral("Courier");
+    varn.MapFontName = "Courier";
     varn.MapFontItalic = true;
     varn.Printer.FontBold = true;
     varn.Printer.DrawWidth = 5; // as a symbol leaves it
     varn.Printer.FillStyle = 0;
-    beginDocument(varn, varn, QStringLiteral("Test - List"));
-    varn.Printer.PrintAt(0, 0, QStringLiteral("list"));
+    beginDocument(varn, varn, "Test - List");
+    varn.Printer.PrintAt(0, 0, "list");
+    newPage(varn);
     varn.Printer.Box(0, 0, 10, 10, qRgb(0, 0, 0));
     endDocument(varn);
     ASSERT_EQ(documents.size(), 1U);
-    EXPECT_EQ(documents[0].name, QStringLiteral("Test - List"));
+    EXPECT_EQ(documents[0].name, "Test - List");
     EXPECT_EQ(documents[0].orientation, 2);
-    const TextFont font{QStringLiteral("Courier"), 14, false, true};
-    EXPECT_EQ(documents[0].at(0).fonts.at(0), font);
-    EXPECT_EQ(documents[0][0].pens.at(0).width, 1);
-    EXPECT_EQ(operationsOf<BoxOperation>(documents[0][0]).at(0).fill, 0U);
+    ASSERT_EQ(documents[0].size(), 2U);
+    EXPECT_EQ(documents[0][0].fonts.at(0), (TextFont{"Courier", 14, false, true}));
+    EXPECT_EQ(transcript(documents[0][0]), "\n\"list\" 1134,850.5 14pt italic\n");
+    EXPECT_EQ(transcript(documents[0][1]), "\nbox 1134,850.5 1144,860.5 pen 1/0/0\n");
     EXPECT_FLOAT_EQ(varn.Printer.Width, 297 * 56.7F);
 }
 
@@ -127,30 +120,4 @@ TEST(Printing, WhatIsLargerThanThePaperWithinItsMarginsIsNoticed)
     EXPECT_FALSE(fits(30, 30, 60, height + 30));
     newPage(varn);
     EXPECT_FALSE(fitsPaper(varn)) << "any page";
-}
-
-TEST(Printing, ADocumentMayHaveManyPages)
-{
-    PrintedSurvey survey;
-    beginDocument(survey.varn, survey.varn, {});
-    survey.varn.Printer.Print(QStringLiteral("one"));
-    newPage(survey.varn);
-    survey.varn.Printer.Print(QStringLiteral("two"));
-    endDocument(survey.varn);
-    ASSERT_EQ(survey.documents.size(), 1U);
-    ASSERT_EQ(survey.documents[0].size(), 2U);
-    EXPECT_TRUE(wasPrinted(survey.documents[0][1], QStringLiteral("two")));
-    EXPECT_FALSE(wasPrinted(survey.documents[0][1], QStringLiteral("one")));
-}
-
-TEST(Printing, WithoutAPrinterADocumentIsAnError)
-{
-    PrintedSurvey survey;
-    survey.varn.PrintMode = true;
-    connectPrinter(survey.varn, nullptr);
-    EXPECT_FALSE(survey.varn.PrinterConnected);
-    survey.drawMap();
-    EXPECT_TRUE(wasPrinted(survey.frmMap.drawing(), QStringLiteral("Town"))) << "print mode is off";
-    beginDocument(survey.varn, survey.varn, {});
-    EXPECT_EQ(errorOf([&] { endDocument(survey.varn); }).number(), ErrorNumber::DeviceIOError);
 }

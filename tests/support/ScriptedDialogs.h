@@ -14,13 +14,13 @@ public:
     ScriptedDialogs() = default;
     ~ScriptedDialogs() override
     {
-        expectNoneLeft(yesNo, "yesNo");
-        expectNoneLeft(okCancel, "okCancel");
-        expectNoneLeft(inputs, "inputs");
-        expectNoneLeft(files, "files");
-        expectNoneLeft(folders, "folders");
-        expectNoneLeft(savedFiles, "savedFiles");
-        expectNoneLeft(fonts, "fonts");
+        const std::pair<const char*, std::size_t> left[] = {
+            {"yesNo", yesNo.size()}, {"okCancel", okCancel.size()}, {"inputs", inputs.size()},
+            {"files", files.size()}, {"folders", folders.size()},   {"savedFiles", savedFiles.size()},
+            {"fonts", fonts.size()}};
+        for (const auto& [kind, answers] : left) {
+            EXPECT_EQ(answers, 0U) << "answers of " << kind << " were not asked for";
+        }
         EXPECT_EQ(printer, nullptr) << "the printer was not asked for";
     }
     ScriptedDialogs(const ScriptedDialogs&) = delete;
@@ -52,12 +52,8 @@ public:
         }
     };
 
-    std::deque<bool> yesNo;
-    std::deque<bool> okCancel;
-    std::deque<std::optional<QString>> inputs;
-    std::deque<std::optional<QString>> files;
-    std::deque<std::optional<QString>> folders;
-    std::deque<std::optional<QString>> savedFiles;
+    std::deque<bool> yesNo, okCancel;
+    std::deque<std::optional<QString>> inputs, files, folders, savedFiles;
     std::deque<std::optional<TextFont>> fonts;
     /// The printer that the user chooses; null for none.
     std::unique_ptr<PrinterDevice> printer;
@@ -113,12 +109,6 @@ public:
     }
 
 private:
-    template <typename Answer>
-    static void expectNoneLeft(const std::deque<Answer>& answers, const char* kind)
-    {
-        EXPECT_EQ(answers.size(), 0U) << "answers of " << kind << " were not asked for";
-    }
-
     template <typename Answer>
     Answer answer(std::deque<Answer>& answers, const Shown& question)
     {

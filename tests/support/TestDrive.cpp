@@ -36,19 +36,18 @@ QByteArray TestDrive::read(const QString& path) const
 
 TestSurvey::TestSurvey()
 {
-    const QString data = QStringLiteral("C:\\Varn62E\\Varn\\VarnData");
-    write(data + QStringLiteral("\\Square.sbl"),
-          "2\r\n5\r\n16,16,0\r\n6,6\r\n26,6\r\n26,26\r\n6,26\r\n6,6\r\n"
-          "2\r\n0,0,0\r\n-10,-5\r\n10,5\r\n");
-    write(data + QStringLiteral("\\Test\\Map\\Line.map"),
+    const QString data = "C:\\Varn62E\\Varn\\VarnData";
+    write(data + "\\Square.sbl", "2\r\n5\r\n16,16,0\r\n6,6\r\n26,6\r\n26,26\r\n6,26\r\n6,6\r\n"
+                                 "2\r\n0,0,0\r\n-10,-5\r\n10,5\r\n");
+    write(data + "\\Test\\Map\\Line.map",
           "1\r\n0,5,1,0,0,0\r\n0,0\r\n1000,0\r\n1000,1000\r\n0,1000\r\n0,0\r\n");
-    write(data + QStringLiteral("\\Test\\Map\\Loc.map"), "3\r\n100,200\r\n300,400\r\n500.5,600.5\r\n");
-    write(data + QStringLiteral("\\Test\\Map\\kanji.map"),
+    write(data + "\\Test\\Map\\Loc.map", "3\r\n100,200\r\n300,400\r\n500.5,600.5\r\n");
+    write(data + "\\Test\\Map\\kanji.map",
           "2\r\n20,30.5\r\n\"Title\"\r\n400,500\r\n\"Town\"\r\n100,900\r\n\"20 km\",4,200\r\n");
 
     varn.Drive = drive();
-    varn.VarnMapName = QStringLiteral("\\Test");
-    varn.LingFolder = QStringLiteral("\\VarnData\\Test\\Ling");
+    varn.VarnMapName = "\\Test";
+    varn.LingFolder = "\\VarnData\\Test\\Ling";
     QDir().mkpath(drive().hostPath(varn.dataFolder()));
     LoadSquareData(varn.Drive, varn.VarnPath, varn);
     LoadLineData(varn.Drive, varn.VarnPath, varn.VarnMapName, varn);

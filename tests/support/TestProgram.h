@@ -6,8 +6,10 @@
 #include "tests/support/ScriptedDialogs.h"
 #include "tests/support/TestDrive.h"
 
+#include <QAbstractItemView>
 #include <QAction>
 #include <QApplication>
+#include <QLineEdit>
 #include <QPushButton>
 
 #include <stdexcept>
@@ -15,9 +17,9 @@
 using Shown = ScriptedDialogs::Shown;
 
 inline const QString InstallationFolder = QStringLiteral(INSTALLATION_FOLDER);
-inline const QString VarnPath = QStringLiteral("C:\\Varn62E\\Varn");
-inline const QString DriveFile = QStringLiteral("C:\\Varn62E\\Varn\\VarnDriveName.map");
-inline const QString MapNameFile = QStringLiteral("C:\\Varn62E\\VarnMapName.dat");
+inline const QString VarnPath = "C:\\Varn62E\\Varn";
+inline const QString DriveFile = "C:\\Varn62E\\Varn\\VarnDriveName.map";
+inline const QString MapNameFile = "C:\\Varn62E\\VarnMapName.dat";
 
 /// The form of class `Form`, which the started program has one of.
 template <typename Form>
@@ -47,6 +49,19 @@ void trigger(const char* name)
     control<Form, QAction>(name).trigger();
 }
 
+/// Puts a text into a box, as a whole.
+template <typename Form>
+void type(const char* box, const QString& text)
+{
+    control<Form, QLineEdit>(box).setText(text);
+}
+/// Enters a word form in a cell, counted from 0.
+inline void enterWord(int row, int column, const QString& word)
+{
+    auto& words = *control<frmDataInput, QAbstractItemView>("tblWords").model();
+    EXPECT_TRUE(words.setData(words.index(row, column), word));
+}
+
 /// The program with its forms on a drive of its own.
 struct Program
 {
@@ -61,7 +76,7 @@ struct Program
 
     void load(const char* entry, const char* file)
     {
-        dialogs.files = {varn.Drive.hostPath(varn.dataFolder()) + QLatin1Char('/') + QLatin1String(file)};
+        dialogs.files = {varn.Drive.hostPath(varn.dataFolder()) + '/' + QLatin1String(file)};
         menu(entry).trigger();
     }
 
@@ -76,13 +91,13 @@ class Forms : public testing::Test
 protected:
     Forms()
     {
-        const QString data = VarnPath + QStringLiteral("\\VarnData");
+        const QString data = VarnPath + "\\VarnData";
         survey.write(DriveFile, "\"C:\\Varn62E\\\"\r\n");
         survey.write(MapNameFile, "\"\\Test\",\"Arial\",12,#TRUE#,#FALSE#,0\r\n");
-        survey.write(data + QStringLiteral("\\ExpSymbol.txt"), "1\r\n\"x\",\"y\",\"z\"\r\n");
-        survey.write(data + QStringLiteral("\\Test\\Ling\\rain.dbs"),
+        survey.write(data + "\\ExpSymbol.txt", "1\r\n\"x\",\"y\",\"z\"\r\n");
+        survey.write(data + "\\Test\\Ling\\rain.dbs",
                      "3,\"\",\"Rain\",\"\"\r\n2\r\n\"ame\"\r\n\"uyu\"\r\n0\r\n1\r\n\"uyu\"\r\n");
-        survey.write(data + QStringLiteral("\\Test\\Ling\\rain.han"),
+        survey.write(data + "\\Test\\Ling\\rain.han",
                      "\"\"\r\n2\r\n\"ame\",\"AME\"\r\n1\r\n0\r\n0\r\n1\r\n1\r\n1\r\n"
                      "\"uyu\",\"UYU\"\r\n49\r\n4\r\n0\r\n0\r\n1\r\n1\r\n");
     }

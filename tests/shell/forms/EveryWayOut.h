@@ -6,8 +6,6 @@
 #include <QClipboard>
 #include <QDirIterator>
 #include <QFile>
-#include <QLineEdit>
-#include <QListWidget>
 
 #include <functional>
 #include <memory>
@@ -19,15 +17,12 @@ class EveryWayOut : public Forms
 protected:
     struct Way
     {
-        const char* form;
-        const char* name;
-        /// What a person sees of it: a text that appears; after a minus one that disappears; "*" where the
-        /// form looks different, "*name" where that part of it does.
-        const char* change;
-        /// What is done before, answers included.
-        std::function<void(EveryWayOut&)> before = [](EveryWayOut&) {};
-        /// What is done; where there is none, the entry, button or shortcut of that name is used.
-        std::function<void(EveryWayOut&)> act = {};
+        QString form;
+        /// What is done on the form; the last step is what the row is about.
+        QStringList steps;
+        /// What a person sees of the last step: a text that appears; after a minus one that disappears; "*"
+        /// where the form looks different, "*name" where that part of it does.
+        QString change;
     };
 
     EveryWayOut()
@@ -36,9 +31,8 @@ protected:
                      "2,5,\"the caption\"\r\n\"one\"\r\n12,9\r\n\"kept\",3\r\n\"two\"\r\n0,15\r\n2.5,0\r\n"
                      "1,2\r\n3,2\r\n5,4\r\n");
         survey.write(ling("all.sum"), "2\r\n2,\"a\",\"am\"\r\n1,\"u\"\r\n");
-        survey.write(ling("many.han"),
-                     "\"\"\r\n30\r\n" +
-                         QByteArray("\"k\",\"K\"\r\n1\r\n0\r\n0\r\n1\r\n1\r\n1\r\n").repeated(30));
+        const QByteArray record = "\"k\",\"K\"\r\n1\r\n0\r\n0\r\n1\r\n1\r\n1\r\n";
+        survey.write(ling("many.han"), "\"\"\r\n30\r\n" + record.repeated(30));
     }
 
     void open()
@@ -51,10 +45,10 @@ protected:
         start(*program);
         program->load("mnuInputWord", "rain.dbs");
         program->load("mnuHankoInput", "rain.han");
-        for (const char* button : {"cmdMap", "cmdInputData", "cmdData", "cmdHanko", "cmdSumUp"}) {
+        for (const char* button :
+             {"cmdMap", "cmdInputData", "cmdData", "cmdHanko", "cmdSumUp", "cmdRegMap"}) {
             program->click(button);
         }
-        control<frmMain, QPushButton>("cmdRegMap").click();
         choose("all.ttl");
         program->dialogs.yesNo = {true}; // with its strings
         trigger<frmCalc>("mnuFileOpen");
@@ -71,92 +65,80 @@ protected:
         QGuiApplication::clipboard()->setText({});
     }
 
-    static QString ling(const char* file)
-    {
-        return VarnPath + QStringLiteral("\\VarnData\\Test\\Ling\\") + QLatin1String(file);
-    }
+    static QString ling(const char* file) { return VarnPath + "\\VarnData\\Test\\Ling\\" + file; }
     void choose(const char* file) { program->dialogs.files = {survey.drive().hostPath(ling(file))}; }
-    template <typename Form>
-    static void type(const char* box, const char* text)
-    {
-        control<Form, QLineEdit>(box).setText(QLatin1String(text));
-    }
 
-    static void showOnly(const QString& form)
+    /// Does a step on the form of the row: uses the entry, button or shortcut of that name; "box=text" types
+    /// a text into a box or the first cell; "list=n" chooses a row, "list=Enter" the first with the Enter
+    /// key; a name in brackets is one of `preparations`.
+    void perform(const QString& step);
+    std::map<QString, std::function<void()>> preparations();
+
+    /// Hides all windows and brings the form to the front.
+    static void showOnly(VarnForm& form)
     {
         for (QWidget* window : QApplication::topLevelWidgets()) {
-            if (window->isVisible()) {
-                window->hide();
-            }
+            window->setVisible(window == &form);
         }
-        formNamed(form).show();
+        QEvent activated(QEvent::WindowActivate);
+        QApplication::sendEvent(&form, &activated);
         QApplication::processEvents();
     }
 
     /// What a person sees: forms in front, questions, what stands on `form`, the map, the files.
-    QStringList seen(const VarnForm& form) const
+    QString seen(const VarnForm& form) const
     {
         QStringList lines = visibleWindows() + shownOn(form);
         for (const Shown& shown : program->dialogs.shown) {
             lines << shown.title << shown.text;
         }
         for (const QString& text : Program::drawing().texts) {
-            lines << QStringLiteral("map: ") + text;
+            lines << "map: " + text;
         }
         if (!QGuiApplication::clipboard()->image().isNull()) {
-            lines << QStringLiteral("clipboard: picture");
+            lines << "clipboard: picture";
         }
-        lines << QStringLiteral("clipboard: ") + QGuiApplication::clipboard()->text().trimmed();
+        lines << "clipboard: " + QGuiApplication::clipboard()->text().trimmed();
         for (QDirIterator files(survey.root(), QDir::Files, QDirIterator::Subdirectories); files.hasNext();) {
-            lines << QStringLiteral("file: ") + QFileInfo(files.next()).fileName();
+            lines << "file: " + QFileInfo(files.next()).fileName();
         }
-        return lines;
-    }
-
-    void act(const Way& way, const VarnForm& form)
-    {
-        if (way.act) {
-            way.act(*this);
-            return;
-        }
-        const auto ways = waysOut(form);
-        const auto found = ways.find(QLatin1String(way.name));
-        ASSERT_NE(found, ways.end()) << "there is no such thing";
-        use(*found->second);
+        return lines.join('\n');
     }
 
     void expectChange(const Way& way)
     {
-        SCOPED_TRACE(std::string(way.form) + " " + way.name);
+        SCOPED_TRACE(qPrintable(way.form + ": " + way.steps.join(", ")));
         open();
-        VarnForm& form = formNamed(QLatin1String(way.form));
-        showOnly(QLatin1String(way.form));
-        way.before(*this);
+        rowForm = &formNamed(way.form);
+        showOnly(*rowForm);
+        for (const QString& step : way.steps.first(way.steps.size() - 1)) {
+            perform(step);
+        }
         QApplication::processEvents();
         program->dialogs.shown.clear();
-        const QString before = seen(form).join(QLatin1Char('\n'));
-        const bool looks = way.change[0] == '*';
+        const QString before = seen(*rowForm);
+        const bool looks = way.change.startsWith('*');
+        const bool appears = !way.change.startsWith('-');
+        const QString what = way.change.mid(looks || !appears ? 1 : 0);
         const auto picture = [&] {
-            return (way.change[1] == 0 ? form : child<QWidget>(form, way.change + 1)).grab().toImage();
+            return (what.isEmpty() ? *rowForm : child<QWidget>(*rowForm, qPrintable(what))).grab().toImage();
         };
         const QImage pictureBefore = looks ? picture() : QImage();
-        act(way, form);
+        perform(way.steps.last());
         QApplication::processEvents();
-        const QString after = seen(form).join(QLatin1Char('\n'));
-        const bool appears = way.change[0] != '-';
-        const QString text = QString::fromUtf8(way.change + (appears ? 0 : 1));
+        const QString after = seen(*rowForm);
         if (looks) {
             EXPECT_NE(picture(), pictureBefore) << "nothing looks different";
         } else {
-            EXPECT_EQ(before.contains(text), !appears) << qPrintable(before);
-            EXPECT_EQ(after.contains(text), appears) << qPrintable(after);
+            EXPECT_EQ(before.contains(what), !appears) << qPrintable(before);
+            EXPECT_EQ(after.contains(what), appears) << qPrintable(after);
         }
         EXPECT_EQ(program->dialogs.errors, std::vector<Shown>());
     }
 
     std::unique_ptr<Program> program;
-    /// A row for each menu entry, button and shortcut, but for Exit.
+    /// The form that the row is about.
+    VarnForm* rowForm = nullptr;
+    /// A row for each menu entry, button and shortcut, but for Exit, and for what is typed and chosen.
     static std::vector<Way> ways();
-    /// What a form shows at once of what is typed and chosen on it.
-    static std::vector<Way> fields();
 };

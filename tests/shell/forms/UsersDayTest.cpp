@@ -4,126 +4,85 @@
 #include "tests/support/RecordingPrinter.h"
 #include "tests/support/TestProgram.h"
 
-#include <QAbstractItemView>
-#include <QComboBox>
 #include <QDir>
 #include <QFile>
-#include <QLineEdit>
-#include <QListWidget>
-#include <QStatusBar>
 
 namespace {
 
-const QString Ling = QStringLiteral("C:\\Varn62E\\Varn\\VarnData\\Other\\Ling\\");
+const QString Data = VarnPath + "\\VarnData\\";
+const QString Ling = Data + "Other\\Ling\\";
 
-/// A program on a survey with two maps, "Test" being the current one.
-class UsersDay : public Forms
+void startWithGlyphs(Program& program)
 {
-protected:
-    UsersDay()
-    {
-        const QString map = VarnPath + QStringLiteral("\\VarnData\\Other\\Map\\");
-        survey.write(map + QStringLiteral("Line.map"), "1\r\n0,2,0,0,0,0\r\n0,0\r\n800,1000\r\n");
-        survey.write(map + QStringLiteral("Loc.map"), "4\r\n100,100\r\n200,300\r\n300,500\r\n400,700\r\n");
-        survey.write(map + QStringLiteral("kanji.map"),
-                     "1\r\n20,20\r\n\"Other island\"\r\n100,900\r\n\"5 km\",1,100\r\n");
-        survey.write(Ling + QStringLiteral("readme.txt"), "");
-    }
+    program.dialogs.yesNo = {true};
+    program.start(InstallationFolder);
+}
 
-    static void startWithGlyphs(Program& program)
-    {
-        program.dialogs.yesNo = {true};
-        program.start(InstallationFolder);
-    }
-
-    void chooseMap(Program& program) const
-    {
-        program.click("cmdRegMap");
-        program.dialogs.files = {
-            survey.hostPath(QStringLiteral("Varn62E/Varn/VarnData/Other/Ling/readme.txt"))};
-        program.dialogs.yesNo = {true};
-        press<frmChizu>("cmdRegMapName");
-    }
-
-    static void enterItem(Program& program)
-    {
-        program.click("cmdInputData");
-        auto& words = *control<frmDataInput, QAbstractItemView>("tblWords").model();
-        const std::tuple<int, int, QString> cells[] = {{0, 0, QStringLiteral("ka\\N1a")},
-                                                       {0, 1, QStringLiteral("say \"mi\", no")},
-                                                       {2, 0, QStringLiteral("mi")},
-                                                       {3, 0, QStringLiteral("ka\\N1a")}};
-        for (const auto& [row, column, word] : cells) {
-            EXPECT_TRUE(words.setData(words.index(row, column), word));
-        }
-        control<frmDataInput, QLineEdit>("txtHanrei").insert(QStringLiteral("Hand")); // as if typed
-        control<frmDataInput, QLineEdit>("txtFileName").setText(QStringLiteral("hand"));
-        trigger<frmDataInput>("mnuSave");
-    }
-
-    void lookAtIt(Program& program) const
-    {
-        program.click("cmdData");
-        program.dialogs.files = {survey.drive().hostPath(Ling + QStringLiteral("hand.dbs"))};
-        trigger<frmData>("mnuOpen");
-        trigger<frmData>("mnuKind");
-    }
-
-    static void addSymbol(int kind, const QString& caption, const QString& number)
-    {
-        control<frmSetHanko, QListWidget>("lstKindWord").setCurrentRow(kind);
-        press<frmSetHanko>("cmdWord");
-        control<frmSetHanko, QLineEdit>("txtHanrei").setText(caption);
-        control<frmSetHanko, QLineEdit>("txtHankoNumber").setText(number);
-        press<frmSetHanko>("cmdSave");
-        press<frmSetHanko>("cmdNext");
-    }
-
-    static void makeSymbols(Program& program)
-    {
-        program.click("cmdHanko");
-        addSymbol(0, QStringLiteral("hand with ng"), QStringLiteral("50"));
-        addSymbol(1, QStringLiteral("mi"), QStringLiteral("1"));
-        program.dialogs.inputs = {QStringLiteral("hand")};
-        trigger<frmSetHanko>("mnuSaveHanko");
-        trigger<frmSetHanko>("mnuLoadMap");
-    }
-};
+void addSymbol(int kind, const QString& caption, const QString& number)
+{
+    control<frmSetHanko, QListWidget>("lstKindWord").setCurrentRow(kind);
+    press<frmSetHanko>("cmdWord");
+    type<frmSetHanko>("txtHanrei", caption);
+    type<frmSetHanko>("txtHankoNumber", number);
+    press<frmSetHanko>("cmdSave");
+    press<frmSetHanko>("cmdNext");
+}
 
 } // namespace
 
-TEST_F(UsersDay, FromTheSurveyToThePrintedMapAndBack)
+TEST_F(Forms, FromTheSurveyToThePrintedMapAndBack)
 {
+    survey.write(Data + "Other\\Map\\Line.map", "1\r\n0,2,0,0,0,0\r\n0,0\r\n800,1000\r\n");
+    survey.write(Data + "Other\\Map\\Loc.map", "4\r\n100,100\r\n200,300\r\n300,500\r\n400,700\r\n");
+    survey.write(Data + "Other\\Map\\kanji.map",
+                 "1\r\n20,20\r\n\"Other island\"\r\n100,900\r\n\"5 km\",1,100\r\n");
+    survey.write(Ling + "readme.txt", "");
     RecordingPrinter::Documents documents;
-    const QString svg = survey.hostPath(QStringLiteral("hand.svg"));
     Drawing drawn;
     {
         Program program(survey);
         startWithGlyphs(program);
-        chooseMap(program);
-        EXPECT_EQ(program.varn.VarnMapName, QStringLiteral("\\Other"));
+        program.click("cmdRegMap");
+        program.dialogs.files = {survey.drive().hostPath(Ling + "readme.txt")};
+        program.dialogs.yesNo = {true};
+        press<frmChizu>("cmdRegMapName");
         EXPECT_EQ(program.varn.NLocality, 4);
-        EXPECT_EQ(program.main.windowTitle(), QStringLiteral("VARN - Other"));
+        EXPECT_EQ(program.main.windowTitle(), "VARN - Other");
 
-        enterItem(program);
-        EXPECT_EQ(
-            survey.read(Ling + QStringLiteral("hand.dbs")),
-            "4,\"\",\"Hand\",\"\"\r\n2\r\n\"ka\\N1a\"\r\n\"say \"\"mi\"\", no\"\r\n0\r\n1\r\n\"mi\"\r\n1\r\n"
-            "\"ka\\N1a\"\r\n");
-        lookAtIt(program);
-        EXPECT_EQ(survey.read(Ling + QStringLiteral("hand.srt")),
+        program.click("cmdInputData");
+        enterWord(0, 0, "ka\\N1a");
+        enterWord(0, 1, "say \"mi\", no");
+        enterWord(2, 0, "mi");
+        enterWord(3, 0, "ka\\N1a");
+        control<frmDataInput, QLineEdit>("txtHanrei").insert("Hand"); // as if typed
+        type<frmDataInput>("txtFileName", "hand");
+        trigger<frmDataInput>("mnuSave");
+        EXPECT_EQ(survey.read(Ling + "hand.dbs"),
+                  "4,\"\",\"Hand\",\"\"\r\n2\r\n\"ka\\N1a\"\r\n\"say \"\"mi\"\", no\"\r\n0\r\n1\r\n\"mi\"\r\n"
+                  "1\r\n\"ka\\N1a\"\r\n");
+
+        program.click("cmdData");
+        program.dialogs.files = {survey.drive().hostPath(Ling + "hand.dbs")};
+        trigger<frmData>("mnuOpen");
+        trigger<frmData>("mnuKind");
+        EXPECT_EQ(survey.read(Ling + "hand.srt"),
                   "3\r\n\"ka\\N1a\",2\r\n\"mi\",1\r\n\"say \"\"mi\"\", no\",1\r\n");
-        makeSymbols(program);
-        EXPECT_EQ(program.varn.NHanrei, 2);
+
+        program.click("cmdHanko");
+        addSymbol(0, "hand with ng", "50");
+        addSymbol(1, "mi", "1");
+        program.dialogs.inputs = {"hand"};
+        trigger<frmSetHanko>("mnuSaveHanko");
+        trigger<frmSetHanko>("mnuLoadMap");
 
         program.dialogs.printer = std::make_unique<RecordingPrinter>(documents);
         program.click("cmdPrinter");
         program.menu("mnuMapLing").trigger();
         drawn = program.drawing();
-        EXPECT_TRUE(wasPrinted(drawn, QStringLiteral("hand with ng")));
+        EXPECT_TRUE(wasPrinted(drawn, "hand with ng"));
         EXPECT_EQ(operationsOf<EllipseOperation>(drawn).size(), 2 + 1U)
             << "at two localities and in the legend";
-        program.dialogs.savedFiles = {svg};
+        program.dialogs.savedFiles = {survey.hostPath("hand.svg")};
         program.menu("mnuSaveMapAs").trigger();
         program.dialogs.yesNo = {true};
         program.menu("mnuFilePrint").trigger();
@@ -132,12 +91,11 @@ TEST_F(UsersDay, FromTheSurveyToThePrintedMapAndBack)
     }
     ASSERT_EQ(documents.size(), 1U);
     EXPECT_EQ(documents[0].at(0).texts, drawn.texts) << "what is printed is what was shown";
-    EXPECT_TRUE(survey.read(QStringLiteral("C:\\hand.svg")).contains(">hand with ng<"));
+    EXPECT_TRUE(survey.read("C:\\hand.svg").contains(">hand with ng<"));
 
     survey.write(MapNameFile, "\"\\Other\",\"Arial\",12,#TRUE#,#FALSE#,0\r\n");
     Program program(survey);
     startWithGlyphs(program);
-    program.click("cmdMap");
     program.load("mnuHankoInput", "hand.han");
     program.load("mnuInputWord", "hand.dbs");
     program.menu("mnuMapLing").trigger();
@@ -148,44 +106,41 @@ TEST_F(UsersDay, FromTheSurveyToThePrintedMapAndBack)
 
 TEST_F(Forms, ANewMapIsMadeInsideTheProgram)
 {
-    const QString map = VarnPath + QStringLiteral("\\VarnData\\New\\Map\\");
-    const QString source = QStringLiteral("C:\\import\\source.txt");
+    const QString map = Data + "New\\Map\\";
     QFile::remove(survey.drive().hostPath(DriveFile));
     {
         Program program(survey);
-        program.dialogs.inputs = {QStringLiteral("New")};
+        program.dialogs.inputs = {"New"};
         program.dialogs.yesNo = {false, true};
         program.start(nothing.path());
-        EXPECT_EQ(program.dialogs.shown.back().text, QStringLiteral("There is no map New. Make a new one?"));
-        QDir(survey.hostPath(QStringLiteral("Varn62E/Varn/VarnData/New"))).removeRecursively();
+        EXPECT_EQ(program.dialogs.shown.back().text, "There is no map New. Make a new one?");
+        QDir(survey.drive().hostPath(Data + "New")).removeRecursively();
 
-        const std::tuple<const char*, const char*, QByteArray> imports[] = {
-            {"mnuImportLocalities", "Loc.map", "x,y\n10,20\n30,40\n"},
-            {"mnuImportLines", "Line.map", "1\r\n0,2,0,0,0,0\r\n0,0\r\n80,100\r\n"},
-            {"mnuImportPlaceNames", nullptr, "1\r\n2,3\r\n\"New town\"\r\n5,90\r\n\"km\",2,10\r\n"}};
-        for (const auto& [entry, name, contents] : imports) {
-            survey.write(source, contents);
-            program.dialogs.files = {survey.drive().hostPath(source)};
-            if (name != nullptr) {
-                program.dialogs.savedFiles = {survey.drive().hostPath(map + QLatin1String(name))};
+        const std::tuple<const char*, QString, QByteArray> imports[] = {
+            {"mnuImportLocalities", map + "Loc.map", "x,y\n10,20\n30,40\n"},
+            {"mnuImportLines", map + "Line.map", "1\r\n0,2,0,0,0,0\r\n0,0\r\n80,100\r\n"},
+            {"mnuImportPlaceNames", {}, "1\r\n2,3\r\n\"New town\"\r\n5,90\r\n\"km\",2,10\r\n"}};
+        for (const auto& [entry, file, contents] : imports) {
+            survey.write("C:\\import\\source.txt", contents);
+            program.dialogs.files = {survey.drive().hostPath("C:\\import\\source.txt")};
+            if (!file.isEmpty()) {
+                program.dialogs.savedFiles = {survey.drive().hostPath(file)};
             }
             trigger<frmMain>(entry);
         }
         EXPECT_EQ(program.varn.NLocality, 2);
         program.menu("mnuMapBlank").trigger();
-        EXPECT_TRUE(wasPrinted(program.drawing(), QStringLiteral("New town")));
+        EXPECT_TRUE(wasPrinted(program.drawing(), "New town"));
 
         program.click("cmdInputData");
-        auto& words = *control<frmDataInput, QAbstractItemView>("tblWords").model();
-        EXPECT_TRUE(words.setData(words.index(1, 0), QStringLiteral("mi")));
-        control<frmDataInput, QLineEdit>("txtFileName").setText(QStringLiteral("hand"));
+        enterWord(1, 0, "mi");
+        type<frmDataInput>("txtFileName", "hand");
         trigger<frmDataInput>("mnuSave");
-        EXPECT_EQ(survey.read(VarnPath + QStringLiteral("\\VarnData\\New\\Ling\\hand.dbs")),
-                  "2,\"\",\"\",\"\"\r\n0\r\n1\r\n\"mi\"\r\n");
+        EXPECT_EQ(survey.read(Data + "New\\Ling\\hand.dbs"), "2,\"\",\"\",\"\"\r\n0\r\n1\r\n\"mi\"\r\n");
         EXPECT_EQ(program.dialogs.errors, std::vector<Shown>());
     }
     Program program(survey);
     start(program);
     EXPECT_EQ(program.dialogs.errors, std::vector<Shown>()) << "the map is whole at the next start";
-    EXPECT_EQ(program.varn.KanjiText(1), QStringLiteral("New town"));
+    EXPECT_EQ(program.varn.KanjiText(1), "New town");
 }

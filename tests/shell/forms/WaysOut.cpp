@@ -3,9 +3,6 @@
 #include <QAbstractItemView>
 #include <QAction>
 #include <QApplication>
-#include <QComboBox>
-#include <QLabel>
-#include <QLineEdit>
 #include <QMenu>
 #include <QPushButton>
 #include <QShortcut>
@@ -17,24 +14,13 @@
 
 namespace {
 
-QString keysOf(const QShortcut& shortcut)
-{
-    return shortcut.key().toString();
-}
-
 QString textOf(const QWidget& widget)
 {
-    if (const auto* label = qobject_cast<const QLabel*>(&widget)) {
-        return label->text();
-    }
-    if (const auto* box = qobject_cast<const QLineEdit*>(&widget)) {
-        return box->text();
-    }
-    if (const auto* button = qobject_cast<const QAbstractButton*>(&widget)) {
-        return button->text();
-    }
-    if (const auto* list = qobject_cast<const QComboBox*>(&widget)) {
-        return list->currentText();
+    // Labels, boxes, buttons; lists to choose from; status bars.
+    for (const char* property : {"text", "currentText"}) {
+        if (const QVariant text = widget.property(property); text.isValid()) {
+            return text.toString();
+        }
     }
     if (const auto* status = qobject_cast<const QStatusBar*>(&widget)) {
         return status->currentMessage();
@@ -45,17 +31,41 @@ QString textOf(const QWidget& widget)
             rows << view->model()->index(row, 0).data().toString();
         }
     }
-    return rows.join(QLatin1Char(','));
+    return rows.join(',');
+}
+
+/// Menus, separators and the parts of other windows are none.
+bool isWayOut(const QObject& object, const VarnForm& form)
+{
+    if (const auto* action = qobject_cast<const QAction*>(&object)) {
+        return action->menu() == nullptr && !action->isSeparator();
+    }
+    const bool isButton =
+        qobject_cast<const QPushButton*>(&object) || qobject_cast<const QToolButton*>(&object);
+    const QObject* widget = qobject_cast<const QShortcut*>(&object) ? object.parent()
+                            : isButton                              ? &object
+                                                                    : nullptr;
+    return widget != nullptr && qobject_cast<const QWidget*>(widget)->window() == &form;
 }
 
 } // namespace
 
+std::vector<VarnForm*> allForms()
+{
+    std::vector<VarnForm*> forms;
+    for (QWidget* window : QApplication::topLevelWidgets()) {
+        if (auto* form = qobject_cast<VarnForm*>(window)) {
+            forms.push_back(form);
+        }
+    }
+    return forms;
+}
+
 VarnForm& formNamed(const QString& name)
 {
-    for (QWidget* window : QApplication::topLevelWidgets()) {
-        if (auto* found = qobject_cast<VarnForm*>(window);
-            found && name == found->metaObject()->className()) {
-            return *found;
+    for (VarnForm* form : allForms()) {
+        if (name == form->metaObject()->className()) {
+            return *form;
         }
     }
     throw std::logic_error("no form " + name.toStdString());
@@ -64,26 +74,11 @@ VarnForm& formNamed(const QString& name)
 std::map<QString, QObject*> waysOut(const VarnForm& form)
 {
     std::map<QString, QObject*> found;
-    const auto add = [&](QObject* way, const QString& text) {
+    for (QObject* way : form.findChildren<QObject*>()) {
+        const QString text = way->property(qobject_cast<QShortcut*>(way) ? "key" : "text").toString();
         const QString name = way->objectName().isEmpty() ? text : way->objectName();
-        if (!name.startsWith(QLatin1String("qt_")) && !name.startsWith(QLatin1String("_q_"))) {
+        if (isWayOut(*way, form) && !name.startsWith("qt_") && !name.startsWith("_q_")) {
             EXPECT_TRUE(found.emplace(name, way).second) << "two are called " << qPrintable(name);
-        }
-    };
-    for (auto* action : form.findChildren<QAction*>()) {
-        if (action->menu() == nullptr && !action->isSeparator()) {
-            add(action, action->text());
-        }
-    }
-    for (auto* button : form.findChildren<QAbstractButton*>()) {
-        const bool isCommand = qobject_cast<QPushButton*>(button) || qobject_cast<QToolButton*>(button);
-        if (isCommand && button->window() == &form) {
-            add(button, button->text());
-        }
-    }
-    for (auto* shortcut : form.findChildren<QShortcut*>()) {
-        if (qobject_cast<QWidget*>(shortcut->parent())->window() == &form) {
-            add(shortcut, keysOf(*shortcut));
         }
     }
     return found;
@@ -91,14 +86,12 @@ std::map<QString, QObject*> waysOut(const VarnForm& form)
 
 void use(QObject& way)
 {
-    if (auto* action = qobject_cast<QAction*>(&way)) {
-        ASSERT_TRUE(action->isEnabled());
-        action->trigger();
-    } else if (auto* button = qobject_cast<QAbstractButton*>(&way)) {
-        ASSERT_TRUE(button->isEnabled());
-        button->click();
-    } else if (auto* shortcut = qobject_cast<QShortcut*>(&way)) {
-        Q_EMIT shortcut->activated();
+    ASSERT_TRUE(way.property("enabled").toBool());
+    for (const char* act : {"trigger", "click", "activated"}) {
+        if (way.metaObject()->indexOfMethod((act + QByteArray("()")).constData()) >= 0) {
+            QMetaObject::invokeMethod(&way, act);
+            return;
+        }
     }
 }
 
@@ -107,7 +100,7 @@ QStringList visibleWindows()
     QStringList names;
     for (const QWidget* window : QApplication::topLevelWidgets()) {
         if (window->isVisible()) {
-            names << QStringLiteral("[%1]").arg(QLatin1String(window->metaObject()->className()));
+            names << '[' + QString(window->metaObject()->className()) + ']';
         }
     }
     return names;
@@ -115,14 +108,11 @@ QStringList visibleWindows()
 
 QStringList shownOn(const VarnForm& form)
 {
-    QStringList lines = {form.windowTitle()};
-    if (form.isWindowModified()) {
-        lines << QStringLiteral("<modified>");
-    }
+    QStringList lines = {form.windowTitle(), form.isWindowModified() ? "<modified>" : ""};
     for (const auto* widget : form.findChildren<QWidget*>()) {
         if (widget->isVisible()) {
-            lines << QStringLiteral("<%1>").arg(widget->objectName())
-                  << QStringLiteral("%1=%2").arg(widget->objectName(), textOf(*widget));
+            const QString& name = widget->objectName();
+            lines << '<' + name + '>' << name + '=' + textOf(*widget);
         }
     }
     return lines;

@@ -6,6 +6,8 @@
 
 #include <map>
 
+/// All forms of the program that runs.
+std::vector<VarnForm*> allForms();
 /// The form of that class name; ends the test where there is none.
 VarnForm& formNamed(const QString& name);
 

@@ -1,259 +1,219 @@
-// What each menu entry, button and shortcut of the forms does for a person.
+// What each menu entry, button and shortcut of the forms does for a person, and what the forms show at once
+// of what is typed and chosen on them.
 
+#include "lingdata/forms/WordEntryDelegate.h"
 #include "tests/shell/forms/EveryWayOut.h"
 
-#include <QAbstractItemView>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QKeyEvent>
+
+namespace {
+
+/// For a form "step, step -> change; step -> change", as `Way` and `EveryWayOut::perform` say.
+const char* const Rows = R"(
+frmMain: cmdRegMap -> [frmChizu]; cmdInputData -> [frmDataInput]; cmdData -> [frmData]; cmdMap -> [frmMap]
+frmMain: cmdHanko -> [frmSetHanko]; cmdSumUp -> [frmCalc]; cmdSettingPrinter -> <fraSetMergin>
+frmMain: (no file), mnuImportLocalities -> Import Localities; (no file), mnuImportLines -> Import Lines
+frmMain: (no file), mnuImportPlaceNames -> Import Place Names; (no file), mnuImportPolygons -> Import Polygon
+frmMain: (no), cmdMapName -> [frmChizu]; cmdSettingPrinter, cmdExitSetMergin -> -<fraSetMergin>
+frmMain: cmdSettingPrinter, cmdPrinter -> Printer is not connected.
+frmMain: cmdSettingPrinter, lblDisplayPaperSize -> Portrait(
+frmMain: cmdSettingPrinter, cboOrientation=0 -> Portrait(
+frmMain: (yes), cmdMapName -> *picPreview; (yes), cmdMapName, cmdRegMap -> *picPreview
+frmMain: (no), cmdMapName -> Is this a right map name ? 
+frmMap: mnuMapBlank, (yes), mnuChiten, mnuMapBlank -> *picMap
+frmMap: (yes), mnuStyle, mnuMapLing -> map: rain.han; (161 symbols), mnuHankoNext, mnuHankoList -> -map: 161
+frmMap: (161 symbols), mnuHankoPrevious, mnuHankoNext -> map: 161
+frmMap: (161 symbols), mnuHankoNext, mnuHankoNext, mnuHankoPrevious -> -map: 161
+frmMap: mnuHpos, mnuMapBlank -> -<fraStyle>; mnuHpos, mnuHanrei -> -<fraStyle>
+frmMap: mnuHpos, (Escape on the map) -> -<fraStyle>
+frmMap: mnuCopyMap -> clipboard: picture; mnuMapLing -> map: UYU; mnuMapBlank -> map: Town; mnuSymbols -> *
+frmMap: mnuFilePrint -> Printer is not connected.  Please connect the printer in the Main Form.
+frmMap: lblInsatsumode -> Printer is not connected. Please connect the printer in the Main Form.
+frmMap: mnuHanrei -> map: UYU; mnuTotalBar -> *; mnuTotalSBar -> map: two; mnuTotalCircle -> *
+frmMap: mnuTotalSCircle -> map: two; mnuTotalHanko -> *; mnuHpos -> <fraStyle>; mnuHankoList -> map: 152
+frmMap: mnuHankoNext -> map: 160; mnuHankoPrevious -> map: 152; mnuToMain -> [frmMain]
+frmMap: (no name), mnuSaveMapAs -> Save Map As; (no file), mnuInputWord -> Load Linguistic File
+frmMap: (no file), mnuHankoInput -> Load Symbol File; (frmMap in front), mnuRank -> *
+frmMap: (no), mnuChiten -> Will you plot dots for localities ?; (no), mnuStyle -> Will you print File Name?
+frmMap: (no input), mnuMapSize -> Set of Map Vertical Size
+frmChizu: cmdCurveLine -> *; cmdChiten -> *; cmdMoji -> *; cmdBlankMap -> *; cmdMap -> [frmMap]
+frmChizu: cmdExit -> [frmMain]; Ctrl+Q -> [frmMain]; (no file), cmdRegMapName -> Map and item files
+frmData: mnuSave -> rain.dbs - Kinds; mnuPrint -> Please connect the printer; mnuKind -> rain.dbs - Kinds
+frmData: mnuToMain -> [frmMain]; (no file), mnuOpen -> Load Linguistic File
+frmData: mnuKind, mnuData -> rain.dbs - Data; (many kinds), mnuNextPage -> Page 2 of 3
+frmData: (many kinds), mnuNextPage, mnuPreviousPage -> Page 1 of 3; (no input), mnuPageNo -> Specify Page No.
+frmDataInput: mnuSave -> Input File Name ; mnuToMain -> [frmMain]; mnuToAccumulate -> [frmCalc]
+frmDataInput: cmdCheckCode -> All codes are right.; (no file), mnuOpen -> Data proccessed will be lost
+frmDataInput: (no), mnuInitialize -> Initialize O.K.?; tblWords=sun, mnuUndo -> -tblWords=sun
+frmDataInput: tblWords=sun, mnuUndo, mnuRedo -> tblWords=sun; tblWords=sun, mnuCut -> -tblWords=sun
+frmDataInput: tblWords=sun, mnuCopy -> clipboard: sun; (hail on the clipboard), mnuPaste -> tblWords=hail
+frmDataInput: (no input), mnuGoTo -> Go to Locality; (4 localities), mnuAddLocalities -> of 4 localities
+frmDataInput: txtKind=hail, cmdSetKind -> lstKind=hail; tblWords=sun, cmdDataToKind -> lstKind=sun
+frmDataInput: txtKind=hail, cmdSetKind, cmdKindToData -> tblWords=hail
+frmDataInput: txtKind=hail, cmdSetKind, cmdDelKind -> -lstKind=hail; (a\Q typed in a cell) -> -lblFault=\n
+frmDataInput: tblWords=a\Q, cmdCheckCode, cmdCloseCheck -> -<fraCheck>
+frmDataInput: (a\Q typed in a cell), (Escape) -> lblFault=\n; (a\Q typed as a kind) -> -lblFault=\n
+frmDataInput: txtKind=hail, (Enter in txtKind) -> lstKind=hail
+frmDataInput: tblWords=a\Q, cmdCheckCode, (locality 3), (a click on a fault) -> lblCell=Locality 1, word 1
+frmSetHanko: mnuHankoInit -> -txtHanrei=UYU; mnuLoadMap -> [frmMap]; mnuHankoReturn -> [frmMain]
+frmSetHanko: cmdSymbol -> [SymbolPicker]; cmdBefore -> txtHanrei=AME; cmdBefore -> *picSample
+frmSetHanko: cmdBefore -> *picHanrei; mnuHankoInit -> *picHanrei; txtHanrei=hail, cmdSave -> not saved
+frmSetHanko: (no file), mnuInputWord -> Load Linguistic File; (no file), mnuOpenHanko -> Open Symbol File
+frmSetHanko: (no input), mnuSaveHanko -> Input File Name of Symbol Data; cmdBefore, cmdNext -> txtHanrei=UYU
+frmSetHanko: txtHanrei=hail, cmdSave, mnuUndo -> -not saved; txtWord=hail, cmdAutoHanrei -> txtHanrei=hail
+frmSetHanko: txtHanrei=hail, cmdSave, mnuUndo, mnuRedo -> not saved; txtWord=, cmdWord -> txtWord=ame
+frmSetHanko: txtHanrei=hail, cmdSave -> *picHanrei; (no input), cmdInserte -> Specify Number of Insert Data.
+frmSetHanko: (1), cmdInserte -> *picHanrei; (1), cmdDelete -> *picHanrei; (many symbols), cmdUp, cmdDown -> *
+frmSetHanko: (no input), cmdDelete -> Specify Number of Delete Data.; (many symbols), cmdUp -> *
+frmSetHanko: txtWord=, lstKindWord=Enter -> txtWord=ame; txtHankoNumber=93 -> *picSample
+frmSetHanko: cboColor=3 -> *picSample; txtHankoNumber=16, cboBack=12, (a click on chkPat) -> *picSample
+frmCalc: mnuTotalForm -> [frmCalExec]; mnuMap -> [frmMap]; mnuFileReturn -> [frmMain]
+frmCalc: mnuRankExe -> [frmRankData]; cmdNext -> txtTotalName=two; cmdWordDelete -> -LstWord=a,am
+frmCalc: cmdWordReset -> -LstWord=a; cmdWordNext -> txtInputWord=am; cmdNext, cmdPrevious -> txtTotalName=one
+frmCalc: (no file), mnuFileOpen -> Open Cumulative Data File; (no file), mnuGengoOpen -> Open Linguistic Data
+frmCalc: txtTotalFileName=, mnuFileSave -> Input Name of Aalysis File.; lstDisplay=1 -> Kind of word 2 of 2
+frmCalc: txtTotalFileName=, cmdTotalFileSave -> Input Name of Aalysis File.
+frmCalc: (no file), mnuSetFileLoad -> Open Specify Char File; txtTotalItems=7, cmdSetInput -> over 7 items
+frmCalc: (cancel), mnuInitialize -> All Data will be Lost; txtTotalName=uno, cmdSet -> lstTotal=1 uno
+frmCalc: txtTotalNumber=0, cmdTotalNumber -> No. of Specify Data is inadequate.
+frmCalc: txtInputWord=, cmdSetWord -> txtInputWord=ame; txtInputWord=ha, cmdWordSelect -> LstWord=a,am,ha
+frmCalc: txtInputWord=ha, cmdWordRewrite -> LstWord=ha,am; cmdWordNext, cmdWordBefore -> -txtInputWord=am
+frmCalc: txtSetFileName=, cmdWordSave -> Input Name of Specify Characters.
+frmCalc: lstDisplay=Enter -> txtInputWord=ame; LstWord=1 -> txtInputWord=am
+frmCalc: txtTotalName=uno -> Changes not registered; cboForeColor=3 -> Changes not registered
+frmCalc: cboFillColor=3 -> Changes not registered
+frmCalExec: mnuExecCalc -> Analyse of Linguistic Data File is completed.; mnuExecMap -> [frmMap]
+frmCalExec: mnuExecSave -> Linguistic Data File is saved.; mnuReturn -> [frmCalc]; mnuRankReturn -> [frmMain]
+frmCalExec: mnuDisplay -> Page 1 of; mnuStatsDisplayAll -> -Columns: count; mnuStatsSave -> file: all.stt
+frmCalExec: mnuStatsSymbols -> [frmTotalHanko]; mnuRankData -> [frmRankData]
+frmCalExec: (no folder), mnuExecAll -> Folder of the Items to Accumulate
+frmCalExec: mnuDisplay, mnuItemNext -> Wordform 2 two; mnuDisplay, mnuItemPrevious -> Wordform 2 two
+frmCalExec: (many localities), mnuDisplayNext -> Page 2 of 2; mnuDisplay, mnuStatsExec -> Columns: count
+frmCalExec: (many localities), mnuDisplayNext, mnuDisplayPrevious -> Page 1 of 2
+frmCalExec: mnuDisplay, mnuStatsDisplay -> Columns: count; (no file), mnuStatsOpen -> Open Statistics File
+frmRankData: mnuRankSave -> Input File Name for Analysis Data.; mnuRankMap -> [frmMap]
+frmRankData: mnuRankReturn -> [frmCalc]; mnuDisplayRank -> Page 1 of; cmdData1 -> lstData1=one,two
+frmRankData: cmdData2 -> Item 2 already has this word form.; cmdDel1 -> -lstData1=one
+frmRankData: cmdDel2 -> -lstData2=two; cmdCalc -> Contrast Analysis is finished.
+frmRankData: (yes), (no file), mnuRankOpen -> Open Contrast File; txtRankFileName=west -> west.rnk
+frmRankData: (many contrasts), mnuDisplayNext -> Page 2 of 2
+frmRankData: (many contrasts), mnuDisplayNext, mnuDisplayPrevious -> Page 1 of 2
+frmRankData: txtRankFileName=west, mnuRankSave, txtSetColor1=3 -> <modified>
+frmRankData: txtRankFileName=west, mnuRankSave, txtFillColor1=3 -> <modified>
+frmTotalHanko: mnuTotalHankoSave -> Input File Name of Symbol Data; mnuTotalHankoMap -> [frmMap]
+frmTotalHanko: mnuTotalHankoReturn -> [frmCalExec]; cmdNext -> Word form 2 of 2; cmdNext -> *picSample
+frmTotalHanko: cmdNext -> *picHanko; cmdSymbol -> [SymbolPicker]; cmdStatistics -> *
+frmTotalHanko: (no file), mnuTotalHankoOpen -> Open Symbol File; cmdStatistics, cmdNext -> *picStatistics
+frmTotalHanko: cmdNext, cmdBefore -> Word form 1 of 2; txtFileName=west -> west.htL)";
+
+} // namespace
 
 std::vector<EveryWayOut::Way> EveryWayOut::ways()
 {
-    using Test = EveryWayOut;
-    const auto noFile = [](Test& test) { test.program->dialogs.files = {std::nullopt}; };
-    const auto noInput = [](Test& test) { test.program->dialogs.inputs = {std::nullopt}; };
-    const auto no = [](Test& test) { test.program->dialogs.yesNo = {false}; };
-    const auto yes = [](Test& test) { test.program->dialogs.yesNo = {true}; };
-    const auto click = [](const char* form, const char* name) {
-        return [=](Test&) { use(*waysOut(formNamed(QLatin1String(form))).at(QLatin1String(name))); };
-    };
-    const auto typed = [](const char* form, const char* box, const char* text) {
-        return [=](Test&) {
-            child<QLineEdit>(formNamed(QLatin1String(form)), box).setText(QLatin1String(text));
-        };
-    };
-    const auto kinds = [](int page) {
-        return [=](Test& test) {
-            test.survey.write(ling("rain.srt"), "130\r\n" + QByteArray("\"k\",1\r\n").repeated(130));
-            test.choose("rain.dbs");
-            trigger<frmData>("mnuOpen");
-            trigger<frmData>("mnuKind");
-            test.program->dialogs.inputs = {QString::number(page)};
-            trigger<frmData>("mnuPageNo");
-        };
-    };
-    const auto manySymbols = [](Test& test) {
-        test.choose("many.han");
-        trigger<frmSetHanko>("mnuOpenHanko");
-    };
-    const auto manyLocalities = [](bool turned) {
-        return [=](Test& test) {
-            test.program->varn.NLocality = 200;
-            trigger<frmCalExec>("mnuDisplay");
-            if (turned) {
-                trigger<frmCalExec>("mnuDisplayNext");
-            }
-        };
-    };
-    const auto manyContrasts = [](bool turned) {
-        return [=](Test& test) {
-            test.program->varn.NLocality = 121;
-            press<frmRankData>("cmdCalc");
-            trigger<frmRankData>("mnuDisplayRank");
-            if (turned) {
-                trigger<frmRankData>("mnuDisplayNext");
-            }
-        };
-    };
-    const auto enterKind = [](Test&) {
-        type<frmDataInput>("txtKind", "hail");
-        press<frmDataInput>("cmdSetKind");
-    };
-    const auto enterWord = [](const char* word) {
-        return [=](Test&) {
-            auto& words = *control<frmDataInput, QAbstractItemView>("tblWords").model();
-            words.setData(words.index(0, 0), QLatin1String(word));
-        };
-    };
-    const auto both = [](auto first, auto second) {
-        return [=](Test& test) {
-            first(test);
-            second(test);
-        };
+    std::vector<Way> ways;
+    for (const QString& line : QString(Rows).split('\n', Qt::SkipEmptyParts)) {
+        for (const QString& row : line.section(": ", 1).split("; ")) {
+            ways.push_back({line.section(": ", 0, 0), row.section(" -> ", 0, 0).split(", "),
+                            row.section(" -> ", 1).replace("\\n", "\n")});
+        }
+    }
+    return ways;
+}
+
+std::map<QString, std::function<void()>> EveryWayOut::preparations()
+{
+    ScriptedDialogs& dialogs = program->dialogs;
+    VarnModule& varn = program->varn;
+    const auto cellEditor = [] {
+        auto* delegate = control<frmDataInput, QAbstractItemView>("tblWords").itemDelegate();
+        return dynamic_cast<WordEntryDelegate*>(delegate);
     };
     return {
-        {"frmMain", "mnuImportLocalities", "Import Localities", noFile},
-        {"frmMain", "mnuImportLines", "Import Lines", noFile},
-        {"frmMain", "mnuImportPlaceNames", "Import Place Names", noFile},
-        {"frmMain", "mnuImportPolygons", "Import Polygon", noFile},
-        {"frmMain", "cmdRegMap", "[frmChizu]"},
-        {"frmMain", "cmdMapName", "[frmChizu]", no},
-        {"frmMain", "cmdInputData", "[frmDataInput]"},
-        {"frmMain", "cmdData", "[frmData]"},
-        {"frmMain", "cmdHanko", "[frmSetHanko]"},
-        {"frmMain", "cmdMap", "[frmMap]"},
-        {"frmMain", "cmdSumUp", "[frmCalc]"},
-        {"frmMain", "cmdSettingPrinter", "<fraSetMergin>"},
-        {"frmMain", "cmdExitSetMergin", "-<fraSetMergin>", click("frmMain", "cmdSettingPrinter")},
-        {"frmMain", "cmdPrinter", "Printer is not connected.", click("frmMain", "cmdSettingPrinter")},
-        {"frmMain", "lblDisplayPaperSize", "Portrait(", click("frmMain", "cmdSettingPrinter")},
-
-        {"frmMap", "mnuSaveMapAs", "Save Map As",
-         [](Test& test) { test.program->dialogs.savedFiles = {std::nullopt}; }},
-        {"frmMap", "mnuCopyMap", "clipboard: picture"},
-        {"frmMap", "mnuFilePrint", "Please connect the printer"},
-        {"frmMap", "lblInsatsumode", "Please connect the printer"},
-        {"frmMap", "mnuInputWord", "Load Linguistic File", noFile},
-        {"frmMap", "mnuHankoInput", "Load Symbol File", noFile},
-        {"frmMap", "mnuMapLing", "map: UYU"},
-        {"frmMap", "mnuMapBlank", "map: Town"},
-        {"frmMap", "mnuHanrei", "map: UYU"},
-        {"frmMap", "mnuSymbols", "*"},
-        {"frmMap", "mnuTotalBar", "*"},
-        {"frmMap", "mnuTotalSBar", "map: two"},
-        {"frmMap", "mnuTotalCircle", "*"},
-        {"frmMap", "mnuTotalSCircle", "map: two"},
-        {"frmMap", "mnuTotalHanko", "*"},
-        {"frmMap", "mnuRank", "*", click("frmMain", "cmdMap")},
-        {"frmMap", "mnuHpos", "<fraStyle>"},
-        {"frmMap", "mnuChiten", "Will you plot dots for localities ?", no},
-        {"frmMap", "mnuStyle", "Will you print File Name?", no},
-        {"frmMap", "mnuMapSize", "Set of Map Vertical Size", noInput},
-        {"frmMap", "mnuHankoList", "map: 152"},
-        {"frmMap", "mnuHankoNext", "map: 160"},
-        {"frmMap", "mnuHankoPrevious", "map: 152"},
-        {"frmMap", "mnuToMain", "[frmMain]"},
-
-        {"frmChizu", "cmdRegMapName", "Map and item files", noFile},
-        {"frmChizu", "cmdCurveLine", "*"},
-        {"frmChizu", "cmdChiten", "*"},
-        {"frmChizu", "cmdMoji", "*"},
-        {"frmChizu", "cmdBlankMap", "*"},
-        {"frmChizu", "cmdMap", "[frmMap]"},
-        {"frmChizu", "cmdExit", "[frmMain]"},
-        {"frmChizu", "Ctrl+Q", "[frmMain]"},
-
-        {"frmData", "mnuOpen", "Load Linguistic File", noFile},
-        {"frmData", "mnuSave", "rain.dbs - Kinds"},
-        {"frmData", "mnuPrint", "Please connect the printer"},
-        {"frmData", "mnuData", "rain.dbs - Data", click("frmData", "mnuKind")},
-        {"frmData", "mnuKind", "rain.dbs - Kinds"},
-        {"frmData", "mnuNextPage", "Page 2 of 3", kinds(1)},
-        {"frmData", "mnuPreviousPage", "Page 1 of 3", kinds(2)},
-        {"frmData", "mnuPageNo", "Specify Page No.", noInput},
-        {"frmData", "mnuToMain", "[frmMain]"},
-
-        {"frmDataInput", "mnuOpen", "Data proccessed will be lost", noFile},
-        {"frmDataInput", "mnuSave", "Input File Name "},
-        {"frmDataInput", "mnuInitialize", "Initialize O.K.?", no},
-        {"frmDataInput", "mnuUndo", "-tblWords=sun", enterWord("sun")},
-        {"frmDataInput", "mnuRedo", "tblWords=sun", both(enterWord("sun"), click("frmDataInput", "mnuUndo"))},
-        {"frmDataInput", "mnuCut", "-tblWords=sun", enterWord("sun")},
-        {"frmDataInput", "mnuCopy", "clipboard: sun", enterWord("sun")},
-        {"frmDataInput", "mnuPaste", "tblWords=hail",
-         [](Test&) { QGuiApplication::clipboard()->setText(QStringLiteral("hail")); }},
-        {"frmDataInput", "mnuGoTo", "Go to Locality", noInput},
-        {"frmDataInput", "mnuAddLocalities", "of 4 localities",
-         [](Test& test) {
-             test.program->varn.NLocality = 4;
+        {"(no file)", [&] { dialogs.files = {std::nullopt}; }},
+        {"(no folder)", [&] { dialogs.folders = {std::nullopt}; }},
+        {"(no name)", [&] { dialogs.savedFiles = {std::nullopt}; }},
+        {"(no input)", [&] { dialogs.inputs = {std::nullopt}; }},
+        {"(1)", [&] { dialogs.inputs = {"1"}; }},
+        {"(no)", [&] { dialogs.yesNo = {false}; }},
+        {"(yes)", [&] { dialogs.yesNo = {true}; }},
+        {"(cancel)", [&] { dialogs.okCancel = {false}; }},
+        {"(frmMap in front)", [] { press<frmMain>("cmdMap"); }},
+        {"(hail on the clipboard)", [] { QGuiApplication::clipboard()->setText("hail"); }},
+        {"(161 symbols)", [&] { varn.Nsquare = 3; }},
+        {"(4 localities)",
+         [&] {
+             varn.NLocality = 4;
              form<frmDataInput>().refresh();
          }},
-        {"frmDataInput", "mnuToMain", "[frmMain]"},
-        {"frmDataInput", "mnuToAccumulate", "[frmCalc]"},
-        {"frmDataInput", "cmdSetKind", "lstKind=hail", typed("frmDataInput", "txtKind", "hail")},
-        {"frmDataInput", "cmdKindToData", "tblWords=hail", enterKind},
-        {"frmDataInput", "cmdDataToKind", "lstKind=sun", enterWord("sun")},
-        {"frmDataInput", "cmdDelKind", "-lstKind=hail", enterKind},
-        {"frmDataInput", "cmdCheckCode", "All codes are right."},
-        {"frmDataInput", "cmdCloseCheck", "-<fraCheck>",
-         both(enterWord("a\\Q"), click("frmDataInput", "cmdCheckCode"))},
-
-        {"frmSetHanko", "mnuInputWord", "Load Linguistic File", noFile},
-        {"frmSetHanko", "mnuOpenHanko", "Open Symbol File", noFile},
-        {"frmSetHanko", "mnuSaveHanko", "Input File Name of Symbol Data", noInput},
-        {"frmSetHanko", "mnuUndo", "-not saved",
-         both(typed("frmSetHanko", "txtHanrei", "hail"), click("frmSetHanko", "cmdSave"))},
-        {"frmSetHanko", "mnuRedo", "not saved",
-         both(both(typed("frmSetHanko", "txtHanrei", "hail"), click("frmSetHanko", "cmdSave")),
-              click("frmSetHanko", "mnuUndo"))},
-        {"frmSetHanko", "mnuHankoInit", "-txtHanrei=UYU"},
-        {"frmSetHanko", "mnuLoadMap", "[frmMap]"},
-        {"frmSetHanko", "mnuHankoReturn", "[frmMain]"},
-        {"frmSetHanko", "cmdWord", "txtWord=ame", typed("frmSetHanko", "txtWord", "")},
-        {"frmSetHanko", "cmdAutoHanrei", "txtHanrei=hail", typed("frmSetHanko", "txtWord", "hail")},
-        {"frmSetHanko", "cmdSymbol", "[SymbolPicker]"},
-        {"frmSetHanko", "cmdSave", "not saved", typed("frmSetHanko", "txtHanrei", "hail")},
-        {"frmSetHanko", "cmdNext", "txtHanrei=UYU", click("frmSetHanko", "cmdBefore")},
-        {"frmSetHanko", "cmdBefore", "txtHanrei=AME"},
-        {"frmSetHanko", "cmdBefore", "*picSample"},
-        {"frmSetHanko", "cmdBefore", "*picHanrei"},
-        {"frmSetHanko", "cmdSave", "*picHanrei", typed("frmSetHanko", "txtHanrei", "hail")},
-        {"frmSetHanko", "mnuHankoInit", "*picHanrei"},
-        {"frmSetHanko", "cmdInserte", "Specify Number of Insert Data.", noInput},
-        {"frmSetHanko", "cmdInserte", "*picHanrei", [](Test& test) { test.program->dialogs.inputs = {"1"}; }},
-        {"frmSetHanko", "cmdDelete", "*picHanrei", [](Test& test) { test.program->dialogs.inputs = {"1"}; }},
-        {"frmSetHanko", "cmdDelete", "Specify Number of Delete Data.", noInput},
-        {"frmSetHanko", "cmdUp", "*", manySymbols},
-        {"frmSetHanko", "cmdDown", "*", both(manySymbols, click("frmSetHanko", "cmdUp"))},
-
-        {"frmCalc", "mnuFileOpen", "Open Cumulative Data File", noFile},
-        {"frmCalc", "mnuFileSave", "Input Name of Aalysis File.", typed("frmCalc", "txtTotalFileName", "")},
-        {"frmCalc", "cmdTotalFileSave", "Input Name of Aalysis File.",
-         typed("frmCalc", "txtTotalFileName", "")},
-        {"frmCalc", "mnuTotalForm", "[frmCalExec]"},
-        {"frmCalc", "mnuMap", "[frmMap]"},
-        {"frmCalc", "mnuFileReturn", "[frmMain]"},
-        {"frmCalc", "mnuRankExe", "[frmRankData]"},
-        {"frmCalc", "mnuGengoOpen", "Open Linguistic Data", noFile},
-        {"frmCalc", "mnuSetFileLoad", "Open Specify Char File", noFile},
-        {"frmCalc", "mnuInitialize", "All Data will be Lost",
-         [](Test& test) { test.program->dialogs.okCancel = {false}; }},
-        {"frmCalc", "cmdTotalNumber", "No. of Specify Data is inadequate.",
-         typed("frmCalc", "txtTotalNumber", "0")},
-        {"frmCalc", "cmdSetInput", "over 7 items", typed("frmCalc", "txtTotalItems", "7")},
-        {"frmCalc", "cmdNext", "txtTotalName=two"},
-        {"frmCalc", "cmdPrevious", "txtTotalName=one", click("frmCalc", "cmdNext")},
-        {"frmCalc", "cmdSet", "lstTotal=1 uno", typed("frmCalc", "txtTotalName", "uno")},
-        {"frmCalc", "cmdSetWord", "txtInputWord=ame", typed("frmCalc", "txtInputWord", "")},
-        {"frmCalc", "cmdWordSelect", "LstWord=a,am,ha", typed("frmCalc", "txtInputWord", "ha")},
-        {"frmCalc", "cmdWordRewrite", "LstWord=ha,am", typed("frmCalc", "txtInputWord", "ha")},
-        {"frmCalc", "cmdWordDelete", "-LstWord=a,am"},
-        {"frmCalc", "cmdWordReset", "-LstWord=a"},
-        {"frmCalc", "cmdWordNext", "txtInputWord=am"},
-        {"frmCalc", "cmdWordBefore", "-txtInputWord=am", click("frmCalc", "cmdWordNext")},
-        {"frmCalc", "cmdWordSave", "Input Name of Specify Characters.",
-         typed("frmCalc", "txtSetFileName", "")},
-
-        {"frmCalExec", "mnuExecCalc", "Analyse of Linguistic Data File is completed."},
-        {"frmCalExec", "mnuExecAll", "Folder of the Items to Accumulate",
-         [](Test& test) { test.program->dialogs.folders = {std::nullopt}; }},
-        {"frmCalExec", "mnuExecSave", "Linguistic Data File is saved."},
-        {"frmCalExec", "mnuExecMap", "[frmMap]"},
-        {"frmCalExec", "mnuReturn", "[frmCalc]"},
-        {"frmCalExec", "mnuRankReturn", "[frmMain]"},
-        {"frmCalExec", "mnuItemNext", "Wordform 2 two", click("frmCalExec", "mnuDisplay")},
-        {"frmCalExec", "mnuItemPrevious", "Wordform 2 two", click("frmCalExec", "mnuDisplay")},
-        {"frmCalExec", "mnuDisplay", "Page 1 of"},
-        {"frmCalExec", "mnuDisplayNext", "Page 2 of 2", manyLocalities(false)},
-        {"frmCalExec", "mnuDisplayPrevious", "Page 1 of 2", manyLocalities(true)},
-        {"frmCalExec", "mnuStatsExec", "Columns: count", click("frmCalExec", "mnuDisplay")},
-        {"frmCalExec", "mnuStatsDisplay", "Columns: count", click("frmCalExec", "mnuDisplay")},
-        {"frmCalExec", "mnuStatsDisplayAll", "-Columns: count"},
-        {"frmCalExec", "mnuStatsSave", "file: all.stt"},
-        {"frmCalExec", "mnuStatsOpen", "Open Statistics File", noFile},
-        {"frmCalExec", "mnuStatsSymbols", "[frmTotalHanko]"},
-        {"frmCalExec", "mnuRankData", "[frmRankData]"},
-
-        {"frmRankData", "mnuRankOpen", "Open Contrast File", both(yes, noFile)},
-        {"frmRankData", "mnuRankSave", "Input File Name for Analysis Data."},
-        {"frmRankData", "mnuRankMap", "[frmMap]"},
-        {"frmRankData", "mnuRankReturn", "[frmCalc]"},
-        {"frmRankData", "mnuDisplayRank", "Page 1 of"},
-        {"frmRankData", "mnuDisplayNext", "Page 2 of 2", manyContrasts(false)},
-        {"frmRankData", "mnuDisplayPrevious", "Page 1 of 2", manyContrasts(true)},
-        {"frmRankData", "cmdData1", "lstData1=one,two"},
-        {"frmRankData", "cmdData2", "Item 2 already has this word form."},
-        {"frmRankData", "cmdDel1", "-lstData1=one"},
-        {"frmRankData", "cmdDel2", "-lstData2=two"},
-        {"frmRankData", "cmdCalc", "Contrast Analysis is finished."},
-
-        {"frmTotalHanko", "mnuTotalHankoOpen", "Open Symbol File", noFile},
-        {"frmTotalHanko", "mnuTotalHankoSave", "Input File Name of Symbol Data"},
-        {"frmTotalHanko", "mnuTotalHankoMap", "[frmMap]"},
-        {"frmTotalHanko", "mnuTotalHankoReturn", "[frmCalExec]"},
-        {"frmTotalHanko", "cmdNext", "Word form 2 of 2"},
-        {"frmTotalHanko", "cmdNext", "*picSample"},
-        {"frmTotalHanko", "cmdNext", "*picHanko"},
-        {"frmTotalHanko", "cmdNext", "*picStatistics", click("frmTotalHanko", "cmdStatistics")},
-        {"frmTotalHanko", "cmdBefore", "Word form 1 of 2", click("frmTotalHanko", "cmdNext")},
-        {"frmTotalHanko", "cmdSymbol", "[SymbolPicker]"},
-        {"frmTotalHanko", "cmdStatistics", "*"},
+        {"(many kinds)",
+         [&] {
+             survey.write(ling("rain.srt"), "130\r\n" + QByteArray("\"k\",1\r\n").repeated(130));
+             choose("rain.dbs");
+             trigger<frmData>("mnuOpen");
+             trigger<frmData>("mnuKind");
+         }},
+        {"(many symbols)",
+         [&] {
+             choose("many.han");
+             trigger<frmSetHanko>("mnuOpenHanko");
+         }},
+        {"(many localities)",
+         [&] {
+             varn.NLocality = 200;
+             trigger<frmCalExec>("mnuDisplay");
+         }},
+        {"(many contrasts)",
+         [&] {
+             varn.NLocality = 121;
+             press<frmRankData>("cmdCalc");
+             trigger<frmRankData>("mnuDisplayRank");
+         }},
+        {"(a click on chkPat)", [] { control<frmSetHanko, QCheckBox>("chkPat").click(); }},
+        {"(a\\Q typed in a cell)", [=] { Q_EMIT cellEditor()->typed("a\\Q"); }},
+        {"(Escape)",
+         [=] { Q_EMIT cellEditor()->closeEditor(nullptr, QAbstractItemDelegate::RevertModelCache); }},
+        {"(a\\Q typed as a kind)", [] { control<frmDataInput, QLineEdit>("txtKind").insert("a\\Q"); }},
+        {"(Escape on the map)",
+         [] {
+             QKeyEvent escape(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier);
+             QApplication::sendEvent(&Program::map(), &escape);
+         }},
+        {"(Enter in txtKind)", [] { Q_EMIT control<frmDataInput, QLineEdit>("txtKind").returnPressed(); }},
+        {"(locality 3)",
+         [] {
+             auto& words = control<frmDataInput, QAbstractItemView>("tblWords");
+             words.setCurrentIndex(words.model()->index(2, 0));
+         }},
+        {"(a click on a fault)",
+         [] {
+             auto& faulty = control<frmDataInput, QListWidget>("lstCheck");
+             Q_EMIT faulty.itemClicked(faulty.item(0));
+         }},
     };
+}
+
+void EveryWayOut::perform(const QString& step)
+{
+    const auto prepared = preparations();
+    const auto ways = waysOut(*rowForm);
+    const QString name = step.section('=', 0, 0);
+    const QString value = step.section('=', 1);
+    if (prepared.contains(step)) {
+        prepared.at(step)();
+    } else if (ways.contains(step)) {
+        use(*ways.at(step));
+    } else if (name == "tblWords") {
+        enterWord(0, 0, value);
+    } else if (auto* box = rowForm->findChild<QLineEdit*>(name)) {
+        box->setText(value);
+    } else if (auto* choices = rowForm->findChild<QComboBox*>(name)) {
+        choices->setCurrentIndex(value.toInt());
+        Q_EMIT choices->activated(value.toInt());
+    } else if (auto& list = child<QListWidget>(*rowForm, qPrintable(name)); value == "Enter") {
+        Q_EMIT list.itemActivated(list.item(0));
+    } else {
+        list.setCurrentRow(value.toInt());
+    }
 }
