@@ -2,6 +2,8 @@
 
 #include "lingdata/ItemEditor.h"
 
+#include <concepts>
+
 /// Types `text` into a cell.
 inline void set(ItemEditor& editor, int locality, int column, const QString& text)
 {
@@ -16,6 +18,33 @@ inline ItemEditor editorWith(const QStringList& first)
         set(editor, i, 1, first[i - 1]);
     }
     return editor;
+}
+
+/// The text that `word` has for each cell, together: slashes between localities, commas between cells, none
+/// behind the last word of a locality.
+QString wordsText(int localities, const std::invocable<int, int> auto& word)
+{
+    QStringList rows;
+    for (int i = 1; i <= localities; ++i) {
+        QStringList cells;
+        for (int j = 1; j <= ItemEditor::MostWords; ++j) {
+            cells << word(i, j);
+        }
+        while (!cells.isEmpty() && cells.last().isEmpty()) {
+            cells.removeLast();
+        }
+        rows << cells.join(',');
+    }
+    return rows.join('/');
+}
+
+/// All that `editor` holds: words, kinds, caption and comment.
+inline QString enteredText(const ItemEditor& editor)
+{
+    const auto word = [&](int i, int j) { return cellText(editor.cell({i, j})); };
+    return QStringList({wordsText(editor.localities(), word), editor.kinds().join(','), editor.caption(),
+                        editor.comment()})
+        .join('|');
 }
 
 /// "w1", "w2" and so on.

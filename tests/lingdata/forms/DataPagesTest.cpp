@@ -10,19 +10,26 @@
 
 namespace {
 
-void useInstalledGlyphs(VarnModule& varn)
-{
-    varn.VarnPath = varn.Drive.varnPath(QStringLiteral(INSTALLATION_FOLDER));
-}
-
 /// A list of `count` lines, all with the same word.
 DataList listOf(int count, const QString& word)
 {
-    DataList list{QStringLiteral("Rain"), QStringLiteral("rain.dbs"), {QStringLiteral("No.")}, {}};
+    DataList list{"Rain", "rain.dbs", {"No."}, {}};
     for (int n = 1; n <= count; ++n) {
         list.lines.push_back({{n}, word});
     }
     return list;
+}
+
+Drawing drawn(const DataPages& pages, int page)
+{
+    DrawSurface target;
+    pages.draw(page, target);
+    return target.drawing();
+}
+
+QString textsOf(const Drawing& drawing)
+{
+    return QStringList(drawing.texts.begin(), drawing.texts.end()).join(' ');
 }
 
 /// A drawing's texts and glyphs as boxes, in twips; the font is that of lists.
@@ -39,17 +46,24 @@ std::vector<QRectF> boxesOf(const Drawing& drawing)
     return boxes;
 }
 
-int overlaps(const std::vector<QRectF>& boxes)
+/// How many boxes leave `page` or lie on another one; texts that follow each other on a line touch.
+int misplaced(const std::vector<QRectF>& boxes, const QRectF& page)
 {
-    constexpr double Touch = 2; // texts that follow each other on a line touch
-    int found = 0;
-    for (std::size_t i = 0; i < boxes.size(); ++i) {
-        for (std::size_t k = 0; k < i; ++k) {
-            found += boxes[i].adjusted(Touch, Touch, -Touch, -Touch).intersects(boxes[k]) ? 1 : 0;
-        }
-    }
-    return found;
+    const auto isMisplaced = [&](const QRectF& box) {
+        const QRectF inner = box.adjusted(2, 2, -2, -2);
+        return !page.adjusted(-2, -80, 2, 2).contains(box) ||
+               std::any_of(boxes.begin(), boxes.end(),
+                           [&](const QRectF& other) { return &other != &box && inner.intersects(other); });
+    };
+    return static_cast<int>(std::count_if(boxes.begin(), boxes.end(), isMisplaced));
 }
+
+/// A survey with the glyphs of the installation.
+class DataPagesOf : public testing::Test, protected TestSurvey
+{
+protected:
+    DataPagesOf() { varn.VarnPath = varn.Drive.varnPath(INSTALLATION_FOLDER); }
+};
 
 } // namespace
 
@@ -62,114 +76,71 @@ TEST(DataPages, PagesAreCountedByFullOnesAndOne)
     }
 }
 
-TEST(DataPages, ListsHoldTheWordFormsAndTheKinds)
+TEST(DataPages, AnItemShowsItsWordFormsAndKinds)
 {
     TestSurvey survey;
-    survey.write(QStringLiteral("C:\\Varn62E\\Varn\\VarnData\\Test\\Ling\\rain.dbs"),
-                 "3,\"Q 1\",\"Rain\",\"\"\r\n2\r\n\"uyu\"\r\n\"ame\"\r\n0\r\n1\r\n\"uyu\"\r\n");
-    LoadWordData(survey.varn, survey.varn.dataFolder() + QStringLiteral("\\rain.dbs"), survey.varn,
-                 survey.varn);
-    const DataList data = dataList(survey.varn);
-    EXPECT_EQ(data.title, QStringLiteral("Q 1  Rain"));
-    ASSERT_EQ(data.lines.size(), 3U);
-    EXPECT_EQ(data.lines[1].numbers, (std::vector<int>{2, 1, 2}));
-    EXPECT_EQ(data.lines[2].numbers, (std::vector<int>{3, 3, 1}));
-    EXPECT_EQ(data.lines[2].word, QStringLiteral("uyu"));
-    const DataList kinds = kindList(survey.varn);
-    ASSERT_EQ(kinds.lines.size(), 2U);
-    EXPECT_EQ(kinds.lines[0].word, QStringLiteral("ame"));
-    EXPECT_EQ(kinds.lines[1].numbers, (std::vector<int>{2, 2}));
+    const QString path = survey.varn.dataFolder() + "\\rain.dbs";
+    survey.write(path, "3,\"Q 1\",\"Rain\",\"\"\r\n2\r\n\"uyu\"\r\n\"ame\"\r\n0\r\n1\r\n\"uyu\"\r\n");
+    LoadWordData(survey.varn, path, survey.varn, survey.varn);
+    EXPECT_EQ(textsOf(drawn(DataPages(survey.varn, dataList(survey.varn)), 1)),
+              "** PAGE = 1 / 1 Q 1  Rain rain.dbs No. Loc. Sub Word 1 1 1 uyu 2 1 2 ame 3 3 1 uyu");
+    EXPECT_EQ(textsOf(drawn(DataPages(survey.varn, kindList(survey.varn)), 1)),
+              "** PAGE = 1 / 1 Q 1  Rain rain.dbs No. Count Word 1 1 ame 2 2 uyu");
 }
 
-TEST(DataPages, EveryPageHasItsLinesUnderAHeading)
+TEST_F(DataPagesOf, EveryPageHasItsLinesUnderAHeading)
 {
-    TestSurvey survey;
-    DataList list = listOf(64 + 3, QStringLiteral("ame"));
-    const DataPages pages(survey.varn, list);
-    const std::pair<int, std::size_t> rows[] = {{1, 64}, {2, 3}};
-    for (const auto& [page, lines] : rows) {
-        DrawSurface target;
-        pages.draw(page, target);
-        const QStringList texts(target.drawing().texts.begin(), target.drawing().texts.end());
-        EXPECT_EQ(texts.count(QStringLiteral("ame")), static_cast<qsizetype>(lines));
-        EXPECT_TRUE(texts.contains(QStringLiteral("** PAGE = %1 / 2").arg(page)));
-        EXPECT_TRUE(texts.contains(QStringLiteral("Rain")));
-        EXPECT_EQ(texts.contains(QStringLiteral("65")), page == 2);
-        EXPECT_FALSE(texts.contains(QStringLiteral("Code"))) << "no word has a code";
-        const auto printed = operationsOf<TextOperation>(target.drawing());
-        for (std::size_t n = 0; n < printed.size(); ++n) {
-            const bool isTitle = texts[static_cast<qsizetype>(n)] == QStringLiteral("No.") ||
-                                 texts[static_cast<qsizetype>(n)] == QStringLiteral("Word");
-            EXPECT_EQ(printed[n].color, QBColor(isTitle ? 8 : 0))
-                << qPrintable(texts[static_cast<qsizetype>(n)]);
-        }
-        const auto rule = operationsOf<PolylineOperation>(target.drawing()).at(0);
-        EXPECT_EQ(target.drawing().points[rule.firstPoint + 1],
-                  QPointF(static_cast<float>(pages.area().width()), 288));
-        EXPECT_EQ(printedAt(target.drawing(), QStringLiteral("Word")).y(), 400);
-        EXPECT_EQ(printedAt(target.drawing(), QStringLiteral("ame")).y(), 760);
+    const DataPages pages(varn, listOf(64 + 3, "ame"));
+    EXPECT_EQ(textsOf(drawn(pages, 1)).count("ame"), 64);
+    const Drawing page = drawn(pages, 2);
+    EXPECT_EQ(textsOf(page), "** PAGE = 2 / 2 Rain rain.dbs No. Word 65 ame 66 ame 67 ame");
+    for (const auto& text : operationsOf<TextOperation>(page)) {
+        const bool isTitle = text.y == 400;
+        EXPECT_EQ(text.color, QBColor(isTitle ? 8 : 0)) << qPrintable(page.texts[text.text]);
     }
+    EXPECT_EQ(printedAt(page, "Word").y(), 400);
+    EXPECT_EQ(printedAt(page, "ame").y(), 760);
+    const auto rule = operationsOf<PolylineOperation>(page).at(0);
+    EXPECT_EQ(page.points[rule.firstPoint + 1], QPointF(static_cast<float>(pages.area().width()), 288));
 }
 
-TEST(DataPages, WhateverTheWordsNothingCollidesAndAllIsOnThePage)
+TEST_F(DataPagesOf, WhateverTheWordsNothingCollidesAndAllIsOnThePage)
 {
-    TestSurvey survey;
-    useInstalledGlyphs(survey.varn);
-    const QString words[] = {QStringLiteral("a"), QStringLiteral("te\\N1u\\:\\E2"),
-                             QStringLiteral("a \\N1 phrase \\E2 of some length"),
-                             QStringLiteral("long \\N1").repeated(60),
-                             QStringLiteral("plain ").repeated(200)};
-    for (const int orientation : {1, 2}) {
-        survey.varn.PaperHeight = orientation == 2 ? 210 : 297;
-        survey.varn.PaperWidth = orientation == 2 ? 297 : 210;
+    const QString words[] = {"a", "te\\N1u\\:\\E2", "a \\N1 phrase \\E2 of some length",
+                             QString("long \\N1").repeated(60), QString("plain ").repeated(200)};
+    const std::tuple<qint16, qint16, qint16> papers[] = {{210, 297, 8}, {297, 210, 40}};
+    for (const auto& [width, height, fontSize] : papers) {
+        varn.PaperWidth = width;
+        varn.PaperHeight = height;
+        varn.MapFontSize = fontSize;
         for (const QString& word : words) {
-            for (const int fontSize : {8, 40}) {
-                survey.varn.MapFontSize = static_cast<qint16>(fontSize);
-                const DataPages pages(survey.varn, listOf(200, word));
-                DrawSurface target;
-                pages.draw(3, target);
-                const std::vector<QRectF> boxes = boxesOf(target.drawing());
-                EXPECT_GT(boxes.size(), 2 * 64U);
-                EXPECT_EQ(overlaps(boxes), 0) << qPrintable(word.left(30)) << ' ' << orientation;
-                const QRectF page(QPointF(0, 0), pages.area());
-                const bool inside = std::all_of(boxes.begin(), boxes.end(), [&](const QRectF& box) {
-                    return page.adjusted(-2, -80, 2, 2).contains(box);
-                });
-                EXPECT_TRUE(inside) << qPrintable(word.left(30)) << ' ' << orientation;
-            }
+            const DataPages pages(varn, listOf(200, word));
+            const std::vector<QRectF> boxes = boxesOf(drawn(pages, 3));
+            EXPECT_GT(boxes.size(), 2 * 64U);
+            EXPECT_EQ(misplaced(boxes, QRectF({0, 0}, pages.area())), 0)
+                << qPrintable(word.left(30)) << width;
         }
     }
+    varn.LeftMargin = 400;
+    varn.TopMargin = 400;
+    EXPECT_NO_THROW(drawn(DataPages(varn, listOf(64, "ame")), 1)) << "margins that leave no room";
 }
 
-TEST(DataPages, MarginsThatLeaveNoRoomAreNoError)
-{
-    TestSurvey survey;
-    survey.varn.LeftMargin = 400;
-    survey.varn.TopMargin = 400;
-    const DataPages pages(survey.varn, listOf(64, QStringLiteral("ame")));
-    DrawSurface target;
-    EXPECT_NO_THROW(pages.draw(1, target));
-}
-
-TEST(ListText, LongTextsAreCutBetweenTheirUnits)
+TEST_F(DataPagesOf, LongTextsAreCutBetweenTheirUnits)
 {
     if (!anyFont()) {
         GTEST_SKIP() << "needs a font";
     }
-    TestSurvey survey;
-    useInstalledGlyphs(survey.varn);
+    constexpr auto Phonetic = ListText::Coding::Phonetic;
     DrawSurface target;
     target.FontSize = 20;
-    {
-        ListText text(textParts(survey.varn), target);
-        const QString coded = QStringLiteral("\\N1\\N1\\N1\\N1\\N1\\N1");
-        const float width = text.width(coded, ListText::Coding::Phonetic);
-        EXPECT_EQ(text.shortened(coded, width, ListText::Coding::Phonetic), coded);
-        const QString cut = text.shortened(coded, width * 0.9F, ListText::Coding::Phonetic);
-        ASSERT_TRUE(cut.endsWith(QStringLiteral("...")));
-        EXPECT_EQ(cut.chopped(3).size() % 3, 0) << qPrintable(cut);
-        EXPECT_LE(text.width(cut, ListText::Coding::Phonetic), width * 0.9F);
-        EXPECT_EQ(text.shortened(QStringLiteral("abc"), 1), QString());
-    }
+    const auto list = [&] { return ListText(textParts(varn), target); };
+    const QString coded = QString("\\N1").repeated(6);
+    const float width = list().width(coded, Phonetic);
+    EXPECT_EQ(list().shortened(coded, width, Phonetic), coded);
+    const QString cut = list().shortened(coded, width * 0.9F, Phonetic);
+    EXPECT_TRUE(cut.endsWith("\\N1...")) << qPrintable(cut);
+    EXPECT_LE(list().width(cut, Phonetic), width * 0.9F);
+    EXPECT_EQ(list().shortened("abc", 1), "");
     EXPECT_EQ(target.FontSize, 20) << "the surface has its own font again";
 }
