@@ -35,7 +35,7 @@ constexpr float LabelIndent = 500;
 
 /// Middle of the legend's circles, from its left edge: left of the labels where the largest has room there,
 /// otherwise right of them.
-float circleIndent(const ContrastData& contrast, DrawSurface& target)
+float circleIndent(const ContrastData& contrast, const DrawSurface& target)
 {
     constexpr float Gap = 60;
     const auto radius = static_cast<float>(contrast.ContrastMaxSize);

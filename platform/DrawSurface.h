@@ -6,6 +6,8 @@
 #include <QImage>
 #include <QString>
 
+#include <optional>
+
 /// A surface that the program draws on: a form's drawing area or the printer's page. It has pen, fill, font
 /// and position state and records what is drawn as a list of operations; it paints nothing itself.
 ///
@@ -45,6 +47,10 @@ public:
     bool FontBold = false;
     bool FontItalic = false;
 
+    /// The font of texts as a whole.
+    TextFont font() const { return {FontName, FontSize, FontBold, FontItalic}; }
+    void setFont(const TextFont& font);
+
     /// Empties the surface; printing starts again at its origin.
     void Cls();
 
@@ -69,15 +75,15 @@ public:
     void PaintPicture(const QImage& picture, float x, float y);
 
     /// Advance of `text` and height of a line in the current font.
-    float TextWidth(const QString& text);
-    float TextHeight();
+    float TextWidth(const QString& text) const;
+    float TextHeight() const;
     /// From the top of a text to its baseline in the current font.
-    float TextAscent();
+    float TextAscent() const;
 
     const Drawing& drawing() const { return m_drawing; }
 
 private:
-    /// A font in use and its measures, both in twips.
+    /// A font and its measures in twips.
     struct MeasuredFont
     {
         TextFont font;
@@ -88,13 +94,15 @@ private:
     int currentPen(QRgb color);
     QRgb currentFill() const { return FillStyle == 0 ? FillColor : 0; }
     int currentFont();
+    const QFontMetricsF& metrics() const;
     float originX(float x) const { return x - ScaleLeft; }
     float originY(float y) const { return y - ScaleTop; }
 
     Drawing m_drawing;
-    std::vector<MeasuredFont> m_fonts;
-    int m_lastPen = -1;
-    int m_lastFont = -1;
+    std::size_t m_lastPen = 0;
+    std::size_t m_lastFont = 0;
+    /// The font that was measured last: its measures are costly to find.
+    mutable std::optional<MeasuredFont> m_measured;
 };
 
 /// The size of `picture` in twips by its own resolution; 96 dpi where it states none.

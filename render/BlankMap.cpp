@@ -8,14 +8,6 @@
 
 namespace {
 
-void copyFont(const DrawSurface& from, DrawSurface& to)
-{
-    to.FontName = from.FontName;
-    to.FontSize = from.FontSize;
-    to.FontBold = from.FontBold;
-    to.FontItalic = from.FontItalic;
-}
-
 /// Keeps the position of locality i in drawing units.
 void placeLocality(const Localities& map, int i, MapGeometry& geometry)
 {
@@ -103,7 +95,7 @@ void PlotLocateCircle(const Localities& map, MapGeometry& geometry, DrawSurface&
 
 void PlotKanjiData(const PlaceNames& map, const MapGeometry& geometry, MapSurfaces surfaces)
 {
-    copyFont(surfaces.frmMap, surfaces.DrawTarget);
+    surfaces.DrawTarget.setFont(surfaces.frmMap.font());
     for (int i = 1; i <= map.NKanji; ++i) {
         surfaces.DrawTarget.PrintAt(geometry.toScreen(map.KanjiXY(i, 0)),
                                     geometry.toScreen(map.KanjiXY(i, 1)), map.KanjiText(i));

@@ -59,13 +59,10 @@ void findStartExtent(const MapLines& map, MapGeometry& geometry)
     widenExtent(map, geometry);
 }
 
-void X0Y0(qint16 mapFontSize, bool halfWidth, float& dx, qint16& dy)
+TextCell X0Y0(qint16 mapFontSize, bool halfWidth)
 {
-    dx = static_cast<float>((mapFontSize + 1) * 24);
-    if (halfWidth) {
-        dx /= 2;
-    }
-    dy = toInteger((mapFontSize + 2) * 24);
+    const auto dx = static_cast<float>((mapFontSize + 1) * 24);
+    return {halfWidth ? dx / 2 : dx, toInteger((mapFontSize + 2) * 24)};
 }
 
 void XYPosition(const DrawSurface& target, float& x, float& xmax, float dx)

@@ -58,9 +58,15 @@ void findStartExtent(const MapLines& map, MapGeometry& geometry);
 
 // Layout cursors for columns of text.
 
-/// The width of a column and the height of a row for the map font's size, in twips; half the width where
-/// `halfWidth` is set.
-void X0Y0(qint16 mapFontSize, bool halfWidth, float& dx, qint16& dy);
+/// The width of a column and the height of a row of text, in twips.
+struct TextCell
+{
+    float dx;
+    qint16 dy;
+};
+
+/// The cell for the map font's size; half as wide where `halfWidth` is set. Raises overflow.
+TextCell X0Y0(qint16 mapFontSize, bool halfWidth);
 /// Steps x by dx and widens `xmax` to where the target's last text ended.
 void XYPosition(const DrawSurface& target, float& x, float& xmax, float dx);
 /// Steps to the next cell of a grid: the next column, past `xlim` the next row, past `ylim` the top again.

@@ -21,10 +21,7 @@ void preparePage(PageSetup& page, const MapFont& font)
     printer.Height = toSingle(page.PaperHeight * TwipsPerMm);
     printer.ScaleLeft = toSingle(-page.LeftMargin * TwipsPerMm);
     printer.ScaleTop = toSingle(-page.TopMargin * TwipsPerMm);
-    printer.FontName = font.MapFontName;
-    printer.FontSize = font.MapFontSize;
-    printer.FontBold = font.MapFontBold;
-    printer.FontItalic = font.MapFontItalic;
+    printer.setFont(textFont(font));
     printer.DrawWidth = 1;
     printer.DrawStyle = 0;
     printer.FillStyle = 1;

@@ -99,10 +99,7 @@ void frmMap::Form_Load()
 
 void frmMap::applyMapFont()
 {
-    m_surface.FontName = m_varn.MapFontName;
-    m_surface.FontSize = m_varn.MapFontSize;
-    m_surface.FontBold = m_varn.MapFontBold;
-    m_surface.FontItalic = m_varn.MapFontItalic;
+    m_surface.setFont(textFont(m_varn));
 }
 
 MapSurfaces frmMap::surfaces()

@@ -123,6 +123,10 @@ TEST(DrawSurface, FontsAreThoseOfTheSurfaceInTwips)
     surface.FontBold = true;
     surface.Print(QStringLiteral("bold"));
     surface.FontBold = false;
+    const float plain = std::as_const(surface).TextWidth(QStringLiteral("a"));
+    surface.FontSize = 24;
+    EXPECT_NEAR(surface.TextWidth(QStringLiteral("a")), 2 * plain, 2);
+    surface.FontSize = 12;
     surface.FontItalic = true;
     surface.Print(QStringLiteral("italic"));
     for (const int n : {0, 1}) {
@@ -131,6 +135,7 @@ TEST(DrawSurface, FontsAreThoseOfTheSurfaceInTwips)
         EXPECT_EQ(font.pixelSize(), 240);
         EXPECT_EQ(std::pair(font.bold(), font.italic()), std::pair(n == 0, n == 1));
     }
+    EXPECT_EQ(surface.drawing().fonts.size(), 2U) << "measuring leaves no trace";
 }
 
 TEST(DrawSurface, PicturesHaveTheirNaturalSize)
