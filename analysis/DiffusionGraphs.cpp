@@ -59,7 +59,7 @@ void printItems(const CumulativeTable& table, float x, int row, MapSurfaces surf
     if (row > 1) {
         return;
     }
-    surfaces.DrawTarget.PrintAt(x, surfaces.frmMap.Height - 1000 + 50,
+    surfaces.DrawTarget.PrintAt(x, surfaces.area.Height - 1000 + 50,
                                 QStringLiteral("No. of Items =%1").arg(table.NumItemsAccumulated));
 }
 

@@ -18,9 +18,7 @@ public:
     /// How a text ends: at the start of the next line, or where the text ended.
     enum class LineEnd { NewLine, Stay };
 
-    /// Position of the window on the screen and size of the drawing area.
-    float Left = 0;
-    float Top = 0;
+    /// Size of the surface, for those who show it or fill it.
     float Width = 0;
     float Height = 0;
 

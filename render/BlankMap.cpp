@@ -44,7 +44,7 @@ void plotScaleBar(const PlaceNames& map, const MapGeometry& geometry, DrawSurfac
 
 void PlotLineData(const MapLines& map, MapGeometry& geometry, MapSurfaces surfaces)
 {
-    geometry.Scale = FindMinMax(map, surfaces.frmMap, geometry);
+    geometry.Scale = FindMinMax(map, surfaces.area, geometry);
     surfaces.thinLines();
     for (int i = 1; i <= map.NLine; ++i) {
         for (int j = 1; j <= map.LinePoints(i); ++j) {
@@ -62,7 +62,7 @@ void PlotLocateData(const BaseMap& map, const MapStyle& style, MapGeometry& geom
 {
     constexpr float DotRadius = 2;
 
-    geometry.Scale = FindMinMax(map, surfaces.frmMap, geometry);
+    geometry.Scale = FindMinMax(map, surfaces.area, geometry);
     if (!style.PlotDots) {
         return;
     }
@@ -111,10 +111,9 @@ void PlotDate(const QString& fileName, const QDateTime& time, MapSurfaces surfac
     DrawSurface& target = surfaces.DrawTarget;
     const int fontSize = target.FontSize;
     target.FontSize = 8;
-    const float x = surfaces.frmMap.Width - 1600 + 50;
-    target.PrintAt(x, surfaces.frmMap.Height - 400 + 50, fileName);
-    target.PrintAt(x, surfaces.frmMap.Height - 200 + 50,
-                   time.toString(QStringLiteral("yyyy-MM-dd HH:mm:ss")));
+    const float x = surfaces.area.Width - 1600 + 50;
+    target.PrintAt(x, surfaces.area.Height - 400 + 50, fileName);
+    target.PrintAt(x, surfaces.area.Height - 200 + 50, time.toString(QStringLiteral("yyyy-MM-dd HH:mm:ss")));
     target.FontSize = fontSize;
 }
 

@@ -101,7 +101,7 @@ void PlotHanrei(const LinguisticMapParts& parts, MapSurfaces surfaces)
 
     SymbolShapes shapes(parts.base.map, parts.base.geometry, surfaces);
     PhoneticText phonetic(parts.text, surfaces);
-    LegendCells cells(x0 + SymbolIndent, surfaces.frmMap.Height, step);
+    LegendCells cells(x0 + SymbolIndent, surfaces.area.Height, step);
     for (int k = 1; k <= symbols.NHanrei; ++k) {
         const QString& caption = symbols.HankoCaption(k);
         if (caption.contains(QLatin1Char('-'))) {

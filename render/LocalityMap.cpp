@@ -74,14 +74,13 @@ void LocalityMap::draw(const BaseMap& map)
     }
 
     // The lines are scaled by the height of a map form.
-    DrawSurface form;
-    form.Height = PaperHeight;
+    constexpr FormArea Form{0, 0, 0, PaperHeight};
     MapGeometry geometry;
     geometry.Scale =
-        lines.hasArea() ? FindMinMax(map, form, geometry) : PaperHeight / std::max(all.longerSide(), 1.0F);
+        lines.hasArea() ? FindMinMax(map, Form, geometry) : PaperHeight / std::max(all.longerSide(), 1.0F);
     fitPaper(all, geometry, m_surface);
     if (lines.hasArea()) {
-        PlotLineData(map, geometry, {m_surface, form});
+        PlotLineData(map, geometry, {{m_surface, m_surface}, Form});
     }
     m_surface.FillStyle = 0;
     m_surface.FillColor = QBColor(0);

@@ -32,7 +32,7 @@ float MapGeometry::raiseTooFar(float coordinate)
                        QStringLiteral("The map's coordinate %1 is too far out to be drawn.").arg(coordinate));
 }
 
-float FindMinMax(const MapLines& map, const DrawSurface& form, MapGeometry& geometry, float startMaxY)
+float FindMinMax(const MapLines& map, const FormArea& form, MapGeometry& geometry, float startMaxY)
 {
     geometry.MinX = 1000000;
     geometry.MinY = 1000000;

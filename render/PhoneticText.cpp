@@ -2,8 +2,8 @@
 
 #include "platform/SequentialFile.h"
 
-PhoneticText::PhoneticText(const TextParts& parts, MapSurfaces surfaces)
-    : m_parts(parts), m_target(surfaces.DrawTarget), m_frmMap(surfaces.frmMap)
+PhoneticText::PhoneticText(const TextParts& parts, const TracedTarget& target)
+    : m_parts(parts), m_target(target.DrawTarget), m_frmMap(target.frmMap)
 {}
 
 float PhoneticText::PlotChar(float x, float y, QStringView text)

@@ -36,8 +36,8 @@ void PlotSymbol(const PolygonTable& polygons, MapGeometry& geometry, int page, M
     constexpr float NumberOffset = 200;
 
     DrawSurface& target = surfaces.DrawTarget;
-    const float cellWidth = surfaces.frmMap.Width / Columns;
-    const float cellHeight = (surfaces.frmMap.Height - 500) / Rows;
+    const float cellWidth = surfaces.area.Width / Columns;
+    const float cellHeight = (surfaces.area.Height - 500) / Rows;
     const float x0 = cellWidth - 250;
     const float y0 = 350;
     const int first = SymbolsPerPage * (page - 1) + 1;
@@ -55,7 +55,7 @@ void PlotSymbol(const PolygonTable& polygons, MapGeometry& geometry, int page, M
     for (int number = first; number <= last; ++number) {
         target.PrintAt(x - NumberOffset, y - 300, QString::number(number));
         shapes.DrawHanko(catalogueStyle(number), x, y);
-        XmaxYmax(x, y, x0, y0, surfaces.frmMap.Width, surfaces.frmMap.Height, cellWidth, cellHeight);
+        XmaxYmax(x, y, x0, y0, surfaces.area.Width, surfaces.area.Height, cellWidth, cellHeight);
     }
     target.ScaleLeft = scaleLeft;
     target.FontSize = fontSize;

@@ -32,12 +32,12 @@ SymbolHelpLayout layoutOf(const std::vector<PhoneticSymbol>& symbols, int fontSi
         nameWidth = std::max(nameWidth, surfaces.DrawTarget.TextWidth(symbol.name));
     }
     SymbolHelpLayout layout{fontSize, 2 * cell.dx, static_cast<float>(cell.dy), cell.dx, 1, false};
-    const float height = surfaces.frmMap.Height - layout.firstRow();
+    const float height = surfaces.area.Height - layout.firstRow();
     layout.rowsPerColumn = std::max(1, static_cast<int>(height / layout.rowStep));
     const auto codes = static_cast<int>(symbols.size());
     const auto columns = static_cast<float>((codes + layout.rowsPerColumn - 1) / layout.rowsPerColumn);
     const float width = columns * (3 * layout.partStep + nameWidth) + (columns - 1) * layout.columnGap;
-    layout.fits = Margin + width <= surfaces.frmMap.Width;
+    layout.fits = Margin + width <= surfaces.area.Width;
     return layout;
 }
 

@@ -23,7 +23,7 @@ struct CountedSurvey : TestSurvey
         varn.Counts(1, 1) = 10;
         varn.Counts(1, 3) = 4;
         varn.Counts(2, 2) = 5;
-        varn.Scale = FindMinMax(varn, frmMap, varn);
+        varn.Scale = FindMinMax(varn, surfaces.area, varn);
     }
 
     const Drawing& drawing() const { return frmMap.drawing(); }

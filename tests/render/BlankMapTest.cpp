@@ -1,6 +1,5 @@
 #include "render/BlankMap.h"
 
-#include "render/MapSize.h"
 #include "shell/MapParts.h"
 #include "tests/support/TestDrive.h"
 #include "tests/support/Transcript.h"
@@ -10,24 +9,23 @@ TEST(BlankMap, TheHeightOfTheFormSetsTheScale)
     TestSurvey survey;
     VarnModule& varn = survey.varn;
     varn.LineOffset(1, 1) = 250; // the extent includes the offset of a line
-    EXPECT_FLOAT_EQ(FindMinMax(varn, survey.frmMap, varn), 0.98F * 9000 / 1000);
+    EXPECT_FLOAT_EQ(FindMinMax(varn, survey.surfaces.area, varn), 0.98F * 9000 / 1000);
     EXPECT_EQ(varn.MinY, 250);
     EXPECT_EQ(varn.MaxY, 1250);
     EXPECT_EQ(varn.RatioX, 12);
 
-    survey.frmMap.Top = 1000; // a window further down leaves less height
-    EXPECT_FLOAT_EQ(FindMinMax(varn, survey.frmMap, varn), 0.98F * 8000 / 1000);
+    survey.surfaces.area.Top = 1000; // a window further down leaves less height
+    EXPECT_FLOAT_EQ(FindMinMax(varn, survey.surfaces.area, varn), 0.98F * 8000 / 1000);
 
-    setFirstSize(survey.frmMap);
-    setMapHeight(survey.frmMap, 100);
-    EXPECT_FLOAT_EQ(survey.frmMap.Height, 5670);
-    EXPECT_FLOAT_EQ(survey.frmMap.Width, 7560) << "the proportion of the sides is kept";
+    const FormArea lower = withHeight(firstArea(), 100);
+    EXPECT_FLOAT_EQ(lower.Height, 5670);
+    EXPECT_FLOAT_EQ(lower.Width, 7560) << "the proportion of the sides is kept";
 }
 
 TEST(BlankMap, AMapWithoutExtentDividesByZero)
 {
     TestSurvey survey;
-    const auto findScale = [&] { FindMinMax(survey.varn, survey.frmMap, survey.varn); };
+    const auto findScale = [&] { FindMinMax(survey.varn, survey.surfaces.area, survey.varn); };
     for (int j = 1; j <= 5; ++j) {
         survey.varn.LineXY(1, j, 1) = 7;
     }
@@ -96,7 +94,7 @@ TEST(BlankMap, APreviewGoesToItsOwnSurface)
     TestSurvey survey;
     DrawSurface preview;
     survey.frmMap.Print(QStringLiteral("old map"));
-    DrawBlankMap(blankMapParts(survey.varn), {preview, survey.frmMap});
+    DrawBlankMap(blankMapParts(survey.varn), {{preview, survey.frmMap}, survey.surfaces.area});
     EXPECT_TRUE(survey.frmMap.drawing().operations.empty()) << "the map form is cleared";
     EXPECT_TRUE(wasPrinted(preview.drawing(), QStringLiteral("Town")));
 }

@@ -51,7 +51,7 @@ TEST(Legend, RowsStandUnderTheTitle)
 TEST(Legend, AFullColumnIsFollowedByOneToTheRight)
 {
     LegendSurvey survey;
-    survey.frmMap.Height = 6 * 300; // five rows a column
+    survey.surfaces.area.Height = 6 * 300; // five rows a column
     for (const char* caption : {"a", "the widest of its column", "c", "d", "e"}) {
         addCaption(survey.varn, QString::fromLatin1(caption));
     }
@@ -89,7 +89,7 @@ TEST(Legend, TheTitleLineIsErasedFirst)
 TEST(Legend, AFormOfOneRowDividesByZero)
 {
     LegendSurvey survey;
-    survey.frmMap.Height = 500;
+    survey.surfaces.area.Height = 500;
     addCaption(survey.varn, QStringLiteral("a"));
     EXPECT_EQ(errorOf([&] { PlotHanrei(linguisticMapParts(survey.varn), survey.surfaces); }).number(),
               ErrorNumber::DivisionByZero);

@@ -73,7 +73,7 @@ TEST(LinguisticMap, AThickSymbolLeavesThinLinesOnFormAndPrinter)
     survey.varn.Hanko(1).LineThick = 2;
     survey.varn.HankoCaption(1) = QStringLiteral("a");
     DrawSurface printer;
-    const MapSurfaces surfaces{printer, survey.frmMap};
+    const MapSurfaces surfaces{{printer, survey.frmMap}, survey.surfaces.area};
     const std::function<void()> steps[] = {
         [&] { PlotLinguisticData(linguisticMapParts(survey.varn), surfaces); },
         [&] { PlotHanrei(linguisticMapParts(survey.varn), surfaces); },

@@ -143,7 +143,7 @@ TEST(SymbolHelp, AllCodesStandOnThePageWhateverTheFontOfTheMap)
             {QStringLiteral("\\A1"), QStringLiteral("a"), QStringLiteral("a long name of vowel %1").arg(i)});
     }
     const QString note = QStringLiteral("Make the map form larger to see all codes.");
-    const QRectF paper(0, 0, survey.frmMap.Width, survey.frmMap.Height);
+    const QRectF paper(0, 0, survey.surfaces.area.Width, survey.surfaces.area.Height);
     survey.varn.MapFontSize = 10;
     WriteSymbolHelp(survey.varn.ExpSymbols, textParts(survey.varn), survey.surfaces);
     EXPECT_EQ(printedAt(survey.frmMap.drawing(), QStringLiteral("\\A1")), QPointF(50, 626));
@@ -165,7 +165,7 @@ TEST(SymbolHelp, AllCodesStandOnThePageWhateverTheFontOfTheMap)
         EXPECT_FALSE(wasPrinted(drawing, note));
         EXPECT_EQ(survey.frmMap.FontSize, size);
     }
-    survey.frmMap.Height = 3000;
+    survey.surfaces.area.Height = 3000;
     WriteSymbolHelp(survey.varn.ExpSymbols, textParts(survey.varn), survey.surfaces);
     EXPECT_TRUE(wasPrinted(survey.frmMap.drawing(), note)) << "there is no room for them";
 }

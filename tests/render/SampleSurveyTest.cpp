@@ -24,7 +24,6 @@ struct SampleSurvey
         LoadLineData(varn.Drive, varn.VarnPath, varn.VarnMapName, varn);
         LoadLocateData(varn.Drive, varn.VarnPath, varn.VarnMapName, varn);
         LoadKanjiData(varn.Drive, varn.VarnPath, varn.VarnMapName, varn);
-        setFirstSize(frmMap);
     }
 
     QStringList items() const
@@ -79,7 +78,7 @@ TEST(SampleSurvey, EveryMapIsDrawnWithoutATrace)
     for (const QString& item : sample.items()) {
         sample.load(item);
         DrawSurface target;
-        drawLinguisticMap(linguisticMapParts(sample.varn), {target, sample.frmMap});
+        drawLinguisticMap(linguisticMapParts(sample.varn), {{target, sample.frmMap}, firstArea()});
         EXPECT_TRUE(sample.frmMap.drawing().operations.empty()) << qPrintable(item);
         EXPECT_FALSE(target.drawing().operations.empty());
     }

@@ -44,7 +44,7 @@ TEST(SymbolCatalogue, SymbolsStandInAGridInChangingColors)
 TEST(SymbolCatalogue, ANarrowFormShowsTheFirstColumnWhole)
 {
     TestSurvey survey;
-    survey.frmMap.Width = 16 * 320;
+    survey.surfaces.area.Width = 16 * 320;
     PlotSymbol(survey.varn, survey.varn, 1, survey.surfaces);
     const Drawing& drawing = survey.frmMap.drawing();
     EXPECT_EQ(printedAt(drawing, QStringLiteral("1")), QPointF(0, 50));

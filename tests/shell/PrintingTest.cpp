@@ -12,14 +12,14 @@ struct PrintedSurvey : TestSurvey
 {
     PrintedSurvey()
     {
-        varn.Scale = FindMinMax(varn, frmMap, varn);
+        varn.Scale = FindMinMax(varn, surfaces.area, varn);
         connectPrinter(varn, std::make_unique<RecordingPrinter>(documents));
     }
 
     void drawMap()
     {
         PrintYesNo(varn, frmMap, QStringLiteral("Test - Town"));
-        DrawBlankMap(blankMapParts(varn), {*varn.DrawTarget, frmMap});
+        DrawBlankMap(blankMapParts(varn), {{*varn.DrawTarget, frmMap}, surfaces.area});
         PrintEnd(varn);
     }
 

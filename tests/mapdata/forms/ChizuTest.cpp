@@ -47,7 +47,7 @@ protected:
     ScriptedDialogs dialogs;
     frmChizu form{varn, dialogs,
                   [this] {
-                      return MapSurfaces{*varn.DrawTarget, survey.frmMap};
+                      return MapSurfaces{{*varn.DrawTarget, survey.frmMap}, survey.surfaces.area};
                   },
                   [this] { return mayChangeMap; }};
     bool mayChangeMap = true;
