@@ -15,7 +15,7 @@ void plotCircle(const ContrastData& contrast, int difference, float x, float y, 
                 DrawSurface& target)
 {
     const int side = difference > 0 ? 1 : 2;
-    target.FillStyle = 0;
+    target.FillStyle = DrawSurface::Fill::Solid;
     target.FillColor = QBColor(contrast.ContrastPaintColor(side));
     target.Circle(x, y, radius, QBColor(contrast.ContrastSymbolColor(side)));
 }

@@ -70,7 +70,7 @@ void DrawSurface::Cls()
 
 int DrawSurface::currentPen(QRgb color)
 {
-    const LinePen pen{color, DrawWidth, DrawStyle >= 1 && DrawStyle <= 4 ? DrawStyle : 0};
+    const LinePen pen{color, DrawWidth, DrawStyle};
     return numberIn(m_drawing.pens, pen, m_lastPen);
 }
 

@@ -17,6 +17,8 @@ class DrawSurface
 public:
     /// How a text ends: at the start of the next line, or where the text ended.
     enum class LineEnd { NewLine, Stay };
+    /// Whether a shape is full of the fill colour.
+    enum class Fill { Solid, Transparent };
 
     /// Size of the surface, for those who show it or fill it.
     float Width = 0;
@@ -32,10 +34,10 @@ public:
 
     /// Width of lines in pixels of 96 dpi.
     int DrawWidth = 1;
-    /// Style of lines: 0 solid, 1 dash, 2 dot, 3 dash-dot, 4 dash-dot-dot, 5 none; any other value is solid.
-    int DrawStyle = 0;
-    /// 0 fills boxes, circles and slices with `FillColor`; 1 leaves them transparent.
-    int FillStyle = 1;
+    /// Style of lines and outlines.
+    PenStyle DrawStyle = PenStyle::Solid;
+    /// Whether boxes, circles and slices are filled with `FillColor`.
+    Fill FillStyle = Fill::Transparent;
     QRgb FillColor = qRgb(0, 0, 0);
     /// Colour of texts.
     QRgb ForeColor = qRgb(0, 0, 0);
@@ -88,9 +90,9 @@ private:
         QFontMetricsF metrics;
     };
 
-    bool drawsLines() const { return DrawStyle != 5; }
+    bool drawsLines() const { return DrawStyle != PenStyle::None; }
     int currentPen(QRgb color);
-    QRgb currentFill() const { return FillStyle == 0 ? FillColor : 0; }
+    QRgb currentFill() const { return FillStyle == Fill::Solid ? FillColor : 0; }
     int currentFont();
     const QFontMetricsF& metrics() const;
     float originX(float x) const { return x - ScaleLeft; }
@@ -102,6 +104,12 @@ private:
     /// The font that was measured last: its measures are costly to find.
     mutable std::optional<MeasuredFont> m_measured;
 };
+
+/// The fill of a shape that is `painted` or left empty.
+constexpr DrawSurface::Fill fillOf(bool painted)
+{
+    return painted ? DrawSurface::Fill::Solid : DrawSurface::Fill::Transparent;
+}
 
 /// The size of `picture` in twips by its own resolution; 96 dpi where it states none.
 QSizeF naturalSize(const QImage& picture);

@@ -52,10 +52,10 @@ void PlotLineData(const MapLines& map, MapGeometry& geometry, MapSurfaces surfac
                 geometry.ScreenXY(j, k) = geometry.toScreen(map.LineXY(i, j, k) + map.LineOffset(i, k));
             }
         }
-        surfaces.DrawTarget.DrawStyle = map.LineStyle(i);
+        surfaces.DrawTarget.DrawStyle = penStyle(map.LineStyle(i));
         Polygon(geometry, surfaces.DrawTarget, map.LinePoints(i), 0, 0, QBColor(map.MapLineColor(i)));
     }
-    surfaces.DrawTarget.DrawStyle = 0;
+    surfaces.DrawTarget.DrawStyle = PenStyle::Solid;
 }
 
 void PlotLocateData(const BaseMap& map, const MapStyle& style, MapGeometry& geometry, MapSurfaces surfaces)
@@ -67,11 +67,12 @@ void PlotLocateData(const BaseMap& map, const MapStyle& style, MapGeometry& geom
         return;
     }
     DrawSurface& target = surfaces.DrawTarget;
-    const int fillStyle = std::exchange(target.FillStyle, 0);
-    target.FillColor = QBColor(0);
+    const auto fillStyle = std::exchange(target.FillStyle, DrawSurface::Fill::Solid);
+    target.FillColor = QBColor(StandardColor::Black);
     for (int i = 1; i <= map.NLocality; ++i) {
         placeLocality(map, i, geometry);
-        target.Circle(geometry.ScreenXY(i, 0), geometry.ScreenXY(i, 1), DotRadius, QBColor(0));
+        target.Circle(geometry.ScreenXY(i, 0), geometry.ScreenXY(i, 1), DotRadius,
+                      QBColor(StandardColor::Black));
     }
     target.FillStyle = fillStyle;
 }
@@ -85,11 +86,11 @@ void PlotLocateCircle(const Localities& map, MapGeometry& geometry, DrawSurface&
         placeLocality(map, i, geometry);
         const float x = geometry.ScreenXY(i, 0);
         const float y = geometry.ScreenXY(i, 1);
-        target.FillStyle = 0;
-        target.FillColor = QBColor(10);
-        target.Circle(x, y, DiscRadius, QBColor(10));
-        target.FillStyle = 1;
-        target.Circle(x, y, RingRadius, QBColor(12));
+        target.FillStyle = DrawSurface::Fill::Solid;
+        target.FillColor = QBColor(StandardColor::LightGreen);
+        target.Circle(x, y, DiscRadius, QBColor(StandardColor::LightGreen));
+        target.FillStyle = DrawSurface::Fill::Transparent;
+        target.Circle(x, y, RingRadius, QBColor(StandardColor::LightRed));
     }
 }
 

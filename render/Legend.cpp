@@ -80,7 +80,8 @@ void ClsHanrei(const BlankMapParts& parts, DrawSurface& target, const QString& t
     const auto x = static_cast<float>(origin.x());
     const auto y = static_cast<float>(origin.y());
     target.DrawWidth = 1;
-    target.FilledBox(x, y, x + Margin + width + Edge, y + Margin + target.TextHeight() + Edge, QBColor(15));
+    target.FilledBox(x, y, x + Margin + width + Edge, y + Margin + target.TextHeight() + Edge,
+                     QBColor(StandardColor::LightWhite));
 }
 
 void PlotHanrei(const LinguisticMapParts& parts, MapSurfaces surfaces)

@@ -1,5 +1,6 @@
 #include "render/SymbolCatalogue.h"
 
+#include "platform/StandardColors.h"
 #include "render/SymbolShapes.h"
 
 #include <algorithm>
@@ -15,7 +16,8 @@ HankoStyle catalogueStyle(int number)
 {
     HankoStyle hanko;
     hanko.HankoNo = static_cast<qint16>(number);
-    hanko.LineColor = static_cast<qint16>(number % 16 == 15 ? 0 : number % 16);
+    const auto color = static_cast<StandardColor>(number % 16);
+    hanko.LineColor = static_cast<qint16>(color == StandardColor::LightWhite ? StandardColor::Black : color);
     hanko.PaintColor = static_cast<qint16>((number + 11) % 16);
     hanko.PaintOn = 1;
     hanko.SymbolSize = 1;

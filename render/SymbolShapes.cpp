@@ -134,7 +134,7 @@ void SymbolShapes::DrawFan(int design, const Stamp& stamp, float Radius, float A
         return;
     }
     const Sector& sector = Sectors.at(static_cast<std::size_t>(design - 1));
-    m_target.FillStyle = stamp.painted ? 0 : 1;
+    m_target.FillStyle = fillOf(stamp.painted);
     m_target.FillColor = stamp.fill;
     m_target.Arc(stamp.x0, stamp.y0, Radius, stamp.outline, sector.start, sector.end, Aspect);
 }
@@ -176,8 +176,8 @@ void SymbolShapes::DrawSquare(int polygon, const Stamp& stamp, float Sqsize, int
             m_geometry.ScreenXY(j, 1) = ys * y + Asp * (static_cast<float>(slant) * xs * x) / 2;
         }
     }
-    m_target.FillStyle = stamp.painted ? 0 : 1;
+    m_target.FillStyle = fillOf(stamp.painted);
     m_target.FillColor = stamp.fill;
-    m_target.FillStyle = 0;
+    m_target.FillStyle = DrawSurface::Fill::Solid;
     Polygon(m_geometry, m_target, count, stamp.x0, stamp.y0, stamp.outline);
 }

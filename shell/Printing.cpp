@@ -10,7 +10,8 @@ namespace {
 
 QString orientationName(const PageLayout& layout)
 {
-    return layout.PaperOrientation == 2 ? QStringLiteral("Landscape") : QStringLiteral("Portrait");
+    return layout.PaperOrientation == PageOrientation::Landscape ? QStringLiteral("Landscape")
+                                                                 : QStringLiteral("Portrait");
 }
 
 /// An empty page with the paper, the margins and the font chosen now.
@@ -23,20 +24,20 @@ void preparePage(PageSetup& page, const MapFont& font)
     printer.ScaleTop = toSingle(-page.TopMargin * TwipsPerMm);
     printer.setFont(textFont(font));
     printer.DrawWidth = 1;
-    printer.DrawStyle = 0;
-    printer.FillStyle = 1;
+    printer.DrawStyle = PenStyle::Solid;
+    printer.FillStyle = DrawSurface::Fill::Transparent;
     printer.Cls();
 }
 
 } // namespace
 
-void setPaper(PageLayout& layout, int orientation)
+void setPaper(PageLayout& layout, PageOrientation orientation)
 {
-    layout.PaperOrientation = orientation == 2 ? 2 : 1;
+    layout.PaperOrientation = orientation;
     layout.PaperSizeName = QStringLiteral("A4");
     layout.PaperHeight = 210;
     layout.PaperWidth = 297;
-    if (layout.PaperOrientation != 2) {
+    if (orientation == PageOrientation::Portrait) {
         std::swap(layout.PaperHeight, layout.PaperWidth);
     }
 }

@@ -30,9 +30,9 @@ TEST(DrawSurface, ConnectedSegmentsOfOnePenAreOneRun)
     surface.Line(10, 0, 10, 10, black);
     surface.Line(10, 10, 0, 0, QBColor(1)); // another colour
     surface.Line(5, 5, 6, 6, QBColor(1));   // begins elsewhere
-    surface.DrawStyle = 5;
+    surface.DrawStyle = PenStyle::None;
     surface.Line(6, 6, 7, 7, QBColor(1)); // style none draws nothing
-    surface.DrawStyle = 9;
+    surface.DrawStyle = penStyle(9);
     surface.Line(6, 6, 7, 7, QBColor(1)); // unknown styles are solid
     const auto lines = operationsOf<PolylineOperation>(surface.drawing());
     ASSERT_EQ(lines.size(), 3U);
@@ -61,7 +61,7 @@ TEST(DrawSurface, SlicesRunCounterClockwiseAndAreFilled)
     };
     for (const Row& row : rows) {
         DrawSurface surface;
-        surface.FillStyle = 0;
+        surface.FillStyle = DrawSurface::Fill::Solid;
         surface.FillColor = QBColor(12);
         surface.Arc(200, 200, 100, QBColor(0), row.start, row.end);
         const QImage image = painted(surface);
@@ -73,7 +73,7 @@ TEST(DrawSurface, SlicesRunCounterClockwiseAndAreFilled)
 TEST(DrawSurface, AnOpenArcDrawsOnlyTheRadiiAskedFor)
 {
     DrawSurface surface;
-    surface.FillStyle = 0;
+    surface.FillStyle = DrawSurface::Fill::Solid;
     surface.FillColor = QBColor(12);
     surface.Arc(200, 200, 100, QBColor(0), Pi / 2, -Pi); // upper left quarter, its end radius
     const QImage image = painted(surface);
@@ -86,9 +86,9 @@ TEST(DrawSurface, BoxesAreFilledAsTheFillStyleSays)
 {
     DrawSurface surface;
     surface.FillColor = QBColor(10);
-    surface.FillStyle = 1;
+    surface.FillStyle = DrawSurface::Fill::Transparent;
     surface.Box(100, 100, 20, 20, QBColor(0));
-    surface.FillStyle = 0;
+    surface.FillStyle = DrawSurface::Fill::Solid;
     surface.Box(200, 20, 300, 100, QBColor(0));
     surface.FilledBox(20, 200, 100, 300, QBColor(4));
     const QImage image = painted(surface);

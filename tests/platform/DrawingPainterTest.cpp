@@ -193,12 +193,14 @@ TEST(DrawingPainter, DashesAndDotsDiffer)
         int start = 0;
         double expected = 1;
         for (const int length : lengths) {
-            EXPECT_EQ(ink(image, start + 2, 20), expected) << surface.DrawStyle << ' ' << start;
-            EXPECT_EQ(ink(image, start + 10 * length - 3, 20), expected) << surface.DrawStyle << ' ' << start;
+            EXPECT_EQ(ink(image, start + 2, 20), expected)
+                << static_cast<int>(surface.DrawStyle) << ' ' << start;
+            EXPECT_EQ(ink(image, start + 10 * length - 3, 20), expected)
+                << static_cast<int>(surface.DrawStyle) << ' ' << start;
             start += 10 * length;
             expected = 1 - expected;
         }
-        ++surface.DrawStyle;
+        surface.DrawStyle = penStyle(static_cast<int>(surface.DrawStyle) + 1);
     }
 }
 

@@ -53,13 +53,13 @@ line 2696,7988 2696,7738 pen 1/0/0
 "0" 982,7688 10pt
 "20 km" 2746,7688 10pt
 )") << "no dots unless asked for";
-    EXPECT_EQ(survey.frmMap.DrawStyle, 0) << "what follows is drawn solid";
+    EXPECT_EQ(survey.frmMap.DrawStyle, PenStyle::Solid) << "what follows is drawn solid";
 
     survey.varn.PlotDots = true;
-    survey.frmMap.FillStyle = 1;
+    survey.frmMap.FillStyle = DrawSurface::Fill::Transparent;
     survey.frmMap.Cls();
     PlotLocateData(survey.varn, survey.varn, survey.varn, survey.surfaces);
-    EXPECT_EQ(survey.frmMap.FillStyle, 1) << "what follows is not filled";
+    EXPECT_EQ(survey.frmMap.FillStyle, DrawSurface::Fill::Transparent) << "what follows is not filled";
     PlotLocateCircle(survey.varn, survey.varn, survey.frmMap);
     EXPECT_EQ(transcript(survey.frmMap.drawing()), R"(
 ellipse 932,1814 2,2 filled 0 pen 1/0/0

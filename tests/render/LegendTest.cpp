@@ -76,7 +76,8 @@ TEST(Legend, TheTitleLineIsErasedFirst)
         const Drawing& drawing = survey.frmMap.drawing();
         const auto box = operationsOf<BoxOperation>(drawing).at(0);
         EXPECT_EQ(box.fill, QBColor(15));
-        EXPECT_EQ(drawing.pens.at(static_cast<std::size_t>(box.pen)), (LinePen{QBColor(15), 1, 0}));
+        EXPECT_EQ(drawing.pens.at(static_cast<std::size_t>(box.pen)),
+                  (LinePen{QBColor(15), 1, PenStyle::Solid}));
         EXPECT_EQ(QPointF(box.x, box.y), QPointF(200, 300));
         const float longer = std::max(survey.frmMap.TextWidth(survey.varn.KanjiText(1)),
                                       survey.frmMap.TextWidth(survey.varn.Hanrei));

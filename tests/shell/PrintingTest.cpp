@@ -31,10 +31,10 @@ struct PrintedSurvey : TestSurvey
 TEST(Printing, PaperIsA4InEitherOrientation)
 {
     PageSetup page;
-    setPaper(page, 1);
+    setPaper(page, PageOrientation::Portrait);
     EXPECT_EQ(paperLabel(page), QStringLiteral("A4 Portrait(297 X 210) mm"));
     EXPECT_EQ(paperSpaceLabel(page), QStringLiteral("Height:297(mm) Width:210(mm)"));
-    setPaper(page, 2);
+    setPaper(page, PageOrientation::Landscape);
     EXPECT_EQ(paperLabel(page), QStringLiteral("A4 Landscape(210 X 297) mm"));
     EXPECT_EQ(printModeLabel(page), QStringLiteral("Don't print"));
     page.PrintMode = true;
@@ -83,25 +83,25 @@ TEST(Printing, APageHasThePaperAndTheFontChosenWhenItBegins)
     VarnModule& varn = survey.varn;
     RecordingPrinter::Documents documents;
     PageLayout chosen;
-    chosen.PaperOrientation = 1;
+    chosen.PaperOrientation = PageOrientation::Portrait;
     connectPrinter(varn, std::make_unique<RecordingPrinter>(documents, chosen));
     EXPECT_EQ(paperLabel(varn), QStringLiteral("A4 Portrait(297 X 210) mm")) << "as chosen with the printer";
     EXPECT_EQ(varn.Printer.FontSize, 10);
 
-    setPaper(varn, 2);
+    setPaper(varn, PageOrientation::Landscape);
     varn.MapFontSize = 14;
     varn.MapFontName = QStringLiteral("Courier");
     varn.MapFontItalic = true;
     varn.Printer.FontBold = true;
     varn.Printer.DrawWidth = 5; // as a symbol leaves it
-    varn.Printer.FillStyle = 0;
+    varn.Printer.FillStyle = DrawSurface::Fill::Solid;
     beginDocument(varn, varn, QStringLiteral("Test - List"));
     varn.Printer.PrintAt(0, 0, QStringLiteral("list"));
     varn.Printer.Box(0, 0, 10, 10, qRgb(0, 0, 0));
     endDocument(varn);
     ASSERT_EQ(documents.size(), 1U);
     EXPECT_EQ(documents[0].name, QStringLiteral("Test - List"));
-    EXPECT_EQ(documents[0].orientation, 2);
+    EXPECT_EQ(documents[0].orientation, PageOrientation::Landscape);
     const TextFont font{QStringLiteral("Courier"), 14, false, true};
     EXPECT_EQ(documents[0].at(0).fonts.at(0), font);
     EXPECT_EQ(documents[0][0].pens.at(0).width, 1);

@@ -144,7 +144,8 @@ TEST_F(DataForm, AllPagesArePrintedAsOneDocument)
     EXPECT_NEAR(corner.x(), varn.LeftMargin * TwipsPerMm, 1);
     EXPECT_NEAR(corner.y(), varn.TopMargin * TwipsPerMm, 1);
 
-    setPaper(varn, 1); // the pages shown lie across, those printed from now on are upright
+    // The pages shown lie across, those printed from now on are upright.
+    setPaper(varn, PageOrientation::Portrait);
     dialogs.yesNo = {true};
     menu("mnuPrint").trigger();
     const double end = printedAt(documents.at(1)[0], QStringLiteral("many.dbs")).x();

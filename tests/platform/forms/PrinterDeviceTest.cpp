@@ -22,7 +22,7 @@ PrintedDocument onePage()
 {
     DrawSurface page;
     page.FilledBox(567, 567, 5670, 1134, qRgb(0, 0, 0));
-    return {QStringLiteral("Island - rain"), 2, {page.drawing()}};
+    return {QStringLiteral("Island - rain"), PageOrientation::Landscape, {page.drawing()}};
 }
 
 QByteArray bytesOf(const QString& file)
@@ -117,7 +117,7 @@ TEST(PrinterDevice, TheOrientationIsThatOfTheDocument)
     const QString file = folder.filePath(QStringLiteral("map.pdf"));
     QtPrinterDevice device(printerTo(file));
     PrintedDocument upright = onePage();
-    upright.orientation = 1;
+    upright.orientation = PageOrientation::Portrait;
     device.print(upright);
     EXPECT_TRUE(bytesOf(file).contains("/MediaBox [0 0 595"));
 }
@@ -127,10 +127,10 @@ TEST(PrinterDevice, WhatIsChangedInThePrinterDialogIsTakenOver)
     auto printer = printerTo(QStringLiteral("map.pdf"));
     printer->setPageMargins({30, 12, 14, 16}, QPageLayout::Millimeter);
     PageLayout layout;
-    layout.PaperOrientation = 1;
+    layout.PaperOrientation = PageOrientation::Portrait;
     layout.BottomMargin = 2;
     QtPrinterDevice(std::move(printer), {20, 15, 15, 16}).takeChoices(layout);
-    EXPECT_EQ(layout.PaperOrientation, 2);
+    EXPECT_EQ(layout.PaperOrientation, PageOrientation::Landscape);
     EXPECT_EQ(layout.LeftMargin, 30);
     EXPECT_EQ(layout.TopMargin, 12);
     EXPECT_EQ(layout.RightMargin, 14);

@@ -300,7 +300,7 @@ TEST_F(DialogsOfTheDesktop, AFontThatIsNotInstalledKeepsItsNameUntilAnotherIsCho
 TEST_F(DialogsOfTheDesktop, ThePrinterDialogShowsThePageAndGivesBackWhatIsChosen)
 {
     PageLayout layout;
-    layout.PaperOrientation = 2;
+    layout.PaperOrientation = PageOrientation::Landscape;
     layout.LeftMargin = 31;
     layout.TopMargin = 32;
     layout.RightMargin = 33;
@@ -329,10 +329,10 @@ TEST_F(DialogsOfTheDesktop, ThePrinterDialogShowsThePageAndGivesBackWhatIsChosen
     ASSERT_NE(printer, nullptr);
     PageLayout chosen = layout;
     printer->takeChoices(chosen);
-    EXPECT_EQ(chosen.PaperOrientation, 1);
+    EXPECT_EQ(chosen.PaperOrientation, PageOrientation::Portrait);
     EXPECT_EQ(chosen.LeftMargin, 31);
     DrawSurface page;
     page.Box(0, 0, 500, 500, qRgb(0, 0, 0));
-    printer->print({QStringLiteral("Island"), 1, {page.drawing()}});
+    printer->print({QStringLiteral("Island"), PageOrientation::Portrait, {page.drawing()}});
     EXPECT_TRUE(folder.read(QStringLiteral("C:\\map.pdf")).startsWith("%PDF"));
 }

@@ -131,7 +131,7 @@ TEST_F(LoadedProgram, AMapLargerThanThePaperIsPrintedOnRequestOnly)
 TEST_F(LoadedProgram, ThePageOfThePrinterIsTakenOverAndMayBeChangedAfterwards)
 {
     PageLayout chosen;
-    chosen.PaperOrientation = 1;
+    chosen.PaperOrientation = PageOrientation::Portrait;
     chosen.LeftMargin = 10;
     choosePrinter(chosen);
     EXPECT_EQ(control<QLineEdit>("txtLeftMergin").text(), QStringLiteral("10"));
@@ -144,7 +144,7 @@ TEST_F(LoadedProgram, ThePageOfThePrinterIsTakenOverAndMayBeChangedAfterwards)
     EXPECT_EQ(printSwitch().text(), QStringLiteral("Print A4 Landscape"));
     program.menu("mnuMapLing").trigger();
     ASSERT_EQ(documents.size(), 1U);
-    EXPECT_EQ(documents[0].orientation, 2);
+    EXPECT_EQ(documents[0].orientation, PageOrientation::Landscape);
 }
 
 TEST_F(LoadedProgram, CancellingThePrinterDialogTurnsPrintingOff)
