@@ -22,6 +22,7 @@ QStringList deviationTexts(const Statistics& statistics, int k, const QString& n
 {
     const double average = statistics.Average(k);
     const double sigma = statistics.Sigma(k);
+    // "SIgma" is spelt as users know it. The last figure is a single.
     return {name + QStringLiteral(" Sigma=") + cut(sigma),
             QStringLiteral("Av - Sigma=") + cut(average - sigma),
             QStringLiteral("Av + SIgma=") + QString::fromLatin1(shortest(toSingle(Rnd(average + sigma, 2))))};

@@ -64,7 +64,7 @@ void PlotLocateData(const BaseMap& map, const MapStyle& style, MapGeometry& geom
 
     geometry.Scale = FindMinMax(map, surfaces.area, geometry);
     if (!style.PlotDots) {
-        return;
+        return; // the positions stay those of what was drawn last
     }
     DrawSurface& target = surfaces.DrawTarget;
     const auto fillStyle = std::exchange(target.FillStyle, DrawSurface::Fill::Solid);

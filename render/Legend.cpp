@@ -27,7 +27,8 @@ public:
           m_rowsPerColumn(integerDivide(static_cast<int>(height), rowStep) - 1)
     {}
 
-    /// Raises division by zero where the title's row is the only one.
+    /// The next cell. Row 1 of the first column stays empty, that of later columns does not. Raises division
+    /// by zero where the title's row is the only one.
     void next()
     {
         requireRows();
@@ -106,7 +107,7 @@ void PlotHanrei(const LinguisticMapParts& parts, MapSurfaces surfaces)
     for (int k = 1; k <= symbols.NHanrei; ++k) {
         const QString& caption = symbols.HankoCaption(k);
         if (caption.contains(QLatin1Char('-'))) {
-            continue;
+            continue; // a hyphen keeps a record out of the legend; its symbols are on the map
         }
         cells.next();
         const float top = y0 + static_cast<float>(step * cells.row()) + Margin;

@@ -45,6 +45,8 @@ float FindMinMax(const MapLines& map, const FormArea& form, MapGeometry& geometr
         throw RunTimeError(ErrorNumber::DivisionByZero,
                            QStringLiteral("The lines of the map have no height or no width."));
     }
+    // The place of the form counts: one further down the screen has a smaller map. The height alone sets the
+    // scale, so a wide map may leave the form at the right.
     geometry.RatioY = divide(form.Height - form.Top, geometry.MaxY - geometry.MinY);
     geometry.RatioX = divide(form.Width - form.Left, geometry.MaxX - geometry.MinX);
     return toSingle(0.98 * geometry.RatioY);

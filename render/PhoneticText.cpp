@@ -39,6 +39,7 @@ float PhoneticText::One(float x, float y, QStringView text, int& consumed)
     case PhoneticUnit::Kind::Glyph:
         return PlotOneSymbol(x, y, unit.series, unit.number);
     case PhoneticUnit::Kind::Illegal:
+        // On the map form, wherever the text is drawn.
         m_frmMap.Print(text.left(unit.consumed).toString() +
                        QStringLiteral(" Illegal Data for Phonetic Alphabet."));
         break;
