@@ -11,7 +11,8 @@ namespace {
 /// How much each word form's count grows at a locality with a given answer.
 using Growth = std::array<int, 11>;
 
-/// An empty string is in every answer.
+/// Every string that is in the answer counts: two of one word form count twice, and an answer may count for
+/// several word forms. An empty string is in every answer.
 Growth growthOf(const QString& answer, const CumulativeData& data)
 {
     Growth growth{};
@@ -42,6 +43,7 @@ void accumulateItem(const ItemAnswers& item, int localities, CumulativeData& dat
     auto counts = data.Counts;
     QHash<QString, Growth> growths; // an item has few kinds of answers
     for (int j = 1; j <= localities; ++j) {
+        // The first answer of a locality alone is counted.
         const QString answer = j <= item.NLocate && item.WordCount(j) > 0 ? item.WordData(j, 1) : QString();
         auto known = growths.constFind(answer);
         if (known == growths.constEnd()) {

@@ -11,7 +11,12 @@ namespace {
 
 constexpr int EmptyBox = -1;
 /// Outline and fill of sides 1 and 2 where no colour was chosen.
-constexpr std::array DefaultColors = {12, 9};
+constexpr std::array DefaultColors = {StandardColor::LightRed, StandardColor::LightBlue};
+
+int defaultColor(int side)
+{
+    return static_cast<int>(DefaultColors.at(static_cast<std::size_t>(side) - 1));
+}
 
 QString stepsText(const ContrastData& contrast)
 {
@@ -84,7 +89,7 @@ void SetRankData(ContrastBoxes& boxes, ContrastData& contrast)
     }
     for (int side = 1; side <= 2; ++side) {
         for (int* box : {&boxes.setColor(side), &boxes.fillColor(side)}) {
-            *box = *box == EmptyBox ? DefaultColors[static_cast<std::size_t>(side) - 1] : *box;
+            *box = *box == EmptyBox ? defaultColor(side) : *box;
         }
         contrast.ContrastSymbolColor(side) = boxes.setColor(side);
         contrast.ContrastPaintColor(side) = static_cast<qint16>(boxes.fillColor(side));

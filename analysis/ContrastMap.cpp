@@ -15,7 +15,7 @@ void plotCircle(const ContrastData& contrast, int difference, float x, float y, 
                 DrawSurface& target)
 {
     const int side = difference > 0 ? 1 : 2;
-    target.FillStyle = 0;
+    target.FillStyle = DrawSurface::Fill::Solid;
     target.FillColor = QBColor(contrast.ContrastPaintColor(side));
     target.Circle(x, y, radius, QBColor(contrast.ContrastSymbolColor(side)));
 }
@@ -24,6 +24,7 @@ float radiusAt(const CountMapParts& parts, int j)
 {
     const int difference = std::abs(static_cast<int>(parts.contrast.ContrastSum(0, j)));
     try {
+        // The product is of 16 bits: a difference of 400 allows a size of 81.
         const qint16 product = toInteger(static_cast<double>(difference) * parts.contrast.ContrastMaxSize);
         return toSingle(divide(product, parts.counts.NumItemsAccumulated));
     } catch (const RunTimeError& error) {
@@ -35,7 +36,7 @@ constexpr float LabelIndent = 500;
 
 /// Middle of the legend's circles, from its left edge: left of the labels where the largest has room there,
 /// otherwise right of them.
-float circleIndent(const ContrastData& contrast, DrawSurface& target)
+float circleIndent(const ContrastData& contrast, const DrawSurface& target)
 {
     constexpr float Gap = 60;
     const auto radius = static_cast<float>(contrast.ContrastMaxSize);
@@ -76,7 +77,7 @@ void DrawRankGraph(const CountMapParts& parts, MapSurfaces surfaces)
     const ContrastData& contrast = parts.contrast;
     const BaseMap& map = parts.base.map;
     const float scale = parts.base.geometry.Scale;
-    const int H = toInteger((contrast.ContrastSteps - 1) / 2);
+    const int H = toInteger((contrast.ContrastSteps - 1) / 2); // rows on each side of zero; 2.5 gives 2
     for (int j = 1; j <= map.NLocality; ++j) {
         // Without the margin that the base map has.
         plotCircle(contrast, contrast.ContrastSum(0, j), toSingle(scale * map.LocXY(j, 0)),

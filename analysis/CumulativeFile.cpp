@@ -129,7 +129,7 @@ void writeSpecifyChars(SequentialWriter& file, const CumulativeData& data)
     for (int k = 1; k <= data.NumWordforms; ++k) {
         const int strings = data.NumSpecifyChars(k);
         if (strings < 1 || strings > MostStrings) {
-            continue;
+            continue; // no line, not even its count: the file cannot be read past here
         }
         file.writeField(data.NumSpecifyChars(k));
         for (int c = 1; c <= strings; ++c) {

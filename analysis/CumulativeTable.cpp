@@ -1,11 +1,16 @@
 #include "analysis/CumulativeTable.h"
 
+#include "platform/StandardColors.h"
+
 #include <array>
 
 namespace {
 
 /// Colours that differ from each other and from the paper.
-constexpr std::array FirstColors = {12, 9, 2, 5, 6, 3, 0, 4, 1, 8};
+constexpr std::array FirstColors = {StandardColor::LightRed, StandardColor::LightBlue, StandardColor::Green,
+                                    StandardColor::Magenta,  StandardColor::Yellow,    StandardColor::Cyan,
+                                    StandardColor::Black,    StandardColor::Red,       StandardColor::Blue,
+                                    StandardColor::Gray};
 
 void emptyWordform(CumulativeData& data, int k)
 {
@@ -22,9 +27,9 @@ void emptyWordform(CumulativeData& data, int k)
 
 void beginWordform(CumulativeData& data, int k)
 {
-    const int color = FirstColors.at(static_cast<std::size_t>(k) - 1);
+    const auto color = FirstColors.at(static_cast<std::size_t>(k) - 1);
     emptyWordform(data, k);
-    data.WordformSymbolColor(k) = color;
+    data.WordformSymbolColor(k) = static_cast<int>(color);
     data.WordformPaintColor(k) = static_cast<qint16>(color);
 }
 

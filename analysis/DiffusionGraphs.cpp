@@ -44,7 +44,7 @@ void atEachLocality(const CountMapParts& parts, int k, Draw draw)
 QRgb useColors(const CumulativeData& data, int k, DrawSurface& target)
 {
     try {
-        target.FillStyle = 0;
+        target.FillStyle = DrawSurface::Fill::Solid;
         target.FillColor = QBColor(data.WordformPaintColor(k));
         return QBColor(data.WordformSymbolColor(k));
     } catch (const RunTimeError& error) {
@@ -59,7 +59,7 @@ void printItems(const CumulativeTable& table, float x, int row, MapSurfaces surf
     if (row > 1) {
         return;
     }
-    surfaces.DrawTarget.PrintAt(x, surfaces.frmMap.Height - 1000 + 50,
+    surfaces.DrawTarget.PrintAt(x, surfaces.area.Height - 1000 + 50,
                                 QStringLiteral("No. of Items =%1").arg(table.NumItemsAccumulated));
 }
 
@@ -71,11 +71,11 @@ void plotBarLegend(const CountMapParts& parts, int k, int row, MapSurfaces surfa
 
     const CumulativeData& counts = parts.counts;
     DrawSurface& target = surfaces.DrawTarget;
-    ClsHanrei(parts.base, target, row == 0 ? counts.WordformName(k) : counts.MapCaption);
+    ClsHanrei(parts.base, target, row == SingleGraph ? counts.WordformName(k) : counts.MapCaption);
     const QPointF origin = captionOrigin(parts.base);
     const float cx = static_cast<float>(origin.x()) + Margin;
     const float cy = static_cast<float>(origin.y()) + Margin;
-    if (row == 0) {
+    if (row == SingleGraph) {
         target.PrintAt(cx + TextIndent, cy, counts.WordformName(k));
     } else {
         const float top = cy + FirstRow + RowStep * static_cast<float>(row - 1);
@@ -92,7 +92,7 @@ void plotShareScale(float x, float y, DrawSurface& target)
 {
     constexpr float RowStep = 300;
 
-    target.FillStyle = 1;
+    target.FillStyle = DrawSurface::Fill::Transparent;
     for (int quarter = 1; quarter <= 4; ++quarter) {
         const float top = y + RowStep * static_cast<float>(quarter - 1);
         target.Circle(x + 100, top + 120, 25 * static_cast<float>(quarter), target.ForeColor);
@@ -112,14 +112,14 @@ void plotCircleLegend(const CountMapParts& parts, int k, int row, MapSurfaces su
     const QPointF origin = captionOrigin(parts.base);
     const float cx = static_cast<float>(origin.x()) + Margin;
     const float cy = static_cast<float>(origin.y()) + Margin;
-    if (row != 0) {
+    if (row != SingleGraph) {
         target.PrintAt(cx, cy, counts.MapCaption);
     }
-    const int place = row == 0 ? 1 : row;
+    const int place = row == SingleGraph ? 1 : row;
     const float top = cy + FirstRow + RowStep * static_cast<float>(place - 1);
     target.Circle(cx + 100, top + 120, 100, useColors(counts, k, target));
     target.PrintAt(cx + TextIndent, top, counts.WordformName(k));
-    const int rows = row == 0 ? 1 : counts.NumWordforms;
+    const int rows = row == SingleGraph ? 1 : counts.NumWordforms;
     if (row <= 1) {
         plotShareScale(cx, cy + FirstRow + RowStep * (static_cast<float>(rows) + 0.5F), target);
     }
@@ -185,7 +185,7 @@ void DrawHankoMap(const CountMapParts& parts, int k, int row, MapSurfaces surfac
     });
     surfaces.thinLines();
     ClsHanrei(parts.base, surfaces.DrawTarget, parts.counts.MapCaption);
-    if (row == 0) {
+    if (row == SingleGraph) {
         return;
     }
     const QPointF origin = captionOrigin(parts.base);
@@ -200,7 +200,7 @@ void drawSingleGraph(const CountMapParts& parts, DiffusionGraph graph, int& curr
                      MapSurfaces surfaces)
 {
     DrawBlankMap(parts.base, surfaces);
-    drawGraph(parts, graph, currentWordform, 0, surfaces);
+    drawGraph(parts, graph, currentWordform, SingleGraph, surfaces);
     ++currentWordform;
     if (currentWordform > parts.counts.NumWordforms) {
         currentWordform = 1;

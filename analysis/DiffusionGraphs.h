@@ -2,9 +2,12 @@
 
 #include "analysis/CountMapParts.h"
 
-// Graphs of the counts at each locality, over the blank map. `row` is the legend's row: 0 for a graph of one
-// word form, k for word form k of a layered graph. All raise division by zero where no item has been
-// accumulated, and subscript out of range for a word form that the table does not have.
+// Graphs of the counts at each locality, over the blank map. `row` is the legend's row: k for word form k of
+// a layered graph, `SingleGraph` for a graph of one word form. All raise division by zero where no item has
+// been accumulated, and subscript out of range for a word form that the table does not have.
+
+/// The row of a graph that is alone on its map.
+constexpr int SingleGraph = 0;
 
 /// A bar of word form k at each locality where it was met, 200 twips high for a count equal to the number of
 /// items.
@@ -14,7 +17,7 @@ void DrawBarGraph(const CountMapParts& parts, int k, int row, MapSurfaces surfac
 void DrawCircleGraph(const CountMapParts& parts, int k, int row, MapSurfaces surfaces);
 
 /// The symbol of word form k at each locality whose count reaches the word form's minimum points, and where
-/// `row` is not 0, its line of the legend.
+/// `row` is not `SingleGraph`, its line of the legend.
 void DrawHankoMap(const CountMapParts& parts, int k, int row, MapSurfaces surfaces);
 
 /// The kinds of diffusion maps.

@@ -57,6 +57,7 @@ void distribute(const CumulativeTable& table, int k, int localities, Statistics&
 void findMedian(const CumulativeTable& table, int k, int NL, Statistics& statistics)
 {
     for (int v = 1; v <= table.NumItemsAccumulated; ++v) {
+        // Not the middle value: counts 1, 2, 3 have the median 3. Without such a level the old median stays.
         if (statistics.CumCount(v, k) <= NL / 2.0) {
             statistics.Median(k) = v;
             return;
@@ -70,7 +71,7 @@ void findModeAndAverage(const CumulativeTable& table, int k, int NL, Statistics&
     qint16 sum = 0;
     for (int v = 1; v <= table.NumItemsAccumulated; ++v) {
         const qint16 frequency = statistics.FreqCount(v, k);
-        if (frequency > highest) {
+        if (frequency > highest) { // among equals the smallest level is the mode
             highest = frequency;
             statistics.Mode(k) = static_cast<float>(v);
         }
@@ -105,7 +106,7 @@ double Rnd(double x, int n)
 void Stats(const CumulativeTable& table, int localities, Statistics& statistics)
 {
     requireAtMost(Statistics::MostItems, table.NumItemsAccumulated, "items");
-    Statistics fresh = statistics;
+    Statistics fresh = statistics; // a median or a mode that is not found stays what it was
     for (int k = 1; k <= table.NumWordforms; ++k) {
         distribute(table, k, localities, fresh);
     }

@@ -2,24 +2,11 @@
 
 #include "platform/Numbers.h"
 
-#include <array>
-#include <charconv>
-
 namespace {
-
-/// `number` in the shortest form that reads back to it.
-template <typename Number>
-QString shortest(Number number)
-{
-    constexpr std::size_t MostDigits = 64;
-    std::array<char, MostDigits> digits{};
-    const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), number).ptr;
-    return QString::fromLatin1(digits.data(), end - digits.data());
-}
 
 QString cut(double figure)
 {
-    return shortest(Rnd(figure, 2));
+    return QString::fromLatin1(shortest(Rnd(figure, 2)));
 }
 
 } // namespace
@@ -35,9 +22,10 @@ QStringList deviationTexts(const Statistics& statistics, int k, const QString& n
 {
     const double average = statistics.Average(k);
     const double sigma = statistics.Sigma(k);
+    // "SIgma" is spelt as users know it. The last figure is a single.
     return {name + QStringLiteral(" Sigma=") + cut(sigma),
             QStringLiteral("Av - Sigma=") + cut(average - sigma),
-            QStringLiteral("Av + SIgma=") + shortest(toSingle(Rnd(average + sigma, 2)))};
+            QStringLiteral("Av + SIgma=") + QString::fromLatin1(shortest(toSingle(Rnd(average + sigma, 2))))};
 }
 
 QStringList statisticsLines(const CumulativeTable& table, const Statistics& statistics, int k)

@@ -11,6 +11,7 @@ namespace {
 bool hasName(const CumulativeData& data, Dialogs& dialogs)
 {
     if (data.TotalFileName.isEmpty()) {
+        // Spelt as users know it.
         dialogs.message(QStringLiteral("Input Name of Aalysis File."),
                         QStringLiteral("Save of Analysis File"));
     }

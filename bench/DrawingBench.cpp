@@ -27,14 +27,13 @@ struct FullMap
     FullMap() : varn(std::make_unique<VarnModule>())
     {
         fillSurvey(*varn);
-        setFirstSize(frmMap);
-        varn->Scale = FindMinMax(*varn, frmMap, *varn);
+        varn->Scale = FindMinMax(*varn, firstArea(), *varn);
     }
 
     void record()
     {
         frmMap.Cls();
-        PlotLinguisticData(linguisticMapParts(*varn), {frmMap, frmMap});
+        PlotLinguisticData(linguisticMapParts(*varn), {{frmMap, frmMap}, firstArea()});
     }
 
     std::unique_ptr<VarnModule> varn;

@@ -11,12 +11,12 @@
 void SearchKindWord(LinguisticData& data)
 {
     WordKinds kinds;
-    kinds.KindWord(1) = data.WordData(1, 1);
+    kinds.KindWord(1) = data.WordData(1, 1); // also where no locality has an answer
     QHash<QStringView, int> kindOf;
     for (int i = 1; i <= data.NLocate; ++i) {
         for (int j = 1; j <= data.WordCount(i); ++j) {
             const QString& word = data.WordData(i, j);
-            if (kinds.NKind > 0) {
+            if (kinds.NKind > 0) { // lengths are taken while comparing, and the first word meets no kind
                 kinds.MaxKindLen = std::max(kinds.MaxKindLen, toInteger(static_cast<double>(word.size())));
             }
             int& kind = kindOf[word];

@@ -24,6 +24,7 @@ ItemAnswers readItem(SequentialReader& file)
 
 void writeItem(SequentialWriter& file, const ItemAnswers& item)
 {
+    // The item field is read and shown, but never written.
     file.write(item.NLocate, QString(), item.Hanrei, item.Comment);
     for (int i = 1; i <= item.NLocate; ++i) {
         file.write(item.WordCount(i));

@@ -1,5 +1,7 @@
 #include "lingdata/LoadedState.h"
 
+// What is loaded again changes nothing: states 2 and 4 keep telling what came first.
+
 void dataLoaded(LoadedState& state)
 {
     if (state.LoadState == 0) {

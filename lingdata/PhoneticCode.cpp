@@ -51,5 +51,6 @@ PhoneticUnit decodePhonetic(QStringView text)
             return {PhoneticUnit::Kind::Glyph, letter->series, letter->number, 3};
         }
     }
+    // Generous on purpose: an illegal escape takes characters after it along.
     return {PhoneticUnit::Kind::Illegal, GlyphSeries::None, 0, text.size() == 2 ? 3 : 4};
 }

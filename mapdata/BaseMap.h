@@ -21,7 +21,7 @@ struct MapLines
     BoundedArray<int, Bounds{0, 100}> LinePoints;
     /// Colour number 0..15.
     BoundedArray<int, Bounds{0, 100}> MapLineColor;
-    /// Line style as in `DrawSurface::DrawStyle`.
+    /// Number of the line's style, see `penStyle`; kept as the file gives it.
     BoundedArray<qint16, Bounds{0, 100}> LineStyle;
     /// Added to every point of the line, x and y, in map units.
     BoundedArray<float, Bounds{0, 100}, Bounds{0, 1}> LineOffset;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/Drawing.h"
+
 #include <QString>
 
 /// The font of texts on maps.
@@ -13,3 +15,9 @@ struct MapFont
     /// Vertical shift of phonetic glyphs in points; smaller moves them up.
     float SpecialFontShift = 0;
 };
+
+/// The map font as the font of a drawing surface.
+inline TextFont textFont(const MapFont& font)
+{
+    return {font.MapFontName, font.MapFontSize, font.MapFontBold, font.MapFontItalic};
+}

@@ -26,6 +26,20 @@ QString onOneLine(QString text)
     return text;
 }
 
+/// The number of `entry` in `table`, which takes it where it lacks it. `last` is the number found last.
+template <typename Entry>
+int numberIn(std::vector<Entry>& table, const Entry& entry, std::size_t& last)
+{
+    if (last >= table.size() || table[last] != entry) {
+        const auto known = std::find(table.begin(), table.end(), entry);
+        last = static_cast<std::size_t>(known - table.begin());
+        if (known == table.end()) {
+            table.push_back(entry);
+        }
+    }
+    return static_cast<int>(last);
+}
+
 } // namespace
 
 QSizeF naturalSize(const QImage& picture)
@@ -39,43 +53,39 @@ QSizeF naturalSize(const QImage& picture)
             twips(picture.height(), picture.dotsPerMeterY())};
 }
 
+void DrawSurface::setFont(const TextFont& font)
+{
+    FontName = font.name;
+    FontSize = font.size;
+    FontBold = font.bold;
+    FontItalic = font.italic;
+}
+
 void DrawSurface::Cls()
 {
     m_drawing = {};
-    m_fonts.clear();
-    m_lastPen = -1;
-    m_lastFont = -1;
     CurrentX = ScaleLeft;
     CurrentY = ScaleTop;
 }
 
 int DrawSurface::currentPen(QRgb color)
 {
-    const LinePen pen{color, DrawWidth, DrawStyle >= 1 && DrawStyle <= 4 ? DrawStyle : 0};
-    std::vector<LinePen>& pens = m_drawing.pens;
-    if (m_lastPen < 0 || pens[static_cast<std::size_t>(m_lastPen)] != pen) {
-        const auto known = std::find(pens.begin(), pens.end(), pen);
-        m_lastPen = static_cast<int>(known - pens.begin());
-        if (known == pens.end()) {
-            pens.push_back(pen);
-        }
-    }
-    return m_lastPen;
+    const LinePen pen{color, DrawWidth, DrawStyle};
+    return numberIn(m_drawing.pens, pen, m_lastPen);
 }
 
 int DrawSurface::currentFont()
 {
-    const TextFont font{FontName, FontSize, FontBold, FontItalic};
-    if (m_lastFont < 0 || m_fonts[static_cast<std::size_t>(m_lastFont)].font != font) {
-        const auto known = std::find_if(m_fonts.begin(), m_fonts.end(),
-                                        [&font](const MeasuredFont& entry) { return entry.font == font; });
-        m_lastFont = static_cast<int>(known - m_fonts.begin());
-        if (known == m_fonts.end()) {
-            m_fonts.push_back({font, QFontMetricsF(twipFont(font))});
-            m_drawing.fonts.push_back(font);
-        }
+    return numberIn(m_drawing.fonts, font(), m_lastFont);
+}
+
+const QFontMetricsF& DrawSurface::metrics() const
+{
+    const TextFont current = font();
+    if (!m_measured || m_measured->font != current) {
+        m_measured = {current, QFontMetricsF(twipFont(current))};
     }
-    return m_lastFont;
+    return m_measured->metrics;
 }
 
 void DrawSurface::Line(float x1, float y1, float x2, float y2, QRgb color)
@@ -170,18 +180,17 @@ void DrawSurface::PaintPicture(const QImage& picture, float x, float y)
         index, originX(x), originY(y), static_cast<float>(size.width()), static_cast<float>(size.height())});
 }
 
-float DrawSurface::TextWidth(const QString& text)
+float DrawSurface::TextWidth(const QString& text) const
 {
-    const auto font = static_cast<std::size_t>(currentFont());
-    return static_cast<float>(m_fonts[font].metrics.horizontalAdvance(text));
+    return static_cast<float>(metrics().horizontalAdvance(text));
 }
 
-float DrawSurface::TextHeight()
+float DrawSurface::TextHeight() const
 {
-    return static_cast<float>(m_fonts[static_cast<std::size_t>(currentFont())].metrics.height());
+    return static_cast<float>(metrics().height());
 }
 
-float DrawSurface::TextAscent()
+float DrawSurface::TextAscent() const
 {
-    return static_cast<float>(m_fonts[static_cast<std::size_t>(currentFont())].metrics.ascent());
+    return static_cast<float>(metrics().ascent());
 }

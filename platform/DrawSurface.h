@@ -6,6 +6,8 @@
 #include <QImage>
 #include <QString>
 
+#include <optional>
+
 /// A surface that the program draws on: a form's drawing area or the printer's page. It has pen, fill, font
 /// and position state and records what is drawn as a list of operations; it paints nothing itself.
 ///
@@ -15,10 +17,10 @@ class DrawSurface
 public:
     /// How a text ends: at the start of the next line, or where the text ended.
     enum class LineEnd { NewLine, Stay };
+    /// Whether a shape is full of the fill colour.
+    enum class Fill { Solid, Transparent };
 
-    /// Position of the window on the screen and size of the drawing area.
-    float Left = 0;
-    float Top = 0;
+    /// Size of the surface, for those who show it or fill it.
     float Width = 0;
     float Height = 0;
 
@@ -32,10 +34,10 @@ public:
 
     /// Width of lines in pixels of 96 dpi.
     int DrawWidth = 1;
-    /// Style of lines: 0 solid, 1 dash, 2 dot, 3 dash-dot, 4 dash-dot-dot, 5 none; any other value is solid.
-    int DrawStyle = 0;
-    /// 0 fills boxes, circles and slices with `FillColor`; 1 leaves them transparent.
-    int FillStyle = 1;
+    /// Style of lines and outlines.
+    PenStyle DrawStyle = PenStyle::Solid;
+    /// Whether boxes, circles and slices are filled with `FillColor`.
+    Fill FillStyle = Fill::Transparent;
     QRgb FillColor = qRgb(0, 0, 0);
     /// Colour of texts.
     QRgb ForeColor = qRgb(0, 0, 0);
@@ -44,6 +46,10 @@ public:
     int FontSize = 10;
     bool FontBold = false;
     bool FontItalic = false;
+
+    /// The font of texts as a whole.
+    TextFont font() const { return {FontName, FontSize, FontBold, FontItalic}; }
+    void setFont(const TextFont& font);
 
     /// Empties the surface; printing starts again at its origin.
     void Cls();
@@ -69,33 +75,41 @@ public:
     void PaintPicture(const QImage& picture, float x, float y);
 
     /// Advance of `text` and height of a line in the current font.
-    float TextWidth(const QString& text);
-    float TextHeight();
+    float TextWidth(const QString& text) const;
+    float TextHeight() const;
     /// From the top of a text to its baseline in the current font.
-    float TextAscent();
+    float TextAscent() const;
 
     const Drawing& drawing() const { return m_drawing; }
 
 private:
-    /// A font in use and its measures, both in twips.
+    /// A font and its measures in twips.
     struct MeasuredFont
     {
         TextFont font;
         QFontMetricsF metrics;
     };
 
-    bool drawsLines() const { return DrawStyle != 5; }
+    bool drawsLines() const { return DrawStyle != PenStyle::None; }
     int currentPen(QRgb color);
-    QRgb currentFill() const { return FillStyle == 0 ? FillColor : 0; }
+    QRgb currentFill() const { return FillStyle == Fill::Solid ? FillColor : 0; }
     int currentFont();
+    const QFontMetricsF& metrics() const;
     float originX(float x) const { return x - ScaleLeft; }
     float originY(float y) const { return y - ScaleTop; }
 
     Drawing m_drawing;
-    std::vector<MeasuredFont> m_fonts;
-    int m_lastPen = -1;
-    int m_lastFont = -1;
+    std::size_t m_lastPen = 0;
+    std::size_t m_lastFont = 0;
+    /// The font that was measured last: its measures are costly to find.
+    mutable std::optional<MeasuredFont> m_measured;
 };
+
+/// The fill of a shape that is `painted` or left empty.
+constexpr DrawSurface::Fill fillOf(bool painted)
+{
+    return painted ? DrawSurface::Fill::Solid : DrawSurface::Fill::Transparent;
+}
 
 /// The size of `picture` in twips by its own resolution; 96 dpi where it states none.
 QSizeF naturalSize(const QImage& picture);

@@ -15,6 +15,12 @@ QImage tinted(QImage picture, QRgb color)
 
 } // namespace
 
+PenStyle penStyle(int number)
+{
+    return number >= 0 && number <= static_cast<int>(PenStyle::None) ? static_cast<PenStyle>(number)
+                                                                     : PenStyle::Solid;
+}
+
 QFont twipFont(const TextFont& font)
 {
     QFont result(font.name);

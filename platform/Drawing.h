@@ -17,12 +17,18 @@ constexpr double TwipsPerInch = 1440;
 /// Every conversion from millimetres uses this rounded factor.
 constexpr double TwipsPerMm = 56.7;
 
-/// A line's colour, width in pixels of 96 dpi, and style: 0 solid, 1 dash, 2 dot, 3 dash-dot, 4 dash-dot-dot.
+/// The styles of lines, with their numbers in files; `None` draws nothing.
+enum class PenStyle { Solid = 0, Dash = 1, Dot = 2, DashDot = 3, DashDotDot = 4, None = 5 };
+
+/// The style of a number; numbers of no style are solid.
+PenStyle penStyle(int number);
+
+/// A line's colour, width in pixels of 96 dpi, and style.
 struct LinePen
 {
     QRgb color = qRgb(0, 0, 0);
     int width = 1;
-    int style = 0;
+    PenStyle style = PenStyle::Solid;
 
     bool operator==(const LinePen&) const = default;
 };

@@ -16,7 +16,7 @@ constexpr std::array<Qt::PenStyle, 5> PenStyles = {Qt::SolidLine, Qt::DashLine, 
 
 QPen toPen(const LinePen& pen, double scale)
 {
-    const bool solid = pen.style == 0;
+    const bool solid = pen.style == PenStyle::Solid;
     return {QColor::fromRgb(pen.color), pen.width * TwipsPerPixel * scale,
             PenStyles.at(static_cast<std::size_t>(pen.style)), solid ? Qt::RoundCap : Qt::FlatCap,
             Qt::MiterJoin};
@@ -138,7 +138,10 @@ private:
     static constexpr int OtherPen = -2;
     static constexpr int MostPointsAtOnce = 64;
 
-    bool isSolid(int pen) const { return m_drawing.pens[static_cast<std::size_t>(pen)].style == 0; }
+    bool isSolid(int pen) const
+    {
+        return m_drawing.pens[static_cast<std::size_t>(pen)].style == PenStyle::Solid;
+    }
 
     /// A coast is painted piece by piece where the target is made of pixels: the time for a line grows faster
     /// than its number of points, and round ends join the pieces without a seam.

@@ -4,9 +4,23 @@
 
 #include <QString>
 
+#include <array>
 #include <charconv>
 #include <cmath>
 #include <limits>
+
+namespace {
+
+template <typename Number>
+QByteArray shortestForm(Number value)
+{
+    constexpr std::size_t MostDigits = 64;
+    std::array<char, MostDigits> digits{};
+    const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), value).ptr;
+    return QByteArray(digits.data(), end - digits.data());
+}
+
+} // namespace
 
 qint16 toInteger(double value)
 {
@@ -72,4 +86,14 @@ double Val(QStringView text)
     const auto result =
         std::from_chars(digits.constData() + start, digits.constData() + digits.size(), value);
     return result.ec == std::errc() && std::isfinite(value) ? value : 0;
+}
+
+QByteArray shortest(float value)
+{
+    return shortestForm(value);
+}
+
+QByteArray shortest(double value)
+{
+    return shortestForm(value);
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QByteArray>
 #include <QStringView>
 #include <QtGlobal>
 
@@ -23,3 +24,7 @@ int modulo(int dividend, int divisor);
 
 /// The number at the start of `text`, blanks passed over; 0 where there is none.
 double Val(QStringView text);
+
+/// `value` in the shortest decimal form that reads back to it.
+QByteArray shortest(float value);
+QByteArray shortest(double value);

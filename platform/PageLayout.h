@@ -2,12 +2,14 @@
 
 #include <QString>
 
+/// How the paper lies, in the printer's own numbers.
+enum class PageOrientation { Portrait = 1, Landscape = 2 };
+
 /// Paper and margins of printed pages, in whole millimetres.
 struct PageLayout
 {
     QString PaperSizeName = QStringLiteral("A4");
-    /// 1 portrait, 2 landscape.
-    int PaperOrientation = 2;
+    PageOrientation PaperOrientation = PageOrientation::Landscape;
     qint16 PaperHeight = 210;
     qint16 PaperWidth = 297;
     qint16 TopMargin = 15;

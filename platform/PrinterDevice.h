@@ -1,20 +1,18 @@
 #pragma once
 
 #include "platform/Drawing.h"
+#include "platform/PageLayout.h"
 
 #include <QString>
 
 #include <vector>
-
-struct PageLayout;
 
 /// What is printed as one job, on A4.
 struct PrintedDocument
 {
     /// What the print system or the PDF file calls it.
     QString name;
-    /// 1 portrait, 2 landscape.
-    int orientation = 2;
+    PageOrientation orientation = PageOrientation::Landscape;
     /// A drawing for each page, whose coordinates are twips from the paper's corner.
     std::vector<Drawing> pages;
 };

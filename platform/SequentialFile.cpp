@@ -4,7 +4,6 @@
 
 #include <QLocale>
 
-#include <array>
 #include <charconv>
 #include <cmath>
 
@@ -30,14 +29,6 @@ QString shown(QStringView text)
 {
     throw RunTimeError(ErrorNumber::TypeMismatch,
                        QStringLiteral("\"%1\" is not a %2.").arg(shown(text), QLatin1String(kind)));
-}
-
-template <typename Number>
-QByteArray shortest(Number value)
-{
-    std::array<char, 64> digits{};
-    const auto result = std::to_chars(digits.data(), digits.data() + digits.size(), value);
-    return QByteArray(digits.data(), result.ptr - digits.data());
 }
 
 } // namespace

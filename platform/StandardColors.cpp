@@ -6,13 +6,13 @@
 
 namespace {
 
-struct StandardColor
+struct PaletteEntry
 {
     const char* name;
     QRgb rgb;
 };
 
-constexpr std::array<StandardColor, 16> Palette = {{
+constexpr std::array<PaletteEntry, 16> Palette = {{
     {"Black", qRgb(0, 0, 0)},
     {"Blue", qRgb(0, 0, 128)},
     {"Green", qRgb(0, 128, 0)},
@@ -33,6 +33,11 @@ constexpr std::array<StandardColor, 16> Palette = {{
 
 } // namespace
 
+QRgb QBColor(StandardColor color)
+{
+    return QBColor(static_cast<int>(color));
+}
+
 QRgb QBColor(int number)
 {
     if (number < 0 || number >= static_cast<int>(Palette.size())) {
@@ -45,7 +50,7 @@ QRgb QBColor(int number)
 QStringList standardColorNames()
 {
     QStringList names;
-    for (const StandardColor& color : Palette) {
+    for (const PaletteEntry& color : Palette) {
         names << QLatin1String(color.name);
     }
     return names;

@@ -25,7 +25,7 @@
 
 namespace {
 
-/// A map and the surface that plays the map form.
+/// A map, and the surface and the area that play the map form.
 class MapPlot
 {
 public:
@@ -36,9 +36,8 @@ public:
         m_varn.LingFolder = QStringLiteral("\\VarnData") + m_varn.VarnMapName + QStringLiteral("\\Ling");
         m_varn.PlotDots = options.localityDots;
         m_varn.HankoPosition = options.location;
-        setFirstSize(m_frmMap);
         if (options.height > 0) {
-            setMapHeight(m_frmMap, options.height);
+            m_area = withHeight(m_area, options.height);
         }
         LoadSquareData(m_varn.Drive, m_varn.VarnPath, m_varn);
         loadBaseMap(m_varn.Drive, {m_varn.VarnPath, m_varn.VarnMapName}, {}, m_varn);
@@ -101,15 +100,16 @@ public:
     }
 
     int symbolPages() const { return LastSymbolPage(m_varn); }
-    QSizeF size() const { return {m_frmMap.Width, m_frmMap.Height}; }
+    QSizeF size() const { return {m_area.Width, m_area.Height}; }
     const Folders& folders() const { return m_varn; }
     VarnModule& varn() { return m_varn; }
 
 private:
-    MapSurfaces surfaces() { return {m_frmMap, m_frmMap}; }
+    MapSurfaces surfaces() { return {{m_frmMap, m_frmMap}, m_area}; }
 
     VarnModule m_varn;
     DrawSurface m_frmMap;
+    FormArea m_area = firstArea();
     PlotListener& m_listener;
 };
 

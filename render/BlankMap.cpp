@@ -8,14 +8,6 @@
 
 namespace {
 
-void copyFont(const DrawSurface& from, DrawSurface& to)
-{
-    to.FontName = from.FontName;
-    to.FontSize = from.FontSize;
-    to.FontBold = from.FontBold;
-    to.FontItalic = from.FontItalic;
-}
-
 /// Keeps the position of locality i in drawing units.
 void placeLocality(const Localities& map, int i, MapGeometry& geometry)
 {
@@ -52,7 +44,7 @@ void plotScaleBar(const PlaceNames& map, const MapGeometry& geometry, DrawSurfac
 
 void PlotLineData(const MapLines& map, MapGeometry& geometry, MapSurfaces surfaces)
 {
-    geometry.Scale = FindMinMax(map, surfaces.frmMap, geometry);
+    geometry.Scale = FindMinMax(map, surfaces.area, geometry);
     surfaces.thinLines();
     for (int i = 1; i <= map.NLine; ++i) {
         for (int j = 1; j <= map.LinePoints(i); ++j) {
@@ -60,26 +52,27 @@ void PlotLineData(const MapLines& map, MapGeometry& geometry, MapSurfaces surfac
                 geometry.ScreenXY(j, k) = geometry.toScreen(map.LineXY(i, j, k) + map.LineOffset(i, k));
             }
         }
-        surfaces.DrawTarget.DrawStyle = map.LineStyle(i);
+        surfaces.DrawTarget.DrawStyle = penStyle(map.LineStyle(i));
         Polygon(geometry, surfaces.DrawTarget, map.LinePoints(i), 0, 0, QBColor(map.MapLineColor(i)));
     }
-    surfaces.DrawTarget.DrawStyle = 0;
+    surfaces.DrawTarget.DrawStyle = PenStyle::Solid;
 }
 
 void PlotLocateData(const BaseMap& map, const MapStyle& style, MapGeometry& geometry, MapSurfaces surfaces)
 {
     constexpr float DotRadius = 2;
 
-    geometry.Scale = FindMinMax(map, surfaces.frmMap, geometry);
+    geometry.Scale = FindMinMax(map, surfaces.area, geometry);
     if (!style.PlotDots) {
-        return;
+        return; // the positions stay those of what was drawn last
     }
     DrawSurface& target = surfaces.DrawTarget;
-    const int fillStyle = std::exchange(target.FillStyle, 0);
-    target.FillColor = QBColor(0);
+    const auto fillStyle = std::exchange(target.FillStyle, DrawSurface::Fill::Solid);
+    target.FillColor = QBColor(StandardColor::Black);
     for (int i = 1; i <= map.NLocality; ++i) {
         placeLocality(map, i, geometry);
-        target.Circle(geometry.ScreenXY(i, 0), geometry.ScreenXY(i, 1), DotRadius, QBColor(0));
+        target.Circle(geometry.ScreenXY(i, 0), geometry.ScreenXY(i, 1), DotRadius,
+                      QBColor(StandardColor::Black));
     }
     target.FillStyle = fillStyle;
 }
@@ -93,17 +86,17 @@ void PlotLocateCircle(const Localities& map, MapGeometry& geometry, DrawSurface&
         placeLocality(map, i, geometry);
         const float x = geometry.ScreenXY(i, 0);
         const float y = geometry.ScreenXY(i, 1);
-        target.FillStyle = 0;
-        target.FillColor = QBColor(10);
-        target.Circle(x, y, DiscRadius, QBColor(10));
-        target.FillStyle = 1;
-        target.Circle(x, y, RingRadius, QBColor(12));
+        target.FillStyle = DrawSurface::Fill::Solid;
+        target.FillColor = QBColor(StandardColor::LightGreen);
+        target.Circle(x, y, DiscRadius, QBColor(StandardColor::LightGreen));
+        target.FillStyle = DrawSurface::Fill::Transparent;
+        target.Circle(x, y, RingRadius, QBColor(StandardColor::LightRed));
     }
 }
 
 void PlotKanjiData(const PlaceNames& map, const MapGeometry& geometry, MapSurfaces surfaces)
 {
-    copyFont(surfaces.frmMap, surfaces.DrawTarget);
+    surfaces.DrawTarget.setFont(surfaces.frmMap.font());
     for (int i = 1; i <= map.NKanji; ++i) {
         surfaces.DrawTarget.PrintAt(geometry.toScreen(map.KanjiXY(i, 0)),
                                     geometry.toScreen(map.KanjiXY(i, 1)), map.KanjiText(i));
@@ -119,10 +112,9 @@ void PlotDate(const QString& fileName, const QDateTime& time, MapSurfaces surfac
     DrawSurface& target = surfaces.DrawTarget;
     const int fontSize = target.FontSize;
     target.FontSize = 8;
-    const float x = surfaces.frmMap.Width - 1600 + 50;
-    target.PrintAt(x, surfaces.frmMap.Height - 400 + 50, fileName);
-    target.PrintAt(x, surfaces.frmMap.Height - 200 + 50,
-                   time.toString(QStringLiteral("yyyy-MM-dd HH:mm:ss")));
+    const float x = surfaces.area.Width - 1600 + 50;
+    target.PrintAt(x, surfaces.area.Height - 400 + 50, fileName);
+    target.PrintAt(x, surfaces.area.Height - 200 + 50, time.toString(QStringLiteral("yyyy-MM-dd HH:mm:ss")));
     target.FontSize = fontSize;
 }
 

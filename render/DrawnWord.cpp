@@ -4,12 +4,8 @@
 
 DrawnWord drawWord(const TextParts& parts, const QString& word)
 {
-    const MapFont& font = parts.font;
     DrawSurface surface;
-    surface.FontName = font.MapFontName;
-    surface.FontSize = font.MapFontSize;
-    surface.FontBold = font.MapFontBold;
-    surface.FontItalic = font.MapFontItalic;
+    surface.setFont(textFont(parts.font));
     DrawSurface traces;
     try {
         PhoneticText text(parts, {surface, traces});

@@ -27,7 +27,8 @@ public:
           m_rowsPerColumn(integerDivide(static_cast<int>(height), rowStep) - 1)
     {}
 
-    /// Raises division by zero where the title's row is the only one.
+    /// The next cell. Row 1 of the first column stays empty, that of later columns does not. Raises division
+    /// by zero where the title's row is the only one.
     void next()
     {
         requireRows();
@@ -80,7 +81,8 @@ void ClsHanrei(const BlankMapParts& parts, DrawSurface& target, const QString& t
     const auto x = static_cast<float>(origin.x());
     const auto y = static_cast<float>(origin.y());
     target.DrawWidth = 1;
-    target.FilledBox(x, y, x + Margin + width + Edge, y + Margin + target.TextHeight() + Edge, QBColor(15));
+    target.FilledBox(x, y, x + Margin + width + Edge, y + Margin + target.TextHeight() + Edge,
+                     QBColor(StandardColor::LightWhite));
 }
 
 void PlotHanrei(const LinguisticMapParts& parts, MapSurfaces surfaces)
@@ -101,11 +103,11 @@ void PlotHanrei(const LinguisticMapParts& parts, MapSurfaces surfaces)
 
     SymbolShapes shapes(parts.base.map, parts.base.geometry, surfaces);
     PhoneticText phonetic(parts.text, surfaces);
-    LegendCells cells(x0 + SymbolIndent, surfaces.frmMap.Height, step);
+    LegendCells cells(x0 + SymbolIndent, surfaces.area.Height, step);
     for (int k = 1; k <= symbols.NHanrei; ++k) {
         const QString& caption = symbols.HankoCaption(k);
         if (caption.contains(QLatin1Char('-'))) {
-            continue;
+            continue; // a hyphen keeps a record out of the legend; its symbols are on the map
         }
         cells.next();
         const float top = y0 + static_cast<float>(step * cells.row()) + Margin;

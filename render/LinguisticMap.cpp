@@ -45,6 +45,7 @@ void plotRecord(const LinguisticMapParts& parts, int k, QPointF step, SymbolShap
         geometry.ScreenXY(i, 1) = y;
         for (int j = 1; j <= parts.item.WordCount(i); ++j) {
             if (containsKind(parts.item.WordData(i, j), parts.symbols.HankoWord(k))) {
+                // A word form has its place by its number, also where those before it have no symbol.
                 const auto steps = static_cast<float>(j - 1);
                 shapes.DrawHanko(parts.symbols.Hanko(k), x + steps * dx, y + steps * dy);
             }

@@ -36,8 +36,7 @@ ListText::ListText(const TextParts& parts, DrawSurface& target)
       m_written({parts.folders, m_font, m_style, parts.pictures}, {m_target, m_ruler}),
       m_measured({parts.folders, m_font, m_style, parts.pictures}, {m_ruler, m_ruler})
 {
-    const Look look{{m_font.MapFontName, m_font.MapFontSize, m_font.MapFontBold, m_font.MapFontItalic},
-                    qRgb(0, 0, 0)};
+    const Look look{textFont(m_font), qRgb(0, 0, 0)};
     apply(look, m_target);
     apply(look, m_ruler);
 }
@@ -49,15 +48,12 @@ ListText::~ListText()
 
 ListText::Look ListText::lookOf(const DrawSurface& surface)
 {
-    return {{surface.FontName, surface.FontSize, surface.FontBold, surface.FontItalic}, surface.ForeColor};
+    return {surface.font(), surface.ForeColor};
 }
 
 void ListText::apply(const Look& look, DrawSurface& surface)
 {
-    surface.FontName = look.font.name;
-    surface.FontSize = look.font.size;
-    surface.FontBold = look.font.bold;
-    surface.FontItalic = look.font.italic;
+    surface.setFont(look.font);
     surface.ForeColor = look.color;
 }
 

@@ -74,21 +74,20 @@ void LocalityMap::draw(const BaseMap& map)
     }
 
     // The lines are scaled by the height of a map form.
-    DrawSurface form;
-    form.Height = PaperHeight;
+    constexpr FormArea Form{0, 0, 0, PaperHeight};
     MapGeometry geometry;
     geometry.Scale =
-        lines.hasArea() ? FindMinMax(map, form, geometry) : PaperHeight / std::max(all.longerSide(), 1.0F);
+        lines.hasArea() ? FindMinMax(map, Form, geometry) : PaperHeight / std::max(all.longerSide(), 1.0F);
     fitPaper(all, geometry, m_surface);
     if (lines.hasArea()) {
-        PlotLineData(map, geometry, {m_surface, form});
+        PlotLineData(map, geometry, {{m_surface, m_surface}, Form});
     }
-    m_surface.FillStyle = 0;
-    m_surface.FillColor = QBColor(0);
+    m_surface.FillStyle = DrawSurface::Fill::Solid;
+    m_surface.FillColor = QBColor(StandardColor::Black);
     for (int i = 1; i <= map.NLocality; ++i) {
         const float x = geometry.toScreen(map.LocXY(i, 0));
         const float y = geometry.toScreen(map.LocXY(i, 1));
-        m_surface.Circle(x, y, DotRadius, QBColor(0));
+        m_surface.Circle(x, y, DotRadius, QBColor(StandardColor::Black));
         m_positions.emplace_back(x - m_surface.ScaleLeft, y - m_surface.ScaleTop);
     }
 }

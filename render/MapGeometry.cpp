@@ -32,7 +32,7 @@ float MapGeometry::raiseTooFar(float coordinate)
                        QStringLiteral("The map's coordinate %1 is too far out to be drawn.").arg(coordinate));
 }
 
-float FindMinMax(const MapLines& map, const DrawSurface& form, MapGeometry& geometry, float startMaxY)
+float FindMinMax(const MapLines& map, const FormArea& form, MapGeometry& geometry, float startMaxY)
 {
     geometry.MinX = 1000000;
     geometry.MinY = 1000000;
@@ -45,6 +45,8 @@ float FindMinMax(const MapLines& map, const DrawSurface& form, MapGeometry& geom
         throw RunTimeError(ErrorNumber::DivisionByZero,
                            QStringLiteral("The lines of the map have no height or no width."));
     }
+    // The place of the form counts: one further down the screen has a smaller map. The height alone sets the
+    // scale, so a wide map may leave the form at the right.
     geometry.RatioY = divide(form.Height - form.Top, geometry.MaxY - geometry.MinY);
     geometry.RatioX = divide(form.Width - form.Left, geometry.MaxX - geometry.MinX);
     return toSingle(0.98 * geometry.RatioY);
@@ -59,13 +61,10 @@ void findStartExtent(const MapLines& map, MapGeometry& geometry)
     widenExtent(map, geometry);
 }
 
-void X0Y0(qint16 mapFontSize, bool halfWidth, float& dx, qint16& dy)
+TextCell X0Y0(qint16 mapFontSize, bool halfWidth)
 {
-    dx = static_cast<float>((mapFontSize + 1) * 24);
-    if (halfWidth) {
-        dx /= 2;
-    }
-    dy = toInteger((mapFontSize + 2) * 24);
+    const auto dx = static_cast<float>((mapFontSize + 1) * 24);
+    return {halfWidth ? dx / 2 : dx, toInteger((mapFontSize + 2) * 24)};
 }
 
 void XYPosition(const DrawSurface& target, float& x, float& xmax, float dx)

@@ -2,6 +2,7 @@
 
 #include "mapdata/BaseMap.h"
 #include "platform/DrawSurface.h"
+#include "platform/FormArea.h"
 
 #include <cmath>
 
@@ -37,9 +38,9 @@ private:
     [[noreturn]] static float raiseTooFar(float coordinate);
 };
 
-/// The surfaces of one drawing command: the one that is drawn on, and the map form's own, which gives the
-/// size of the map and takes the traces of unknown symbol numbers and phonetic codes.
-struct MapSurfaces
+/// The surface that is drawn on, and the map form's own, which takes the traces of unknown symbol numbers and
+/// phonetic codes.
+struct TracedTarget
 {
     DrawSurface& DrawTarget;
     DrawSurface& frmMap;
@@ -48,9 +49,16 @@ struct MapSurfaces
     void thinLines() const { DrawTarget.DrawWidth = frmMap.DrawWidth = 1; }
 };
 
+/// What a map is drawn on: the surfaces of one drawing command, and the area of the map form. A map is as
+/// large as it on every target.
+struct MapSurfaces : TracedTarget
+{
+    FormArea area;
+};
+
 /// Measures the extent of the lines and returns the scale at which its height fills 98 % of `form`, the map
 /// form or whichever form asks. Raises division by zero for a map without extent, overflow.
-float FindMinMax(const MapLines& map, const DrawSurface& form, MapGeometry& geometry,
+float FindMinMax(const MapLines& map, const FormArea& form, MapGeometry& geometry,
                  float startMaxY = MapGeometry::StartMaxY);
 
 /// Fills the start values of the extent from the lines, before any scale is known.
@@ -58,9 +66,15 @@ void findStartExtent(const MapLines& map, MapGeometry& geometry);
 
 // Layout cursors for columns of text.
 
-/// The width of a column and the height of a row for the map font's size, in twips; half the width where
-/// `halfWidth` is set.
-void X0Y0(qint16 mapFontSize, bool halfWidth, float& dx, qint16& dy);
+/// The width of a column and the height of a row of text, in twips.
+struct TextCell
+{
+    float dx;
+    qint16 dy;
+};
+
+/// The cell for the map font's size; half as wide where `halfWidth` is set. Raises overflow.
+TextCell X0Y0(qint16 mapFontSize, bool halfWidth);
 /// Steps x by dx and widens `xmax` to where the target's last text ended.
 void XYPosition(const DrawSurface& target, float& x, float& xmax, float dx);
 /// Steps to the next cell of a grid: the next column, past `xlim` the next row, past `ylim` the top again.

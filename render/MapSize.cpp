@@ -1,20 +1,16 @@
 #include "render/MapSize.h"
 
+#include "platform/Drawing.h"
 #include "platform/Numbers.h"
 
-void setFirstSize(DrawSurface& frmMap)
+FormArea firstArea()
 {
-    frmMap.Left = 0;
-    frmMap.Top = 0;
-    frmMap.Width = 12000;
-    frmMap.Height = 9000;
+    return {0, 0, 12000, 9000};
 }
 
-void setMapHeight(DrawSurface& frmMap, double millimetres)
+FormArea withHeight(const FormArea& area, double millimetres)
 {
     const double height = millimetres * TwipsPerMm;
-    const double ratio = divide(height, frmMap.Height);
-    const float width = toSingle(frmMap.Width * ratio);
-    frmMap.Height = toSingle(height);
-    frmMap.Width = width;
+    const double ratio = divide(height, area.Height);
+    return {area.Left, area.Top, toSingle(area.Width * ratio), toSingle(height)};
 }

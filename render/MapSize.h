@@ -1,9 +1,10 @@
 #pragma once
 
-#include "platform/DrawSurface.h"
+#include "platform/FormArea.h"
 
-/// The map form's first size: a drawing area of 12000 x 9000 twips at the screen's top left.
-void setFirstSize(DrawSurface& frmMap);
+/// The map form's first area: 12000 x 9000 twips at the screen's top left.
+FormArea firstArea();
 
-/// Makes the drawing area `millimetres` high and keeps the proportion of its sides.
-void setMapHeight(DrawSurface& frmMap, double millimetres);
+/// `area` made `millimetres` high; the proportion of its sides is kept. Raises division by zero for an area
+/// without height, overflow.
+FormArea withHeight(const FormArea& area, double millimetres);

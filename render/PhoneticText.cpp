@@ -2,8 +2,8 @@
 
 #include "platform/SequentialFile.h"
 
-PhoneticText::PhoneticText(const TextParts& parts, MapSurfaces surfaces)
-    : m_parts(parts), m_target(surfaces.DrawTarget), m_frmMap(surfaces.frmMap)
+PhoneticText::PhoneticText(const TextParts& parts, const TracedTarget& target)
+    : m_parts(parts), m_target(target.DrawTarget), m_frmMap(target.frmMap)
 {}
 
 float PhoneticText::PlotChar(float x, float y, QStringView text)
@@ -39,6 +39,7 @@ float PhoneticText::One(float x, float y, QStringView text, int& consumed)
     case PhoneticUnit::Kind::Glyph:
         return PlotOneSymbol(x, y, unit.series, unit.number);
     case PhoneticUnit::Kind::Illegal:
+        // On the map form, wherever the text is drawn.
         m_frmMap.Print(text.left(unit.consumed).toString() +
                        QStringLiteral(" Illegal Data for Phonetic Alphabet."));
         break;

@@ -9,7 +9,7 @@
 class PhoneticText
 {
 public:
-    PhoneticText(const TextParts& parts, MapSurfaces surfaces);
+    PhoneticText(const TextParts& parts, const TracedTarget& target);
 
     /// Writes `text` from (x, y), its top left corner in twips, and returns the x where it ended. An escape
     /// in no code is written with a message on the map form itself. Raises file not found for a missing

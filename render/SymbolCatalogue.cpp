@@ -1,5 +1,6 @@
 #include "render/SymbolCatalogue.h"
 
+#include "platform/StandardColors.h"
 #include "render/SymbolShapes.h"
 
 #include <algorithm>
@@ -15,7 +16,8 @@ HankoStyle catalogueStyle(int number)
 {
     HankoStyle hanko;
     hanko.HankoNo = static_cast<qint16>(number);
-    hanko.LineColor = static_cast<qint16>(number % 16 == 15 ? 0 : number % 16);
+    const auto color = static_cast<StandardColor>(number % 16);
+    hanko.LineColor = static_cast<qint16>(color == StandardColor::LightWhite ? StandardColor::Black : color);
     hanko.PaintColor = static_cast<qint16>((number + 11) % 16);
     hanko.PaintOn = 1;
     hanko.SymbolSize = 1;
@@ -36,8 +38,8 @@ void PlotSymbol(const PolygonTable& polygons, MapGeometry& geometry, int page, M
     constexpr float NumberOffset = 200;
 
     DrawSurface& target = surfaces.DrawTarget;
-    const float cellWidth = surfaces.frmMap.Width / Columns;
-    const float cellHeight = (surfaces.frmMap.Height - 500) / Rows;
+    const float cellWidth = surfaces.area.Width / Columns;
+    const float cellHeight = (surfaces.area.Height - 500) / Rows;
     const float x0 = cellWidth - 250;
     const float y0 = 350;
     const int first = SymbolsPerPage * (page - 1) + 1;
@@ -55,7 +57,7 @@ void PlotSymbol(const PolygonTable& polygons, MapGeometry& geometry, int page, M
     for (int number = first; number <= last; ++number) {
         target.PrintAt(x - NumberOffset, y - 300, QString::number(number));
         shapes.DrawHanko(catalogueStyle(number), x, y);
-        XmaxYmax(x, y, x0, y0, surfaces.frmMap.Width, surfaces.frmMap.Height, cellWidth, cellHeight);
+        XmaxYmax(x, y, x0, y0, surfaces.area.Width, surfaces.area.Height, cellWidth, cellHeight);
     }
     target.ScaleLeft = scaleLeft;
     target.FontSize = fontSize;

@@ -62,7 +62,7 @@ public:
 
     void box(bool painted)
     {
-        m_target.FillStyle = painted ? 0 : 1;
+        m_target.FillStyle = fillOf(painted);
         m_target.Box(x(-1), y(-1), x(1), y(1), m_color);
     }
 
@@ -71,7 +71,7 @@ public:
     {
         const int pen = m_target.DrawWidth;
         m_target.DrawWidth = innerPen(pen);
-        m_target.FillStyle = 0;
+        m_target.FillStyle = DrawSurface::Fill::Solid;
         m_target.Box(x(left), y(top), x(right), y(bottom), m_color);
         m_target.DrawWidth = pen;
     }
@@ -144,7 +144,7 @@ public:
 
     void filledHalf(float start, float end)
     {
-        m_target.FillStyle = 0;
+        m_target.FillStyle = DrawSurface::Fill::Solid;
         m_target.Arc(m_x0, m_y0, radius(), m_color, start, end, aspect());
     }
 
@@ -167,7 +167,7 @@ private:
 
     void round(bool filled, float part)
     {
-        m_target.FillStyle = filled ? 0 : 1;
+        m_target.FillStyle = fillOf(filled);
         m_target.Circle(m_x0, m_y0, radius() * part, m_color, aspect());
     }
 

@@ -25,21 +25,19 @@ struct SymbolHelpLayout
 
 SymbolHelpLayout layoutOf(const std::vector<PhoneticSymbol>& symbols, int fontSize, MapSurfaces surfaces)
 {
-    float dx = 0;
-    qint16 dy = 0;
-    X0Y0(static_cast<qint16>(fontSize), false, dx, dy);
+    const TextCell cell = X0Y0(static_cast<qint16>(fontSize), false);
     surfaces.DrawTarget.FontSize = fontSize;
     float nameWidth = 0;
     for (const PhoneticSymbol& symbol : symbols) {
         nameWidth = std::max(nameWidth, surfaces.DrawTarget.TextWidth(symbol.name));
     }
-    SymbolHelpLayout layout{fontSize, 2 * dx, static_cast<float>(dy), dx, 1, false};
-    const float height = surfaces.frmMap.Height - layout.firstRow();
+    SymbolHelpLayout layout{fontSize, 2 * cell.dx, static_cast<float>(cell.dy), cell.dx, 1, false};
+    const float height = surfaces.area.Height - layout.firstRow();
     layout.rowsPerColumn = std::max(1, static_cast<int>(height / layout.rowStep));
     const auto codes = static_cast<int>(symbols.size());
     const auto columns = static_cast<float>((codes + layout.rowsPerColumn - 1) / layout.rowsPerColumn);
     const float width = columns * (3 * layout.partStep + nameWidth) + (columns - 1) * layout.columnGap;
-    layout.fits = Margin + width <= surfaces.frmMap.Width;
+    layout.fits = Margin + width <= surfaces.area.Width;
     return layout;
 }
 

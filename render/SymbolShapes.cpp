@@ -21,6 +21,7 @@ struct NumberRange
     float aspect;
 };
 
+/// Number 0 belongs to the rectangles, which have no design 0: it draws nothing.
 constexpr std::array<NumberRange, 11> BuiltInSymbols = {{
     {12, Family::Rectangle, 0, 1, 1},
     {24, Family::Rectangle, 12, 0.5F, 1},
@@ -105,9 +106,11 @@ void SymbolShapes::DrawFan(int design, const Stamp& stamp, float Radius, float A
         float start;
         float end;
     };
+    // Angles are counted in these figures, a little short of the exact ones.
     constexpr float Pi = 3.1415926F;
     constexpr float Pi2 = 6.2831852F;
     constexpr float Pi3 = 9.4247778F;
+    // Both angles are negative, so that both radii are drawn; that of zero is -Pi2, since zero has no sign.
     constexpr std::array<Sector, 20> Sectors = {{
         {-Pi2, -Pi},
         {-Pi, -Pi2},
@@ -134,7 +137,7 @@ void SymbolShapes::DrawFan(int design, const Stamp& stamp, float Radius, float A
         return;
     }
     const Sector& sector = Sectors.at(static_cast<std::size_t>(design - 1));
-    m_target.FillStyle = stamp.painted ? 0 : 1;
+    m_target.FillStyle = fillOf(stamp.painted);
     m_target.FillColor = stamp.fill;
     m_target.Arc(stamp.x0, stamp.y0, Radius, stamp.outline, sector.start, sector.end, Aspect);
 }
@@ -172,12 +175,13 @@ void SymbolShapes::DrawSquare(int polygon, const Stamp& stamp, float Sqsize, int
         m_geometry.ScreenXY(j, 1) = ys * y;
         if (slant == 1 || slant == -1) {
             m_geometry.ScreenXY(j, 0) = xs * x + static_cast<float>(slant) * (ys * y) / Asp;
-        } else if (slant != 0) {
+        } else if (slant != 0) { // no symbol number asks for it
             m_geometry.ScreenXY(j, 1) = ys * y + Asp * (static_cast<float>(slant) * xs * x) / 2;
         }
     }
-    m_target.FillStyle = stamp.painted ? 0 : 1;
+    // Polygons are outlines, so the fill shows nowhere on them; what is drawn next finds it solid.
+    m_target.FillStyle = fillOf(stamp.painted);
     m_target.FillColor = stamp.fill;
-    m_target.FillStyle = 0;
+    m_target.FillStyle = DrawSurface::Fill::Solid;
     Polygon(m_geometry, m_target, count, stamp.x0, stamp.y0, stamp.outline);
 }

@@ -21,8 +21,8 @@ void Polygon(const MapGeometry& geometry, DrawSurface& target, int count, float 
 class SymbolShapes
 {
 public:
-    SymbolShapes(const PolygonTable& polygons, MapGeometry& geometry, MapSurfaces surfaces)
-        : m_polygons(polygons), m_geometry(geometry), m_target(surfaces.DrawTarget), m_frmMap(surfaces.frmMap)
+    SymbolShapes(const PolygonTable& polygons, MapGeometry& geometry, const TracedTarget& target)
+        : m_polygons(polygons), m_geometry(geometry), m_target(target.DrawTarget), m_frmMap(target.frmMap)
     {}
 
     /// Draws symbol `hanko.HankoNo` about (x0, y0), twips. A number that no design serves leaves its trace

@@ -10,7 +10,8 @@ namespace {
 
 QString orientationName(const PageLayout& layout)
 {
-    return layout.PaperOrientation == 2 ? QStringLiteral("Landscape") : QStringLiteral("Portrait");
+    return layout.PaperOrientation == PageOrientation::Landscape ? QStringLiteral("Landscape")
+                                                                 : QStringLiteral("Portrait");
 }
 
 /// An empty page with the paper, the margins and the font chosen now.
@@ -21,25 +22,22 @@ void preparePage(PageSetup& page, const MapFont& font)
     printer.Height = toSingle(page.PaperHeight * TwipsPerMm);
     printer.ScaleLeft = toSingle(-page.LeftMargin * TwipsPerMm);
     printer.ScaleTop = toSingle(-page.TopMargin * TwipsPerMm);
-    printer.FontName = font.MapFontName;
-    printer.FontSize = font.MapFontSize;
-    printer.FontBold = font.MapFontBold;
-    printer.FontItalic = font.MapFontItalic;
+    printer.setFont(textFont(font));
     printer.DrawWidth = 1;
-    printer.DrawStyle = 0;
-    printer.FillStyle = 1;
+    printer.DrawStyle = PenStyle::Solid;
+    printer.FillStyle = DrawSurface::Fill::Transparent;
     printer.Cls();
 }
 
 } // namespace
 
-void setPaper(PageLayout& layout, int orientation)
+void setPaper(PageLayout& layout, PageOrientation orientation)
 {
-    layout.PaperOrientation = orientation == 2 ? 2 : 1;
+    layout.PaperOrientation = orientation;
     layout.PaperSizeName = QStringLiteral("A4");
     layout.PaperHeight = 210;
     layout.PaperWidth = 297;
-    if (layout.PaperOrientation != 2) {
+    if (orientation == PageOrientation::Portrait) {
         std::swap(layout.PaperHeight, layout.PaperWidth);
     }
 }

@@ -2,8 +2,8 @@
 
 #include "shell/VarnModule.h"
 
-/// Sets paper and orientation: A4 whatever paper is asked for, upright or, for orientation 2, across.
-void setPaper(PageLayout& layout, int orientation);
+/// Sets paper and orientation: A4 whatever paper is asked for.
+void setPaper(PageLayout& layout, PageOrientation orientation);
 
 /// "A4 Landscape(210 X 297) mm".
 QString paperLabel(const PageLayout& layout);

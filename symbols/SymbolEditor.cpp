@@ -152,7 +152,7 @@ std::optional<HankoFields> SymbolEditor::insertRecord(int n, const QString& Expl
     if (n > m_set.NHanrei) {
         return std::nullopt;
     }
-    if (n > 0) {
+    if (n > 0) { // number 0 moves nothing, but becomes the current record
         for (int i = m_set.NHanrei; i >= n; --i) {
             copyRecord(i, i + 1);
         }

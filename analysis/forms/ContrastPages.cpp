@@ -56,14 +56,14 @@ void ContrastPages::drawHeading(int page, ListText& text, DrawSurface& target) c
 {
     const QString pageNumber = QStringLiteral("PAGE = %1 / %2").arg(page).arg(count());
     const float room = PageWidth - text.width(pageNumber) - LineStep;
-    text.setColor(QBColor(0));
+    text.setColor(QBColor(StandardColor::Black));
     text.write(0, 0, text.shortened(QStringLiteral("Contrast Analysis File Name ") + m_fileName, room));
     text.writeRight(PageWidth, 0, pageNumber);
     drawGroup(1, GroupsY, text);
     drawGroup(2, GroupsY + LineStep, text);
-    target.Line(0, RuleY, PageWidth, RuleY, QBColor(8));
+    target.Line(0, RuleY, PageWidth, RuleY, QBColor(StandardColor::Gray));
 
-    text.setColor(QBColor(8));
+    text.setColor(QBColor(StandardColor::Gray));
     const std::array titles = {QStringLiteral("Loc."), QStringLiteral("Item 1"), QStringLiteral("Item 2"),
                                QStringLiteral("Diff.")};
     const int places = m_varn.NLocality - (page - 1) * LocalitiesOfPage;
@@ -82,9 +82,9 @@ void ContrastPages::drawGroup(int side, float y, ListText& text) const
     for (int t = 1; t <= m_varn.ContrastCount(side); ++t) {
         names << m_varn.ContrastWordName(side, t);
     }
-    text.setColor(QBColor(8));
+    text.setColor(QBColor(StandardColor::Gray));
     text.write(0, y, QStringLiteral("Item %1").arg(side));
-    text.setColor(QBColor(0));
+    text.setColor(QBColor(StandardColor::Black));
     text.write(GroupIndent, y,
                text.shortened(names.join(QStringLiteral(" + ")), PageWidth - GroupIndent,
                               ListText::Coding::Phonetic),
@@ -93,9 +93,9 @@ void ContrastPages::drawGroup(int side, float y, ListText& text) const
 
 void ContrastPages::drawLocality(int j, float left, float y, ListText& text) const
 {
-    text.setColor(QBColor(8));
+    text.setColor(QBColor(StandardColor::Gray));
     text.writeRight(left + NumberEnds[0], y, QString::number(j));
-    text.setColor(QBColor(0));
+    text.setColor(QBColor(StandardColor::Black));
     std::size_t number = 1;
     for (const int sum : {1, 2, 0}) {
         text.writeRight(left + NumberEnds[number++], y, QString::number(m_varn.ContrastSum(sum, j)));

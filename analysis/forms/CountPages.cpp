@@ -63,7 +63,7 @@ void CountPages::DisplaySumData(int k, int first, int last, DrawSurface& target)
         0,
         QStringLiteral("Item No.%1  Characteristis of Words %2 ").arg(m_table.NumItemsAccumulated).arg(k) +
             m_table.WordformName(k),
-        QBColor(0), target);
+        QBColor(StandardColor::Black), target);
     target.CurrentY = RowsBelow;
     for (int j = first; j <= last; ++j) {
         const int column = (j - 1) % Columns;
@@ -71,8 +71,9 @@ void CountPages::DisplaySumData(int k, int first, int last, DrawSurface& target)
             target.CurrentY += RowStep;
         }
         const float x = ColumnStep * static_cast<float>(column);
-        printAt(x, QString::number(j), QBColor(8), target);
-        printAt(x + CountIndent, QString::number(m_table.Counts(k, j)), QBColor(0), target);
+        printAt(x, QString::number(j), QBColor(StandardColor::Gray), target);
+        printAt(x + CountIndent, QString::number(m_table.Counts(k, j)), QBColor(StandardColor::Black),
+                target);
     }
-    target.ForeColor = QBColor(0);
+    target.ForeColor = QBColor(StandardColor::Black);
 }

@@ -56,7 +56,7 @@ public:
         const float captionWidth = minimumEnd() - MinimumWidth - CaptionColumn;
         m_text.setColor(HeadingColor);
         m_text.writeRight(NumberEnd, y, QString::number(k));
-        m_text.setColor(QBColor(0));
+        m_text.setColor(QBColor(StandardColor::Black));
         m_text.write(CaptionColumn, y,
                      m_text.shortened(m_varn.DiffusionCaption(k), captionWidth, ListText::Coding::Phonetic),
                      ListText::Coding::Phonetic);

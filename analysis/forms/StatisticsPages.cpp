@@ -107,9 +107,9 @@ void StatisticsPages::DisplayOut(float x, int k, int first, int last)
     const Indents place = indents(k);
     for (int v = first; v <= last; ++v) {
         const float y = DistributionY + RowStep * static_cast<float>(v - first);
-        printNumber(x, y, v, QBColor(8));
-        printNumber(x + place.cumCount, y, m_statistics.CumCount(v, k), QBColor(0));
-        printNumber(x + place.freqCount, y, m_statistics.FreqCount(v, k), QBColor(0));
+        printNumber(x, y, v, QBColor(StandardColor::Gray));
+        printNumber(x + place.cumCount, y, m_statistics.CumCount(v, k), QBColor(StandardColor::Black));
+        printNumber(x + place.freqCount, y, m_statistics.FreqCount(v, k), QBColor(StandardColor::Black));
     }
 }
 
@@ -129,5 +129,5 @@ void StatisticsPages::printNumber(float x, float y, int number, QRgb color)
     m_target.CurrentY = y;
     m_target.ForeColor = color;
     m_target.Print(QString::number(number), DrawSurface::LineEnd::Stay);
-    m_target.ForeColor = QBColor(0);
+    m_target.ForeColor = QBColor(StandardColor::Black);
 }

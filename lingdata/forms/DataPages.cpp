@@ -145,14 +145,14 @@ void DataPages::draw(int page, DrawSurface& target) const
 
 void DataPages::drawHeading(int page, ListText& text, DrawSurface& target) const
 {
-    const QRgb gray = QBColor(8);
+    const QRgb gray = QBColor(StandardColor::Gray);
     const auto width = static_cast<float>(m_area.width());
     const QString pageNumber = QStringLiteral("** PAGE = %1 / %2").arg(page).arg(count());
     const float titleX = text.width(pageNumber) + 2 * ColumnGap;
     const QString file = text.shortened(m_list.fileName, width / 3);
     const float titleWidth = width - text.width(file) - ColumnGap - titleX;
 
-    text.setColor(QBColor(0));
+    text.setColor(QBColor(StandardColor::Black));
     text.write(0, 0, pageNumber);
     text.write(titleX, 0, text.shortened(m_list.title, titleWidth, ListText::Coding::Phonetic),
                ListText::Coding::Phonetic);
@@ -162,7 +162,7 @@ void DataPages::drawHeading(int page, ListText& text, DrawSurface& target) const
 
 void DataPages::drawColumnTitles(float left, ListText& text) const
 {
-    text.setColor(QBColor(8));
+    text.setColor(QBColor(StandardColor::Gray));
     for (qsizetype c = 0; c < m_list.columns.size(); ++c) {
         text.writeRight(left + m_places.numberEnds[static_cast<std::size_t>(c)], ColumnTitlesY,
                         m_list.columns[c]);
@@ -171,7 +171,7 @@ void DataPages::drawColumnTitles(float left, ListText& text) const
     if (m_places.codeWidth > 0) {
         text.write(left + m_places.code, ColumnTitlesY, text.shortened(CodeTitle, m_places.codeWidth));
     }
-    text.setColor(QBColor(0));
+    text.setColor(QBColor(StandardColor::Black));
 }
 
 void DataPages::drawLine(const DataList::Line& line, float left, float y, ListText& text) const

@@ -12,10 +12,8 @@
 #include "ui_frmChizu.h"
 
 #include <QScopeGuard>
-#include <QScreen>
 #include <QShortcut>
 
-#include <algorithm>
 #include <utility>
 
 frmChizu::frmChizu(VarnModule& varn, Dialogs& dialogs, std::function<MapSurfaces()> mapSurfaces,
@@ -59,33 +57,29 @@ void frmChizu::refresh()
 /// Empties the form's paper, which is as large as the map form.
 void frmChizu::cls()
 {
-    const DrawSurface& mapForm = m_mapSurfaces().frmMap;
-    m_surface.Width = mapForm.Width;
-    m_surface.Height = mapForm.Height;
+    const FormArea area = m_mapSurfaces().area;
+    m_surface.Width = area.Width;
+    m_surface.Height = area.Height;
     m_surface.Cls();
 }
 
 void frmChizu::drawHere(const std::function<void(MapSurfaces)>& draw)
 {
     const WaitCursor wait;
-    DrawSurface& mapForm = m_mapSurfaces().frmMap;
-    if (m_surface.Width != mapForm.Width || m_surface.Height != mapForm.Height) {
+    const MapSurfaces mapForm = m_mapSurfaces();
+    if (m_surface.Width != mapForm.area.Width || m_surface.Height != mapForm.area.Height) {
         cls(); // parts of different scales would not lie on each other
     }
     m_varn.DrawTarget = &m_surface;
-    const auto back = qScopeGuard([&] { m_varn.DrawTarget = &mapForm; });
+    const auto back = qScopeGuard([&] { m_varn.DrawTarget = &mapForm.frmMap; });
     draw(m_mapSurfaces());
 }
 
 /// The scale at which the map would fill this form's own drawing area.
 void frmChizu::FindMinMax(float& scale) const
 {
-    const QPoint place = pos() - screen()->availableGeometry().topLeft();
-    DrawSurface form;
-    form.Left = static_cast<float>(std::max(0, place.x()) * TwipsPerPixel);
-    form.Top = static_cast<float>(std::max(0, place.y()) * TwipsPerPixel);
-    form.Width = static_cast<float>(m_ui->picMap->width() * TwipsPerPixel);
-    form.Height = static_cast<float>(m_ui->picMap->height() * TwipsPerPixel);
+    const FormArea form = areaOnScreen(static_cast<float>(m_ui->picMap->width() * TwipsPerPixel),
+                                       static_cast<float>(m_ui->picMap->height() * TwipsPerPixel));
     constexpr float StartMaxY = -1000000.0F;
     scale = ::FindMinMax(m_varn, form, m_varn, StartMaxY);
 }
@@ -173,7 +167,7 @@ void frmChizu::cmdMoji_Click()
 {
     LoadKanjiData(m_varn.Drive, m_varn.VarnPath, m_varn.VarnMapName, m_varn);
     drawHere([this](MapSurfaces surfaces) {
-        m_varn.Scale = ::FindMinMax(m_varn, surfaces.frmMap, m_varn);
+        m_varn.Scale = ::FindMinMax(m_varn, surfaces.area, m_varn);
         PlotKanjiData(m_varn, m_varn, surfaces);
     });
 }

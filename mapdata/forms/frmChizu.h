@@ -18,8 +18,8 @@ class frmChizu : public VarnForm
     Q_OBJECT
 
 public:
-    /// `mapSurfaces` gives the map form's surface beside the current drawing target: maps are drawn here as
-    /// large as there. `mayChangeMap` asks whether the user gives up unsaved work on the current map.
+    /// `mapSurfaces` gives the map form's surface and area beside the current drawing target: maps are drawn
+    /// here as large as there. `mayChangeMap` asks whether the user gives up unsaved work on the current map.
     frmChizu(VarnModule& varn, Dialogs& dialogs, std::function<MapSurfaces()> mapSurfaces,
              std::function<bool()> mayChangeMap);
     ~frmChizu() override;

@@ -18,10 +18,11 @@
 
 namespace {
 
-void setPaper(QPrinter& printer, int orientation)
+void setPaper(QPrinter& printer, PageOrientation orientation)
 {
     printer.setPageSize(QPageSize(QPageSize::A4));
-    printer.setPageOrientation(orientation == 2 ? QPageLayout::Landscape : QPageLayout::Portrait);
+    printer.setPageOrientation(orientation == PageOrientation::Landscape ? QPageLayout::Landscape
+                                                                         : QPageLayout::Portrait);
 }
 
 QMarginsF marginsOf(const QPrinter& printer)
@@ -106,7 +107,8 @@ std::unique_ptr<PrinterDevice> QtPrinterDevice::choose(const PageLayout& layout)
 
 void QtPrinterDevice::takeChoices(PageLayout& layout) const
 {
-    layout.PaperOrientation = m_printer->pageLayout().orientation() == QPageLayout::Landscape ? 2 : 1;
+    const bool isAcross = m_printer->pageLayout().orientation() == QPageLayout::Landscape;
+    layout.PaperOrientation = isAcross ? PageOrientation::Landscape : PageOrientation::Portrait;
     takeMargin(m_shownMargins.left(), m_chosenMargins.left(), layout.LeftMargin);
     takeMargin(m_shownMargins.top(), m_chosenMargins.top(), layout.TopMargin);
     takeMargin(m_shownMargins.right(), m_chosenMargins.right(), layout.RightMargin);

@@ -1,5 +1,6 @@
 #include "platform/forms/VarnForm.h"
 
+#include "platform/Drawing.h"
 #include "platform/DriveC.h"
 #include "platform/RunTimeError.h"
 
@@ -13,6 +14,7 @@
 #include <QStatusBar>
 #include <QStyle>
 
+#include <algorithm>
 #include <new>
 #include <optional>
 
@@ -87,6 +89,13 @@ QSize VarnForm::roomOnScreen() const
     const QSize frame(2 * style()->pixelMetric(QStyle::PM_MdiSubWindowFrameWidth),
                       style()->pixelMetric(QStyle::PM_TitleBarHeight));
     return screen()->availableGeometry().size() - frame.expandedTo(frameGeometry().size() - size());
+}
+
+FormArea VarnForm::areaOnScreen(float width, float height) const
+{
+    const QPoint place = pos() - screen()->availableGeometry().topLeft();
+    const auto twips = [](int pixels) { return static_cast<float>(std::max(0, pixels) * TwipsPerPixel); };
+    return {twips(place.x()), twips(place.y()), width, height};
 }
 
 /// Gives the form scroll bars where it cannot be as small as the screen.

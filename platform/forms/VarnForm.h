@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/Dialogs.h"
+#include "platform/FormArea.h"
 
 #include <QMainWindow>
 
@@ -37,6 +38,9 @@ protected:
 
     /// The largest size that the form can have on its screen, in its frame.
     QSize roomOnScreen() const;
+    /// The form's place on its screen, never beyond the left and the top edge, with a drawing area of `width`
+    /// and `height` twips.
+    FormArea areaOnScreen(float width, float height) const;
 
     /// Titles the form with those of `parts` that are not empty.
     void showTitle(const QStringList& parts);

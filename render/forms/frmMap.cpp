@@ -12,15 +12,13 @@
 #include <QPushButton>
 #include <QScreen>
 
-#include <algorithm>
-
 frmMap::frmMap(VarnModule& varn, Dialogs& dialogs)
     : VarnForm(dialogs), m_ui(std::make_unique<Ui::frmMap>()), m_varn(varn), m_places(new QButtonGroup(this)),
       m_lblInsatsumode(new QPushButton(this))
 {
     m_ui->setupUi(this);
     m_ui->fraStyle->hide();
-    setFirstSize(m_surface);
+    setSize(firstArea().Width, firstArea().Height);
     m_varn.DrawTarget = &m_surface; // until another is asked for
     m_ui->picMap->setSurface(m_surface, SurfaceView::Fit::NaturalSize);
     m_ui->scrMap->viewport()->installEventFilter(this);
@@ -99,18 +97,12 @@ void frmMap::Form_Load()
 
 void frmMap::applyMapFont()
 {
-    m_surface.FontName = m_varn.MapFontName;
-    m_surface.FontSize = m_varn.MapFontSize;
-    m_surface.FontBold = m_varn.MapFontBold;
-    m_surface.FontItalic = m_varn.MapFontItalic;
+    m_surface.setFont(textFont(m_varn));
 }
 
 MapSurfaces frmMap::surfaces()
 {
-    const QPoint place = pos() - screen()->availableGeometry().topLeft();
-    m_surface.Left = static_cast<float>(std::max(0, place.x()) * TwipsPerPixel);
-    m_surface.Top = static_cast<float>(std::max(0, place.y()) * TwipsPerPixel);
-    return {*m_varn.DrawTarget, m_surface};
+    return {{*m_varn.DrawTarget, m_surface}, areaOnScreen(m_surface.Width, m_surface.Height)};
 }
 
 void frmMap::refresh()
@@ -156,6 +148,12 @@ void frmMap::DisplayInsatsu()
     m_lblInsatsumode->setText(printModeLabel(m_varn));
 }
 
+void frmMap::setSize(float width, float height)
+{
+    m_surface.Width = width;
+    m_surface.Height = height;
+}
+
 void frmMap::showArea()
 {
     const QSize area = SurfaceView::paperPixels(m_surface);
@@ -176,8 +174,8 @@ void frmMap::followWindow()
     }
     m_sizeOfArea = QSize();
     const QSize area = m_ui->scrMap->maximumViewportSize();
-    m_surface.Width = static_cast<float>(area.width() * TwipsPerPixel);
-    m_surface.Height = static_cast<float>(area.height() * TwipsPerPixel);
+    setSize(static_cast<float>(area.width() * TwipsPerPixel),
+            static_cast<float>(area.height() * TwipsPerPixel));
     m_ui->picMap->resize(area);
 }
 

@@ -31,7 +31,7 @@ public:
     void mnuRank_Click();
     /// The form's own surface.
     const DrawSurface& surface() const { return m_surface; }
-    /// The surfaces of a drawing command, with the form's place on the screen as it is now.
+    /// The surfaces of a drawing command, with the form's place and size as they are now.
     MapSurfaces surfaces();
     void refresh() override;
     void showNewState() override;
@@ -81,6 +81,7 @@ private:
 
     void applyMapFont();
     void nameControls();
+    void setSize(float width, float height);
     void showArea();
     void followWindow();
     void showLoaded();

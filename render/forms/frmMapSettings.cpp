@@ -48,10 +48,10 @@ void frmMap::mnuMapSize_Click()
         return;
     }
     if (const double millimetres = Val(*answer); millimetres >= SmallestHeight) {
-        setMapHeight(m_surface, millimetres);
+        const FormArea area = withHeight(surfaces().area, millimetres);
+        setSize(area.Width, area.Height);
     } else {
-        m_surface.Width = toSingle(m_varn.MapFormWidth);
-        m_surface.Height = m_varn.MapFormHeight;
+        setSize(toSingle(m_varn.MapFormWidth), m_varn.MapFormHeight);
     }
     showArea();
 }

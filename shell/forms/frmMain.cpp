@@ -94,11 +94,11 @@ void frmMain::SetMapName()
 void frmMain::drawPreview()
 {
     const WaitCursor wait;
-    DrawSurface& mapForm = m_map.surfaces().frmMap;
-    m_preview.Width = mapForm.Width;
-    m_preview.Height = mapForm.Height;
+    const MapSurfaces mapForm = m_map.surfaces();
+    m_preview.Width = mapForm.area.Width;
+    m_preview.Height = mapForm.area.Height;
     m_varn.DrawTarget = &m_preview;
-    const auto back = qScopeGuard([&] { m_varn.DrawTarget = &mapForm; });
+    const auto back = qScopeGuard([&] { m_varn.DrawTarget = &mapForm.frmMap; });
     m_preview.Cls();
     DrawBlankMap(blankMapParts(m_varn), m_map.surfaces());
 }

@@ -9,7 +9,17 @@
 
 namespace {
 
-constexpr int LandscapeIndex = 1;
+/// The place of an orientation in the list.
+int indexOf(PageOrientation orientation)
+{
+    return orientation == PageOrientation::Landscape ? 1 : 0;
+}
+
+/// The other orientation.
+PageOrientation turned(PageOrientation orientation)
+{
+    return orientation == PageOrientation::Landscape ? PageOrientation::Portrait : PageOrientation::Landscape;
+}
 
 } // namespace
 
@@ -20,7 +30,7 @@ void frmMain::prepareSetMergin()
     m_ui->cboPaperSize->addItems(
         {QStringLiteral("B5"), QStringLiteral("A4"), QStringLiteral("B4"), QStringLiteral("A3")});
     m_ui->cboOrientation->addItems({QStringLiteral("Portrait"), QStringLiteral("Landscape")});
-    m_ui->cboOrientation->setCurrentIndex(LandscapeIndex);
+    m_ui->cboOrientation->setCurrentIndex(indexOf(m_varn.PaperOrientation));
 
     displayMargins();
     for (const auto& [box, margin] : marginBoxes()) {
@@ -55,14 +65,15 @@ void frmMain::displayMargins()
 
 void frmMain::recomputePaper()
 {
-    setPaper(m_varn, m_ui->cboOrientation->currentIndex() == LandscapeIndex ? 2 : 1);
+    const bool isUpright = m_ui->cboOrientation->currentIndex() == indexOf(PageOrientation::Portrait);
+    setPaper(m_varn, isUpright ? PageOrientation::Portrait : PageOrientation::Landscape);
     displayPaper();
 }
 
 void frmMain::displayPaper()
 {
     m_ui->cboPaperSize->setCurrentText(m_varn.PaperSizeName);
-    m_ui->cboOrientation->setCurrentIndex(m_varn.PaperOrientation == 2 ? LandscapeIndex : 0);
+    m_ui->cboOrientation->setCurrentIndex(indexOf(m_varn.PaperOrientation));
     m_ui->lblDisplayPaperSize->setText(paperLabel(m_varn));
     m_ui->lblPaperSpace->setText(paperSpaceLabel(m_varn));
 }
@@ -79,7 +90,7 @@ void frmMain::cboPaper_Click()
 
 void frmMain::lblDisplayPaperSize_Click()
 {
-    m_ui->cboOrientation->setCurrentIndex(m_varn.PaperOrientation == 2 ? 0 : LandscapeIndex);
+    m_ui->cboOrientation->setCurrentIndex(indexOf(turned(m_varn.PaperOrientation)));
     recomputePaper();
 }
 

@@ -67,8 +67,7 @@ void frmMain::VarnDrive()
 
 void frmMain::askForFont(MapFont& font)
 {
-    if (const auto chosen = dialogs().chooseFont(
-            {font.MapFontName, font.MapFontSize, font.MapFontBold, font.MapFontItalic})) {
+    if (const auto chosen = dialogs().chooseFont(textFont(font))) {
         font.MapFontName = chosen->name;
         font.MapFontSize = toInteger(chosen->size);
         font.MapFontBold = chosen->bold;

@@ -49,10 +49,7 @@ public:
           m_rowHeight(rowHeight(surface)),
           m_phonetic({varn, m_font, varn, varn.Pictures}, {surface, m_traces})
     {
-        m_surface.FontName = m_font.MapFontName;
-        m_surface.FontSize = m_font.MapFontSize;
-        m_surface.FontBold = m_font.MapFontBold;
-        m_surface.FontItalic = m_font.MapFontItalic;
+        m_surface.setFont(textFont(m_font));
     }
 
     void shade(int record)

@@ -24,7 +24,7 @@ protected:
         varn.Counts(1, 1) = 10;
         varn.Counts(1, 3) = 4;
         varn.Counts(2, 2) = 5;
-        varn.Scale = FindMinMax(varn, frmMap, varn);
+        varn.Scale = FindMinMax(varn, surfaces.area, varn);
     }
 
     void single(DiffusionGraph graph) { drawSingleGraph(parts, graph, varn.CurrentWordform, surfaces); }

@@ -15,19 +15,19 @@ TEST(DrawSurface, KeepsWhatIsDrawnWithThePenAndTheFillOfItsTime)
     surface.Line(10, 0, 10, 10, QBColor(0));
     surface.Line(10, 10, 0, 0, QBColor(1)); // another colour
     surface.Line(5, 5, 6, 6, QBColor(1));   // begins elsewhere
-    surface.DrawStyle = 5;
+    surface.DrawStyle = PenStyle::None;
     surface.Line(6, 6, 7, 7, QBColor(1)); // style none draws nothing
-    surface.DrawStyle = 9;
+    surface.DrawStyle = penStyle(9);
     surface.Line(6, 6, 7, 7, QBColor(1)); // unknown styles are solid
     surface.ScaleLeft = -100;
     surface.FillColor = QBColor(10);
-    surface.FillStyle = 1;
+    surface.FillStyle = DrawSurface::Fill::Transparent;
     surface.Box(30, 40, 10, 20, QBColor(0));
     surface.FilledBox(30, 40, 10, 20, QBColor(1));
-    surface.FillStyle = 0;
+    surface.FillStyle = DrawSurface::Fill::Solid;
     surface.Box(10, 20, 30, 40, QBColor(0));
     surface.Arc(200, 200, 100, QBColor(0), Pi / 2, -Pi);
-    surface.DrawStyle = 5;
+    surface.DrawStyle = PenStyle::None;
     surface.Arc(200, 200, 100, QBColor(0), -3 * Pi / 2, -Pi / 4, 2);
     surface.PaintPicture(picture, 10, 20);
     EXPECT_EQ(transcript(surface.drawing()), R"(

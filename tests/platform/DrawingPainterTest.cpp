@@ -138,7 +138,7 @@ TEST(DrawingPainter, EachOperationIsPaintedAlone)
     DrawSurface surface;
     surface.FillColor = QBColor(12);
     surface.Box(120, 20, 200, 100, QBColor(0));
-    surface.FillStyle = 0;
+    surface.FillStyle = DrawSurface::Fill::Solid;
     surface.Arc(60, 60, 50, QBColor(0), Pi / 2, -Pi); // upper left quarter, with the radius at its end
     surface.Arc(300, 60, 50, QBColor(0), -3 * Pi / 2, -2 * Pi);    // lower right quarter
     surface.Arc(60, 180, 50, QBColor(0), -7 * Pi / 4, -Pi / 4, 2); // a wedge at the right, half as wide
@@ -172,8 +172,8 @@ TEST(DrawingPainter, DashesAndDotsDiffer)
         for (int x = 5; found.size() < pattern.size(); x += 10) {
             found += ink(image, {x, 20}) > 0.5 ? '#' : '.';
         }
-        EXPECT_EQ(found, pattern) << surface.DrawStyle;
-        ++surface.DrawStyle;
+        EXPECT_EQ(found, pattern) << static_cast<int>(surface.DrawStyle);
+        surface.DrawStyle = penStyle(static_cast<int>(surface.DrawStyle) + 1);
     }
 }
 

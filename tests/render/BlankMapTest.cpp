@@ -9,10 +9,10 @@ TEST(BlankMap, TheHeightOfTheFormSetsTheScale)
     TestSurvey survey;
     VarnModule& varn = survey.varn;
     varn.LineOffset(1, 1) = 250; // the extent includes the offset of a line
-    const auto scale = [&] { return FindMinMax(varn, survey.frmMap, varn); };
+    const auto scale = [&] { return FindMinMax(varn, survey.surfaces.area, varn); };
     EXPECT_FLOAT_EQ(scale(), 0.98F * 9000 / 1000);
     EXPECT_EQ(std::tuple(varn.MinY, varn.MaxY, varn.RatioX), std::tuple(250, 1250, 12));
-    survey.frmMap.Top = 1000; // a window further down leaves less height
+    survey.surfaces.area.Top = 1000; // a window further down leaves less height
     EXPECT_FLOAT_EQ(scale(), 0.98F * 8000 / 1000);
 
     for (int j = 1; j <= 5; ++j) {
@@ -30,7 +30,7 @@ TEST(BlankMap, LayersAreDrawnAtScaleWithAMargin)
     survey.varn.LineOffset(1, 0) = 100;
     survey.frmMap.Print("old map");
     DrawSurface preview;
-    DrawBlankMap(blankMapParts(survey.varn), {preview, survey.frmMap});
+    DrawBlankMap(blankMapParts(survey.varn), {{preview, survey.frmMap}, survey.surfaces.area});
     EXPECT_TRUE(survey.frmMap.drawing().operations.empty()) << "the map form is cleared";
     EXPECT_EQ(transcript(preview.drawing()), R"(
 line 932,50 9752,50 9752,8870 932,8870 932,50 pen 1/1/1
@@ -45,12 +45,12 @@ line 2696,7988 2696,7738 pen 1/0/0
 "0" 982,7688 10pt
 "20 km" 2746,7688 10pt
 )") << "no dots unless asked for";
-    EXPECT_EQ(preview.DrawStyle, 0) << "what follows is drawn solid";
+    EXPECT_EQ(preview.DrawStyle, PenStyle::Solid) << "what follows is drawn solid";
 
     survey.varn.PlotDots = true;
-    survey.frmMap.FillStyle = 1;
+    survey.frmMap.FillStyle = DrawSurface::Fill::Transparent;
     PlotLocateData(survey.varn, survey.varn, survey.varn, survey.surfaces);
-    EXPECT_EQ(survey.frmMap.FillStyle, 1) << "what follows is not filled";
+    EXPECT_EQ(survey.frmMap.FillStyle, DrawSurface::Fill::Transparent) << "what follows is not filled";
     PlotLocateCircle(survey.varn, survey.varn, survey.frmMap);
     EXPECT_EQ(transcript(survey.frmMap.drawing()), R"(
 ellipse 932,1814 2,2 filled 0 pen 1/0/0

@@ -49,7 +49,7 @@ ellipse 650,1390 50,50 pen 1/0/0
 TEST(Legend, AFullColumnIsFollowedByOneToTheRight)
 {
     LegendSurvey survey;
-    survey.frmMap.Height = 6 * 300; // five rows a column
+    survey.surfaces.area.Height = 6 * 300; // five rows a column
     const Drawing& drawing = survey.drawn({"a", "the widest of its column", "c", "d", "e"});
     EXPECT_EQ(printedAt(drawing, "c"), QPointF(850, 350 + 4 * 300));
     const double widestEnd = 850 + survey.frmMap.TextWidth("the widest of its column");
@@ -67,7 +67,8 @@ TEST(Legend, TheTitleLineIsErasedFirst)
         survey.frmMap.DrawWidth = 5; // as a symbol leaves it
         const Drawing& drawing = survey.drawn({});
         const auto box = operationsOf<BoxOperation>(drawing).at(0);
-        EXPECT_EQ(drawing.pens.at(static_cast<std::size_t>(box.pen)), (LinePen{QBColor(15), 1, 0}));
+        EXPECT_EQ(drawing.pens.at(static_cast<std::size_t>(box.pen)),
+                  (LinePen{QBColor(15), 1, PenStyle::Solid}));
         EXPECT_EQ(QPointF(box.x, box.y), QPointF(200, 300));
         const float longer =
             std::max(survey.frmMap.TextWidth(survey.varn.KanjiText(1)), survey.frmMap.TextWidth(title));

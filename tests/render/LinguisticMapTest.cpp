@@ -76,7 +76,7 @@ TEST(LinguisticMap, AThickSymbolLeavesThinLinesOnFormAndPrinter)
     survey.addRecord("a", 1);
     survey.varn.Hanko(1).LineThick = 2;
     DrawSurface printer;
-    const MapSurfaces surfaces{printer, survey.frmMap};
+    const MapSurfaces surfaces{{printer, survey.frmMap}, survey.surfaces.area};
     const std::function<void()> steps[] = {
         [&] { PlotLinguisticData(linguisticMapParts(survey.varn), surfaces); },
         [&] { PlotHanrei(linguisticMapParts(survey.varn), surfaces); },

@@ -130,7 +130,7 @@ TEST(SymbolHelp, AllCodesStandOnThePageWhateverTheFontOfTheMap)
         WriteSymbolHelp(survey.varn.ExpSymbols, textParts(survey.varn), survey.surfaces);
         return survey.frmMap.drawing();
     };
-    const QRectF paper(0, 0, survey.frmMap.Width, survey.frmMap.Height);
+    const QRectF paper(0, 0, survey.surfaces.area.Width, survey.surfaces.area.Height);
     for (const int size : {8, 10, 12, 18, 36}) {
         SCOPED_TRACE(size);
         survey.varn.MapFontSize = static_cast<qint16>(size);
@@ -149,6 +149,6 @@ TEST(SymbolHelp, AllCodesStandOnThePageWhateverTheFontOfTheMap)
     EXPECT_EQ(operationsOf<PictureOperation>(survey.frmMap.drawing()).at(1).x, 50 + 528);
     EXPECT_EQ(printedAt(survey.frmMap.drawing(), "a"), QPointF(50 + 2 * 528, 626));
     EXPECT_EQ(printedAt(survey.frmMap.drawing(), "a long name of vowel 2"), QPointF(50 + 3 * 528, 626 + 288));
-    survey.frmMap.Height = 3000;
+    survey.surfaces.area.Height = 3000;
     EXPECT_TRUE(wasPrinted(page(), note)) << "there is no room for them";
 }

@@ -26,7 +26,6 @@ struct SampleSurvey
         varn.LingFolder = QStringLiteral("\\VarnData\\Sample\\Ling");
         LoadSquareData(varn.Drive, varn.VarnPath, varn);
         loadBaseMap(varn.Drive, {varn.VarnPath, varn.VarnMapName}, {}, varn);
-        setFirstSize(frmMap);
     }
 
     QStringList items() const
@@ -68,7 +67,7 @@ TEST(SampleSurvey, EveryItemIsDrawnWithOneSymbolForEachWordForm)
             EXPECT_EQ(sample.symbolsOf(varn.WordList(n)), 1) << qPrintable(varn.WordList(n));
         }
         DrawSurface target;
-        drawLinguisticMap(linguisticMapParts(varn), {target, sample.frmMap});
+        drawLinguisticMap(linguisticMapParts(varn), {{target, sample.frmMap}, firstArea()});
         EXPECT_FALSE(target.drawing().operations.empty());
         EXPECT_TRUE(sample.frmMap.drawing().operations.empty())
             << "a symbol without a design or an illegal code";

@@ -23,7 +23,7 @@ line 11694.5,405.5 11805.5,294.5 pen 2/0/0
         EXPECT_NE(pen.color, QBColor(15)) << "nothing is outlined in white";
     }
 
-    survey.frmMap.Width = 16 * 320; // a narrow form shows the first column whole
+    survey.surfaces.area.Width = 16 * 320; // a narrow form shows the first column whole
     PlotSymbol(survey.varn, survey.varn, 1, survey.surfaces);
     EXPECT_EQ(printedAt(drawing, "1"), QPointF(0, 50));
     EXPECT_EQ(printedAt(drawing, "18").x(), 320);

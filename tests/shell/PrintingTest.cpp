@@ -13,14 +13,14 @@ struct PrintedSurvey : TestSurvey
 {
     PrintedSurvey()
     {
-        varn.Scale = FindMinMax(varn, frmMap, varn);
+        varn.Scale = FindMinMax(varn, surfaces.area, varn);
         connectPrinter(varn, std::make_unique<RecordingPrinter>(documents));
     }
 
     void drawMap()
     {
         PrintYesNo(varn, frmMap, "Test - Town");
-        DrawBlankMap(blankMapParts(varn), {*varn.DrawTarget, frmMap});
+        DrawBlankMap(blankMapParts(varn), {{*varn.DrawTarget, frmMap}, surfaces.area});
         PrintEnd(varn);
     }
 
@@ -75,18 +75,18 @@ TEST(Printing, EachPageHasThePaperAndTheFontChosenWhenTheDocumentBegins)
     VarnModule& varn = survey.varn;
     RecordingPrinter::Documents documents;
     PageLayout chosen;
-    chosen.PaperOrientation = 1;
+    chosen.PaperOrientation = PageOrientation::Portrait;
     connectPrinter(varn, std::make_unique<RecordingPrinter>(documents, chosen));
     EXPECT_EQ(paperLabel(varn), "A4 Portrait(297 X 210) mm") << "as chosen with the printer";
     EXPECT_EQ(varn.Printer.FontSize, 10);
 
-    setPaper(varn, 2);
+    setPaper(varn, PageOrientation::Landscape);
     varn.MapFontSize = 14;
     varn.MapFontName = "Courier";
     varn.MapFontItalic = true;
     varn.Printer.FontBold = true;
     varn.Printer.DrawWidth = 5; // as a symbol leaves it
-    varn.Printer.FillStyle = 0;
+    varn.Printer.FillStyle = DrawSurface::Fill::Solid;
     beginDocument(varn, varn, "Test - List");
     varn.Printer.PrintAt(0, 0, "list");
     newPage(varn);
@@ -94,7 +94,7 @@ TEST(Printing, EachPageHasThePaperAndTheFontChosenWhenTheDocumentBegins)
     endDocument(varn);
     ASSERT_EQ(documents.size(), 1U);
     EXPECT_EQ(documents[0].name, "Test - List");
-    EXPECT_EQ(documents[0].orientation, 2);
+    EXPECT_EQ(documents[0].orientation, PageOrientation::Landscape);
     ASSERT_EQ(documents[0].size(), 2U);
     EXPECT_EQ(documents[0][0].fonts.at(0), (TextFont{"Courier", 14, false, true}));
     EXPECT_EQ(transcript(documents[0][0]), "\n\"list\" 1134,850.5 14pt italic\n");

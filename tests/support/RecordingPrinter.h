@@ -10,7 +10,7 @@ public:
     struct Document : std::vector<Drawing>
     {
         QString name;
-        int orientation;
+        PageOrientation orientation;
     };
     using Documents = std::vector<Document>;
 

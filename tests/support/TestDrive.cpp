@@ -1,7 +1,6 @@
 #include "tests/support/TestDrive.h"
 
 #include "mapdata/MapFiles.h"
-#include "render/MapSize.h"
 
 #include <QDir>
 #include <QFile>
@@ -53,7 +52,6 @@ TestSurvey::TestSurvey()
     LoadLineData(varn.Drive, varn.VarnPath, varn.VarnMapName, varn);
     LoadLocateData(varn.Drive, varn.VarnPath, varn.VarnMapName, varn);
     LoadKanjiData(varn.Drive, varn.VarnPath, varn.VarnMapName, varn);
-    setFirstSize(frmMap);
 }
 
 bool anyFont()

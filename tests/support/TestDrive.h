@@ -2,6 +2,7 @@
 
 #include "platform/DriveC.h"
 #include "platform/RunTimeError.h"
+#include "render/MapSize.h"
 #include "shell/VarnModule.h"
 
 #include <QTemporaryDir>
@@ -41,7 +42,7 @@ public:
 
     VarnModule varn;
     DrawSurface frmMap;
-    MapSurfaces surfaces{frmMap, frmMap};
+    MapSurfaces surfaces{{frmMap, frmMap}, firstArea()};
 };
 
 /// Runs `action` and returns the run-time's error that it ends with; fails the test where there is none.

@@ -87,7 +87,8 @@ private:
     {
         m_out << (fill == 0 ? "" : " filled " + color(fill));
         if (pen >= 0) {
-            m_out << " pen " << penAt(pen).width << '/' << penAt(pen).style << '/' << color(penAt(pen).color);
+            m_out << " pen " << penAt(pen).width << '/' << static_cast<int>(penAt(pen).style) << '/'
+                  << color(penAt(pen).color);
         }
         m_out << '\n';
     }

@@ -101,7 +101,8 @@ TEST_F(DataForm, AllPagesArePrintedAsOneDocument)
     EXPECT_EQ(printedAt(documents[0][0], "** PAGE = 1 / 3").toPoint(),
               (QPointF(varn.LeftMargin, varn.TopMargin) * TwipsPerMm).toPoint());
 
-    setPaper(varn, 1); // the pages shown lie across, those printed from now on are upright
+    // The pages shown lie across, those printed from now on are upright.
+    setPaper(varn, PageOrientation::Portrait);
     dialogs.yesNo = {true};
     trigger<frmData>("mnuPrint");
     const double end = printedAt(documents.at(1)[0], "many.dbs").x();

@@ -21,7 +21,7 @@ PrintedDocument onePage()
 {
     DrawSurface page;
     page.FilledBox(567, 567, 5670, 1134, qRgb(0, 0, 0));
-    return {QStringLiteral("Island - rain"), 2, {page.drawing()}};
+    return {QStringLiteral("Island - rain"), PageOrientation::Landscape, {page.drawing()}};
 }
 
 QByteArray bytesOf(const QString& file)
@@ -55,7 +55,7 @@ TEST(PrinterDevice, EveryDocumentHasAFileOfItsOwn)
     EXPECT_TRUE(first.contains(QByteArray("\0I\0s\0l\0a\0n\0d\0 \0-\0 \0r\0a\0i\0n", 26))) << "its title";
 
     PrintedDocument upright = onePage();
-    upright.orientation = 1;
+    upright.orientation = PageOrientation::Portrait;
     upright.pages.push_back(upright.pages.front());
     device.print(upright);
     EXPECT_EQ(bytesOf(file("map.v1.pdf")), first);

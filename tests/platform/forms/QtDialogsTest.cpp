@@ -266,7 +266,7 @@ TEST_F(DialogsOfTheDesktop, AFontThatIsNotInstalledKeepsItsNameUntilAnotherIsCho
 
 TEST_F(DialogsOfTheDesktop, ThePrinterDialogShowsThePageAndGivesBackWhatIsChanged)
 {
-    const PageLayout layout{"A4", 2, 210, 297, 32, 34, 31, 33};
+    const PageLayout layout{"A4", PageOrientation::Landscape, 210, 297, 32, 34, 31, 33};
     const auto look = [](const Answer& answer) {
         return [answer](QDialog& dialog) {
             auto& print = dynamic_cast<QPrintDialog&>(dialog);
@@ -291,10 +291,10 @@ TEST_F(DialogsOfTheDesktop, ThePrinterDialogShowsThePageAndGivesBackWhatIsChange
     ASSERT_NE(printer, nullptr);
     PageLayout chosen;
     printer->takeChoices(chosen);
-    EXPECT_EQ(chosen.PaperOrientation, 1);
+    EXPECT_EQ(chosen.PaperOrientation, PageOrientation::Portrait);
     EXPECT_EQ(QMargins(chosen.LeftMargin, chosen.TopMargin, chosen.RightMargin, chosen.BottomMargin),
               QMargins(41, 42, 43, 15))
         << "the lower margin stays, which was left as it was shown";
-    printer->print({QStringLiteral("Island"), 1, {Drawing()}});
+    printer->print({QStringLiteral("Island"), PageOrientation::Portrait, {Drawing()}});
     EXPECT_TRUE(folder.read("C:\\map.pdf").startsWith("%PDF"));
 }

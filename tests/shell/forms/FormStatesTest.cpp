@@ -350,8 +350,8 @@ TEST_F(FormStates, TheMapFormBeginsInTheCornerOfTheScreenAndItsPlaceCounts)
     const std::tuple<QPoint, float, float> places[] = {{{-30, -30}, 0, 0}, {{30, 20}, 450, 300}};
     for (const auto& [place, left, top] : places) {
         Program::map().move(corner + place);
-        const DrawSurface& surface = Program::map().surfaces().frmMap;
-        EXPECT_EQ(surface.Left, left);
-        EXPECT_EQ(surface.Top, top);
+        const FormArea area = Program::map().surfaces().area;
+        EXPECT_EQ(area.Left, left);
+        EXPECT_EQ(area.Top, top);
     }
 }

@@ -53,7 +53,7 @@ TEST_F(LoadedProgram, TheSwitchSendsEveryDrawingToThePrinter)
     program.menu("mnuMapBlank").trigger();
     const Drawing blankMap = program.drawing();
     PageLayout chosen;
-    chosen.PaperOrientation = 1;
+    chosen.PaperOrientation = PageOrientation::Portrait;
     chosen.LeftMargin = 10;
     choosePrinter(chosen);
     EXPECT_EQ(control<QLineEdit>("txtLeftMergin").text(), "10");
@@ -66,7 +66,7 @@ TEST_F(LoadedProgram, TheSwitchSendsEveryDrawingToThePrinter)
     EXPECT_EQ(printSwitch().text(), "Print A4 Landscape");
 
     EXPECT_EQ(printed("mnuMapBlank"), "Test - Blank Map");
-    EXPECT_EQ(documents.back().orientation, 2);
+    EXPECT_EQ(documents.back().orientation, PageOrientation::Landscape);
     EXPECT_EQ(documents.back().at(0).texts, blankMap.texts);
     EXPECT_EQ(printed("mnuMapLing"), "Test - rain");
     EXPECT_EQ(program.map().statusBar()->currentMessage(), "Printed: Test - rain");
