@@ -37,11 +37,6 @@ void SaveTotalFile(const DriveC& drive, const QString& path, int localities, Cum
 /// Whether `path` is that of the file that was loaded or saved last.
 bool isOwnFile(const CumulativeData& data, const QString& path);
 
-/// Whether the table is not what its file holds, and whether the identifying strings are not what theirs
-/// holds.
-bool isTableUnsaved(const CumulativeData& data, int localities);
-bool areCharsUnsaved(const CumulativeData& data);
-
 /// Loads the `.sum` file at `path`. A load that fails leaves the strings as they were.
 void LoadSetData(const DriveC& drive, const QString& path, CumulativeData& data);
 

@@ -13,6 +13,9 @@ struct DiffusionSymbols
     BoundedArray<HankoStyle, Bounds{1, 10}> DiffusionHanko;
     BoundedArray<qint16, Bounds{1, 10}> MinimumPoints;
     BoundedArray<QString, Bounds{1, 10}> DiffusionCaption;
+
+    /// Whether the symbols are the same: what stands behind the last one does not count.
+    bool operator==(const DiffusionSymbols& other) const;
 };
 
 /// Reads a `.htL` file: comment and number of records; then a line for each word form with symbol number,

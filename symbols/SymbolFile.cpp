@@ -50,6 +50,7 @@ void LoadHankoData(const DriveC& drive, const QString& path, SymbolSet& set)
     fresh.SymbolFilePath = path;
     fresh.CurrentHanko = fresh.NHanrei;
     fresh.HankoReading = set.HankoReading + 1;
+    fresh.SavedRecords.keep(fresh);
     set = std::move(fresh);
 }
 

@@ -263,7 +263,7 @@ void frmCalc::showState()
     const QString& name = m_varn.TotalFileName;
     const QString file = name.isEmpty() ? name : name + TotalFiles.ending;
     showTitle({FormTitle, m_varn.VarnMapName.mid(1), file},
-              isTableUnsaved(m_varn, m_varn.NLocality) || areCharsUnsaved(m_varn) || isEdited());
+              isTableUnsaved(m_varn) || areCharsUnsaved(m_varn) || isEdited());
     showStatus(status());
 }
 
@@ -276,8 +276,7 @@ QStringList frmCalc::status() const
         parts << QStringLiteral("Counts of %1 word forms over %2 items%3")
                      .arg(m_varn.NumWordforms)
                      .arg(m_varn.NumItemsAccumulated)
-                     .arg(isTableUnsaved(m_varn, m_varn.NLocality) ? QStringLiteral(", not saved")
-                                                                   : QString());
+                     .arg(isTableUnsaved(m_varn) ? QStringLiteral(", not saved") : QString());
         const QString file = analysisFileStem(m_varn.SpecifyFileName, StringFiles.ending);
         parts << QStringLiteral("Strings: %1%2")
                      .arg(file.isEmpty() ? QStringLiteral("no file") : file + StringFiles.ending,

@@ -44,7 +44,7 @@ std::optional<QString> frmCalc::askForFile(const QString& title, const QString& 
 
 bool frmCalc::mayGiveUpTable(const QString& question)
 {
-    return !isTableUnsaved(m_varn, m_varn.NLocality) ||
+    return !isTableUnsaved(m_varn) ||
            dialogs().confirmLoss(
                QStringLiteral("The cumulative data has changes that are not saved. ") + question, FormTitle);
 }

@@ -42,8 +42,10 @@ void frmRankData::LoadRankFile(const QString& path)
     m_ui->txtRankFileName->setText(analysisFileStem(path, Ending));
     followTable();
     showBoxes(boxesOf(m_varn));
-    m_savedBoxes = boxes();
-    m_groupsEdited = !differing.isEmpty();
+    m_saved.keep(settings());
+    if (!differing.isEmpty()) {
+        m_saved.forget(); // the file has other names
+    }
 }
 
 std::optional<QString> frmRankData::savePath()
@@ -64,8 +66,7 @@ void frmRankData::mnuRankSave_Click()
         SetRankData();
         SaveRankFile(m_varn.Drive, *path, m_varn);
         m_ui->txtRankFileName->setText(analysisFileStem(*path, Ending));
-        m_savedBoxes = boxes();
-        m_groupsEdited = false;
+        m_saved.keep(settings());
         if (m_page > 0) {
             DisplayRank(); // under the name it has now
         }

@@ -93,8 +93,7 @@ private:
     int m_wordform = 0;
     /// The names of the word forms when they were listed last.
     QStringList m_names;
-    /// The symbols as they were loaded or saved last.
-    QByteArray m_saved;
+    Saved<DiffusionSymbols> m_saved;
     bool m_prepared = false;
     bool m_showing = false;
 };

@@ -9,7 +9,7 @@
 
 bool frmTotalHanko::isEdited() const
 {
-    return m_prepared && m_saved != fileContents(m_varn);
+    return m_prepared && m_saved.differs(m_varn);
 }
 
 bool frmTotalHanko::mayGiveUpWork(const QString& question)
@@ -35,7 +35,7 @@ void frmTotalHanko::LoadTotalHanko(const QString& path)
     DiffusionSymbols loaded = readSequentialFile(m_varn.Drive, path, readDiffusionSymbols);
     const int records = loaded.NDiffusion;
     static_cast<DiffusionSymbols&>(m_varn) = std::move(loaded);
-    m_saved = fileContents(m_varn);
+    m_saved.keep(m_varn);
     m_ui->txtFileName->setText(analysisFileStem(path, Ending));
     followWordforms(m_varn, m_names, m_varn);
     showWordform();
@@ -66,6 +66,6 @@ void frmTotalHanko::mnuTotalHankoSave_Click()
         writeSequentialFile(m_varn.Drive, *path,
                             [this](SequentialWriter& file) { writeDiffusionSymbols(file, m_varn); });
         m_ui->txtFileName->setText(analysisFileStem(*path, Ending));
-        m_saved = fileContents(m_varn);
+        m_saved.keep(m_varn);
     }
 }

@@ -61,7 +61,7 @@ void frmMap::mnuInputWord_Click()
 
 void frmMap::mnuHankoInput_Click()
 {
-    if (m_varn.HankoUnsaved &&
+    if (isSymbolSetUnsaved(m_varn) &&
         !dialogs().askYesNo(QStringLiteral("The symbol set is not saved and will be lost. Go on ?"),
                             QStringLiteral("Load Symbol File"))) {
         return;

@@ -9,7 +9,7 @@
 
 bool frmSetHanko::mayGiveUpWork(const QString& question)
 {
-    if (!m_varn.HankoUnsaved) {
+    if (!isSymbolSetUnsaved(m_varn)) {
         return mayGiveUpFields(question);
     }
     return dialogs().confirmLoss(QStringLiteral("The symbol set has changes that are not saved. ") + question,
@@ -93,7 +93,6 @@ void frmSetHanko::ResetHankoData(const QString& path)
 {
     LoadHankoData(path);
     showSet();
-    m_history.noteSaved(m_varn);
     m_savedForItem = m_varn.ItemFileName;
 }
 

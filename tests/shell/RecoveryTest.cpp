@@ -16,7 +16,7 @@ protected:
         varn.HankoWord(1) = QStringLiteral("ka\\N1a");
         varn.Hanko(1) = {12, 3, 4, 1, 2, 0};
         varn.SymbolFileName = QStringLiteral("rain.han");
-        varn.HankoUnsaved = true;
+        varn.SavedRecords.forget();
         setNumWordforms(varn, 2);
         varn.WordformName(2) = QStringLiteral("two");
         varn.NumSpecifyChars(1) = 11;
@@ -85,15 +85,18 @@ TEST_F(RecoveryOf, AllKindsOfWorkComeBackAsUnsaved)
 TEST_F(RecoveryOf, ATableIsUnsavedAgainstItsFile)
 {
     SaveTotalFile(varn.Drive, totalFilePath(varn.dataFolder(), varn), varn.NLocality, varn);
+    LoadTotalFile(varn.Drive, varn.TotalFilePath, varn.NLocality, varn);
     varn.Counts(2, 3) = 8;
-    varn.HankoUnsaved = false;
+    varn.SavedRecords.keep(varn);
     const UnsavedWork work = unsavedWork(varn, std::nullopt);
     EXPECT_EQ(describe(work), QStringLiteral("cumulative data sum"));
     static_cast<CumulativeData&>(varn) = {};
     restoreWork(work, varn);
     EXPECT_EQ(varn.TotalFilePath, varn.dataFolder() + QStringLiteral("\\sum.ttl"));
-    EXPECT_EQ(varn.SavedTable.Counts(2, 3), 7);
     EXPECT_EQ(varn.Counts(2, 3), 8);
+    EXPECT_TRUE(isTableUnsaved(varn));
+    varn.Counts(2, 3) = 7;
+    EXPECT_FALSE(isTableUnsaved(varn)) << "as the file holds it";
 }
 
 TEST_F(RecoveryOf, NothingUnsavedLeavesNothingBehind)

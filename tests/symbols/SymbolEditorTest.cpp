@@ -87,7 +87,7 @@ TEST(SymbolEditor, RecordsAreEnteredOneAfterTheOther)
     EXPECT_EQ(set.HankoCaption(1), QStringLiteral("Ame"));
     EXPECT_EQ(set.Hanko(1), (HankoStyle{2, 0, 0, 0, 1, 1}));
     EXPECT_EQ(set.Explain, QStringLiteral("a comment"));
-    EXPECT_TRUE(set.HankoUnsaved);
+    EXPECT_TRUE(isSymbolSetUnsaved(set));
 
     fields = editor.next(fields).value();
     EXPECT_EQ(editor.counter(), QStringLiteral("2/New"));
@@ -137,9 +137,9 @@ TEST_F(ThreeRecords, ANumberTooLargeStoresNothing)
 TEST_F(ThreeRecords, InsertingShiftsTheRecordsBehind)
 {
     set.HankoCaption(3) = QStringLiteral("caption 3");
-    set.HankoUnsaved = false;
+    set.SavedRecords.keep(set);
     EXPECT_EQ(editor.insertRecord(4, QString()), std::nullopt);
-    EXPECT_FALSE(set.HankoUnsaved);
+    EXPECT_FALSE(isSymbolSetUnsaved(set));
     editor.insertRecord(2, QString());
     EXPECT_EQ(kinds(set), QStringLiteral("k1  k2 k3"));
     EXPECT_EQ(editor.counter(), QStringLiteral("2/4"));
@@ -147,7 +147,9 @@ TEST_F(ThreeRecords, InsertingShiftsTheRecordsBehind)
     EXPECT_EQ(set.Hanko(3).HankoNo, 2);
     EXPECT_EQ(set.HankoCaption(4), QStringLiteral("caption 3"));
     EXPECT_EQ(editor.lastShown(), 4);
-    EXPECT_TRUE(set.HankoUnsaved);
+    EXPECT_TRUE(isSymbolSetUnsaved(set));
+    editor.deleteRecord(2);
+    EXPECT_FALSE(isSymbolSetUnsaved(set)) << "taken back; what stands behind the set is no work";
 }
 
 TEST_F(ThreeRecords, InsertingAtZeroMakesTheScratchRecordCurrent)

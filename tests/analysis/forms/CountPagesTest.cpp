@@ -322,7 +322,7 @@ TEST_F(ItemFolder, ASaveThatFailsLeavesTheTableOfTheFile)
     EXPECT_EQ(varn.NumItemsAccumulated, 0);
     EXPECT_EQ(varn.Counts(1, 1), 0);
     EXPECT_EQ(varn.CountedItems, QStringList());
-    EXPECT_FALSE(isTableUnsaved(varn, 2));
+    EXPECT_FALSE(isTableUnsaved(varn));
 }
 
 TEST_F(ItemFolder, AStoppedRunIsResumedWithTheTableReadAgain)
@@ -373,21 +373,21 @@ TEST_F(ItemFolder, ATableThatAnotherProgramSavedIsNotSavedOver)
 
 TEST_F(ItemFolder, UnsavedIsWhatDiffersFromTheFile)
 {
-    EXPECT_FALSE(isTableUnsaved(varn, 2)) << "a number of word forms is nothing to lose";
+    EXPECT_FALSE(isTableUnsaved(varn)) << "a number of word forms is nothing to lose";
     EXPECT_TRUE(areCharsUnsaved(varn));
     varn.WordformName(1) = QStringLiteral("w");
-    EXPECT_TRUE(isTableUnsaved(varn, 2));
+    EXPECT_TRUE(isTableUnsaved(varn));
     SaveTotalFile(survey.drive(), totalFilePath(Folder, varn), 2, varn);
     SaveSetData(survey.drive(), Folder + QStringLiteral("\\all.sum"), varn);
-    EXPECT_FALSE(isTableUnsaved(varn, 2));
+    EXPECT_FALSE(isTableUnsaved(varn));
     EXPECT_FALSE(areCharsUnsaved(varn));
     varn.Counts(1, 2) = 1;
     varn.SpecifyChars(1, 1) = QStringLiteral("A");
-    EXPECT_TRUE(isTableUnsaved(varn, 2));
+    EXPECT_TRUE(isTableUnsaved(varn));
     EXPECT_TRUE(areCharsUnsaved(varn));
     LoadTotalFile(survey.drive(), Folder + QStringLiteral("\\all.ttl"), 2, varn);
     LoadSetData(survey.drive(), Folder + QStringLiteral("\\all.sum"), varn);
-    EXPECT_FALSE(isTableUnsaved(varn, 2));
+    EXPECT_FALSE(isTableUnsaved(varn));
     EXPECT_FALSE(areCharsUnsaved(varn));
 
     EXPECT_EQ(errorOf([&] { setNumWordforms(varn, 11); }).number(), ErrorNumber::SubscriptOutOfRange);

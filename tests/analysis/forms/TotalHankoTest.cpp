@@ -231,7 +231,10 @@ TEST_F(TotalHanko, SymbolsAreSavedAndReadBack)
     const QByteArray saved = "\"c\",2\r\n50,1,9,1,1,0,2,\"w1\"\r\n2,2,10,1,1,0,1,\"w2\"\r\n";
     EXPECT_EQ(survey.read(path), saved);
 
-    type("txtHankoNumber", "51");
+    for (const char* number : {"49", "50", "51"}) {
+        type("txtHankoNumber", number);
+        EXPECT_EQ(form.isWindowModified(), number != std::string_view("50"));
+    }
     for (const bool overwrite : {false, true}) {
         dialogs.yesNo = {overwrite};
         trigger("mnuTotalHankoSave");

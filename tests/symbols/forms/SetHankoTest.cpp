@@ -202,7 +202,7 @@ TEST_F(OpenSetHanko, SavingAsksBeforeAFileIsReplaced)
     menu("mnuSaveHanko").trigger();
     EXPECT_EQ(dialogs.shown, std::vector<Shown>({nameQuestion, overwriteQuestion, nameQuestion}));
     EXPECT_EQ(survey.read(ling("rain.han")), TwoRecords);
-    EXPECT_TRUE(varn.HankoUnsaved);
+    EXPECT_TRUE(isSymbolSetUnsaved(varn));
 
     dialogs.inputs = {QStringLiteral("a\\b")};
     menu("mnuSaveHanko").trigger();
@@ -213,7 +213,7 @@ TEST_F(OpenSetHanko, SavingAsksBeforeAFileIsReplaced)
     EXPECT_EQ(dialogs.errors[0].title, QStringLiteral("Run-time error '52': Bad file name or number"));
     EXPECT_EQ(text("txtWord"), QStringLiteral("ame"));
     EXPECT_EQ(counter(), QStringLiteral("1/1"));
-    EXPECT_TRUE(varn.HankoUnsaved);
+    EXPECT_TRUE(isSymbolSetUnsaved(varn));
     EXPECT_EQ(varn.SymbolFileName, QString());
 }
 
@@ -435,9 +435,9 @@ TEST_F(OpenSetHanko, AfterASaveWhatIsTakenBackIsUnsaved)
     registerRecord("ame", "1");
     dialogs.inputs = {QStringLiteral("new")};
     menu("mnuSaveHanko").trigger();
-    EXPECT_FALSE(varn.HankoUnsaved);
+    EXPECT_FALSE(isSymbolSetUnsaved(varn));
     registerRecord("uyu", "2");
-    for (int times = 0; times < 50 && varn.HankoUnsaved; ++times) {
+    for (int times = 0; times < 50 && isSymbolSetUnsaved(varn); ++times) {
         menu("mnuUndo").trigger();
     }
     EXPECT_EQ(varn.HankoWord(1), QStringLiteral("ame"));
@@ -446,7 +446,7 @@ TEST_F(OpenSetHanko, AfterASaveWhatIsTakenBackIsUnsaved)
     }
     menu("mnuRedo").trigger();
     EXPECT_EQ(varn.NHanrei, 1);
-    EXPECT_FALSE(varn.HankoUnsaved);
+    EXPECT_FALSE(isSymbolSetUnsaved(varn));
 }
 
 TEST_F(OpenSetHanko, ATextBoxTakesBackItsOwnTypingFirst)
