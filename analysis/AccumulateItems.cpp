@@ -74,7 +74,7 @@ QStringList itemFiles(const DriveC& drive, const QString& folder)
     }
     QStringList paths;
     for (const QString& name :
-         dir.entryList({QStringLiteral("*.dbs")}, QDir::Files, QDir::Name | QDir::IgnoreCase)) {
+         dir.entryList({ItemFiles.pattern()}, QDir::Files, QDir::Name | QDir::IgnoreCase)) {
         paths << folder + QLatin1Char('\\') + name;
     }
     return paths;

@@ -148,7 +148,7 @@ std::optional<RunTimeError> LoadTotalFile(const DriveC& drive, const QString& pa
 
 QString totalFilePath(const QString& folder, const CumulativeData& data)
 {
-    return folder + QLatin1Char('\\') + data.TotalFileName + QStringLiteral(".ttl");
+    return folder + QLatin1Char('\\') + data.TotalFileName + TotalFiles.ending;
 }
 
 void SaveTotalFile(const DriveC& drive, const QString& path, int localities, CumulativeData& data)

@@ -1,9 +1,14 @@
 #pragma once
 
 #include "analysis/CumulativeTable.h"
+#include "platform/FileKind.h"
 #include "platform/SequentialFile.h"
 
 #include <optional>
+
+/// Counts, and identifying strings.
+inline constexpr FileKind TotalFiles{QLatin1String("Total Files"), QLatin1String(".ttl")};
+inline constexpr FileKind StringFiles{QLatin1String("Sum Files"), QLatin1String(".sum")};
 
 /// Reads a `.ttl` file: the number of word forms, of items, and the caption; three lines a word form; then
 /// the counts of each of `localities` localities, which the file does not know. Raises subscript out of range

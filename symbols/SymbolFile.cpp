@@ -68,12 +68,12 @@ RunTimeError ofRecord(const RunTimeError& error, const SymbolSet& set, int k)
 
 QString symbolFileStem(const QString& name)
 {
-    return withoutEnding(name, QStringLiteral(".han"));
+    return withoutEnding(name, SymbolFiles.ending);
 }
 
 QString symbolFilePath(const Folders& folders, const QString& name)
 {
-    QString path = folders.dataFolder() + QLatin1Char('\\') + symbolFileStem(name) + QStringLiteral(".han");
+    QString path = folders.dataFolder() + QLatin1Char('\\') + symbolFileStem(name) + SymbolFiles.ending;
     if (!isFileName(name)) {
         throw RunTimeError(ErrorNumber::BadFileName).at({path});
     }

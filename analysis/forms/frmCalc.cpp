@@ -5,7 +5,6 @@
 #include "platform/forms/ColorList.h"
 #include "platform/forms/ThemeColors.h"
 #include "render/forms/WordDelegate.h"
-#include "shell/FileKinds.h"
 #include "shell/VarnModule.h"
 #include "ui_frmCalc.h"
 
@@ -277,7 +276,7 @@ QStringList frmCalc::status() const
                      .arg(m_varn.NumWordforms)
                      .arg(m_varn.NumItemsAccumulated)
                      .arg(isTableUnsaved(m_varn) ? QStringLiteral(", not saved") : QString());
-        const QString file = analysisFileStem(m_varn.SpecifyFileName, StringFiles.ending);
+        const QString file = analysisFileStem(m_varn.SpecifyFileName, StringFiles);
         parts << QStringLiteral("Strings: %1%2")
                      .arg(file.isEmpty() ? QStringLiteral("no file") : file + StringFiles.ending,
                           areCharsUnsaved(m_varn) ? QStringLiteral(", not saved") : QString());
@@ -292,7 +291,7 @@ void frmCalc::showNewState()
 {
     if (m_prepared) {
         showTable();
-        m_ui->txtSetFileName->setText(analysisFileStem(m_varn.SpecifyFileName, StringFiles.ending));
+        m_ui->txtSetFileName->setText(analysisFileStem(m_varn.SpecifyFileName, StringFiles));
         SetKindWord();
     }
     VarnForm::showNewState();

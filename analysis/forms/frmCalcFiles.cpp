@@ -4,8 +4,8 @@
 #include "analysis/CumulativeFile.h"
 #include "analysis/OpenTotal.h"
 #include "analysis/forms/frmCalc.h"
+#include "platform/FileKind.h"
 #include "platform/FileName.h"
-#include "shell/FileKinds.h"
 #include "shell/VarnModule.h"
 #include "ui_frmCalc.h"
 
@@ -59,7 +59,7 @@ bool frmCalc::mayGiveUpStrings(const QString& question)
 
 void frmCalc::takeFileName()
 {
-    m_varn.TotalFileName = withoutEnding(m_ui->txtTotalFileName->text().trimmed(), QStringLiteral(".ttl"));
+    m_varn.TotalFileName = withoutEnding(m_ui->txtTotalFileName->text().trimmed(), TotalFiles.ending);
 }
 
 void frmCalc::mnuFileOpen_Click()
@@ -102,7 +102,7 @@ void frmCalc::Initialize()
 
 void frmCalc::showFileOfStrings()
 {
-    m_ui->txtSetFileName->setText(analysisFileStem(m_varn.SpecifyFileName, StringFiles.ending));
+    m_ui->txtSetFileName->setText(analysisFileStem(m_varn.SpecifyFileName, StringFiles));
 }
 
 void frmCalc::LoadSetData()
@@ -122,12 +122,12 @@ void frmCalc::SaveSetData()
 {
     const QString name = m_ui->txtSetFileName->text().trimmed();
     const QString title = QStringLiteral("Save Specify Char File");
-    if (analysisFileStem(name, StringFiles.ending).isEmpty()) {
+    if (analysisFileStem(name, StringFiles).isEmpty()) {
         dialogs().message(QStringLiteral("Input Name of Specify Characters."), title);
         m_ui->txtSetFileName->setFocus();
         return;
     }
-    const QString path = analysisFilePath(m_varn, name, StringFiles.ending);
+    const QString path = analysisFilePath(m_varn, name, StringFiles);
     const bool isOwn = path.compare(m_varn.SpecifyFileName, Qt::CaseInsensitive) == 0;
     if (!isOwn && !askToSave(dialogs(), m_varn.Drive, path, title)) {
         return;

@@ -2,7 +2,7 @@
 
 #include "analysis/forms/frmCalc.h"
 #include "lingdata/ItemLoader.h"
-#include "shell/FileKinds.h"
+#include "lingdata/LinguisticFile.h"
 #include "shell/VarnModule.h"
 #include "ui_frmCalc.h"
 

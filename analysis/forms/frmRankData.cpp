@@ -147,7 +147,8 @@ void frmRankData::refresh()
 void frmRankData::showState()
 {
     const QString name = m_ui->txtRankFileName->text().trimmed();
-    showTitle({FormTitle, m_varn.VarnMapName.mid(1), name.isEmpty() ? name : name + Ending}, isEdited());
+    showTitle({FormTitle, m_varn.VarnMapName.mid(1), name.isEmpty() ? name : name + ContrastFiles.ending},
+              isEdited());
 
     QStringList parts;
     if (m_varn.NumWordforms == 0) {

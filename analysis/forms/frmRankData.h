@@ -42,8 +42,6 @@ protected:
 
 private:
     static constexpr QLatin1String FormTitle{"Analysis for Contrast Map"};
-    /// Of the names of its files.
-    static constexpr QLatin1String Ending{".rnk"};
 
     void connectMenus();
     void connectButtons();

@@ -213,7 +213,9 @@ void frmTotalHanko::refresh()
 void frmTotalHanko::showState()
 {
     const QString name = m_ui->txtFileName->text().trimmed();
-    showTitle({FormTitle, m_varn.VarnMapName.mid(1), name.isEmpty() ? name : name + Ending}, isEdited());
+    showTitle(
+        {FormTitle, m_varn.VarnMapName.mid(1), name.isEmpty() ? name : name + DiffusionSymbolFiles.ending},
+        isEdited());
     if (m_wordform == 0) {
         showStatus({QStringLiteral("No cumulative data: open it in the form Accumulate Data")});
         return;

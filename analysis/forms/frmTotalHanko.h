@@ -45,8 +45,6 @@ protected:
 
 private:
     static constexpr QLatin1String FormTitle{"Set Symbols for Diffusion Map"};
-    /// Of the names of its files.
-    static constexpr QLatin1String Ending{".htL"};
 
     void connectControls();
     void connectFields();

@@ -1,10 +1,11 @@
 // The files of the map form: drawings that are saved or copied, items and symbols that are loaded.
 
 #include "lingdata/ItemLoader.h"
+#include "lingdata/LinguisticFile.h"
+#include "platform/FileKind.h"
 #include "platform/Numbers.h"
 #include "plot/DrawingFile.h"
 #include "render/forms/frmMap.h"
-#include "shell/FileKinds.h"
 #include "shell/VarnModule.h"
 #include "symbols/SymbolFile.h"
 

@@ -1,7 +1,7 @@
 // The file of the symbol set-up form, and what would be lost when the set or the form is left.
 
+#include "platform/FileKind.h"
 #include "platform/FileName.h"
-#include "shell/FileKinds.h"
 #include "shell/VarnModule.h"
 #include "symbols/SymbolFile.h"
 #include "symbols/forms/frmSetHanko.h"

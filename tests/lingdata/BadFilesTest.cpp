@@ -17,7 +17,7 @@ namespace {
 
 /// A kind of file: a good one with the count of its records as `@`, its loader, and the texts that it puts
 /// into the state.
-struct FileKind
+struct LoadedKind
 {
     QString path;
     QByteArray good;
@@ -30,7 +30,7 @@ const QString Item = Data + QStringLiteral("Test\\Ling\\rain.dbs");
 const QString Symbols = Data + QStringLiteral("Test\\Ling\\rain.han");
 const QString Kinds = Data + QStringLiteral("Test\\Ling\\rain.srt");
 
-std::vector<FileKind> fileKinds()
+std::vector<LoadedKind> fileKinds()
 {
     const QString map = Data + QStringLiteral("Test\\Map\\");
     return {
@@ -64,7 +64,7 @@ std::vector<FileKind> fileKinds()
     };
 }
 
-QByteArray withCount(const FileKind& kind, const QByteArray& count)
+QByteArray withCount(const LoadedKind& kind, const QByteArray& count)
 {
     QByteArray text = kind.good;
     return text.replace("@", count);
@@ -73,7 +73,7 @@ QByteArray withCount(const FileKind& kind, const QByteArray& count)
 /// A survey whose file of one kind can be exchanged, the item's kinds file out of the way.
 struct BadFile
 {
-    explicit BadFile(FileKind fileKind) : kind(std::move(fileKind))
+    explicit BadFile(LoadedKind fileKind) : kind(std::move(fileKind))
     {
         survey.write(kind.path, withCount(kind, "2"));
         kind.load(survey.varn);
@@ -88,7 +88,7 @@ struct BadFile
         EXPECT_EQ(kind.state(survey.varn), before) << shape << ' ' << qPrintable(kind.path);
     }
 
-    FileKind kind;
+    LoadedKind kind;
     TestSurvey survey;
     QString before;
 };
@@ -100,26 +100,26 @@ TEST(BadFiles, EachShapeIsAnErrorThatLeavesTheState)
     struct Shape
     {
         const char* name;
-        std::function<QByteArray(const FileKind&)> text;
+        std::function<QByteArray(const LoadedKind&)> text;
         ErrorNumber expected;
     };
     const Shape shapes[] = {
-        {"empty", [](const FileKind&) { return QByteArray(); }, ErrorNumber::InputPastEndOfFile},
-        {"one record short", [](const FileKind& kind) { return withCount(kind, "3"); },
+        {"empty", [](const LoadedKind&) { return QByteArray(); }, ErrorNumber::InputPastEndOfFile},
+        {"one record short", [](const LoadedKind& kind) { return withCount(kind, "3"); },
          ErrorNumber::InputPastEndOfFile},
-        {"a word for the count", [](const FileKind& kind) { return withCount(kind, "two"); },
+        {"a word for the count", [](const LoadedKind& kind) { return withCount(kind, "two"); },
          ErrorNumber::TypeMismatch},
-        {"a negative count", [](const FileKind& kind) { return withCount(kind, "-2"); },
+        {"a negative count", [](const LoadedKind& kind) { return withCount(kind, "-2"); },
          ErrorNumber::SubscriptOutOfRange},
         {"not text",
-         [](const FileKind&) {
+         [](const LoadedKind&) {
              return QByteArray("\x7f"
                                "ELF\0\1\2",
                                7);
          },
          ErrorNumber::TypeMismatch},
     };
-    for (const FileKind& kind : fileKinds()) {
+    for (const LoadedKind& kind : fileKinds()) {
         BadFile file(kind);
         for (const Shape& shape : shapes) {
             file.survey.write(kind.path, shape.text(kind));
@@ -139,7 +139,7 @@ TEST(BadFiles, EachShapeIsAnErrorThatLeavesTheState)
 
 TEST(BadFiles, AFileCutAnywhereIsLoadedWholeOrNotAtAll)
 {
-    for (const FileKind& kind : fileKinds()) {
+    for (const LoadedKind& kind : fileKinds()) {
         BadFile file(kind);
         const QByteArray whole = withCount(kind, "2");
         for (qsizetype length = 0; length < whole.size(); ++length) {
