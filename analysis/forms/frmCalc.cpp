@@ -41,14 +41,15 @@ int colorEntry(const QComboBox& box, int number)
 } // namespace
 
 frmCalc::frmCalc(VarnModule& varn, Dialogs& dialogs)
-    : VarnForm(dialogs), m_ui(std::make_unique<Ui::frmCalc>()), m_varn(varn), m_editor(varn)
+    : VarnForm(dialogs), m_ui(std::make_unique<Ui::frmCalc>()), m_varn(varn)
 {
     m_ui->setupUi(this);
     fillColorList(*m_ui->cboForeColor);
     fillColorList(*m_ui->cboFillColor);
-    for (QListWidget* list : {m_ui->lstTotal, m_ui->lstDisplay, m_ui->LstWord}) {
+    for (QListWidget* list : {m_ui->lstTotal, m_ui->lstDisplay}) {
         list->setItemDelegate(new WordDelegate(varn, list));
     }
+    m_ui->fraChars->edit(varn, dialogs, *this);
     showAsReadOnly(*m_ui->txtWordFileName);
     connectMenus();
     connectButtons();
@@ -85,20 +86,12 @@ void frmCalc::connectButtons()
     click(m_ui->cmdPrevious, &frmCalc::cmdPrevious_Click);
     click(m_ui->cmdSet, &frmCalc::cmdSet_Click);
     click(m_ui->cmdSetWord, &frmCalc::cmdSetWord_Click);
-    click(m_ui->cmdWordSelect, &frmCalc::cmdWordSelect_Click);
-    click(m_ui->cmdWordRewrite, &frmCalc::cmdWordRewrite_Click);
-    click(m_ui->cmdWordDelete, &frmCalc::cmdWordDelete_Click);
-    click(m_ui->cmdWordReset, &frmCalc::cmdWordReset_Click);
-    click(m_ui->cmdWordNext, &frmCalc::cmdWordNext_Click);
-    click(m_ui->cmdWordBefore, &frmCalc::cmdWordBefore_Click);
-    click(m_ui->cmdWordSave, &frmCalc::cmdWordSave_Click);
 }
 
 void frmCalc::connectFields()
 {
     handle(m_ui->lstDisplay, &QListWidget::currentRowChanged, &frmCalc::lstDisplay_Click);
     handle(m_ui->lstDisplay, &QListWidget::itemActivated, &frmCalc::cmdSetWord_Click);
-    handle(m_ui->LstWord, &QListWidget::currentRowChanged, &frmCalc::LstWord_Click);
     // A question is asked only when the click on the list is over.
     connect(
         m_ui->lstTotal, &QListWidget::currentRowChanged, this,
@@ -120,7 +113,7 @@ void frmCalc::Form_Load()
         if (!m_prepared) {
             m_prepared = true;
             showTable();
-            showFileOfStrings();
+            m_ui->fraChars->showFile();
         }
         followSharedState();
         SetKindWord();
@@ -180,9 +173,7 @@ void frmCalc::TotalSet(int k)
     SetTotal();
     TotalDataSpecified();
     SetTotalList();
-    m_editor.start();
-    SetTotalWordList();
-    showString();
+    m_ui->fraChars->showWordform();
 }
 
 void frmCalc::SetTotalList()
@@ -193,14 +184,6 @@ void frmCalc::SetTotalList()
         entries << QString::number(++k) + QLatin1Char(' ') + name;
     }
     fillList(*m_ui->lstTotal, entries, m_varn.NumWordforms > 0 ? m_varn.CurrentWordform - 1 : -1);
-}
-
-void frmCalc::SetTotalWordList()
-{
-    const QStringList strings = m_editor.strings();
-    fillList(*m_ui->LstWord, strings, m_editor.current() - 1);
-    m_ui->lblStrings->setText(
-        QStringLiteral("Strings of wordform %1: %2").arg(m_varn.CurrentWordform).arg(strings.size()));
 }
 
 void frmCalc::SetKindWord()
@@ -223,13 +206,6 @@ void frmCalc::showTable()
     TotalSet(m_varn.CurrentWordform);
 }
 
-void frmCalc::showString()
-{
-    const QSignalBlocker blocker(*m_ui->LstWord);
-    m_ui->LstWord->setCurrentRow(m_editor.current() - 1);
-    m_ui->txtInputWord->setText(m_editor.text());
-}
-
 frmCalc::WordformFields frmCalc::fields() const
 {
     return {m_ui->txtTotalName->text(), m_ui->cboForeColor->currentIndex(),
@@ -240,20 +216,14 @@ void frmCalc::refresh()
 {
     const int k = m_varn.CurrentWordform;
     const bool hasWordforms = m_varn.NumWordforms > 0;
-    const int strings = m_ui->LstWord->count();
     for (QWidget* control : std::initializer_list<QWidget*>{
-             m_ui->lstTotal, m_ui->txtTotalName, m_ui->cboForeColor, m_ui->cboFillColor, m_ui->cmdSet,
-             m_ui->txtInputWord, m_ui->cmdWordSelect, m_ui->cmdWordSave}) {
+             m_ui->lstTotal, m_ui->txtTotalName, m_ui->cboForeColor, m_ui->cboFillColor, m_ui->cmdSet}) {
         control->setEnabled(hasWordforms);
     }
     m_ui->cmdPrevious->setEnabled(hasWordforms && k > 1);
     m_ui->cmdNext->setEnabled(k < m_varn.NumWordforms);
-    m_ui->cmdWordRewrite->setEnabled(hasWordforms && strings > 0);
-    m_ui->cmdWordDelete->setEnabled(hasWordforms && strings > 0);
-    m_ui->cmdWordReset->setEnabled(hasWordforms && strings > 0);
-    m_ui->cmdWordBefore->setEnabled(m_editor.current() > 1);
-    m_ui->cmdWordNext->setEnabled(m_editor.current() < strings);
     m_ui->cmdSetWord->setEnabled(hasWordforms && m_varn.NKind > 0);
+    m_ui->fraChars->refresh();
     showState();
 }
 
@@ -291,7 +261,7 @@ void frmCalc::showNewState()
 {
     if (m_prepared) {
         showTable();
-        m_ui->txtSetFileName->setText(analysisFileStem(m_varn.SpecifyFileName, StringFiles));
+        m_ui->fraChars->showFile();
         SetKindWord();
     }
     VarnForm::showNewState();
