@@ -47,16 +47,6 @@ QString countFile(const DriveC& drive, const QString& path, int localities, Cumu
     }
 }
 
-/// `error`, which says how far the items were done.
-RunTimeError failedAfter(const AccumulationResult& result, const RunTimeError& error)
-{
-    QStringList details = {
-        error.detail(),
-        QStringLiteral("%1 of %2 items had been counted and saved.").arg(result.counted).arg(result.items)};
-    details.removeAll(QString());
-    return RunTimeError(error.number(), details.join(QLatin1Char('\n'))).at(error.place());
-}
-
 } // namespace
 
 void executeItem(const TableFile& file, const LinguisticData& item, int localities, CumulativeData& data)
@@ -74,7 +64,7 @@ QStringList itemFiles(const DriveC& drive, const QString& folder)
     }
     QStringList paths;
     for (const QString& name :
-         dir.entryList({QStringLiteral("*.dbs")}, QDir::Files, QDir::Name | QDir::IgnoreCase)) {
+         dir.entryList({ItemFiles.pattern()}, QDir::Files, QDir::Name | QDir::IgnoreCase)) {
         paths << folder + QLatin1Char('\\') + name;
     }
     return paths;
@@ -104,7 +94,9 @@ AccumulationResult accumulateItems(const TableFile& file, const ItemsToCount& it
         try {
             saveOrRestore(file, localities, before, data);
         } catch (const RunTimeError& error) {
-            throw failedAfter(result, error);
+            throw error.during(QStringLiteral("%1 of %2 items had been counted and saved.")
+                                   .arg(result.counted)
+                                   .arg(result.items));
         }
         ++result.counted;
     }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "analysis/CumulativeTable.h"
+#include "platform/FileKind.h"
 #include "platform/SequentialFile.h"
 
 /// Two groups of word forms to contrast, sides 1 and 2, and their difference at each locality.
@@ -33,6 +34,8 @@ void outdateSums(ContrastData& contrast);
 /// overflow, and subscript out of range for a word form that the table does not have; the sums are then as
 /// they were.
 void analyseContrast(const CumulativeTable& table, int localities, ContrastData& contrast);
+
+inline constexpr FileKind ContrastFiles{QLatin1String("RNK files"), QLatin1String(".rnk")};
 
 /// Reads a `.rnk` file: title, steps plus 1 and largest size; then for each side its count, its colours, and
 /// a line with name and number of each word form.

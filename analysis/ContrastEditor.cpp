@@ -46,12 +46,15 @@ void requireOfTable(const CumulativeTable& table, int k, const QString& name)
 
 } // namespace
 
-bool operator==(const ContrastBoxes& a, const ContrastBoxes& b)
+ContrastSettings settingsOf(const ContrastBoxes& boxes, const ContrastData& contrast)
 {
-    const auto colorsAgree = [&](int side) {
-        return a.setColor(side) == b.setColor(side) && a.fillColor(side) == b.fillColor(side);
-    };
-    return a.title == b.title && a.steps == b.steps && a.size == b.size && colorsAgree(1) && colorsAgree(2);
+    ContrastSettings settings{boxes, {}};
+    for (int side = 1; side <= 2; ++side) {
+        for (int t = 1; t <= contrast.ContrastCount(side); ++t) {
+            settings.wordforms(side).push_back(contrast.ContrastWord(side, t));
+        }
+    }
+    return settings;
 }
 
 ContrastBoxes newContrastBoxes()

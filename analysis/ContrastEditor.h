@@ -2,6 +2,8 @@
 
 #include "analysis/ContrastData.h"
 
+#include <vector>
+
 /// What the boxes of the contrast form hold.
 struct ContrastBoxes
 {
@@ -12,9 +14,22 @@ struct ContrastBoxes
     /// Colour numbers 0..15 of outline and fill of sides 1 and 2; -1 for an empty box.
     BoundedArray<int, Bounds{1, 2}> setColor;
     BoundedArray<int, Bounds{1, 2}> fillColor;
+
+    bool operator==(const ContrastBoxes&) const = default;
 };
 
-bool operator==(const ContrastBoxes& a, const ContrastBoxes& b);
+/// What is set in the contrast form: its boxes, and the numbers of the word forms of sides 1 and 2, whose
+/// names are the table's.
+struct ContrastSettings
+{
+    ContrastBoxes boxes;
+    BoundedArray<std::vector<int>, Bounds{1, 2}> wordforms;
+
+    bool operator==(const ContrastSettings&) const = default;
+};
+
+/// The settings of the groups of `contrast` under boxes that may hold something else than it does.
+ContrastSettings settingsOf(const ContrastBoxes& boxes, const ContrastData& contrast);
 
 /// What the boxes hold before anything was typed or loaded.
 ContrastBoxes newContrastBoxes();

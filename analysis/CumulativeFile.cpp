@@ -8,18 +8,11 @@
 
 namespace {
 
-QByteArray fileContents(const CumulativeTable& table, int localities)
-{
-    SequentialWriter file;
-    writeTotal(file, table, localities);
-    return file.bytes();
-}
-
 void totalIsAtPath(const QString& path, QByteArray bytes, CumulativeData& data)
 {
     data.TotalFilePath = path;
     data.TotalFileBytes = std::move(bytes);
-    data.SavedTable = data;
+    data.SavedTable.keep(data);
 }
 
 /// Keeps other programs from saving to the file at `path` at the same time. The lock of a program that ended
@@ -155,7 +148,7 @@ std::optional<RunTimeError> LoadTotalFile(const DriveC& drive, const QString& pa
 
 QString totalFilePath(const QString& folder, const CumulativeData& data)
 {
-    return folder + QLatin1Char('\\') + data.TotalFileName + QStringLiteral(".ttl");
+    return folder + QLatin1Char('\\') + data.TotalFileName + TotalFiles.ending;
 }
 
 void SaveTotalFile(const DriveC& drive, const QString& path, int localities, CumulativeData& data)
@@ -168,9 +161,10 @@ void SaveTotalFile(const DriveC& drive, const QString& path, int localities, Cum
         writeSequentialFile(drive, namesPath,
                             [&data](SequentialWriter& file) { writeCountedItems(file, data); });
     }
-    QByteArray bytes = fileContents(data, localities);
-    replaceFile(drive, path, bytes);
-    totalIsAtPath(path, std::move(bytes), data);
+    SequentialWriter file;
+    writeTotal(file, data, localities);
+    replaceFile(drive, path, file.bytes());
+    totalIsAtPath(path, file.bytes(), data);
     if (data.CountedItems.isEmpty() && isStaleBeside) {
         QFile::remove(drive.hostPath(namesPath));
     }
@@ -181,41 +175,16 @@ bool isOwnFile(const CumulativeData& data, const QString& path)
     return path.compare(data.TotalFilePath, Qt::CaseInsensitive) == 0;
 }
 
-bool isTableUnsaved(const CumulativeData& data, int localities)
-{
-    if (!data.TotalFilePath.isEmpty()) {
-        return fileContents(data, localities) != fileContents(data.SavedTable, localities);
-    }
-    CumulativeData begun;
-    setNumWordforms(begun, data.NumWordforms); // a number without names is nothing to lose
-    return fileContents(data, localities) != fileContents(begun, localities);
-}
-
-bool areCharsUnsaved(const CumulativeData& data)
-{
-    for (int k = 1; k <= data.NumWordforms; ++k) {
-        if (data.NumSpecifyChars(k) != data.SavedChars.NumSpecifyChars(k)) {
-            return true;
-        }
-        for (int c = 1; c <= data.NumSpecifyChars(k); ++c) {
-            if (data.SpecifyChars(k, c) != data.SavedChars.SpecifyChars(k, c)) {
-                return true;
-            }
-        }
-    }
-    return false;
-}
-
 void LoadSetData(const DriveC& drive, const QString& path, CumulativeData& data)
 {
     readSequentialFile(drive, path, [&data](SequentialReader& file) { readSpecifyChars(file, data); });
     data.SpecifyFileName = path;
-    data.SavedChars = data;
+    data.SavedChars.keep(data);
 }
 
 void SaveSetData(const DriveC& drive, const QString& path, CumulativeData& data)
 {
     writeSequentialFile(drive, path, [&data](SequentialWriter& file) { writeSpecifyChars(file, data); });
     data.SpecifyFileName = path;
-    data.SavedChars = data;
+    data.SavedChars.keep(data);
 }

@@ -1,9 +1,14 @@
 #pragma once
 
 #include "analysis/CumulativeTable.h"
+#include "platform/FileKind.h"
 #include "platform/SequentialFile.h"
 
 #include <optional>
+
+/// Counts, and identifying strings.
+inline constexpr FileKind TotalFiles{QLatin1String("Total Files"), QLatin1String(".ttl")};
+inline constexpr FileKind StringFiles{QLatin1String("Sum Files"), QLatin1String(".sum")};
 
 /// Reads a `.ttl` file: the number of word forms, of items, and the caption; three lines a word form; then
 /// the counts of each of `localities` localities, which the file does not know. Raises subscript out of range
@@ -36,11 +41,6 @@ void SaveTotalFile(const DriveC& drive, const QString& path, int localities, Cum
 
 /// Whether `path` is that of the file that was loaded or saved last.
 bool isOwnFile(const CumulativeData& data, const QString& path);
-
-/// Whether the table is not what its file holds, and whether the identifying strings are not what theirs
-/// holds.
-bool isTableUnsaved(const CumulativeData& data, int localities);
-bool areCharsUnsaved(const CumulativeData& data);
 
 /// Loads the `.sum` file at `path`. A load that fails leaves the strings as they were.
 void LoadSetData(const DriveC& drive, const QString& path, CumulativeData& data);

@@ -33,7 +33,26 @@ void beginWordform(CumulativeData& data, int k)
     data.WordformPaintColor(k) = static_cast<qint16>(color);
 }
 
+/// Whether there is nothing in the table but a number of word forms.
+bool isJustBegun(const CumulativeTable& table)
+{
+    CumulativeData begun;
+    setNumWordforms(begun, table.NumWordforms);
+    return static_cast<const CumulativeTable&>(begun) == table;
+}
+
 } // namespace
+
+bool SpecifiedChars::operator==(const SpecifiedChars& other) const
+{
+    bool same = NumSpecifyChars == other.NumSpecifyChars;
+    for (int k = 1; same && k <= SpecifyChars.last(); ++k) {
+        for (int c = 1; same && c <= NumSpecifyChars(k); ++c) {
+            same = SpecifyChars(k, c) == other.SpecifyChars(k, c);
+        }
+    }
+    return same;
+}
 
 void setNumWordforms(CumulativeData& data, int number)
 {
@@ -48,6 +67,17 @@ void setNumWordforms(CumulativeData& data, int number)
     }
     data.NumWordforms = number;
     data.CurrentWordform = 1;
+}
+
+bool isTableUnsaved(const CumulativeData& data)
+{
+    const bool isNew = data.TotalFilePath.isEmpty();
+    return data.SavedTable.differs(data) && !(isNew && isJustBegun(data));
+}
+
+bool areCharsUnsaved(const CumulativeData& data)
+{
+    return data.SavedChars.differs(data);
 }
 
 bool hasContents(const CumulativeData& data, int k)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/BoundedArray.h"
+#include "platform/Saved.h"
 
 #include <QStringList>
 #include <QVariant>
@@ -23,6 +24,8 @@ struct CumulativeTable
     BoundedArray<qint16, Bounds{0, 10}, Bounds{0, 1000}> Counts;
     /// Names of the item files counted, in their order, as far as they are known.
     QStringList CountedItems;
+
+    bool operator==(const CumulativeTable&) const = default;
 };
 
 /// The strings that identify each distinguished word form in the answers.
@@ -32,6 +35,9 @@ struct SpecifiedChars
     BoundedArray<qint16, Bounds{0, 400}> NumSpecifyChars;
     /// The c-th string of word form k.
     BoundedArray<QString, Bounds{0, 10}, Bounds{0, 400}> SpecifyChars;
+
+    /// Whether the word forms have the same strings: what stands behind their last ones does not count.
+    bool operator==(const SpecifiedChars& other) const;
 };
 
 /// The loaded cumulative table with its identifying strings.
@@ -44,13 +50,11 @@ struct CumulativeData : CumulativeTable, SpecifiedChars
     /// The word form shown and drawn next, 1..NumWordforms.
     int CurrentWordform = 1;
 
-    /// Path of the cumulative file loaded or saved last, empty where there was none; its bytes, and the table
-    /// that they are of.
+    /// Path of the cumulative file loaded or saved last, empty where there was none, and its bytes.
     QString TotalFilePath;
     QByteArray TotalFileBytes;
-    CumulativeTable SavedTable;
-    /// The identifying strings as they were loaded or saved last.
-    SpecifiedChars SavedChars;
+    Saved<CumulativeTable> SavedTable;
+    Saved<SpecifiedChars> SavedChars;
 };
 
 /// Makes `number` the number of distinguished word forms; the first becomes the current one. Those that are
@@ -58,6 +62,11 @@ struct CumulativeData : CumulativeTable, SpecifiedChars
 /// strings. Raises subscript out of range for a number that the table has no place for; nothing is changed
 /// then.
 void setNumWordforms(CumulativeData& data, int number);
+
+/// Whether the table is not what its file holds, and whether the identifying strings are not what theirs
+/// holds. A new table is unsaved from the first name, caption, item or count on.
+bool isTableUnsaved(const CumulativeData& data);
+bool areCharsUnsaved(const CumulativeData& data);
 
 /// Whether word form k has a name, a count or an identifying string.
 bool hasContents(const CumulativeData& data, int k);

@@ -35,13 +35,6 @@ void followWordforms(const CumulativeTable& table, const QStringList& formerName
     symbols.NDiffusion = table.NumWordforms;
 }
 
-QByteArray fileContents(const DiffusionSymbols& symbols)
-{
-    SequentialWriter writer;
-    writeDiffusionSymbols(writer, symbols);
-    return writer.bytes();
-}
-
 int markedLocalities(const CumulativeTable& table, const DiffusionSymbols& symbols, int k, int localities)
 {
     int marked = 0;

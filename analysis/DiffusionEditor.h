@@ -9,8 +9,5 @@
 /// word forms.
 void followWordforms(const CumulativeTable& table, const QStringList& formerNames, DiffusionSymbols& symbols);
 
-/// What the file of the symbols holds: two sets are the same where it is.
-QByteArray fileContents(const DiffusionSymbols& symbols);
-
 /// At how many of `localities` localities the symbol of word form k is drawn.
 int markedLocalities(const CumulativeTable& table, const DiffusionSymbols& symbols, int k, int localities);

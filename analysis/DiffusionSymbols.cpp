@@ -2,6 +2,16 @@
 
 #include "symbols/SymbolFile.h"
 
+bool DiffusionSymbols::operator==(const DiffusionSymbols& other) const
+{
+    bool same = DiffusionComment == other.DiffusionComment && NDiffusion == other.NDiffusion;
+    for (int k = 1; same && k <= NDiffusion; ++k) {
+        same = DiffusionHanko(k) == other.DiffusionHanko(k) && MinimumPoints(k) == other.MinimumPoints(k) &&
+               DiffusionCaption(k) == other.DiffusionCaption(k);
+    }
+    return same;
+}
+
 DiffusionSymbols readDiffusionSymbols(SequentialReader& file)
 {
     DiffusionSymbols symbols;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/BoundedArray.h"
+#include "platform/FileKind.h"
 #include "platform/SequentialFile.h"
 #include "symbols/SymbolSet.h"
 
@@ -13,7 +14,12 @@ struct DiffusionSymbols
     BoundedArray<HankoStyle, Bounds{1, 10}> DiffusionHanko;
     BoundedArray<qint16, Bounds{1, 10}> MinimumPoints;
     BoundedArray<QString, Bounds{1, 10}> DiffusionCaption;
+
+    /// Whether the symbols are the same: what stands behind the last one does not count.
+    bool operator==(const DiffusionSymbols& other) const;
 };
+
+inline constexpr FileKind DiffusionSymbolFiles{QLatin1String("HTL files"), QLatin1String(".htL")};
 
 /// Reads a `.htL` file: comment and number of records; then a line for each word form with symbol number,
 /// line colour, paint colour, paint flag, size, thickness, minimum points, and caption.

@@ -7,20 +7,20 @@
 
 namespace {
 
-const QString Sum = QStringLiteral(".sum");
 const QString OpenTitle = QStringLiteral("Open Cumulative Data File");
 
 QString fileOfStrings(const CumulativeData& data)
 {
-    const QString name = analysisFileStem(data.SpecifyFileName, Sum);
-    return name.isEmpty() ? QStringLiteral("of no file yet") : QStringLiteral("of ") + name + Sum;
+    const QString name = analysisFileStem(data.SpecifyFileName, StringFiles);
+    return name.isEmpty() ? QStringLiteral("of no file yet")
+                          : QStringLiteral("of ") + name + StringFiles.ending;
 }
 
 /// Whether the user wants the file of strings of the table's name, at `path`.
 bool wantsOwnStrings(const QString& path, const CumulativeData& data, Dialogs& dialogs)
 {
     const QString question = QStringLiteral("Open %1, the identifying strings of the same name?")
-                                 .arg(analysisFileStem(path, Sum) + Sum);
+                                 .arg(analysisFileStem(path, StringFiles) + StringFiles.ending);
     if (areCharsUnsaved(data)) {
         return dialogs.confirmLoss(question + QStringLiteral(" Those that are there are not saved."),
                                    OpenTitle);
@@ -38,7 +38,7 @@ void dropStrings(CumulativeData& data)
 /// Asks which strings count for a table that was just loaded.
 void chooseStrings(const QString& totalPath, const TotalState& state, Dialogs& dialogs)
 {
-    const QString own = withEnding(totalPath, Sum);
+    const QString own = withEnding(totalPath, StringFiles.ending);
     if (own.compare(state.data.SpecifyFileName, Qt::CaseInsensitive) == 0) {
         return;
     }

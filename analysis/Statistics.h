@@ -1,6 +1,7 @@
 #pragma once
 
 #include "analysis/CumulativeTable.h"
+#include "platform/FileKind.h"
 #include "platform/SequentialFile.h"
 
 /// The statistics of the counts of each word form over the localities where it was met at least once. A count
@@ -41,6 +42,8 @@ void Stats(const CumulativeTable& table, int localities, Statistics& statistics)
 
 /// Whether `statistics` are those of the counts that `table` has now.
 bool areCurrent(const Statistics& statistics, const CumulativeTable& table, int localities);
+
+inline constexpr FileKind StatisticsFiles{QLatin1String("Statistic Files"), QLatin1String(".stt")};
 
 /// A `.stt` file: the number of word forms and of items; then for each word form its number, a line with
 /// median, mode, average and deviation, and a line with both counts for each level.

@@ -31,7 +31,7 @@ bool mayWriteTotal(const Folders& folders, const CumulativeData& data, Dialogs& 
     if (!hasName(data, dialogs)) {
         return false;
     }
-    const QString path = analysisFilePath(folders, data.TotalFileName, QStringLiteral(".ttl"));
+    const QString path = analysisFilePath(folders, data.TotalFileName, TotalFiles);
     return isOwnFile(data, path) ||
            askToSave(dialogs, folders.Drive, path, QStringLiteral("Save of Analysis File"));
 }
@@ -99,7 +99,7 @@ bool saveStatistics(const Folders& folders, const CumulativeData& data, Statisti
     if (!hasName(data, dialogs)) {
         return false;
     }
-    SaveStats(folders.Drive, analysisFilePath(folders, data.TotalFileName, QStringLiteral(".stt")), data,
+    SaveStats(folders.Drive, analysisFilePath(folders, data.TotalFileName, StatisticsFiles), data,
               statistics);
     return true;
 }

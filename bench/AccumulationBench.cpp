@@ -16,9 +16,9 @@ constexpr int Items = 400;
 constexpr int Localities = 1000;
 
 /// Four hundred full items, each in a file of its own.
-struct ItemFiles
+struct ItemFolder
 {
-    ItemFiles() : drive(folder.path())
+    ItemFolder() : drive(folder.path())
     {
         for (int i = 0; i < Items; ++i) {
             QFile file(folder.filePath(name(i)));
@@ -50,12 +50,12 @@ CumulativeData tenWordforms()
 
 void accumulateItems(benchmark::State& state)
 {
-    const ItemFiles files;
+    const ItemFolder files;
     for ([[maybe_unused]] auto step : state) {
         CumulativeData data = tenWordforms();
         for (int i = 0; i < Items; ++i) {
             accumulateItem(
-                readSequentialFile(files.drive, QStringLiteral("C:\\") + ItemFiles::name(i), readItem),
+                readSequentialFile(files.drive, QStringLiteral("C:\\") + ItemFolder::name(i), readItem),
                 Localities, data);
         }
         benchmark::DoNotOptimize(data.Counts(1, 1));
@@ -64,11 +64,11 @@ void accumulateItems(benchmark::State& state)
 
 void readItemLines(benchmark::State& state)
 {
-    const ItemFiles files;
+    const ItemFolder files;
     for ([[maybe_unused]] auto step : state) {
         qsizetype characters = 0;
         for (int i = 0; i < Items; ++i) {
-            QFile file(files.folder.filePath(ItemFiles::name(i)));
+            QFile file(files.folder.filePath(ItemFolder::name(i)));
             if (!file.open(QIODevice::ReadOnly)) {
                 state.SkipWithError("cannot read");
                 return;

@@ -9,8 +9,6 @@
 
 namespace {
 
-constexpr QLatin1String ItemEnding(".dbs");
-
 QStringList wordFormsOf(const ItemAnswers& item)
 {
     return ItemEditor(item, {}).wordsMissingInKinds().mid(0, MostInputKinds);
@@ -31,19 +29,19 @@ void removeOldKinds(const Folders& folders, const QString& itemPath)
 
 QString enteredItemPath(const Folders& folders, const QString& name)
 {
-    const QString base = withoutEnding(name.trimmed(), ItemEnding);
+    const QString base = withoutEnding(name.trimmed(), ItemFiles.ending);
     if (base.isEmpty()) {
         return {};
     }
     if (!isFileName(base)) {
         throw RunTimeError(ErrorNumber::BadFileName, base);
     }
-    return folders.dataFolder() + QLatin1Char('\\') + base + ItemEnding;
+    return folders.dataFolder() + QLatin1Char('\\') + base + ItemFiles.ending;
 }
 
 QString inputKindsPath(const Folders& folders, const QString& itemPath)
 {
-    return withEnding(kindsFilePath(folders, itemPath), QStringLiteral(".ipt"));
+    return withEnding(kindsFilePath(folders, itemPath), InputKindsEnding);
 }
 
 OpenedItem openItem(const Folders& folders, const QString& itemPath)

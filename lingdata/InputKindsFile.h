@@ -4,6 +4,9 @@
 
 #include <QStringList>
 
+/// Of the names of lists of input kinds.
+inline constexpr QLatin1String InputKindsEnding(".ipt");
+
 /// How many kinds a list of input kinds holds at most.
 constexpr int MostInputKinds = 500;
 

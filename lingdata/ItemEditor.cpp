@@ -59,6 +59,7 @@ ItemEditor::ItemEditor(qint16 localities)
         m_entry->cells.require(localities, 1);
     }
     m_entry->localities = localities;
+    markSaved();
 }
 
 ItemEditor::ItemEditor(const ItemAnswers& item, QStringList kinds) : ItemEditor(item.NLocate)
@@ -71,6 +72,7 @@ ItemEditor::ItemEditor(const ItemAnswers& item, QStringList kinds) : ItemEditor(
             m_entry->cells(i, j) = item.WordData(i, j);
         }
     }
+    markSaved();
 }
 
 void ItemEditor::requireLocality(int locality) const
@@ -120,6 +122,12 @@ std::optional<CellPlace> ItemEditor::changedBy(void (QUndoStack::*move)())
         }
     }
     return std::nullopt;
+}
+
+void ItemEditor::markSaved()
+{
+    m_saved.keep(*m_entry);
+    m_steps->setClean(); // typing that goes on after it is a step of its own
 }
 
 // Cells

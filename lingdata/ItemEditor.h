@@ -3,6 +3,7 @@
 #include "lingdata/LinguisticData.h"
 #include "lingdata/PhoneticCheck.h"
 #include "lingdata/WordBlock.h"
+#include "platform/Saved.h"
 
 #include <QStringList>
 #include <QUndoStack>
@@ -32,7 +33,7 @@ struct FaultyWord
 
 /// An item while it is entered: a row of cells for each locality, the caption, the comment, and the list of
 /// kinds that cells are filled from. Every change is a step that can be undone; the item is unsaved as long
-/// as it differs by steps from what was made, opened or saved.
+/// as it differs from what was made, opened or saved.
 ///
 /// Localities count from 1, cells of a locality from 1 to `MostWords`; others raise subscript out of range.
 class ItemEditor
@@ -94,9 +95,10 @@ public:
     /// Takes the step that was undone last again; returns what `undo` returns.
     std::optional<CellPlace> redo();
 
-    bool isUnsaved() const { return !m_steps->isClean(); }
-    void markSaved() { m_steps->setClean(); }
-    void markUnsaved() { m_steps->resetClean(); }
+    bool isUnsaved() const { return m_saved.differs(*m_entry); }
+    void markSaved();
+    /// From now on the item is unsaved until it is saved.
+    void markUnsaved() { m_saved.forget(); }
 
 private:
     struct Entry
@@ -107,6 +109,8 @@ private:
         QString caption;
         QString comment;
         QStringList kinds;
+
+        bool operator==(const Entry&) const = default;
     };
 
     void requireLocality(int locality) const;
@@ -118,5 +122,6 @@ private:
 
     /// What the steps change; it stays in its place, since they refer to it.
     std::unique_ptr<Entry> m_entry = std::make_unique<Entry>();
+    Saved<Entry> m_saved;
     std::unique_ptr<QUndoStack> m_steps = std::make_unique<QUndoStack>();
 };

@@ -1,7 +1,12 @@
 #pragma once
 
 #include "mapdata/BaseMap.h"
+#include "platform/FileKind.h"
 #include "platform/SequentialFile.h"
+
+/// Parts of a base map, and the polygon designs of symbols.
+inline constexpr FileKind MapPartFiles{QLatin1String("Map files"), QLatin1String(".map")};
+inline constexpr FileKind PolygonFiles{QLatin1String("Polygon designs"), QLatin1String(".sbl")};
 
 // Readers and writers of the base-map files. Each reader reads a whole file into a fresh value; the counts in
 // the file govern. They raise input past end of file for a short file, subscript out of range for a count

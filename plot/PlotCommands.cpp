@@ -121,10 +121,10 @@ QStringList itemsWithSymbols(const Folders& folders)
         throw RunTimeError(ErrorNumber::PathNotFound).at({folders.dataFolder()});
     }
     QStringList names;
-    for (const QString& file : folder.entryList({QStringLiteral("*.dbs")}, QDir::Files, QDir::Name)) {
+    for (const QString& file : folder.entryList({ItemFiles.pattern()}, QDir::Files, QDir::Name)) {
         const QString name = QFileInfo(file).completeBaseName();
-        if (QFileInfo(folders.Drive.hostPath(folders.dataFolder() + QLatin1Char('\\') + name +
-                                             QStringLiteral(".han")))
+        if (QFileInfo(
+                folders.Drive.hostPath(folders.dataFolder() + QLatin1Char('\\') + name + SymbolFiles.ending))
                 .isFile()) {
             names << name;
         }
@@ -145,7 +145,7 @@ void plotAtlas(MapPlot& map, const QString& output, PlotListener& listener)
         const QString& name = names[page];
         listener.page(page + 1, pages, name);
         const QString path = map.folders().dataFolder() + QLatin1Char('\\') + name;
-        return map.linguisticMap(path + QStringLiteral(".dbs"), path + QStringLiteral(".han"));
+        return map.linguisticMap(path + ItemFiles.ending, path + SymbolFiles.ending);
     };
     savePdfPages(pages, drawPage, map.size(), output);
 }

@@ -3,7 +3,6 @@
 #include "mapdata/MapFiles.h"
 #include "mapdata/MapImport.h"
 #include "mapdata/MapSearch.h"
-#include "platform/FileName.h"
 #include "platform/Folder.h"
 #include "platform/SequentialFile.h"
 #include "render/BlankMap.h"
@@ -25,11 +24,6 @@ struct ImportedFile
     QString current;
 };
 
-QString mapFilter()
-{
-    return QStringLiteral("Map files (*.map)|*.map");
-}
-
 QString currentMapFile(const VarnModule& varn, const char* name)
 {
     return mapFolder(varn.VarnPath, varn.VarnMapName) + QLatin1Char('\\') + QLatin1String(name);
@@ -37,18 +31,9 @@ QString currentMapFile(const VarnModule& varn, const char* name)
 
 std::optional<QString> askForSource(const VarnModule& varn, Dialogs& dialogs, const ImportedFile& file)
 {
-    const QString folder = nearestFolder(varn.Drive, mapFolder(varn.VarnPath, varn.VarnMapName));
-    const auto source = dialogs.openFile(QStringLiteral("Import ") + file.what, folder,
-                                         file.sources + QStringLiteral("|All files (*.*)|*.*"));
-    return source ? std::optional(varn.Drive.varnPath(*source)) : std::nullopt;
-}
-
-std::optional<QString> askForTarget(const VarnModule& varn, Dialogs& dialogs, const ImportedFile& file)
-{
-    const auto target = dialogs.saveFile(QStringLiteral("Save ") + file.what,
-                                         nearestFolder(varn.Drive, folderOf(file.current)), file.targets,
-                                         fileNameOf(file.current));
-    return target ? std::optional(varn.Drive.varnPath(*target)) : std::nullopt;
+    return askToOpen(dialogs, varn.Drive, mapFolder(varn.VarnPath, varn.VarnMapName),
+                     QStringLiteral("Import ") + file.what,
+                     file.sources + QStringLiteral("|All files (*.*)|*.*"));
 }
 
 /// Makes the folders of the current map, if there is one, so that files can be saved there.
@@ -70,7 +55,8 @@ bool importFile(const VarnModule& varn, Dialogs& dialogs, const ImportedFile& fi
     }
     const auto map = read(*source);
     makeCurrentMap(varn);
-    const std::optional<QString> target = askForTarget(varn, dialogs, file);
+    const std::optional<QString> target =
+        askWhereToSave(dialogs, varn.Drive, file.current, QStringLiteral("Save ") + file.what, file.targets);
     if (!target) {
         return false;
     }
@@ -96,7 +82,7 @@ void SaveLocateData(VarnModule& varn, Dialogs& dialogs)
     const ImportedFile file{
         QStringLiteral("Localities"),
         QStringLiteral("Localities and tables (*.map;*.csv;*.tsv;*.txt)|*.map;*.csv;*.tsv;*.txt"),
-        mapFilter(), currentMapFile(varn, "Loc.map")};
+        MapPartFiles.filter(), currentMapFile(varn, "Loc.map")};
     const auto read = [&](const QString& path) { return importLocalities(varn.Drive, path); };
     if (importFile(varn, dialogs, file, read, writeLocalities)) {
         LoadLocateData(varn.Drive, varn.VarnPath, varn.VarnMapName, varn);
@@ -105,7 +91,7 @@ void SaveLocateData(VarnModule& varn, Dialogs& dialogs)
 
 void SaveLineData(VarnModule& varn, Dialogs& dialogs)
 {
-    const ImportedFile file{QStringLiteral("Lines"), mapFilter(), mapFilter(),
+    const ImportedFile file{QStringLiteral("Lines"), MapPartFiles.filter(), MapPartFiles.filter(),
                             currentMapFile(varn, "Line.map")};
     const auto read = [&](const QString& path) { return readSequentialFile(varn.Drive, path, readLines); };
     if (importFile(varn, dialogs, file, read, writeLines)) {
@@ -115,8 +101,8 @@ void SaveLineData(VarnModule& varn, Dialogs& dialogs)
 
 void SaveSquareData(VarnModule& varn, Dialogs& dialogs)
 {
-    const QString filter = QStringLiteral("Polygon designs (*.sbl)|*.sbl");
-    const ImportedFile file{QStringLiteral("Polygon Designs"), filter, filter, polygonFile(varn.VarnPath)};
+    const ImportedFile file{QStringLiteral("Polygon Designs"), PolygonFiles.filter(), PolygonFiles.filter(),
+                            polygonFile(varn.VarnPath)};
     const auto read = [&](const QString& path) {
         return readSequentialFile(varn.Drive, path, readAbsolutePolygons);
     };
@@ -127,7 +113,7 @@ void SaveSquareData(VarnModule& varn, Dialogs& dialogs)
 
 void SaveKanjiData(VarnModule& varn, Dialogs& dialogs, MapSurfaces surfaces)
 {
-    const ImportedFile file{QStringLiteral("Place Names"), mapFilter(), mapFilter(),
+    const ImportedFile file{QStringLiteral("Place Names"), MapPartFiles.filter(), MapPartFiles.filter(),
                             currentMapFile(varn, "kanji.map")};
     const std::optional<QString> source = askForSource(varn, dialogs, file);
     if (!source) {

@@ -32,9 +32,12 @@ QString lockPath(const DriveC& drive, const QString& folder)
 struct KeptFiles
 {
     explicit KeptFiles(const QString& folder)
-        : contents(folder + QStringLiteral("\\contents.dat")), item(folder + QStringLiteral("\\item.dbs")),
-          kinds(folder + QStringLiteral("\\item.ipt")), symbols(folder + QStringLiteral("\\symbols.han")),
-          table(folder + QStringLiteral("\\table.ttl")), strings(folder + QStringLiteral("\\table.sum")),
+        : contents(folder + QStringLiteral("\\contents.dat")),
+          item(folder + QStringLiteral("\\item") + ItemFiles.ending),
+          kinds(folder + QStringLiteral("\\item") + InputKindsEnding),
+          symbols(folder + QStringLiteral("\\symbols") + SymbolFiles.ending),
+          table(folder + QStringLiteral("\\table") + TotalFiles.ending),
+          strings(folder + QStringLiteral("\\table") + StringFiles.ending),
           countedItems(countedItemsPath(table))
     {}
 

@@ -18,7 +18,7 @@ void restoreSymbols(const SymbolSet& symbols, VarnModule& varn)
     const int reading = varn.HankoReading + 1;
     static_cast<SymbolSet&>(varn) = symbols;
     varn.CurrentHanko = symbols.NHanrei;
-    varn.HankoUnsaved = true;
+    varn.SavedRecords.forget();
     varn.HankoReading = reading;
     symbolSetLoaded(varn);
 }
@@ -60,10 +60,10 @@ UnsavedWork unsavedWork(const VarnModule& varn, std::optional<UnsavedItem> item)
     work.map = {varn.VarnPath, varn.VarnMapName};
     work.localities = varn.NLocality;
     work.item = std::move(item);
-    if (varn.HankoUnsaved) {
+    if (isSymbolSetUnsaved(varn)) {
         work.symbols = varn;
     }
-    if (isTableUnsaved(varn, varn.NLocality) || areCharsUnsaved(varn)) {
+    if (isTableUnsaved(varn) || areCharsUnsaved(varn)) {
         work.table = varn;
     }
     return work;

@@ -77,8 +77,6 @@ HankoFields SymbolEditor::SetData(const HankoFields& fields)
     m_set.Hanko(k) = style;
     m_set.HankoWord(k) = DelBlankChar(fields.word);
     m_set.HankoCaption(k) = DelBlankChar(fields.caption);
-    // The scratch record is not part of the set.
-    m_set.HankoUnsaved = m_set.HankoUnsaved || k > 0 || m_set.Explain != fields.Explain;
     m_set.Explain = fields.Explain;
     HankoFields stored = fields;
     stored.style = style;
@@ -173,7 +171,6 @@ bool SymbolEditor::deleteRecord(int n)
             copyRecord(i + 1, i);
         }
         --m_set.NHanrei;
-        m_set.HankoUnsaved = true;
     }
     DisplayHanreiData();
     return exists && n <= m_set.CurrentHanko;
@@ -189,7 +186,6 @@ HankoFields SymbolEditor::initialize()
     }
     m_set.CurrentHanko = 0;
     m_set.NHanrei = 0;
-    m_set.HankoUnsaved = false;
     DisplayHanreiData();
     return GetData();
 }

@@ -50,6 +50,7 @@ void LoadHankoData(const DriveC& drive, const QString& path, SymbolSet& set)
     fresh.SymbolFilePath = path;
     fresh.CurrentHanko = fresh.NHanrei;
     fresh.HankoReading = set.HankoReading + 1;
+    fresh.SavedRecords.keep(fresh);
     set = std::move(fresh);
 }
 
@@ -67,12 +68,12 @@ RunTimeError ofRecord(const RunTimeError& error, const SymbolSet& set, int k)
 
 QString symbolFileStem(const QString& name)
 {
-    return withoutEnding(name, QStringLiteral(".han"));
+    return withoutEnding(name, SymbolFiles.ending);
 }
 
 QString symbolFilePath(const Folders& folders, const QString& name)
 {
-    QString path = folders.dataFolder() + QLatin1Char('\\') + symbolFileStem(name) + QStringLiteral(".han");
+    QString path = folders.dataFolder() + QLatin1Char('\\') + symbolFileStem(name) + SymbolFiles.ending;
     if (!isFileName(name)) {
         throw RunTimeError(ErrorNumber::BadFileName).at({path});
     }

@@ -1,8 +1,11 @@
 #pragma once
 
 #include "mapdata/Folders.h"
+#include "platform/FileKind.h"
 #include "platform/SequentialFile.h"
 #include "symbols/SymbolSet.h"
+
+inline constexpr FileKind SymbolFiles{QLatin1String("HAN files"), QLatin1String(".han")};
 
 /// The six numbers of a symbol, in the order of all files that hold them.
 HankoStyle readHankoStyle(SequentialReader& file);

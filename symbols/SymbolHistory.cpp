@@ -44,24 +44,6 @@ void SymbolHistory::restart(const SymbolEditorState& state)
 {
     m_steps.clear();
     m_present = state;
-    m_saved = {};
-}
-
-bool SymbolHistory::isSaved(const SymbolRecords& records) const
-{
-    const auto isStored = [&](int k) {
-        return records.HankoWord(k) == m_saved.HankoWord(k) &&
-               records.HankoCaption(k) == m_saved.HankoCaption(k) && records.Hanko(k) == m_saved.Hanko(k);
-    };
-    if (records.NHanrei == 0 && records.Explain.isEmpty()) {
-        return true;
-    }
-    // What stands behind the last record is not part of the set.
-    bool same = records.Explain == m_saved.Explain && records.NHanrei == m_saved.NHanrei;
-    for (int k = 1; same && k <= records.NHanrei; ++k) {
-        same = isStored(k);
-    }
-    return same;
 }
 
 void SymbolHistory::add(const SymbolEditorState& state, int box)

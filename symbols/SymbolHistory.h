@@ -24,12 +24,8 @@ class SymbolHistory
 public:
     SymbolHistory();
 
-    /// Forgets all steps and what was saved; the work goes on from `state`.
+    /// Forgets all steps; the work goes on from `state`.
     void restart(const SymbolEditorState& state);
-    /// Notes that these records are in a file now.
-    void noteSaved(const SymbolRecords& records) { m_saved = records; }
-    /// Whether nothing would be lost with these records: they are in a file, or there are none.
-    bool isSaved(const SymbolRecords& records) const;
 
     /// Adds the step that led to `state`; nothing where it is the present one.
     void record(const SymbolEditorState& state) { add(state, NoBox); }
@@ -49,5 +45,4 @@ private:
 
     QUndoStack m_steps;
     SymbolEditorState m_present;
-    SymbolRecords m_saved;
 };

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/BoundedArray.h"
+#include "platform/Saved.h"
 
 #include <QString>
 
@@ -33,7 +34,8 @@ struct SymbolRecords
     BoundedArray<QString, Bounds{0, 100}> HankoCaption;
     BoundedArray<HankoStyle, Bounds{0, 100}> Hanko;
 
-    bool operator==(const SymbolRecords&) const = default;
+    /// Whether the sets are the same: the scratch record and what stands behind the last one do not count.
+    bool operator==(const SymbolRecords& other) const;
 };
 
 /// A symbol set that is being edited.
@@ -45,8 +47,10 @@ struct SymbolSet : SymbolRecords
 
     /// The record that is being edited, 0..100; beyond `NHanrei` a new one.
     int CurrentHanko = 0;
-    /// Whether records were edited since the set was read.
-    bool HankoUnsaved = false;
+    Saved<SymbolRecords> SavedRecords;
     /// How many sets have been read; tells whoever shows a set that another one took its place.
     int HankoReading = 0;
 };
+
+/// Whether the set holds records or a comment that its file does not hold.
+bool isSymbolSetUnsaved(const SymbolSet& set);

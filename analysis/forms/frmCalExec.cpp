@@ -1,9 +1,9 @@
 #include "analysis/forms/frmCalExec.h"
 
+#include "analysis/CumulativeFile.h"
 #include "analysis/forms/CountPages.h"
 #include "analysis/forms/StatisticsPages.h"
 #include "platform/Numbers.h"
-#include "shell/FileKinds.h"
 #include "shell/VarnModule.h"
 #include "ui_frmCalExec.h"
 

@@ -1,8 +1,9 @@
 // The statistics of the execution form and their file.
 
 #include "analysis/ExecuteCommands.h"
+#include "analysis/Statistics.h"
 #include "analysis/forms/frmCalExec.h"
-#include "shell/FileKinds.h"
+#include "platform/FileKind.h"
 #include "shell/VarnModule.h"
 
 void frmCalExec::Stats()

@@ -5,7 +5,6 @@
 #include "platform/forms/ColorList.h"
 #include "platform/forms/ThemeColors.h"
 #include "render/forms/WordDelegate.h"
-#include "shell/FileKinds.h"
 #include "shell/VarnModule.h"
 #include "ui_frmCalc.h"
 
@@ -42,14 +41,15 @@ int colorEntry(const QComboBox& box, int number)
 } // namespace
 
 frmCalc::frmCalc(VarnModule& varn, Dialogs& dialogs)
-    : VarnForm(dialogs), m_ui(std::make_unique<Ui::frmCalc>()), m_varn(varn), m_editor(varn)
+    : VarnForm(dialogs), m_ui(std::make_unique<Ui::frmCalc>()), m_varn(varn)
 {
     m_ui->setupUi(this);
     fillColorList(*m_ui->cboForeColor);
     fillColorList(*m_ui->cboFillColor);
-    for (QListWidget* list : {m_ui->lstTotal, m_ui->lstDisplay, m_ui->LstWord}) {
+    for (QListWidget* list : {m_ui->lstTotal, m_ui->lstDisplay}) {
         list->setItemDelegate(new WordDelegate(varn, list));
     }
+    m_ui->fraChars->edit(varn, dialogs, *this);
     showAsReadOnly(*m_ui->txtWordFileName);
     connectMenus();
     connectButtons();
@@ -86,20 +86,12 @@ void frmCalc::connectButtons()
     click(m_ui->cmdPrevious, &frmCalc::cmdPrevious_Click);
     click(m_ui->cmdSet, &frmCalc::cmdSet_Click);
     click(m_ui->cmdSetWord, &frmCalc::cmdSetWord_Click);
-    click(m_ui->cmdWordSelect, &frmCalc::cmdWordSelect_Click);
-    click(m_ui->cmdWordRewrite, &frmCalc::cmdWordRewrite_Click);
-    click(m_ui->cmdWordDelete, &frmCalc::cmdWordDelete_Click);
-    click(m_ui->cmdWordReset, &frmCalc::cmdWordReset_Click);
-    click(m_ui->cmdWordNext, &frmCalc::cmdWordNext_Click);
-    click(m_ui->cmdWordBefore, &frmCalc::cmdWordBefore_Click);
-    click(m_ui->cmdWordSave, &frmCalc::cmdWordSave_Click);
 }
 
 void frmCalc::connectFields()
 {
     handle(m_ui->lstDisplay, &QListWidget::currentRowChanged, &frmCalc::lstDisplay_Click);
     handle(m_ui->lstDisplay, &QListWidget::itemActivated, &frmCalc::cmdSetWord_Click);
-    handle(m_ui->LstWord, &QListWidget::currentRowChanged, &frmCalc::LstWord_Click);
     // A question is asked only when the click on the list is over.
     connect(
         m_ui->lstTotal, &QListWidget::currentRowChanged, this,
@@ -121,7 +113,7 @@ void frmCalc::Form_Load()
         if (!m_prepared) {
             m_prepared = true;
             showTable();
-            showFileOfStrings();
+            m_ui->fraChars->showFile();
         }
         followSharedState();
         SetKindWord();
@@ -181,9 +173,7 @@ void frmCalc::TotalSet(int k)
     SetTotal();
     TotalDataSpecified();
     SetTotalList();
-    m_editor.start();
-    SetTotalWordList();
-    showString();
+    m_ui->fraChars->showWordform();
 }
 
 void frmCalc::SetTotalList()
@@ -194,14 +184,6 @@ void frmCalc::SetTotalList()
         entries << QString::number(++k) + QLatin1Char(' ') + name;
     }
     fillList(*m_ui->lstTotal, entries, m_varn.NumWordforms > 0 ? m_varn.CurrentWordform - 1 : -1);
-}
-
-void frmCalc::SetTotalWordList()
-{
-    const QStringList strings = m_editor.strings();
-    fillList(*m_ui->LstWord, strings, m_editor.current() - 1);
-    m_ui->lblStrings->setText(
-        QStringLiteral("Strings of wordform %1: %2").arg(m_varn.CurrentWordform).arg(strings.size()));
 }
 
 void frmCalc::SetKindWord()
@@ -224,13 +206,6 @@ void frmCalc::showTable()
     TotalSet(m_varn.CurrentWordform);
 }
 
-void frmCalc::showString()
-{
-    const QSignalBlocker blocker(*m_ui->LstWord);
-    m_ui->LstWord->setCurrentRow(m_editor.current() - 1);
-    m_ui->txtInputWord->setText(m_editor.text());
-}
-
 frmCalc::WordformFields frmCalc::fields() const
 {
     return {m_ui->txtTotalName->text(), m_ui->cboForeColor->currentIndex(),
@@ -241,20 +216,14 @@ void frmCalc::refresh()
 {
     const int k = m_varn.CurrentWordform;
     const bool hasWordforms = m_varn.NumWordforms > 0;
-    const int strings = m_ui->LstWord->count();
     for (QWidget* control : std::initializer_list<QWidget*>{
-             m_ui->lstTotal, m_ui->txtTotalName, m_ui->cboForeColor, m_ui->cboFillColor, m_ui->cmdSet,
-             m_ui->txtInputWord, m_ui->cmdWordSelect, m_ui->cmdWordSave}) {
+             m_ui->lstTotal, m_ui->txtTotalName, m_ui->cboForeColor, m_ui->cboFillColor, m_ui->cmdSet}) {
         control->setEnabled(hasWordforms);
     }
     m_ui->cmdPrevious->setEnabled(hasWordforms && k > 1);
     m_ui->cmdNext->setEnabled(k < m_varn.NumWordforms);
-    m_ui->cmdWordRewrite->setEnabled(hasWordforms && strings > 0);
-    m_ui->cmdWordDelete->setEnabled(hasWordforms && strings > 0);
-    m_ui->cmdWordReset->setEnabled(hasWordforms && strings > 0);
-    m_ui->cmdWordBefore->setEnabled(m_editor.current() > 1);
-    m_ui->cmdWordNext->setEnabled(m_editor.current() < strings);
     m_ui->cmdSetWord->setEnabled(hasWordforms && m_varn.NKind > 0);
+    m_ui->fraChars->refresh();
     showState();
 }
 
@@ -263,7 +232,7 @@ void frmCalc::showState()
     const QString& name = m_varn.TotalFileName;
     const QString file = name.isEmpty() ? name : name + TotalFiles.ending;
     showTitle({FormTitle, m_varn.VarnMapName.mid(1), file},
-              isTableUnsaved(m_varn, m_varn.NLocality) || areCharsUnsaved(m_varn) || isEdited());
+              isTableUnsaved(m_varn) || areCharsUnsaved(m_varn) || isEdited());
     showStatus(status());
 }
 
@@ -276,9 +245,8 @@ QStringList frmCalc::status() const
         parts << QStringLiteral("Counts of %1 word forms over %2 items%3")
                      .arg(m_varn.NumWordforms)
                      .arg(m_varn.NumItemsAccumulated)
-                     .arg(isTableUnsaved(m_varn, m_varn.NLocality) ? QStringLiteral(", not saved")
-                                                                   : QString());
-        const QString file = analysisFileStem(m_varn.SpecifyFileName, StringFiles.ending);
+                     .arg(isTableUnsaved(m_varn) ? QStringLiteral(", not saved") : QString());
+        const QString file = analysisFileStem(m_varn.SpecifyFileName, StringFiles);
         parts << QStringLiteral("Strings: %1%2")
                      .arg(file.isEmpty() ? QStringLiteral("no file") : file + StringFiles.ending,
                           areCharsUnsaved(m_varn) ? QStringLiteral(", not saved") : QString());
@@ -293,7 +261,7 @@ void frmCalc::showNewState()
 {
     if (m_prepared) {
         showTable();
-        m_ui->txtSetFileName->setText(analysisFileStem(m_varn.SpecifyFileName, StringFiles.ending));
+        m_ui->fraChars->showFile();
         SetKindWord();
     }
     VarnForm::showNewState();

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "analysis/SpecifyCharsEditor.h"
 #include "analysis/TotalCommands.h"
 #include "platform/forms/VarnForm.h"
 
@@ -72,33 +71,19 @@ private:
     void lstTotal_Click(int row);
     void lstDisplay_Click();
     void cmdSetWord_Click();
-    void cmdWordSelect_Click();
-    void cmdWordRewrite_Click();
-    void cmdWordDelete_Click();
-    void cmdWordReset_Click();
-    void cmdWordNext_Click();
-    void cmdWordBefore_Click();
-    void LstWord_Click();
-    void cmdWordSave_Click() { SaveSetData(); }
 
     void Initialize();
     void LoadTotalFile(const QString& path);
     void SaveTotalFile();
     void LoadSetData();
-    void SaveSetData();
     void SetTotal();
     void TotalDataSpecified();
     void TotalSet(int k);
     void SetTotalList();
-    void SetTotalWordList();
     void SetKindWord();
 
     /// Shows the table from its first word form on.
     void showTable();
-    /// Shows which file the strings are of.
-    void showFileOfStrings();
-    /// Shows the current string in the list and in the edit box.
-    void showString();
     void moveTo(int k);
     void takeFileName();
     TotalState state();
@@ -107,7 +92,6 @@ private:
     bool isEdited() const { return m_prepared && fields() != m_stored; }
     /// Whether the user gives up what is unsaved; `question` ends the text that tells of it.
     bool mayGiveUpFields(const QString& question);
-    bool mayRegister(const QString& text);
     bool mayGiveUpTable(const QString& question);
     bool mayGiveUpStrings(const QString& question);
     std::optional<QString> askForFile(const QString& title, const QString& filter);
@@ -116,7 +100,6 @@ private:
 
     std::unique_ptr<Ui::frmCalc> m_ui;
     VarnModule& m_varn;
-    SpecifyCharsEditor m_editor;
     /// The word form shown, and its fields as they were shown or registered last.
     int m_shownWordform = 0;
     WordformFields m_stored;

@@ -88,7 +88,7 @@ void frmRankData::Form_Load()
         if (!m_prepared) {
             const bool isNew = m_varn.ContrastSteps == 0 && m_varn.ContrastMaxSize == 0;
             showBoxes(isNew ? newContrastBoxes() : boxesOf(m_varn));
-            m_savedBoxes = boxes();
+            m_saved.keep(settings());
             m_prepared = true;
         }
         followTable();
@@ -147,7 +147,8 @@ void frmRankData::refresh()
 void frmRankData::showState()
 {
     const QString name = m_ui->txtRankFileName->text().trimmed();
-    showTitle({FormTitle, m_varn.VarnMapName.mid(1), name.isEmpty() ? name : name + Ending}, isEdited());
+    showTitle({FormTitle, m_varn.VarnMapName.mid(1), name.isEmpty() ? name : name + ContrastFiles.ending},
+              isEdited());
 
     QStringList parts;
     if (m_varn.NumWordforms == 0) {
@@ -192,6 +193,11 @@ ContrastBoxes frmRankData::boxes() const
         held.fillColor(side) = fillColorBox(side).currentIndex();
     }
     return held;
+}
+
+ContrastSettings frmRankData::settings() const
+{
+    return settingsOf(boxes(), m_varn);
 }
 
 void frmRankData::showBoxes(const ContrastBoxes& boxes)

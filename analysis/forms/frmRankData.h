@@ -2,6 +2,7 @@
 
 #include "analysis/ContrastEditor.h"
 #include "platform/DrawSurface.h"
+#include "platform/Saved.h"
 #include "platform/forms/VarnForm.h"
 
 #include <memory>
@@ -41,8 +42,6 @@ protected:
 
 private:
     static constexpr QLatin1String FormTitle{"Analysis for Contrast Map"};
-    /// Of the names of its files.
-    static constexpr QLatin1String Ending{".rnk"};
 
     void connectMenus();
     void connectButtons();
@@ -83,7 +82,8 @@ private:
     void DisplayON(int page);
     void DisplayOff();
 
-    bool isEdited() const { return m_prepared && (m_groupsEdited || boxes() != m_savedBoxes); }
+    ContrastSettings settings() const;
+    bool isEdited() const { return m_prepared && m_saved.differs(settings()); }
     bool mayGiveUpWork(const QString& question);
     void showState();
 
@@ -94,7 +94,5 @@ private:
     /// The page of the result table shown, from 1; 0 where it is hidden.
     int m_page = 0;
     bool m_prepared = false;
-    /// The boxes as they were loaded or saved last, and whether the groups were edited since.
-    ContrastBoxes m_savedBoxes;
-    bool m_groupsEdited = false;
+    Saved<ContrastSettings> m_saved;
 };

@@ -1,8 +1,9 @@
 // The file of the contrast form.
 
 #include "analysis/AnalysisFileName.h"
+#include "analysis/ContrastData.h"
 #include "analysis/forms/frmRankData.h"
-#include "shell/FileKinds.h"
+#include "platform/FileKind.h"
 #include "shell/VarnModule.h"
 #include "ui_frmRankData.h"
 
@@ -39,23 +40,25 @@ void frmRankData::LoadRankFile(const QString& path)
         return;
     }
     static_cast<ContrastData&>(m_varn) = std::move(loaded);
-    m_ui->txtRankFileName->setText(analysisFileStem(path, Ending));
+    m_ui->txtRankFileName->setText(analysisFileStem(path, ContrastFiles));
     followTable();
     showBoxes(boxesOf(m_varn));
-    m_savedBoxes = boxes();
-    m_groupsEdited = !differing.isEmpty();
+    m_saved.keep(settings());
+    if (!differing.isEmpty()) {
+        m_saved.forget(); // the file has other names
+    }
 }
 
 std::optional<QString> frmRankData::savePath()
 {
     const QString name = m_ui->txtRankFileName->text().trimmed();
-    if (analysisFileStem(name, Ending).isEmpty()) {
+    if (analysisFileStem(name, ContrastFiles).isEmpty()) {
         dialogs().message(QStringLiteral("Input File Name for Analysis Data."),
                           QStringLiteral("Save Contrast File"));
         m_ui->txtRankFileName->setFocus();
         return std::nullopt;
     }
-    return analysisSavePath(m_varn, name, Ending, dialogs());
+    return analysisSavePath(m_varn, name, ContrastFiles, dialogs());
 }
 
 void frmRankData::mnuRankSave_Click()
@@ -63,9 +66,8 @@ void frmRankData::mnuRankSave_Click()
     if (const auto path = savePath()) {
         SetRankData();
         SaveRankFile(m_varn.Drive, *path, m_varn);
-        m_ui->txtRankFileName->setText(analysisFileStem(*path, Ending));
-        m_savedBoxes = boxes();
-        m_groupsEdited = false;
+        m_ui->txtRankFileName->setText(analysisFileStem(*path, ContrastFiles));
+        m_saved.keep(settings());
         if (m_page > 0) {
             DisplayRank(); // under the name it has now
         }

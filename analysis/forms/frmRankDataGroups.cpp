@@ -11,7 +11,6 @@ void frmRankData::addSelected(int side)
     }
     switch (m_editor.addWordform(side, row + 1)) {
     case ContrastEditor::AddResult::Added:
-        m_groupsEdited = true;
         showGroups();
         groupList(side).setCurrentRow(groupList(side).count() - 1);
         break;
@@ -32,7 +31,6 @@ void frmRankData::removeSelected(int side)
     const int row = groupList(side).currentRow();
     if (row >= 0) {
         m_editor.removeWordform(side, row + 1);
-        m_groupsEdited = true;
         showGroups();
     }
 }

@@ -146,7 +146,7 @@ void frmTotalHanko::Form_Load()
         m_block.Cls();
         followTable();
         if (isFirst) {
-            m_saved = fileContents(m_varn);
+            m_saved.keep(m_varn);
         }
     });
 }
@@ -158,7 +158,7 @@ void frmTotalHanko::followTable()
     followWordforms(m_varn, m_names, m_varn);
     m_names = wordformNames(m_varn);
     if (!wasEdited) {
-        m_saved = fileContents(m_varn);
+        m_saved.keep(m_varn);
     }
     m_wordform = std::clamp(m_wordform, std::min(1, m_varn.NumWordforms), m_varn.NumWordforms);
     if (isOther) {
@@ -213,7 +213,9 @@ void frmTotalHanko::refresh()
 void frmTotalHanko::showState()
 {
     const QString name = m_ui->txtFileName->text().trimmed();
-    showTitle({FormTitle, m_varn.VarnMapName.mid(1), name.isEmpty() ? name : name + Ending}, isEdited());
+    showTitle(
+        {FormTitle, m_varn.VarnMapName.mid(1), name.isEmpty() ? name : name + DiffusionSymbolFiles.ending},
+        isEdited());
     if (m_wordform == 0) {
         showStatus({QStringLiteral("No cumulative data: open it in the form Accumulate Data")});
         return;

@@ -45,8 +45,6 @@ protected:
 
 private:
     static constexpr QLatin1String FormTitle{"Set Symbols for Diffusion Map"};
-    /// Of the names of its files.
-    static constexpr QLatin1String Ending{".htL"};
 
     void connectControls();
     void connectFields();
@@ -93,8 +91,7 @@ private:
     int m_wordform = 0;
     /// The names of the word forms when they were listed last.
     QStringList m_names;
-    /// The symbols as they were loaded or saved last.
-    QByteArray m_saved;
+    Saved<DiffusionSymbols> m_saved;
     bool m_prepared = false;
     bool m_showing = false;
 };

@@ -2,14 +2,15 @@
 
 #include "analysis/AnalysisFileName.h"
 #include "analysis/DiffusionEditor.h"
+#include "analysis/DiffusionSymbols.h"
 #include "analysis/forms/frmTotalHanko.h"
-#include "shell/FileKinds.h"
+#include "platform/FileKind.h"
 #include "shell/VarnModule.h"
 #include "ui_frmTotalHanko.h"
 
 bool frmTotalHanko::isEdited() const
 {
-    return m_prepared && m_saved != fileContents(m_varn);
+    return m_prepared && m_saved.differs(m_varn);
 }
 
 bool frmTotalHanko::mayGiveUpWork(const QString& question)
@@ -35,8 +36,8 @@ void frmTotalHanko::LoadTotalHanko(const QString& path)
     DiffusionSymbols loaded = readSequentialFile(m_varn.Drive, path, readDiffusionSymbols);
     const int records = loaded.NDiffusion;
     static_cast<DiffusionSymbols&>(m_varn) = std::move(loaded);
-    m_saved = fileContents(m_varn);
-    m_ui->txtFileName->setText(analysisFileStem(path, Ending));
+    m_saved.keep(m_varn);
+    m_ui->txtFileName->setText(analysisFileStem(path, DiffusionSymbolFiles));
     followWordforms(m_varn, m_names, m_varn);
     showWordform();
     if (records != m_varn.NumWordforms) {
@@ -51,13 +52,13 @@ void frmTotalHanko::LoadTotalHanko(const QString& path)
 std::optional<QString> frmTotalHanko::savePath()
 {
     const QString name = m_ui->txtFileName->text().trimmed();
-    if (analysisFileStem(name, Ending).isEmpty()) {
+    if (analysisFileStem(name, DiffusionSymbolFiles).isEmpty()) {
         dialogs().message(QStringLiteral("Input File Name of Symbol Data"),
                           QStringLiteral("Save Symbol File"));
         m_ui->txtFileName->setFocus();
         return std::nullopt;
     }
-    return analysisSavePath(m_varn, name, Ending, dialogs());
+    return analysisSavePath(m_varn, name, DiffusionSymbolFiles, dialogs());
 }
 
 void frmTotalHanko::mnuTotalHankoSave_Click()
@@ -65,7 +66,7 @@ void frmTotalHanko::mnuTotalHankoSave_Click()
     if (const auto path = savePath()) {
         writeSequentialFile(m_varn.Drive, *path,
                             [this](SequentialWriter& file) { writeDiffusionSymbols(file, m_varn); });
-        m_ui->txtFileName->setText(analysisFileStem(*path, Ending));
-        m_saved = fileContents(m_varn);
+        m_ui->txtFileName->setText(analysisFileStem(*path, DiffusionSymbolFiles));
+        m_saved.keep(m_varn);
     }
 }

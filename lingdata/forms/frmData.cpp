@@ -1,8 +1,9 @@
 #include "lingdata/forms/frmData.h"
 
 #include "lingdata/ItemLoader.h"
+#include "lingdata/LinguisticFile.h"
+#include "platform/FileKind.h"
 #include "platform/Numbers.h"
-#include "shell/FileKinds.h"
 #include "shell/Printing.h"
 #include "ui_frmData.h"
 

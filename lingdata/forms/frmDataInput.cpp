@@ -1,5 +1,6 @@
 #include "lingdata/forms/frmDataInput.h"
 
+#include "lingdata/LinguisticFile.h"
 #include "lingdata/LocalityMismatch.h"
 #include "lingdata/forms/WordEntryDelegate.h"
 #include "platform/FileName.h"
@@ -150,7 +151,7 @@ void frmDataInput::showItem(ItemEditor item, const QString& itemPath)
     hideFaults();
     m_table.replaceItem(std::move(item));
     m_fileName = fileNameOf(itemPath);
-    m_ui->txtFileName->setText(withoutEnding(m_fileName, QStringLiteral(".dbs")));
+    m_ui->txtFileName->setText(withoutEnding(m_fileName, ItemFiles.ending));
     showTexts();
     m_ui->txtKind->clear();
     showKinds();

@@ -1,9 +1,10 @@
 // The file of the data input form, and what would be lost when the form is left.
 
 #include "lingdata/EnteredItem.h"
+#include "lingdata/LinguisticFile.h"
 #include "lingdata/forms/frmDataInput.h"
+#include "platform/FileKind.h"
 #include "platform/FileName.h"
-#include "shell/FileKinds.h"
 #include "shell/VarnModule.h"
 #include "ui_frmDataInput.h"
 

@@ -33,6 +33,13 @@ public:
     /// kept.
     virtual void showNewState();
 
+    /// Runs `handler`, shows the error where it ends with one, and refreshes the form. Returns whether it
+    /// ended without one.
+    bool run(const std::function<void()>& handler);
+
+    /// Frames `flat`, a flat button, while it has the keyboard focus; no style does.
+    static void frameFocus(QPushButton& flat);
+
 protected:
     bool event(QEvent* event) override;
 
@@ -50,13 +57,6 @@ protected:
     /// Writes those of `parts` that are not empty in the status line, which is as wide as the form.
     void showStatus(const QStringList& parts);
     QLabel& statusLine();
-
-    /// Frames `flat`, a flat button, while it has the keyboard focus; no style does.
-    static void frameFocus(QPushButton& flat);
-
-    /// Runs `handler`, shows the error where it ends with one, and refreshes the form. Returns whether it
-    /// ended without one.
-    bool run(const std::function<void()>& handler);
 
     /// Runs `handler`, a member function of the form, whenever `sender` emits `signal`.
     template <typename Sender, typename Signal, typename Form>

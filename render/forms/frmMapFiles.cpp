@@ -1,10 +1,11 @@
 // The files of the map form: drawings that are saved or copied, items and symbols that are loaded.
 
 #include "lingdata/ItemLoader.h"
+#include "lingdata/LinguisticFile.h"
+#include "platform/FileKind.h"
 #include "platform/Numbers.h"
 #include "plot/DrawingFile.h"
 #include "render/forms/frmMap.h"
-#include "shell/FileKinds.h"
 #include "shell/VarnModule.h"
 #include "symbols/SymbolFile.h"
 
@@ -61,7 +62,7 @@ void frmMap::mnuInputWord_Click()
 
 void frmMap::mnuHankoInput_Click()
 {
-    if (m_varn.HankoUnsaved &&
+    if (isSymbolSetUnsaved(m_varn) &&
         !dialogs().askYesNo(QStringLiteral("The symbol set is not saved and will be lost. Go on ?"),
                             QStringLiteral("Load Symbol File"))) {
         return;

@@ -1,11 +1,13 @@
 #include "shell/forms/frmMain.h"
 
+#include "platform/Numbers.h"
 #include "platform/forms/ThemeColors.h"
 #include "render/BlankMap.h"
 #include "shell/ImportCommands.h"
 #include "shell/MapParts.h"
-#include "shell/Recovery.h"
+#include "shell/StartUp.h"
 #include "shell/VarnModule.h"
+#include "shell/forms/WorkKeeper.h"
 #include "ui_frmMain.h"
 
 #include <QCloseEvent>
@@ -15,9 +17,10 @@
 frmMain::frmMain(VarnModule& varn, Dialogs& dialogs)
     : VarnForm(dialogs), m_ui(std::make_unique<Ui::frmMain>()), m_varn(varn), m_map(varn, dialogs),
       m_chizu(
-          varn, dialogs, [this] { return m_map.surfaces(); }, [this] { return mayChangeMap(); }),
+          varn, dialogs, [this] { return m_map.surfaces(); }, [this] { return m_keeper->mayChangeMap(); }),
       m_dataInput(varn, dialogs), m_data(varn, dialogs), m_setHanko(varn, dialogs), m_calc(varn, dialogs),
-      m_calExec(varn, dialogs), m_rankData(varn, dialogs), m_totalHanko(varn, dialogs)
+      m_calExec(varn, dialogs), m_rankData(varn, dialogs), m_totalHanko(varn, dialogs),
+      m_keeper(new WorkKeeper(varn, dialogs, *this, [this] { return m_dataInput.unsavedItem(); }))
 {
     m_ui->setupUi(this);
     m_preview.Width = m_map.surface().Width;
@@ -26,7 +29,7 @@ frmMain::frmMain(VarnModule& varn, Dialogs& dialogs)
     m_ui->picPreview->setPlaceholder(QStringLiteral("Check Map Name shows the map here."));
     showAsReadOnly(*m_ui->txtVarnPath);
     showAsReadOnly(*m_ui->txtVarnMapName);
-    prepareSetMergin();
+    m_ui->fraSetMergin->edit(varn, dialogs, *this);
     connectButtons();
     connectForms();
     connectAnalysisForms();
@@ -43,6 +46,7 @@ void frmMain::connectButtons()
     handle(m_ui->cmdHanko, &QPushButton::clicked, &frmMain::cmdHanko_Click);
     handle(m_ui->cmdMap, &QPushButton::clicked, &frmMain::cmdMap_Click);
     handle(m_ui->cmdSumUp, &QPushButton::clicked, &frmMain::cmdSumUp_Click);
+    connect(m_ui->cmdSettingPrinter, &QPushButton::clicked, m_ui->fraSetMergin, &PageSetupFrame::open);
     handle(m_ui->cmdExit, &QPushButton::clicked, &frmMain::cmdExit_Click);
     handle(m_ui->mnuImportLocalities, &QAction::triggered, &frmMain::mnuImportLocalities_Click);
     handle(m_ui->mnuImportLines, &QAction::triggered, &frmMain::mnuImportLines_Click);
@@ -80,6 +84,40 @@ void frmMain::connectAnalysisForms()
     handle(&m_rankData, &frmRankData::toDrawMap, &frmMain::drawContrastMap);
     handle(&m_totalHanko, &frmTotalHanko::toAnalysis, &frmMain::openCalExec);
     handle(&m_totalHanko, &frmTotalHanko::toDrawMap, &frmMain::drawDiffusionSymbols);
+}
+
+void frmMain::Form_Load(const QString& installation)
+{
+    StartUp start(m_varn, dialogs(), [this](const auto& step) { return run(step); });
+    fixPaths(m_varn);
+    m_ui->fraSetMergin->recomputePaper();
+    start.chooseMapAndFont(installation);
+    m_map.Form_Load();
+    m_varn.MapFormWidth = m_map.surface().Width;
+    m_varn.MapFormHeight = toInteger(m_map.surface().Height);
+    fixLingFolder(m_varn);
+    start.loadMap();
+    m_varn.AnalysisMode = 0;
+    m_varn.PlotDots = false;
+    m_varn.WriteFileName = false;
+    m_keeper->start();
+    run([this] { offerKeptWork(); });
+}
+
+void frmMain::offerKeptWork()
+{
+    const std::optional<UnsavedWork> work = m_keeper->offer();
+    if (!work) {
+        return;
+    }
+    showNewMap();
+    if (work->item) {
+        m_dataInput.enterUnsaved(*work->item);
+        open(m_dataInput);
+    }
+    if (work->table) {
+        open(m_calc);
+    } // symbols are set with an item, which is not loaded
 }
 
 void frmMain::SetMapName()
@@ -216,7 +254,7 @@ void frmMain::cmdSumUp_Click()
 
 void frmMain::cmdExit_Click()
 {
-    keepWork();
+    m_keeper->keep();
     QCoreApplication::exit();
 }
 
@@ -229,10 +267,7 @@ void frmMain::closeEvent(QCloseEvent* event)
             return;
         }
     }
-    if (m_recovery) {
-        run([this] { m_recovery->keep({}); }); // whatever is unsaved now was given up
-    }
-    m_keeping.stop();
+    m_keeper->giveUp();
     event->accept();
 }
 

@@ -11,22 +11,13 @@
 #include "render/forms/frmMap.h"
 #include "symbols/forms/frmSetHanko.h"
 
-#include <QTimer>
-
-#include <array>
-#include <utility>
-
-class QLineEdit;
-class Recovery;
-struct UnsavedWork;
-struct MapFont;
-struct PageLayout;
+class WorkKeeper;
 
 namespace Ui {
 class frmMain;
 }
 
-/// The main form: starts the program, shows which map is current, and opens the working forms.
+/// The main form: shows which map is current, and opens the working forms.
 class frmMain : public VarnForm
 {
     Q_OBJECT
@@ -45,12 +36,6 @@ protected:
     void closeEvent(QCloseEvent* event) override;
 
 private:
-    void InputVarnDrive();
-    void VarnDrive();
-    void askForFont(MapFont& font);
-    void loadStartMap();
-    void loadParts(const QStringList& missing);
-    void offerToMakeMap();
     void SetMapName();
     void drawPreview();
 
@@ -74,29 +59,9 @@ private:
     /// Shows the current map in all forms, after it was changed.
     void showNewMap();
     void showReloadedItem();
-    std::vector<VarnForm*> workingForms();
-
-    // Unsaved work.
-    void startKeeping();
-    void keepWork();
+    /// Offers the work that was kept, and shows it in the forms that it is edited in.
     void offerKeptWork();
-    bool openKeptWork(const QString& folder);
-    void showKept(const UnsavedWork& work);
-    bool mayChangeMap();
-
-    // Page set-up.
-    void prepareSetMergin();
-    void recomputePaper();
-    void displayPaper();
-    using MarginBox = std::pair<QLineEdit*, qint16 PageLayout::*>;
-    std::array<MarginBox, 4> marginBoxes() const;
-    void displayMargins();
-    void SetPrinter();
-    void txtMergin_Change(const QLineEdit& box, qint16 PageLayout::*margin);
-    void cboPaper_Click();
-    void lblDisplayPaperSize_Click();
-    void cmdSettingPrinter_Click();
-    void cmdExitSetMergin_Click();
+    std::vector<VarnForm*> workingForms();
 
     void cmdRegMap_Click();
     void cmdMapName_Click();
@@ -125,6 +90,5 @@ private:
     frmTotalHanko m_totalHanko;
     /// The form's own drawing: the preview of the map.
     DrawSurface m_preview;
-    std::unique_ptr<Recovery> m_recovery;
-    QTimer m_keeping{this};
+    WorkKeeper* m_keeper;
 };

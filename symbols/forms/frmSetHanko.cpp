@@ -127,9 +127,6 @@ void frmSetHanko::followSet()
     showSet();
     m_savedForItem.clear();
     m_history.restart(state());
-    if (!m_varn.HankoUnsaved) {
-        m_history.noteSaved(m_varn);
-    }
 }
 
 void frmSetHanko::showSet()
@@ -217,7 +214,7 @@ void frmSetHanko::refresh()
     }
     showTitle({QStringLiteral("Set Symbols for Kinds"), m_varn.VarnMapName.mid(1), m_varn.ItemFileName,
                m_varn.SymbolFileName},
-              m_varn.HankoUnsaved);
+              isSymbolSetUnsaved(m_varn));
     m_ui->lblRec->setText(m_editor.counter());
     m_ui->cmdBefore->setEnabled(m_varn.CurrentHanko > 1);
     for (QAction* entry : {m_ui->mnuSaveHanko, m_ui->mnuHankoInit, m_ui->mnuLoadMap}) {
@@ -249,7 +246,7 @@ QStringList frmSetHanko::status() const
     QString set = QStringLiteral("Symbols: %1 (%2 %3)")
                       .arg(name, QString::number(m_varn.NHanrei),
                            m_varn.NHanrei == 1 ? QStringLiteral("record") : QStringLiteral("records"));
-    if (m_varn.HankoUnsaved) {
+    if (isSymbolSetUnsaved(m_varn)) {
         set += QStringLiteral(", not saved");
     }
     parts << set;

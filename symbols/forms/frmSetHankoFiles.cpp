@@ -1,7 +1,7 @@
 // The file of the symbol set-up form, and what would be lost when the set or the form is left.
 
+#include "platform/FileKind.h"
 #include "platform/FileName.h"
-#include "shell/FileKinds.h"
 #include "shell/VarnModule.h"
 #include "symbols/SymbolFile.h"
 #include "symbols/forms/frmSetHanko.h"
@@ -9,7 +9,7 @@
 
 bool frmSetHanko::mayGiveUpWork(const QString& question)
 {
-    if (!m_varn.HankoUnsaved) {
+    if (!isSymbolSetUnsaved(m_varn)) {
         return mayGiveUpFields(question);
     }
     return dialogs().confirmLoss(QStringLiteral("The symbol set has changes that are not saved. ") + question,
@@ -93,7 +93,6 @@ void frmSetHanko::ResetHankoData(const QString& path)
 {
     LoadHankoData(path);
     showSet();
-    m_history.noteSaved(m_varn);
     m_savedForItem = m_varn.ItemFileName;
 }
 

@@ -28,7 +28,6 @@ void frmSetHanko::restore(const SymbolEditorState& state)
 {
     static_cast<SymbolRecords&>(m_varn) = state.records;
     m_varn.CurrentHanko = state.CurrentHanko;
-    m_varn.HankoUnsaved = !m_history.isSaved(state.records);
     showFields(state.fields);
     m_stored = state.stored;
     m_orphaned = state.orphaned;

@@ -1,8 +1,8 @@
 // The kinds of the item that the symbol set-up form lists.
 
 #include "lingdata/ItemLoader.h"
+#include "lingdata/LinguisticFile.h"
 #include "platform/WholeFile.h"
-#include "shell/FileKinds.h"
 #include "shell/VarnModule.h"
 #include "symbols/forms/frmSetHanko.h"
 #include "ui_frmSetHanko.h"

@@ -20,7 +20,7 @@ const QString Map = Data + QStringLiteral("Test\\Map\\");
 const QString Ling = Data + QStringLiteral("Test\\Ling\\");
 
 /// A kind of file: its loader, and a good one with the count of its records as `@`.
-struct FileKind
+struct LoadedKind
 {
     QString path;
     std::function<void(VarnModule&)> load;
@@ -29,7 +29,7 @@ struct FileKind
     QByteArray withCount(const QByteArray& count) const { return QByteArray(good).replace("@", count); }
 };
 
-const std::vector<FileKind> FileKinds = {
+const std::vector<LoadedKind> FileKinds = {
     {Map + "Loc.map", [](auto& varn) { LoadLocateData(varn.Drive, varn.VarnPath, varn.VarnMapName, varn); },
      "@\r\n1,2\r\n3,4\r\n"},
     {Map + "Line.map", [](auto& varn) { LoadLineData(varn.Drive, varn.VarnPath, varn.VarnMapName, varn); },
@@ -52,7 +52,7 @@ const std::vector<FileKind> FileKinds = {
 /// A survey whose file of one kind can be exchanged.
 struct BadFile
 {
-    explicit BadFile(const FileKind& fileKind) : kind(fileKind)
+    explicit BadFile(const LoadedKind& fileKind) : kind(fileKind)
     {
         survey.write(kind.path, kind.withCount("2"));
         kind.load(survey.varn);
@@ -77,7 +77,7 @@ struct BadFile
         EXPECT_EQ(state(), before);
     }
 
-    const FileKind& kind;
+    const LoadedKind& kind;
     TestSurvey survey;
     QStringList before;
 };
@@ -86,7 +86,7 @@ struct BadFile
 
 TEST(BadFiles, EachShapeIsAnErrorThatLeavesTheState)
 {
-    for (const FileKind& kind : FileKinds) {
+    for (const LoadedKind& kind : FileKinds) {
         BadFile file(kind);
         SCOPED_TRACE(kind.path.toStdString());
         const bool anyCount = kind.path.endsWith("Line.map"); // whose count is not a 16-bit integer
@@ -112,7 +112,7 @@ TEST(BadFiles, EachShapeIsAnErrorThatLeavesTheState)
 
 TEST(BadFiles, AFileCutAnywhereIsLoadedWholeOrNotAtAll)
 {
-    for (const FileKind& kind : FileKinds) {
+    for (const LoadedKind& kind : FileKinds) {
         BadFile file(kind);
         const QByteArray whole = kind.withCount("2");
         for (qsizetype length = 0; length < whole.size(); ++length) {

@@ -103,6 +103,13 @@ TEST(ItemEditor, StepsGoBackBeyondWhatIsSaved)
     }
     editor.redo();
     EXPECT_FALSE(editor.isUnsaved());
+    for (const WordCell& word : {WordCell(QString()), WordCell()}) {
+        editor.setCell({2, 1}, word);
+        EXPECT_EQ(editor.isUnsaved(), word.has_value()) << "an edit taken back by hand";
+    }
+    EXPECT_TRUE(editor.canUndo());
+    editor.markUnsaved();
+    EXPECT_TRUE(editor.isUnsaved()) << "whatever it holds";
 }
 
 TEST(ItemEditor, BlocksArePastedWhereThereIsRoomForAllTheyHold)

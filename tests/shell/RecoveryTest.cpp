@@ -17,7 +17,7 @@ protected:
         varn.HankoWord(1) = "ka\\N1a";
         varn.Hanko(1) = {12, 3, 4, 1, 2, 0};
         varn.SymbolFileName = "rain.han";
-        varn.HankoUnsaved = true;
+        varn.SavedRecords.forget();
         setNumWordforms(varn, 2);
         varn.WordformName(2) = "two";
         varn.NumSpecifyChars(1) = 11;
@@ -84,8 +84,9 @@ TEST_F(RecoveryOf, AllKindsOfWorkComeBackAsUnsaved)
 TEST_F(RecoveryOf, ATableIsUnsavedAgainstItsFile)
 {
     SaveTotalFile(varn.Drive, totalFilePath(varn.dataFolder(), varn), varn.NLocality, varn);
+    LoadTotalFile(varn.Drive, varn.TotalFilePath, varn.NLocality, varn);
     varn.Counts(2, 3) = 8;
-    varn.HankoUnsaved = false;
+    varn.SavedRecords.keep(varn);
     const UnsavedWork work = unsavedWork(varn, std::nullopt);
     EXPECT_EQ(describe(work), "cumulative data sum");
     static_cast<CumulativeData&>(varn) = {};
@@ -93,8 +94,10 @@ TEST_F(RecoveryOf, ATableIsUnsavedAgainstItsFile)
     restoreWork(work, varn);
     EXPECT_FALSE(varn.ContrastAnalysed) << "it was of other counts";
     EXPECT_EQ(varn.TotalFilePath, varn.dataFolder() + "\\sum.ttl");
-    EXPECT_EQ(varn.SavedTable.Counts(2, 3), 7);
     EXPECT_EQ(varn.Counts(2, 3), 8);
+    EXPECT_TRUE(isTableUnsaved(varn));
+    varn.Counts(2, 3) = 7;
+    EXPECT_FALSE(isTableUnsaved(varn)) << "as the file holds it";
 }
 
 TEST_F(RecoveryOf, NothingUnsavedLeavesNothingBehind)

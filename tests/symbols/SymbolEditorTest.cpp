@@ -36,7 +36,7 @@ protected:
     /// preview shows, and each record's kind, symbol and caption.
     std::string state() const
     {
-        QString text = editor.counter() + QLatin1String(set.HankoUnsaved ? "*" : "");
+        QString text = editor.counter() + QLatin1String(isSymbolSetUnsaved(set) ? "*" : "");
         text += QStringLiteral(" [%1-%2]").arg(editor.firstShown()).arg(editor.lastShown());
         for (int k = 1; k <= set.NHanrei; ++k) {
             text += QLatin1Char(' ') + set.HankoWord(k) + QString::number(set.Hanko(k).HankoNo);
@@ -79,7 +79,7 @@ TEST_F(SymbolEditing, RecordsAreEnteredOneAfterTheOther)
     fields = editor.start();
     EXPECT_EQ(editor.next(fields), fields);
     editor.registerRecord(fields);
-    EXPECT_EQ(state(), "1/New* [1-0]") << "a record without a kind does not count";
+    EXPECT_EQ(state(), "1/New [1-0]") << "a record without a kind does not count";
 
     fields = fieldsOf(" a\t  ", 0);
     fields.number = QStringLiteral("2.5");
@@ -123,7 +123,7 @@ TEST_F(SymbolEditing, RecordsAreInsertedDeletedAndEmptied)
 {
     fill(3);
     set.HankoCaption(3) = QStringLiteral("three");
-    set.HankoUnsaved = false;
+    set.SavedRecords.keep(set);
     set.HankoWord(0) = QStringLiteral("scratch");
     const auto insert = [&](int n) {
         return [&, n] { editor.insertRecord(n, QStringLiteral("a comment")); };

@@ -194,6 +194,10 @@ TEST_F(RankData, AContrastIsSavedAndReadBack)
                              "\"w3\",3\r\n\"w2\",2\r\n";
     EXPECT_EQ(survey.read(file), saved);
 
+    for (const char* name : {"cmdDel1", "cmdData1"}) {
+        take(2, name);
+        EXPECT_EQ(form.isWindowModified(), varn.ContrastCount(1) == 0) << "taken back";
+    }
     type("txtRankTitle", "another");
     dialogs.yesNo = {false};
     menu("mnuRankSave").trigger();

@@ -233,7 +233,7 @@ TEST_F(ItemFolder, ASaveThatFailsLeavesTheTableOfTheFile)
         EXPECT_TRUE(error.place().path.endsWith("all.ttl"));
         EXPECT_EQ(error.detail().contains("0 of 3 items"), &count == &ways[0]);
         EXPECT_EQ(varn.CountedItems, QStringList());
-        EXPECT_FALSE(isTableUnsaved(varn, 2)) << "nothing is counted";
+        EXPECT_FALSE(isTableUnsaved(varn)) << "nothing is counted";
     }
 }
 

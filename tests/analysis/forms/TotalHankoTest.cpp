@@ -16,6 +16,13 @@ namespace {
 const QByteArray First = "1,1,9,1,1,0,1,\"w1\"\r\n";
 const QByteArray Second = "2,2,10,1,1,0,1,\"w2\"\r\n";
 
+QByteArray fileContents(const DiffusionSymbols& symbols)
+{
+    SequentialWriter file;
+    writeDiffusionSymbols(file, symbols);
+    return file.bytes();
+}
+
 /// The form of diffusion symbols with two word forms.
 class TotalHanko : public AnalysisForm<frmTotalHanko>
 {
@@ -138,6 +145,10 @@ TEST_F(TotalHanko, WhatIsEditedIsSavedAndReadBack)
     const QByteArray saved = "\"comment\",2\r\n" + First + "49,4,5,0,2,1,3,\"caption\"\r\n";
     EXPECT_EQ(survey.read(ling("mine.htL")), saved);
 
+    for (const char* number : {"48", "49"}) {
+        type("txtHankoNumber", number);
+        EXPECT_EQ(form.isWindowModified(), number == std::string_view("48")) << "taken back";
+    }
     type("txtMinimum", "");
     for (const bool overwrite : {false, true}) {
         dialogs.yesNo = {overwrite};

@@ -191,7 +191,7 @@ TEST_F(SetHanko, SavingAsksBeforeAFileIsReplaced)
     ASSERT_EQ(dialogs.errors.size(), 1U);
     EXPECT_EQ(dialogs.errors[0].title, QStringLiteral("Run-time error '52': Bad file name or number"));
     EXPECT_EQ(work(), before);
-    EXPECT_TRUE(varn.HankoUnsaved);
+    EXPECT_TRUE(isSymbolSetUnsaved(varn));
     EXPECT_EQ(varn.SymbolFileName, QString());
 }
 

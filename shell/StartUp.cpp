@@ -1,79 +1,70 @@
-// The start of the program: its folders, the current map and the map font, the base map.
+#include "shell/StartUp.h"
 
 #include "mapdata/MapFiles.h"
+#include "mapdata/MapSearch.h"
 #include "platform/Folder.h"
 #include "platform/Numbers.h"
 #include "platform/WholeFile.h"
 #include "shell/Installation.h"
 #include "shell/MapChoice.h"
-#include "shell/Recovery.h"
-#include "shell/VarnModule.h"
-#include "shell/forms/frmMain.h"
 
-void frmMain::Form_Load(const QString& installation)
+#include <utility>
+
+StartUp::StartUp(VarnModule& varn, Dialogs& dialogs, Attempt attempt)
+    : m_varn(varn), m_dialogs(dialogs), m_attempt(std::move(attempt))
+{}
+
+void StartUp::chooseMapAndFont(const QString& installation)
 {
-    fixPaths(m_varn);
-    recomputePaper();
-    run([&] { layDownInstallation(installation, m_varn); });
+    m_attempt([&] { layDownInstallation(installation, m_varn); });
     applyMapChoice({}, m_varn);
-    run([this] {
+    m_attempt([this] {
         if (fileExists(m_varn.Drive, m_varn.DriveFileName)) {
             InputVarnDrive();
         } else {
             VarnDrive();
         }
     });
-    m_map.Form_Load();
-    m_varn.MapFormWidth = m_map.surface().Width;
-    m_varn.MapFormHeight = toInteger(m_map.surface().Height);
-    fixLingFolder(m_varn);
-    loadStartMap();
-    m_varn.AnalysisMode = 0;
-    m_varn.PlotDots = false;
-    m_varn.WriteFileName = false;
-    startKeeping();
-    offerKeptWork();
-    refresh();
 }
 
-void frmMain::InputVarnDrive()
+void StartUp::InputVarnDrive()
 {
     const QString title = QStringLiteral("Map Name, Font");
-    const bool read = run([this] { applyMapChoice(loadMapChoice(m_varn), m_varn); });
+    const bool read = m_attempt([this] { applyMapChoice(loadMapChoice(m_varn), m_varn); });
     const bool right =
-        read ? dialogs().askYesNo(mapChoiceQuestion(currentMapChoice(m_varn)), title)
-             : !dialogs().askYesNo(
+        read ? m_dialogs.askYesNo(mapChoiceQuestion(currentMapChoice(m_varn)), title)
+             : !m_dialogs.askYesNo(
                    QStringLiteral("The map name could not be read. Input map name and font now?"), title);
     if (!right) {
         VarnDrive();
     }
 }
 
-void frmMain::VarnDrive()
+void StartUp::VarnDrive()
 {
     saveDriveFile(m_varn);
     saveMapChoice(m_varn, currentMapChoice(m_varn));
     MapChoice choice = currentMapChoice(m_varn);
-    if (const auto name = dialogs().input(QStringLiteral("Input Map Name"),
+    if (const auto name = m_dialogs.input(QStringLiteral("Input Map Name"),
                                           QStringLiteral("Map Name of Varn"), choice.VarnMapName.mid(1))) {
         choice.VarnMapName = QLatin1Char('\\') + *name;
     }
-    if (dialogs().askYesNo(QStringLiteral("Input Font Name"), QStringLiteral("Setting of Fonts"))) {
+    if (m_dialogs.askYesNo(QStringLiteral("Input Font Name"), QStringLiteral("Setting of Fonts"))) {
         askForFont(choice);
     }
     applyMapChoice(choice, m_varn);
     saveMapChoice(m_varn, choice);
 }
 
-void frmMain::askForFont(MapFont& font)
+void StartUp::askForFont(MapFont& font)
 {
-    if (const auto chosen = dialogs().chooseFont(textFont(font))) {
+    if (const auto chosen = m_dialogs.chooseFont(textFont(font))) {
         font.MapFontName = chosen->name;
         font.MapFontSize = toInteger(chosen->size);
         font.MapFontBold = chosen->bold;
         font.MapFontItalic = chosen->italic;
     }
-    if (const auto shift = dialogs().input(
+    if (const auto shift = m_dialogs.input(
             QStringLiteral("Input Vertical Position of Special Fonts.  Input (-3.0 to 3.0).  Default (0)\r\n"
                            "Move Upper for Smaller Number"),
             QStringLiteral("Vertical Position of Special Fonts"), QString::number(font.SpecialFontShift))) {
@@ -81,10 +72,10 @@ void frmMain::askForFont(MapFont& font)
     }
 }
 
-void frmMain::loadStartMap()
+void StartUp::loadMap()
 {
-    run([this] { LoadSquareData(m_varn.Drive, m_varn.VarnPath, m_varn); });
-    run([this] { m_varn.ExpSymbols = LoadSymbols(m_varn); });
+    m_attempt([this] { LoadSquareData(m_varn.Drive, m_varn.VarnPath, m_varn); });
+    m_attempt([this] { m_varn.ExpSymbols = LoadSymbols(m_varn); });
     if (!m_varn.hasMap()) {
         return; // the user has been told, or did not choose a map
     }
@@ -97,7 +88,7 @@ void frmMain::loadStartMap()
 }
 
 /// Loads the parts of the current map; those that are `missing` are told in one error.
-void frmMain::loadParts(const QStringList& missing)
+void StartUp::loadParts(const QStringList& missing)
 {
     const MapPlace place{m_varn.VarnPath, m_varn.VarnMapName};
     QStringList told;
@@ -105,22 +96,22 @@ void frmMain::loadParts(const QStringList& missing)
         told << RunTimeError(ErrorNumber::FileNotFound).at({path}).where();
     }
     if (!told.isEmpty()) {
-        dialogs().error(RunTimeError(ErrorNumber::FileNotFound).title(), told.join(QLatin1Char('\n')));
+        m_dialogs.error(RunTimeError(ErrorNumber::FileNotFound).title(), told.join(QLatin1Char('\n')));
     }
     for (const MapPart& part : mapParts()) {
         if (!missing.contains(part.path(place))) {
-            run([&] {
+            m_attempt([&] {
                 part.load(m_varn.Drive, place, m_varn);
             }); // a damaged one does not keep off the others
         }
     }
 }
 
-void frmMain::offerToMakeMap()
+void StartUp::offerToMakeMap()
 {
-    if (dialogs().askYesNo(
+    if (m_dialogs.askYesNo(
             QStringLiteral("There is no map %1. Make a new one?").arg(m_varn.VarnMapName.mid(1)),
             QStringLiteral("Map Name of Varn"))) {
-        run([this] { makeMap(m_varn); });
+        m_attempt([this] { makeMap(m_varn); });
     }
 }
