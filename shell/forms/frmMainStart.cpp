@@ -115,6 +115,7 @@ void frmMain::loadParts(const QStringList& missing)
             }); // a damaged one does not keep off the others
         }
     }
+    run([this] { loadLocalityNames(m_varn, m_varn); });
 }
 
 void frmMain::offerToMakeMap()
