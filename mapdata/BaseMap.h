@@ -1,5 +1,6 @@
 #pragma once
 
+#include "mapdata/LocalityNames.h"
 #include "platform/BoundedArray.h"
 
 #include <QString>
@@ -58,7 +59,7 @@ struct PolygonTable
     BoundedArray<float, Bounds{0, 200}, Bounds{0, 20}, Bounds{0, 1}> SquareXY;
 };
 
-/// A survey area's base map and the installation's polygon designs.
-struct BaseMap : Localities, MapLines, PlaceNames, PolygonTable
+/// A survey area's base map, the names of its localities, and the installation's polygon designs.
+struct BaseMap : Localities, LocalityNames, MapLines, PlaceNames, PolygonTable
 {
 };

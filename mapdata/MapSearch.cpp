@@ -89,6 +89,18 @@ void chooseMap(const MapPlace& place, Folders& folders, BaseMap& map)
     fixLingFolder(folders);
 }
 
+void loadLocalityNames(const Folders& folders, BaseMap& map)
+{
+    LocalityNames& names = map;
+    names = {};
+    const QString path = localityNamesFile(folders.VarnPath, folders.VarnMapName);
+    if (fileExists(folders.Drive, path)) {
+        names = readSequentialFile(folders.Drive, path, [&map](SequentialReader& file) {
+            return readLocalityNames(file, map.NLocality);
+        });
+    }
+}
+
 void makeMap(const Folders& folders)
 {
     const QString name = folders.VarnMapName.mid(1);

@@ -41,9 +41,15 @@ std::span<const MapPart> mapParts();
 void loadBaseMap(const DriveC& drive, const MapPlace& place, const QStringList& without, BaseMap& map);
 
 /// Makes the map at `place` the current one, with its whole base map; polygon designs of another installation
-/// folder come along where it has them. A map needs its localities; its lines and place names are empty where
-/// it has no file of them. An error in any of the files leaves everything as it was.
+/// folder come along where it has them; names of localities do not. A map needs its localities; its lines and
+/// place names are empty where it has no file of them. An error in any of the files leaves everything as it
+/// was.
 void chooseMap(const MapPlace& place, Folders& folders, BaseMap& map);
+
+/// Takes the names of the map's localities from `Localities.csv`, for a map whose localities are loaded;
+/// without that file there are none. A file that does not fit the map leaves none either, and raises what
+/// `readLocalityNames` raises.
+void loadLocalityNames(const Folders& folders, BaseMap& map);
 
 /// Makes the folders of the current map: of its base map, and of its items and symbol files. Raises bad file
 /// name for a name that no folder can have, and permission denied.

@@ -40,6 +40,11 @@ bool SequentialReader::atLineEnd() const
     return !atEnd() && isLineEnd(m_text[m_position]);
 }
 
+bool SequentialReader::hasMore() const
+{
+    return !QStringView(m_text).mid(m_position).trimmed().isEmpty();
+}
+
 void SequentialReader::skipBlanks()
 {
     while (!atEnd() && isBlank(m_text[m_position])) {

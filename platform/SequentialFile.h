@@ -38,6 +38,9 @@ public:
     /// overflow, and subscript out of range for a negative count.
     qint16 readCount();
 
+    /// Whether anything but blanks and line ends is left.
+    bool hasMore() const;
+
     /// The line and the field on it, counted from 1, of the field read last.
     int line() const { return m_fieldLine; }
     int field() const { return m_field; }

@@ -86,6 +86,7 @@ void SaveLocateData(VarnModule& varn, Dialogs& dialogs)
     const auto read = [&](const QString& path) { return importLocalities(varn.Drive, path); };
     if (importFile(varn, dialogs, file, read, writeLocalities)) {
         LoadLocateData(varn.Drive, varn.VarnPath, varn.VarnMapName, varn);
+        loadLocalityNames(varn, varn);
     }
 }
 

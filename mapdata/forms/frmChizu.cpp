@@ -104,6 +104,7 @@ bool frmChizu::SearchLocateData()
         return false;
     }
     changeMap(*place, m_varn);
+    run([this] { loadLocalityNames(m_varn, m_varn); });
     return true;
 }
 
