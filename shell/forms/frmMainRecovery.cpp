@@ -55,6 +55,7 @@ bool frmMain::openKeptWork(const QString& folder)
     const bool opened = dialogs().askYesNo(question, QStringLiteral("Unsaved Work"));
     if (opened) {
         restoreWork(work, m_varn);
+        run([this] { loadLocalityNames(m_varn, m_varn); });
         showNewMap();
         showKept(work);
         m_recovery->keep(work);
