@@ -6,16 +6,24 @@
 #include "platform/RunTimeError.h"
 
 #include <QFileInfo>
+#include <QLineF>
 #include <QRegularExpression>
 
 #include <gdal_priv.h>
 #include <map>
 #include <ogrsf_frmts.h>
+#include <optional>
 
 namespace {
 
 using Geometry = std::unique_ptr<OGRGeometry>;
 using Dataset = std::unique_ptr<GDALDataset>;
+
+QRegularExpression anyOf(const char* words)
+{
+    return QRegularExpression(QString::fromUtf8(words), QRegularExpression::CaseInsensitiveOption |
+                                                            QRegularExpression::UseUnicodePropertiesOption);
+}
 
 /// The kind that a name speaks of, in the languages that layers are often named in.
 std::optional<BaseLineKind> kindOfName(const QString& name)
@@ -23,19 +31,16 @@ std::optional<BaseLineKind> kindOfName(const QString& name)
     struct Row
     {
         BaseLineKind kind;
-        const char* words;
+        QRegularExpression words;
     };
-    static constexpr Row Rows[] = {
-        {BaseLineKind::Border, "border|bound|admin|frontier|frontière|frontera|límite|grenz|grens"},
-        {BaseLineKind::River, "river|stream|fluss|flüsse|rivier|rivière|fleuve|\\brío|\\brio|川"},
-        {BaseLineKind::Lake, "lake|lagoon|\\bseen?\\b|\\blacs?\\b|\\blagos?\\b|湖"},
-        {BaseLineKind::Coast, "coast|shore|küste|kust|\\bcôte|\\bcosta|\\bland\\b|海岸"},
+    static const Row rows[] = {
+        {BaseLineKind::Border, anyOf("border|bound|admin|frontier|frontière|frontera|límite|grenz|grens")},
+        {BaseLineKind::River, anyOf("river|stream|fluss|flüsse|rivier|rivière|fleuve|\\brío|\\brio|川")},
+        {BaseLineKind::Lake, anyOf("lake|lagoon|\\bseen?\\b|\\blacs?\\b|\\blagos?\\b|湖")},
+        {BaseLineKind::Coast, anyOf("coast|shore|küste|kust|\\bcôte|\\bcosta|\\bland\\b|海岸")},
     };
-    for (const Row& row : Rows) {
-        const QRegularExpression words(QString::fromUtf8(row.words),
-                                       QRegularExpression::CaseInsensitiveOption |
-                                           QRegularExpression::UseUnicodePropertiesOption);
-        if (words.match(name).hasMatch()) {
+    for (const Row& row : rows) {
+        if (row.words.match(name).hasMatch()) {
             return row.kind;
         }
     }
@@ -57,6 +62,9 @@ Geometry rectangle(const QRectF& area)
 /// What of a line lies in `area`; nothing where they are far from each other.
 Geometry cut(const OGRLineString& line, const OGRGeometry& area)
 {
+    if (line.getNumPoints() < 2) {
+        return {};
+    }
     OGREnvelope ofLine;
     OGREnvelope ofArea;
     line.getEnvelope(&ofLine);
@@ -116,15 +124,35 @@ public:
     }
 
 private:
+    /// Projects a line, which ends where the projection cannot show it or leaps to the other side of the
+    /// Earth.
     void project(const OGRLineString& line, OGRMultiLineString& clipped) const
     {
         OGRLineString onMap;
         for (const OGRPoint& point : line) {
-            if (const auto place = m_frame.toMap({point.getX(), point.getY()})) {
+            const auto place = m_frame.toMap({point.getX(), point.getY()});
+            if (!place || isLeap(onMap, *place)) {
+                addCut(onMap, clipped);
+                onMap.empty();
+            }
+            if (place) {
                 onMap.addPoint(place->x(), place->y());
             }
         }
-        if (const Geometry inside = cut(onMap, *m_area)) {
+        addCut(onMap, clipped);
+    }
+
+    static bool isLeap(const OGRLineString& line, QPointF next)
+    {
+        constexpr double Leap = MapFrame::Width / 4; // the points of a line stand close together
+
+        const int last = line.getNumPoints() - 1;
+        return last >= 0 && QLineF(QPointF(line.getX(last), line.getY(last)), next).length() > Leap;
+    }
+
+    void addCut(const OGRLineString& line, OGRMultiLineString& clipped) const
+    {
+        if (const Geometry inside = cut(line, *m_area)) {
             visitLines(*inside, [&](const OGRLineString& piece) { clipped.addGeometry(&piece); });
         }
     }
@@ -163,8 +191,8 @@ void readLayer(OGRLayer& layer, const QString& fileName, const LineClip& clip, b
                LinesOfKinds& lines)
 {
     const auto way = plane ? nullptr : toDegrees(layer);
-    const BaseLineKind kind = kindOfName(QString::fromUtf8(layer.GetName()))
-                                  .value_or(kindOfName(fileName).value_or(BaseLineKind::Coast));
+    const auto ofLayer = kindOfName(QString::fromUtf8(layer.GetName()));
+    const BaseLineKind ofFile = kindOfName(fileName).value_or(BaseLineKind::Coast);
     if (!way && clip.window().size() == 1) {
         const QRectF window = clip.window().front();
         layer.SetSpatialFilterRect(window.left(), window.top(), window.right(), window.bottom());
@@ -174,7 +202,8 @@ void readLayer(OGRLayer& layer, const QString& fileName, const LineClip& clip, b
         if (!geometry || (way && geometry->transform(way.get()) != OGRERR_NONE)) {
             continue;
         }
-        OGRMultiLineString& ofKind = lines[kindOfName(featureName(*feature)).value_or(kind)];
+        const auto kind = ofLayer ? ofLayer : kindOfName(featureName(*feature));
+        OGRMultiLineString& ofKind = lines[kind.value_or(ofFile)];
         visitLines(*geometry, [&](const OGRLineString& line) { clip.clip(line, ofKind); });
     }
 }

@@ -41,8 +41,8 @@ struct Made
 Made madeOf(const QByteArray& layer, const QRectF& legend = NoLegend)
 {
     const TestDrive drive;
-    drive.write(QStringLiteral("C:\\coast.geojson"), layer);
-    const QString path = drive.drive().hostPath(QStringLiteral("C:\\coast.geojson"));
+    drive.write(QStringLiteral("C:\\map.geojson"), layer);
+    const QString path = drive.drive().hostPath(QStringLiteral("C:\\map.geojson"));
     ImportReport report;
     const MapLines lines = makeBaseMap(MapFrame(Plain, true), legend, {path}, report);
     return {lines, report.text()};
