@@ -569,8 +569,14 @@ TEST_F(DataInput, GoToLeadsToALocality)
         menu("mnuGoTo").trigger();
         return shown().back().text;
     };
+    survey.varn.localityNames.resize(3);
+    survey.varn.localityNames[2].name = QStringLiteral("Amele");
     goTo(QStringLiteral(" 3 "));
     EXPECT_EQ(cell(), std::pair(3, 1));
+    EXPECT_EQ(control<QLabel>("lblCell").text(), QStringLiteral("Locality 3 Amele, word 1"));
+    const QAbstractItemModel& rows = *control<QTableView>("tblWords").model();
+    EXPECT_EQ(rows.headerData(2, Qt::Vertical), QStringLiteral("3 Amele"));
+    EXPECT_EQ(rows.headerData(1, Qt::Vertical), QStringLiteral("2"));
     for (const char* wrong : {"0", "4", "two", ""}) {
         EXPECT_EQ(goTo(QLatin1String(wrong)), QStringLiteral("Locality No. must be a number from 1 to 3."));
     }

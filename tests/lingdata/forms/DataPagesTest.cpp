@@ -20,7 +20,7 @@ DataList listOf(int count, const QString& word)
 {
     DataList list{QStringLiteral("Rain"), QStringLiteral("rain.dbs"), {QStringLiteral("No.")}, {}};
     for (int n = 1; n <= count; ++n) {
-        list.lines.push_back({{n}, word});
+        list.lines.push_back({{n}, {}, word});
     }
     return list;
 }
@@ -69,12 +69,19 @@ TEST(DataPages, ListsHoldTheWordFormsAndTheKinds)
                  "3,\"Q 1\",\"Rain\",\"\"\r\n2\r\n\"uyu\"\r\n\"ame\"\r\n0\r\n1\r\n\"uyu\"\r\n");
     LoadWordData(survey.varn, survey.varn.dataFolder() + QStringLiteral("\\rain.dbs"), survey.varn,
                  survey.varn);
-    const DataList data = dataList(survey.varn);
+    survey.varn.localityNames.resize(3);
+    survey.varn.localityNames[2].name = QStringLiteral("Amele");
+    const DataList data = dataList(survey.varn, survey.varn);
     EXPECT_EQ(data.title, QStringLiteral("Q 1  Rain"));
     ASSERT_EQ(data.lines.size(), 3U);
     EXPECT_EQ(data.lines[1].numbers, (std::vector<int>{2, 1, 2}));
     EXPECT_EQ(data.lines[2].numbers, (std::vector<int>{3, 3, 1}));
     EXPECT_EQ(data.lines[2].word, QStringLiteral("uyu"));
+    EXPECT_EQ(data.lines[1].locality, QString());
+    DrawSurface target;
+    DataPages(survey.varn, data).draw(1, target);
+    EXPECT_EQ(printedAt(target.drawing(), QStringLiteral("Amele")).x(),
+              printedAt(target.drawing(), QStringLiteral("Locality")).x());
     const DataList kinds = kindList(survey.varn);
     ASSERT_EQ(kinds.lines.size(), 2U);
     EXPECT_EQ(kinds.lines[0].word, QStringLiteral("ame"));
