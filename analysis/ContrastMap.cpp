@@ -28,7 +28,8 @@ float radiusAt(const CountMapParts& parts, int j)
         const qint16 product = toInteger(static_cast<double>(difference) * parts.contrast.ContrastMaxSize);
         return toSingle(divide(product, parts.counts.NumItemsAccumulated));
     } catch (const RunTimeError& error) {
-        throw error.during(QStringLiteral("The circle of locality %1.").arg(j));
+        throw error.during(
+            QStringLiteral("The circle of locality %1.").arg(localityTitle(parts.base.map, j)));
     }
 }
 

@@ -80,10 +80,14 @@ QString localityNamesFile(const QString& varnPath, const QString& mapName)
     return mapFolder(varnPath, mapName) + QStringLiteral("\\Localities.csv");
 }
 
+QString localityName(const LocalityNames& names, int i)
+{
+    const bool named = i >= 1 && i <= std::ssize(names.localityNames);
+    return named ? names.localityNames[static_cast<size_t>(i - 1)].name : QString();
+}
+
 QString localityTitle(const LocalityNames& names, int i)
 {
-    const QString number = QString::number(i);
-    const bool named = i >= 1 && i <= std::ssize(names.localityNames);
-    const QString name = named ? names.localityNames[static_cast<size_t>(i - 1)].name : QString();
-    return name.isEmpty() ? number : number + QLatin1Char(' ') + name;
+    const QString name = localityName(names, i);
+    return name.isEmpty() ? QString::number(i) : QStringLiteral("%1 ").arg(i) + name;
 }

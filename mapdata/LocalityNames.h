@@ -42,5 +42,7 @@ void writeLocalityNames(SequentialWriter& file, const LocalityNames& names);
 /// The file of the names in the folder of a map. `mapName` begins with a backslash.
 QString localityNamesFile(const QString& varnPath, const QString& mapName);
 
+/// The name of locality i (from 1); empty where it has none.
+QString localityName(const LocalityNames& names, int i);
 /// How locality i (from 1) is named to the user: "12 Amele", or "12" in a map without names.
 QString localityTitle(const LocalityNames& names, int i);

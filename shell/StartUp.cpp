@@ -105,7 +105,7 @@ void StartUp::loadParts(const QStringList& missing)
             }); // a damaged one does not keep off the others
         }
     }
-    run([this] { loadLocalityNames(m_varn, m_varn); });
+    m_attempt([this] { loadLocalityNames(m_varn, m_varn); });
 }
 
 void StartUp::offerToMakeMap()

@@ -96,5 +96,4 @@ void restoreWork(const UnsavedWork& work, VarnModule& varn)
         static_cast<CumulativeData&>(varn) = changedTable(work, varn.Drive);
         varn.ContrastAnalysed = false;
     }
-    loadLocalityNames(varn, varn); // the last step: names that cannot be read keep nothing back
 }

@@ -19,6 +19,7 @@ constexpr float FirstLineY = 760;
 constexpr float Gap = 180;
 constexpr float ColumnGap = 480;
 
+const QString LocalityHeading = QStringLiteral("Locality");
 const QString WordTitle = QStringLiteral("Word");
 const QString CodeTitle = QStringLiteral("Code");
 
@@ -37,14 +38,16 @@ QString titleOf(const LinguisticData& item)
 
 } // namespace
 
-DataList dataList(const LinguisticData& item)
+DataList dataList(const LinguisticData& item, const LocalityNames& names)
 {
     DataList list{titleOf(item),
                   item.ItemFileName,
                   {QStringLiteral("No."), QStringLiteral("Loc."), QStringLiteral("Sub")},
                   {}};
     for (int n = 1; n <= item.WordTotal; ++n) {
-        list.lines.push_back({{n, item.WordLocate(n), item.WordSub(n)}, item.WordList(n)});
+        const int locality = item.WordLocate(n);
+        list.lines.push_back(
+            {{n, locality, item.WordSub(n)}, localityName(names, locality), item.WordList(n)});
     }
     return list;
 }
@@ -53,7 +56,7 @@ DataList kindList(const LinguisticData& item)
 {
     DataList list{titleOf(item), item.ItemFileName, {QStringLiteral("No."), QStringLiteral("Count")}, {}};
     for (int k = 1; k <= item.NKind; ++k) {
-        list.lines.push_back({{k, item.KindCount(k)}, item.KindWord(k)});
+        list.lines.push_back({{k, item.KindCount(k)}, {}, item.KindWord(k)});
     }
     return list;
 }
@@ -92,7 +95,9 @@ void DataPages::placeParts(ListText& text)
         m_places.numberEnds.push_back(x);
         x += Gap;
     }
-    m_places.word = x;
+    m_places.locality = x;
+    placeLocality(text);
+    m_places.word = m_places.localityWidth > 0 ? x + m_places.localityWidth + Gap : x;
     m_places.wordWidth = text.width(WordTitle);
     for (const DataList::Line& line : m_list.lines) {
         const float width = text.width(line.word, ListText::Coding::Phonetic);
@@ -101,6 +106,18 @@ void DataPages::placeParts(ListText& text)
             m_places.codeWidth = std::max({m_places.codeWidth, text.width(line.word), text.width(CodeTitle)});
         }
     }
+}
+
+/// Gives the names of localities, where there are any, the room of the widest, but not too much.
+void DataPages::placeLocality(ListText& text)
+{
+    constexpr float Widest = 1800;
+
+    float widest = 0;
+    for (const DataList::Line& line : m_list.lines) {
+        widest = std::max(widest, text.width(line.locality));
+    }
+    m_places.localityWidth = widest > 0 ? std::clamp(widest, text.width(LocalityHeading), Widest) : 0;
 }
 
 /// Sets as many columns as fit side by side, but so many that they are not too high; where that makes them
@@ -167,6 +184,9 @@ void DataPages::drawColumnTitles(float left, ListText& text) const
         text.writeRight(left + m_places.numberEnds[static_cast<std::size_t>(c)], ColumnTitlesY,
                         m_list.columns[c]);
     }
+    if (m_places.localityWidth > 0) {
+        text.write(left + m_places.locality, ColumnTitlesY, LocalityHeading);
+    }
     text.write(left + m_places.word, ColumnTitlesY, text.shortened(WordTitle, m_places.wordWidth));
     if (m_places.codeWidth > 0) {
         text.write(left + m_places.code, ColumnTitlesY, text.shortened(CodeTitle, m_places.codeWidth));
@@ -178,6 +198,9 @@ void DataPages::drawLine(const DataList::Line& line, float left, float y, ListTe
 {
     for (std::size_t c = 0; c < line.numbers.size(); ++c) {
         text.writeRight(left + m_places.numberEnds[c], y, QString::number(line.numbers[c]));
+    }
+    if (!line.locality.isEmpty()) {
+        text.write(left + m_places.locality, y, text.shortened(line.locality, m_places.localityWidth));
     }
     text.write(left + m_places.word, y,
                text.shortened(line.word, m_places.wordWidth, ListText::Coding::Phonetic),

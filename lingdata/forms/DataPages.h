@@ -16,6 +16,8 @@ struct DataList
     {
         /// One number for each of `columns`.
         std::vector<int> numbers;
+        /// The name of the locality; empty in a map without names.
+        QString locality;
         /// The word form, coded.
         QString word;
     };
@@ -30,7 +32,7 @@ struct DataList
 };
 
 /// The word forms in file order, each with its locality and its number there.
-DataList dataList(const LinguisticData& item);
+DataList dataList(const LinguisticData& item, const LocalityNames& names);
 /// The kinds of word forms with their counts.
 DataList kindList(const LinguisticData& item);
 
@@ -62,6 +64,9 @@ private:
     struct Places
     {
         std::vector<float> numberEnds;
+        float locality = 0;
+        /// 0 where no locality has a name.
+        float localityWidth = 0;
         float word = 0;
         float wordWidth = 0;
         float code = 0;
@@ -69,6 +74,7 @@ private:
     };
 
     void placeParts(ListText& text);
+    void placeLocality(ListText& text);
     void placeColumns();
     void drawHeading(int page, ListText& text, DrawSurface& target) const;
     void drawColumnTitles(float left, ListText& text) const;

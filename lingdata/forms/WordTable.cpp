@@ -5,8 +5,8 @@
 
 #include <utility>
 
-WordTable::WordTable(ItemEditor& editor, QObject* parent)
-    : QAbstractTableModel(parent), m_editor(editor), m_rows(editor.localities())
+WordTable::WordTable(ItemEditor& editor, const LocalityNames& names, QObject* parent)
+    : QAbstractTableModel(parent), m_editor(editor), m_names(names), m_rows(editor.localities())
 {}
 
 void WordTable::replaceItem(ItemEditor item)
@@ -73,7 +73,7 @@ QVariant WordTable::headerData(int section, Qt::Orientation orientation, int rol
         return {};
     }
     return orientation == Qt::Horizontal ? QStringLiteral("Word %1").arg(section + 1)
-                                         : QString::number(section + 1);
+                                         : localityTitle(m_names, section + 1);
 }
 
 Qt::ItemFlags WordTable::flags(const QModelIndex& index) const

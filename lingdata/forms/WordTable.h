@@ -1,18 +1,19 @@
 #pragma once
 
 #include "lingdata/ItemEditor.h"
+#include "mapdata/LocalityNames.h"
 
 #include <QAbstractTableModel>
 
 /// The cells of an item as a table: a row for each locality, a column for each of its word forms. An empty
-/// word form reads as two double quotes.
+/// word form reads as two double quotes. Rows are headed by their localities.
 class WordTable : public QAbstractTableModel
 {
     Q_OBJECT
 
 public:
-    /// `editor` must outlive the table.
-    explicit WordTable(ItemEditor& editor, QObject* parent = nullptr);
+    /// `editor` and `names` must outlive the table.
+    WordTable(ItemEditor& editor, const LocalityNames& names, QObject* parent = nullptr);
 
     /// Puts another item into the table.
     void replaceItem(ItemEditor item);
@@ -31,6 +32,7 @@ public:
 
 private:
     ItemEditor& m_editor;
+    const LocalityNames& m_names;
     /// How many rows the views know of.
     int m_rows = 0;
 };

@@ -111,7 +111,7 @@ void frmData::showWhatIsShown()
 void frmData::displayList(List list)
 {
     const WaitCursor wait;
-    DataPages pages(m_varn, list == List::Data ? dataList(m_varn) : kindList(m_varn));
+    DataPages pages(m_varn, list == List::Data ? dataList(m_varn, m_varn) : kindList(m_varn));
     displayPage(pages, 1);
     m_pages.emplace(std::move(pages));
     m_list = list;

@@ -15,7 +15,7 @@
 #include <utility>
 
 frmDataInput::frmDataInput(VarnModule& varn, Dialogs& dialogs)
-    : VarnForm(dialogs), m_ui(std::make_unique<Ui::frmDataInput>()), m_varn(varn),
+    : VarnForm(dialogs), m_ui(std::make_unique<Ui::frmDataInput>()), m_varn(varn), m_table(m_editor, varn),
       m_kindDelegate(new WordDelegate(varn, this)),
       m_delegate(new WordEntryDelegate(varn, *m_kindDelegate, this)), m_progress(new QLabel(this)),
       m_warning(new QLabel(this))
@@ -167,10 +167,10 @@ void frmDataInput::moved()
     const WordTableView& words = *m_ui->tblWords;
     const bool anyCell = words.currentIndex().isValid();
     m_ui->picMap->highlight(words.locality());
-    m_ui->lblCell->setText(anyCell
-                               ? QStringLiteral("Locality %1, word %2")
-                                     .arg(QString::number(words.locality()), QString::number(words.column()))
-                               : QString());
+    m_ui->lblCell->setText(
+        anyCell ? QStringLiteral("Locality %1, word %2")
+                      .arg(localityTitle(m_varn, words.locality()), QString::number(words.column()))
+                : QString());
     drawWordShown(words.currentIndex().data().toString());
 }
 

@@ -95,7 +95,7 @@ private:
     std::unique_ptr<Ui::frmDataInput> m_ui;
     VarnModule& m_varn;
     ItemEditor m_editor;
-    WordTable m_table{m_editor};
+    WordTable m_table;
     std::vector<FaultyWord> m_faults;
     WordDelegate* m_kindDelegate;
     WordEntryDelegate* m_delegate;

@@ -1,6 +1,7 @@
 // The check of the codes that were entered.
 
 #include "lingdata/forms/frmDataInput.h"
+#include "shell/VarnModule.h"
 #include "ui_frmDataInput.h"
 
 #include <QSignalBlocker>
@@ -32,7 +33,7 @@ void frmDataInput::showFaults()
     m_ui->lstCheck->clear();
     for (const FaultyWord& faulty : m_faults) {
         m_ui->lstCheck->addItem(QStringLiteral("Locality %1, word %2:   %3   (%4)")
-                                    .arg(QString::number(faulty.place.locality),
+                                    .arg(localityTitle(m_varn, faulty.place.locality),
                                          QString::number(faulty.place.column), faulty.word,
                                          faultText(faulty.fault)));
     }

@@ -102,7 +102,7 @@ void frmDataInput::mnuPaste_Click()
                            "%4 on. Nothing was pasted.")
                 .arg(block.size())
                 .arg(columnsOf(block))
-                .arg(first.locality)
+                .arg(localityTitle(m_varn, first.locality))
                 .arg(first.column),
             QStringLiteral("Paste"));
         return;

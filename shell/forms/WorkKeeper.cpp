@@ -76,6 +76,7 @@ std::optional<UnsavedWork> WorkKeeper::open(const QString& folder)
             .arg(work->map.VarnMapName.mid(1), describe(*work));
     if (m_dialogs.askYesNo(question, QStringLiteral("Unsaved Work"))) {
         restoreWork(*work, m_varn);
+        m_form.run([this] { loadLocalityNames(m_varn, m_varn); });
         m_recovery->keep(*work);
     } else {
         work.reset();

@@ -268,6 +268,8 @@ TEST_F(DataInput, LocalitiesAreFoundOnTheMapAndByTheirNumbers)
     auto& map = child<LocalityView>(input, "picMap");
     const QImage first = map.grab().toImage();
     const QString wrong = "Locality No. must be a number from 1 to 3.";
+    program.varn.localityNames.resize(3);
+    program.varn.localityNames[2].name = "Amele";
     const std::pair<std::optional<QString>, QString> rows[] = {
         {" 3 ", "Locality No."}, {"0", wrong}, {"4", wrong}, {"two", wrong}, {std::nullopt, "Locality No."}};
     for (const auto& [answer, text] : rows) {
@@ -276,6 +278,10 @@ TEST_F(DataInput, LocalitiesAreFoundOnTheMapAndByTheirNumbers)
         EXPECT_EQ(shown().back().text, text);
         EXPECT_EQ(cell(), Cell(3, 1)) << qPrintable(answer.value_or("cancelled"));
     }
+    EXPECT_EQ(child<QLabel>(input, "lblCell").text(), "Locality 3 Amele, word 1");
+    const QAbstractItemModel& model = *child<QTableView>(input, "tblWords").model();
+    EXPECT_EQ(model.headerData(2, Qt::Vertical), "3 Amele");
+    EXPECT_EQ(model.headerData(1, Qt::Vertical), "2");
     EXPECT_NE(map.grab().toImage(), first);
     Q_EMIT map.localityClicked(1);
     EXPECT_EQ(cell(), Cell(1, 1));

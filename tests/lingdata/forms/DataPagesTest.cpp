@@ -15,7 +15,7 @@ DataList listOf(int count, const QString& word)
 {
     DataList list{"Rain", "rain.dbs", {"No."}, {}};
     for (int n = 1; n <= count; ++n) {
-        list.lines.push_back({{n}, word});
+        list.lines.push_back({{n}, {}, word});
     }
     return list;
 }
@@ -82,8 +82,13 @@ TEST(DataPages, AnItemShowsItsWordFormsAndKinds)
     const QString path = survey.varn.dataFolder() + "\\rain.dbs";
     survey.write(path, "3,\"Q 1\",\"Rain\",\"\"\r\n2\r\n\"uyu\"\r\n\"ame\"\r\n0\r\n1\r\n\"uyu\"\r\n");
     LoadWordData(survey.varn, path, survey.varn, survey.varn);
-    EXPECT_EQ(textsOf(drawn(DataPages(survey.varn, dataList(survey.varn)), 1)),
+    EXPECT_EQ(textsOf(drawn(DataPages(survey.varn, dataList(survey.varn, {})), 1)),
               "** PAGE = 1 / 1 Q 1  Rain rain.dbs No. Loc. Sub Word 1 1 1 uyu 2 1 2 ame 3 3 1 uyu");
+    LocalityNames names;
+    names.localityNames = {{}, {}, {"c", "Amele"}};
+    EXPECT_EQ(
+        textsOf(drawn(DataPages(survey.varn, dataList(survey.varn, names)), 1)),
+        "** PAGE = 1 / 1 Q 1  Rain rain.dbs No. Loc. Sub Locality Word 1 1 1 uyu 2 1 2 ame 3 3 1 Amele uyu");
     EXPECT_EQ(textsOf(drawn(DataPages(survey.varn, kindList(survey.varn)), 1)),
               "** PAGE = 1 / 1 Q 1  Rain rain.dbs No. Count Word 1 1 ame 2 2 uyu");
 }

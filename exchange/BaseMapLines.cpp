@@ -1,0 +1,276 @@
+#include "exchange/BaseMapLines.h"
+
+#include "exchange/GdalScope.h"
+#include "exchange/MapFrame.h"
+#include "exchange/SourceWindow.h"
+#include "platform/RunTimeError.h"
+
+#include <QFileInfo>
+#include <QLineF>
+#include <QRegularExpression>
+
+#include <gdal_priv.h>
+#include <map>
+#include <ogrsf_frmts.h>
+#include <optional>
+
+namespace {
+
+using Geometry = std::unique_ptr<OGRGeometry>;
+using Dataset = std::unique_ptr<GDALDataset>;
+
+QRegularExpression anyOf(const char* words)
+{
+    return QRegularExpression(QString::fromUtf8(words), QRegularExpression::CaseInsensitiveOption |
+                                                            QRegularExpression::UseUnicodePropertiesOption);
+}
+
+/// The kind that a name speaks of, in the languages that layers are often named in.
+std::optional<BaseLineKind> kindOfName(const QString& name)
+{
+    struct Row
+    {
+        BaseLineKind kind;
+        QRegularExpression words;
+    };
+    static const Row rows[] = {
+        {BaseLineKind::Border, anyOf("border|bound|admin|frontier|frontière|frontera|límite|grenz|grens")},
+        {BaseLineKind::River, anyOf("river|stream|fluss|flüsse|rivier|rivière|fleuve|\\brío|\\brio|川")},
+        {BaseLineKind::Lake, anyOf("lake|lagoon|\\bseen?\\b|\\blacs?\\b|\\blagos?\\b|湖")},
+        {BaseLineKind::Coast, anyOf("coast|shore|küste|kust|\\bcôte|\\bcosta|\\bland\\b|海岸")},
+    };
+    for (const Row& row : rows) {
+        if (row.words.match(name).hasMatch()) {
+            return row.kind;
+        }
+    }
+    return std::nullopt;
+}
+
+Geometry rectangle(const QRectF& area)
+{
+    auto ring = std::make_unique<OGRLinearRing>();
+    for (const QPointF corner : {area.topLeft(), area.topRight(), area.bottomRight(), area.bottomLeft()}) {
+        ring->addPoint(corner.x(), corner.y());
+    }
+    ring->closeRings();
+    auto polygon = std::make_unique<OGRPolygon>();
+    polygon->addRingDirectly(ring.release());
+    return polygon;
+}
+
+/// What of a line lies in `area`; nothing where they are far from each other.
+Geometry cut(const OGRLineString& line, const OGRGeometry& area)
+{
+    if (line.getNumPoints() < 2) {
+        return {};
+    }
+    OGREnvelope ofLine;
+    OGREnvelope ofArea;
+    line.getEnvelope(&ofLine);
+    area.getEnvelope(&ofArea);
+    return Geometry(ofArea.Intersects(ofLine) ? line.Intersection(&area) : nullptr);
+}
+
+/// Calls `visit` for every line of a geometry; the outlines of areas are lines.
+template <typename Visit>
+void visitLines(const OGRGeometry& geometry, const Visit& visit)
+{
+    if (geometry.IsEmpty()) {
+        return;
+    }
+    if (geometry.hasCurveGeometry()) {
+        visitLines(*Geometry(geometry.getLinearGeometry()), visit);
+    } else if (const auto* line = dynamic_cast<const OGRLineString*>(&geometry)) {
+        visit(*line);
+    } else if (const auto* area = dynamic_cast<const OGRPolygon*>(&geometry)) {
+        for (const OGRLinearRing* ring : *area) {
+            visit(OGRLineString(*ring)); // GEOS cuts lines, not rings
+        }
+    } else if (const auto* parts = dynamic_cast<const OGRGeometryCollection*>(&geometry)) {
+        for (const OGRGeometry* part : *parts) {
+            visitLines(*part, visit);
+        }
+    }
+}
+
+/// Puts lines on the map: those in the window of the source, and of these what lies in the map.
+class LineClip
+{
+public:
+    LineClip(const MapFrame& frame, const QRectF& legend) : m_frame(frame), m_window(sourceWindow(frame))
+    {
+        for (const QRectF& part : m_window) {
+            m_rectangles.push_back(rectangle(part));
+        }
+        m_area = rectangle({0, 0, MapFrame::Width, MapFrame::Height});
+        if (!legend.isEmpty()) {
+            m_area.reset(m_area->Difference(rectangle(legend).get()));
+        }
+    }
+
+    const std::vector<QRectF>& window() const { return m_window; }
+
+    void clip(const OGRLineString& line, OGRMultiLineString& clipped) const
+    {
+        constexpr double Pieces = 200; // a long straight line of degrees is a curve on the map
+
+        for (const Geometry& part : m_rectangles) {
+            if (const Geometry inside = cut(line, *part)) {
+                inside->segmentize(m_window.front().width() / Pieces);
+                visitLines(*inside, [&](const OGRLineString& piece) { project(piece, clipped); });
+            }
+        }
+    }
+
+private:
+    /// Projects a line, which ends where the projection cannot show it or leaps to the other side of the
+    /// Earth.
+    void project(const OGRLineString& line, OGRMultiLineString& clipped) const
+    {
+        OGRLineString onMap;
+        for (const OGRPoint& point : line) {
+            const auto place = m_frame.toMap({point.getX(), point.getY()});
+            if (!place || isLeap(onMap, *place)) {
+                addCut(onMap, clipped);
+                onMap.empty();
+            }
+            if (place) {
+                onMap.addPoint(place->x(), place->y());
+            }
+        }
+        addCut(onMap, clipped);
+    }
+
+    static bool isLeap(const OGRLineString& line, QPointF next)
+    {
+        constexpr double Leap = MapFrame::Width / 4; // the points of a line stand close together
+
+        const int last = line.getNumPoints() - 1;
+        return last >= 0 && QLineF(QPointF(line.getX(last), line.getY(last)), next).length() > Leap;
+    }
+
+    void addCut(const OGRLineString& line, OGRMultiLineString& clipped) const
+    {
+        if (const Geometry inside = cut(line, *m_area)) {
+            visitLines(*inside, [&](const OGRLineString& piece) { clipped.addGeometry(&piece); });
+        }
+    }
+
+    const MapFrame& m_frame;
+    std::vector<QRectF> m_window;
+    std::vector<Geometry> m_rectangles;
+    Geometry m_area;
+};
+
+/// The way of a layer's coordinates to degrees; none where they are degrees already, or where nobody knows.
+std::unique_ptr<OGRCoordinateTransformation> toDegrees(const OGRLayer& layer)
+{
+    OGRSpatialReference degrees;
+    degrees.SetWellKnownGeogCS("WGS84");
+    degrees.SetAxisMappingStrategy(OAMS_TRADITIONAL_GIS_ORDER);
+    OGRSpatialReference own;
+    if (const OGRSpatialReference* system = const_cast<OGRLayer&>(layer).GetSpatialRef()) {
+        own = *system;
+        own.SetAxisMappingStrategy(OAMS_TRADITIONAL_GIS_ORDER);
+    }
+    const bool differs = !own.IsEmpty() && !own.IsSame(&degrees);
+    return std::unique_ptr<OGRCoordinateTransformation>(
+        differs ? OGRCreateCoordinateTransformation(&own, &degrees) : nullptr);
+}
+
+QString featureName(const OGRFeature& feature)
+{
+    const int field = feature.GetFieldIndex("name");
+    return field < 0 ? QString() : QString::fromUtf8(feature.GetFieldAsString(field));
+}
+
+using LinesOfKinds = std::map<BaseLineKind, OGRMultiLineString>;
+
+void readLayer(OGRLayer& layer, const QString& fileName, const LineClip& clip, bool plane,
+               LinesOfKinds& lines)
+{
+    const auto way = plane ? nullptr : toDegrees(layer);
+    const auto ofLayer = kindOfName(QString::fromUtf8(layer.GetName()));
+    const BaseLineKind ofFile = kindOfName(fileName).value_or(BaseLineKind::Coast);
+    if (!way && clip.window().size() == 1) {
+        const QRectF window = clip.window().front();
+        layer.SetSpatialFilterRect(window.left(), window.top(), window.right(), window.bottom());
+    }
+    for (const auto& feature : layer) {
+        OGRGeometry* geometry = feature->GetGeometryRef();
+        if (!geometry || (way && geometry->transform(way.get()) != OGRERR_NONE)) {
+            continue;
+        }
+        const auto kind = ofLayer ? ofLayer : kindOfName(featureName(*feature));
+        OGRMultiLineString& ofKind = lines[kind.value_or(ofFile)];
+        visitLines(*geometry, [&](const OGRLineString& line) { clip.clip(line, ofKind); });
+    }
+}
+
+/// Joins lines that meet end to end, unless they are so many that this would take long.
+Geometry joined(const OGRMultiLineString& lines)
+{
+    constexpr int MostJoined = 3000;
+    return Geometry(lines.getNumGeometries() > MostJoined
+                        ? lines.clone()
+                        : OGRGeometryFactory::forceToLineString(lines.clone()));
+}
+
+QPolygonF pointsOf(const OGRLineString& line)
+{
+    QPolygonF points;
+    points.reserve(line.getNumPoints());
+    for (const OGRPoint& point : line) {
+        points << QPointF(point.getX(), point.getY());
+    }
+    return points;
+}
+
+Dataset openLayers(const QString& path)
+{
+    Dataset layers(GDALDataset::Open(path.toUtf8().constData(),
+                                     GDAL_OF_VECTOR | GDAL_OF_READONLY | GDAL_OF_VERBOSE_ERROR));
+    if (!layers) {
+        const bool exists = path.startsWith(QLatin1String("/vsi")) || QFileInfo::exists(path);
+        throw RunTimeError(
+            exists ? ErrorNumber::TypeMismatch : ErrorNumber::FileNotFound,
+            QStringLiteral("It cannot be read as a layer of lines or areas. %1").arg(gdalError()))
+            .at({path});
+    }
+    return layers;
+}
+
+} // namespace
+
+std::vector<BaseLine> readBaseLines(const QString& path, const MapFrame& frame, const QRectF& legend)
+{
+    const GdalScope gdal;
+    const Dataset layers = openLayers(path);
+    const LineClip clip(frame, legend);
+    LinesOfKinds lines;
+    for (OGRLayer* layer : layers->GetLayers()) {
+        readLayer(*layer, QFileInfo(path).baseName(), clip, frame.isPlane(), lines);
+    }
+    std::vector<BaseLine> found;
+    for (const auto& [kind, ofKind] : lines) {
+        visitLines(*joined(ofKind), [&, lineKind = kind](const OGRLineString& line) {
+            found.push_back({lineKind, pointsOf(line)});
+        });
+    }
+    return found;
+}
+
+QPolygonF simplified(const QPolygonF& line, double tolerance)
+{
+    OGRLineString full;
+    for (const QPointF point : line) {
+        full.addPoint(point.x(), point.y());
+    }
+    const Geometry simple(full.SimplifyPreserveTopology(tolerance));
+    QPolygonF points;
+    if (simple) {
+        visitLines(*simple, [&](const OGRLineString& part) { points = pointsOf(part); });
+    }
+    return points;
+}
