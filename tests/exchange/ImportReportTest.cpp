@@ -12,7 +12,8 @@ TEST(ImportReport, TellsEachReasonOnceWithItsCountAndTheFirstNames)
     }
     report.leaveOut(QStringLiteral("empty items"), QStringLiteral("rain"));
     EXPECT_FALSE(report.isComplete());
-    EXPECT_EQ(report.text(), QStringLiteral("98 localities\n"
-                                            "Left out, localities without coordinates: 6 (A, B, C, D, E, ...)\n"
-                                            "Left out, empty items: 1 (rain)"));
+    EXPECT_EQ(report.text(),
+              QStringLiteral("98 localities\n"
+                             "Left out, localities without coordinates: 6 (A, B, C, D, E, ...)\n"
+                             "Left out, empty items: 1 (rain)"));
 }
