@@ -37,7 +37,10 @@ frmDataInput::frmDataInput(VarnModule& varn, Dialogs& dialogs)
     connectTexts();
 }
 
-frmDataInput::~frmDataInput() = default;
+frmDataInput::~frmDataInput()
+{
+    m_ui->tblWords->setModel(nullptr); // a cell that is being edited writes nothing into what is no more
+}
 
 void frmDataInput::setUpTable()
 {

@@ -391,3 +391,10 @@ TEST_F(DataInput, KindsAreOfferedWhileAWordIsTyped)
         EXPECT_EQ(QApplication::activePopupWidget(), nullptr) << keys;
     }
 }
+
+TEST_F(DataInput, TheProgramEndsWhileAWordIsTyped)
+{
+    table.goTo(1, 1);
+    type("half a wo");
+    EXPECT_NE(table.indexWidget(table.currentIndex()), nullptr) << "the forms go with the cell's editor open";
+}
