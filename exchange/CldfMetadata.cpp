@@ -28,7 +28,7 @@ QString termIn(const QJsonValue& address)
 QStringList texts(const QJsonValue& value)
 {
     QStringList all;
-    for (const QJsonValue& each : value.isArray() ? value.toArray() : QJsonArray{value}) {
+    for (const auto& each : value.isArray() ? value.toArray() : QJsonArray{value}) {
         all << each.toString();
     }
     return all;
@@ -62,29 +62,44 @@ CldfTable tableIn(const QJsonObject& table, const QString& folder)
     CldfTable result{
         termIn(table[ConformsTo]), tablePath(folder, table[QLatin1String("url")].toString()), {}};
     const QJsonObject schema = table[QLatin1String("tableSchema")].toObject();
-    for (const QJsonValue& column : schema[QLatin1String("columns")].toArray()) {
+    for (const auto& column : schema[QLatin1String("columns")].toArray()) {
         result.columns.push_back(columnIn(column.toObject()));
     }
     return result;
 }
 
+bool isMetadataName(const QString& path)
+{
+    return path.endsWith(QLatin1String("metadata.json"), Qt::CaseInsensitive);
+}
+
+/// Raises type mismatch for metadata that are no sound JSON; another file may be anything.
+QJsonObject jsonIn(const QString& path)
+{
+    const QByteArray bytes = readGdalFile(path);
+    QJsonParseError error;
+    const QJsonDocument json = QJsonDocument::fromJson(bytes, &error);
+    if (error.error != QJsonParseError::NoError && isMetadataName(path)) {
+        const auto line = static_cast<int>(bytes.left(error.offset).count('\n')) + 1;
+        throw RunTimeError(ErrorNumber::TypeMismatch,
+                           QStringLiteral("It is no sound JSON: %1.").arg(error.errorString()))
+            .at({path, line});
+    }
+    return json.object();
+}
+
 /// What the file at `path` says; nothing where it is no metadata of CLDF.
 std::optional<CldfMetadata> metadataIn(const QString& path)
 {
-    const QJsonObject json = QJsonDocument::fromJson(readGdalFile(path)).object();
+    const QJsonObject json = jsonIn(path);
     CldfMetadata metadata{path, termIn(json[ConformsTo]), json[QLatin1String("dc:title")].toString(), {}};
     if (metadata.module.isEmpty()) {
         return std::nullopt;
     }
-    for (const QJsonValue& table : json[QLatin1String("tables")].toArray()) {
+    for (const auto& table : json[QLatin1String("tables")].toArray()) {
         metadata.tables.push_back(tableIn(table.toObject(), QFileInfo(path).path()));
     }
     return metadata;
-}
-
-bool isMetadataName(const QString& path)
-{
-    return path.endsWith(QLatin1String("metadata.json"), Qt::CaseInsensitive);
 }
 
 /// Files at `path` that can be metadata. Data sets are often handed on in a folder "cldf" of a larger one.

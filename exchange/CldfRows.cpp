@@ -2,29 +2,80 @@
 
 #include "exchange/GdalLayer.h"
 
+#include <QUtf8StringView>
+
 #include <algorithm>
+#include <array>
 #include <cpl_string.h>
 #include <ogrsf_frmts.h>
 
 namespace {
 
+/// The row of the first line that is no UTF-8; 0 where all are.
+int foreignRow(const QByteArray& bytes)
+{
+    if (QUtf8StringView(bytes).isValidUtf8()) {
+        return 0;
+    }
+    int row = 1;
+    for (const QByteArray& line : bytes.split('\n')) {
+        if (!QUtf8StringView(line).isValidUtf8()) {
+            break;
+        }
+        ++row;
+    }
+    return row;
+}
+
+/// The bytes of a table that can be parted into rows without loss.
+QByteArray soundBytes(const CldfTable& table)
+{
+    QByteArray bytes;
+    try {
+        bytes = readGdalFile(table.path);
+    } catch (const RunTimeError& error) {
+        throw error.during(QStringLiteral("The metadata name this file as the %1.").arg(table.term));
+    }
+    if (const int row = foreignRow(bytes); row > 0) {
+        throw RunTimeError(ErrorNumber::TypeMismatch,
+                           QStringLiteral("It is not UTF-8, as tables of CLDF are. Save it as UTF-8."))
+            .at({table.path, row});
+    }
+    if (bytes.count('"') % 2 != 0) {
+        throw RunTimeError(
+            ErrorNumber::TypeMismatch,
+            QStringLiteral("A quotation mark is not closed. In a cell it is written twice, and "
+                           "the cell stands in quotation marks."))
+            .at({table.path});
+    }
+    return bytes;
+}
+
 /// Its delimiter is found by the headings.
-GdalDataset openTable(const CldfTable& table)
+GdalDataset openTable(const MemoryFile& file, const CldfTable& table)
 {
     CPLStringList options;
     options.SetNameValue("HEADERS", "YES");
-    const char* drivers[] = {"CSV", nullptr};
-    const QByteArray path = "CSV:" + table.path.toUtf8();
-    GdalDataset dataset(
-        GDALDataset::Open(path.constData(), GDAL_OF_VECTOR | GDAL_OF_READONLY, drivers, options.List()));
+    constexpr std::array<const char*, 2> Drivers{"CSV", nullptr};
+    GdalDataset dataset(GDALDataset::Open(file.path().toUtf8().constData(), GDAL_OF_VECTOR | GDAL_OF_READONLY,
+                                          Drivers.data(), options.List()));
     if (!dataset || dataset->GetLayerCount() == 0) {
-        throw RunTimeError(
-            ErrorNumber::TypeMismatch,
-            QStringLiteral("The metadata name this file as the %1, but it is not there or no table. %2")
-                .arg(table.term, gdalError()))
+        throw RunTimeError(ErrorNumber::TypeMismatch,
+                           QStringLiteral("It is empty, or no table with headings. ") + gdalError())
             .at({table.path});
     }
     return dataset;
+}
+
+void requireTerm(const CldfTable& table, const char* term)
+{
+    if (!table.find(QLatin1String(term))) {
+        throw RunTimeError(
+            ErrorNumber::TypeMismatch,
+            QStringLiteral("No column of the %1 means \"%2\". Give the column this term in the metadata.")
+                .arg(table.term, QLatin1String(term)))
+            .at({table.path});
+    }
 }
 
 QStringList headingsOf(OGRLayer& layer)
@@ -43,17 +94,12 @@ CldfRows::CldfRows(const CldfTable& table, std::initializer_list<const char*> re
                    std::initializer_list<const char*> optional)
 {
     const GdalScope scope;
-    const GdalDataset dataset = openTable(table);
+    const MemoryFile file(QStringLiteral("table.csv"), soundBytes(table));
+    const GdalDataset dataset = openTable(file, table);
     OGRLayer& layer = *dataset->GetLayer(0);
     m_table = {table.path, 1, headingsOf(layer), {}};
     for (const char* term : required) {
-        if (!table.find(QLatin1String(term))) {
-            throw RunTimeError(
-                ErrorNumber::TypeMismatch,
-                QStringLiteral("No column of the %1 means \"%2\". Give the column this term in the metadata.")
-                    .arg(table.term, QLatin1String(term)))
-                .at({table.path});
-        }
+        requireTerm(table, term);
         addColumn(table, term);
     }
     for (const char* term : optional) {

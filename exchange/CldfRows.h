@@ -11,8 +11,8 @@ class CldfRows
 {
 public:
     /// Reads the columns that mean `required`, and those that mean `optional` as far as the table has them.
-    /// Raises type mismatch for a table that is not there or no CSV, where no column means a required term,
-    /// and for a column that the file lacks.
+    /// Raises file not found, and type mismatch for a table that is no CSV in UTF-8, where no column means a
+    /// required term, and for a column that the file lacks.
     CldfRows(const CldfTable& table, std::initializer_list<const char*> required,
              std::initializer_list<const char*> optional = {});
 

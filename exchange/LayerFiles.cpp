@@ -39,10 +39,19 @@ bool holdsLines(const QString& file)
     return false;
 }
 
-bool isLayerZip(const QString& zip)
+bool isCldfOrBroken(const QString& path)
 {
     try {
-        return !layerFiles(zip).isEmpty() && !isCldf(zip);
+        return isCldf(path);
+    } catch (const RunTimeError&) {
+        return true;
+    }
+}
+
+bool holdsLayer(const QString& zip)
+{
+    try {
+        return !layerFiles(zip).isEmpty();
     } catch (const RunTimeError&) {
         return false; // a broken zip holds nothing
     }
@@ -52,11 +61,9 @@ bool isLayerZip(const QString& zip)
 
 bool isLayer(const QString& path)
 {
-    if (isZip(path)) {
-        return isLayerZip(path);
-    }
-    const bool mayBeMetadata = path.endsWith(QLatin1String(".json"), Qt::CaseInsensitive);
-    return hasLayerEnding(path) && !(mayBeMetadata && isCldf(path));
+    const bool layer = isZip(path) ? holdsLayer(path) : hasLayerEnding(path);
+    const bool mayBeCldf = isZip(path) || path.endsWith(QLatin1String(".json"), Qt::CaseInsensitive);
+    return layer && !(mayBeCldf && isCldfOrBroken(path));
 }
 
 QStringList layerFiles(const QString& path)

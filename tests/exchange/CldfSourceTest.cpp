@@ -169,7 +169,15 @@ TEST_F(Cldf, WhatIsNotSoundIsNamed)
         {"l.csv", "L,N,Y\nb,,3.5\n", "l\\.csv(.|\\n)*no column \"X\".*There are: L, N, Y"},
         {"l.csv", "L,N,Y,X\nb,,1,1\nb,,2,2\n", "l\\.csv(.|\\n)*Line 3(.|\\n)*\"b\" stands there twice"},
         {"l.csv", "L,N,Y,X\nb,,,\n", "No locality has coordinates"},
-        {"p.csv", "", "p\\.csv(.|\\n)*names? this file as the ParameterTable|no column"},
+        {"p.csv", "", "p\\.csv\\nIt is empty"},
+        {"p.csv",
+         "P,N\np1,rain\np2,gr\xf6\xdf"
+         "e\n",
+         "p\\.csv\\nLine 3\\nIt is not UTF-8"},
+        {"p.csv", "P,N\np1,5\" nail\np2,x\n", "p\\.csv\\nA quotation mark is not closed"},
+        {json, wordlist()[json].replace("f.tsv", "g.tsv"),
+         "File not found(.|\\n)*g\\.tsv(.|\\n)*as the FormTable"},
+        {json, "{\"dc:conformsTo\":\n \"http", "metadata\\.json\\nLine 2\\nIt is no sound JSON"},
     };
     int number = 0;
     for (const Row& row : rows) {
