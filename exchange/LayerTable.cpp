@@ -107,7 +107,8 @@ private:
     /// The column of each field of a layer; -1 for those that are left.
     std::vector<int> columnsOf(const OGRFeatureDefn& fields, const QString& driver);
     bool areDegrees() const;
-    void cutEmptyColumns();
+    bool isNeedless(qsizetype column) const;
+    void cutNeedlessColumns();
 
     SourceTable m_table;
     QHash<QString, int> m_columnOfName;
@@ -116,16 +117,12 @@ private:
     bool m_cutEmpty = false;
 };
 
-/// Attributes that repeat where the point lies are left.
 std::vector<int> PointTable::columnsOf(const OGRFeatureDefn& fields, const QString& driver)
 {
     std::vector<int> columns;
     for (int field = 0; field < fields.GetFieldCount(); ++field) {
         const QString name = QString::fromUtf8(fields.GetFieldDefn(field)->GetNameRef());
-        const auto role = knownRole(name);
-        const bool isPlace = role == ColumnRole::Longitude || role == ColumnRole::Latitude ||
-                             role == ColumnRole::X || role == ColumnRole::Y;
-        if (isPlace || isOfFormat(driver, name)) {
+        if (isOfFormat(driver, name)) {
             columns.push_back(-1);
             continue;
         }
@@ -197,12 +194,22 @@ bool PointTable::areDegrees() const
     return m_isKnown ? 2 * lieWithin(360, 360) >= count : lieWithin(180, 90) == count;
 }
 
-/// Every feature of these formats has the attributes of the format, which mostly nobody fills.
-void PointTable::cutEmptyColumns()
+/// Every feature of some formats has the attributes of the format, which mostly nobody fills; and numbers
+/// under a heading such as "x" repeat where the point lies.
+bool PointTable::isNeedless(qsizetype column) const
+{
+    const auto role = knownRole(m_table.headings[column]);
+    const bool mayRepeat = role && isPlace(*role);
+    return (m_cutEmpty || mayRepeat) && std::ranges::all_of(m_table.rows, [=](const TableRow& row) {
+               const QString& cell = row.cells[column];
+               return cell.isEmpty() || (mayRepeat && degrees(cell));
+           });
+}
+
+void PointTable::cutNeedlessColumns()
 {
     for (qsizetype column = m_table.headings.size() - 1; column >= 0; --column) {
-        if (std::ranges::all_of(m_table.rows,
-                                [column](const TableRow& row) { return row.cells[column].isEmpty(); })) {
+        if (isNeedless(column)) {
             m_table.headings.removeAt(column);
             for (TableRow& row : m_table.rows) {
                 row.cells.removeAt(column);
@@ -217,9 +224,7 @@ SourceTable PointTable::take(const QString& path)
     for (TableRow& row : m_table.rows) {
         row.cells.resize(m_table.headings.size()); // later layers brought more attributes
     }
-    if (m_cutEmpty) {
-        cutEmptyColumns();
-    }
+    cutNeedlessColumns();
     m_table.headings << (areDegrees() ? QStringList{QStringLiteral("longitude"), QStringLiteral("latitude")}
                                       : QStringList{QStringLiteral("x"), QStringLiteral("y")});
     for (std::size_t i = 0; i < m_places.size(); ++i) {

@@ -245,6 +245,20 @@ void requireContents(const SourceSurvey& survey, const SourceTable& table)
     }
 }
 
+void tellLeftColumns(const SourceTable& table, const TableColumns& columns, ImportReport& report)
+{
+    QStringList left;
+    for (int column = 0; column < columns.count(); ++column) {
+        if (columns.role(column) == ColumnRole::Left && !table.headings[column].isEmpty()) {
+            left << table.headings[column];
+        }
+    }
+    if (!left.isEmpty()) {
+        report.tell(QStringLiteral("Columns that were taken for no items: ") +
+                    left.join(QStringLiteral(", ")));
+    }
+}
+
 } // namespace
 
 SourceSurvey readTableSource(const SourceChoices& choices)
@@ -265,6 +279,7 @@ SourceSurvey surveyInTable(const SourceTable& table, const SourceChoices& choice
     }
     const TableColumns columns = guessColumns(table, ofTable.columns);
     SourceSurvey survey = TableSurvey(table, columns, choices).take();
+    tellLeftColumns(table, columns, survey.report);
     requireContents(survey, table);
     return survey;
 }

@@ -14,7 +14,7 @@ const QByteArray GeoJson = R"({"type": "FeatureCollection", "features": [
      "geometry": {"type": "Point", "coordinates": [10.5, -2.25]}},
     {"type": "Feature", "properties": {"name": "river"},
      "geometry": {"type": "LineString", "coordinates": [[10, 3], [11, 4]]}},
-    {"type": "Feature", "properties": {"name": "Bö", "rain": ["yuki"], "snow": "mĩ"},
+    {"type": "Feature", "properties": {"name": "Bö", "rain": ["yuki"], "snow": "mĩ", "x": 11, "source": "B"},
      "geometry": {"type": "Point", "coordinates": [11, 3.5]}}]})";
 
 const QByteArray Kml = R"(<kml xmlns="http://www.opengis.net/kml/2.2"><Document>
@@ -82,6 +82,7 @@ TEST_F(Layers, PointsAreLocalitiesAndAttributesItems)
     EXPECT_EQ(textOf(survey),
               QStringLiteral("Aa Aa 10.5 -2.25\nBö Bö 11 3.5\nrain: ame+uyu|yuki\nsnow: |mĩ"));
     EXPECT_EQ(survey.baseMapLayers, QStringList(json));
+    EXPECT_EQ(survey.report.text(), QStringLiteral("Columns that were taken for no items: source"));
 
     const QString zip = files.hostPath(QStringLiteral("a.zip"));
     const QString zipped = QStringLiteral("/vsizip/") + zip + QStringLiteral("/in/a.geojson");

@@ -91,9 +91,12 @@ TEST_F(Export, ColumnsAndIdsAreUnique)
         survey.write(TestMap + QStringLiteral("Ling\\%1.dbs").arg(QLatin1String(name)),
                      QByteArray("3,\"\",\"rAIN\",\"\"\r\n1\r\n\"") + name + "\"\r\n0\r\n0\r\n");
     }
+    survey.write(TestMap + QStringLiteral("Ling\\4.dbs"),
+                 "3,\"\",\"long\",\"\"\r\n0\r\n1\r\n\"nagai\"\r\n0\r\n");
     for (const char* name : {"a.csv", "a.gpkg"}) {
         write(out(name));
-        EXPECT_TRUE(textOf(read(out(name))).contains(QStringLiteral("\nrAIN (2): 2||\nrAIN (3): 3||\n")))
+        EXPECT_TRUE(textOf(read(out(name)))
+                        .contains(QStringLiteral("\nrAIN (2): 2||\nrAIN (3): 3||\nlong: |nagai|\n")))
             << name;
     }
     survey.write(TestMap + QStringLiteral("Map\\Localities.csv"),
