@@ -41,7 +41,7 @@ void addLocalities(const BaseMap& map, SourceSurvey& survey)
     }
 }
 
-SourceItem itemOf(const ItemAnswers& answers, const QString& fileName)
+SourceItem itemOf(const ItemAnswers& answers, const QString& fileName, ImportReport& report)
 {
     SourceItem item{answers.Hanrei.trimmed().isEmpty() ? stemOf(fileName) : answers.Hanrei, {}};
     for (int i = 1; i <= answers.NLocate; ++i) {
@@ -49,7 +49,10 @@ SourceItem itemOf(const ItemAnswers& answers, const QString& fileName)
         for (int j = 1; j <= answers.WordCount(i); ++j) {
             words << answers.WordData(i, j);
         }
-        words.removeAll(QString());
+        if (words.removeAll(QString()) > 0) {
+            report.leaveOut(QStringLiteral("empty word forms"),
+                            QStringLiteral("%1 at locality %2").arg(item.name).arg(i));
+        }
         item.answers.push_back(words);
     }
     return item;
@@ -64,7 +67,7 @@ void addItem(const Folders& folders, const QString& fileName, SourceSurvey& surv
         if (const QString mismatch = localityMismatch(answers->NLocate, count); !mismatch.isEmpty()) {
             survey.report.leaveOut(QStringLiteral("items of another number of localities"), fileName);
         } else {
-            survey.items.push_back(itemOf(*answers, fileName));
+            survey.items.push_back(itemOf(*answers, fileName, survey.report));
         }
     } catch (const RunTimeError& error) {
         survey.report.leaveOut(QStringLiteral("items that cannot be read"),

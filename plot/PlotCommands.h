@@ -19,6 +19,6 @@ public:
 };
 
 /// Draws what `options` ask for into their output file, or counts or exports what they ask for. Returns
-/// whether everything was done: false where items were left out of an accumulation or export. Raises the
+/// whether everything was done: false where something was left out of an accumulation or export. Raises the
 /// run-time's errors; a file that was drawn into is then as it was.
 bool plot(const PlotOptions& options, PlotListener& listener);

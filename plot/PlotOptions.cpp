@@ -251,10 +251,10 @@ DIR is the folder with VarnData and VarnSymbol. FILE ends in .svg, .pdf or .png.
 accumulate adds the items to the table in FILE.ttl and saves it after each. Items are left out and named that
 cannot be read, whose number of localities is not the map's, or that the table holds already; --count-again counts
 the last once more. A map of an item with another number of localities is drawn with a warning.
-export writes the localities with a column an item, or a new folder with a CLDF Wordlist. Items are left out and
-named that cannot be read or whose number of localities is not the map's.
+export writes the localities with a column an item, or a new folder with a CLDF Wordlist. Left out and named are
+empty word forms, and items that cannot be read or whose number of localities is not the map's.
 --height is the height of the drawing area in millimetres, --dpi the resolution of a PNG (192).
 
-Exit code: 0 all is done, 1 an error or items left out, 2 the command line is not understood.
+Exit code: 0 all is done, 1 an error or something left out, 2 the command line is not understood.
 )");
 }

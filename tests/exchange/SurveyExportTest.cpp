@@ -110,8 +110,9 @@ TEST_F(Export, IsThereAsAWholeOrNotAtAll)
     survey.write(TestMap + QStringLiteral("Ling\\bad.dbs"), "3,\"\",\"\",\"\"\r\n9\r\n");
     survey.write(TestMap + QStringLiteral("Ling\\two.dbs"), "2,\"\",\"\",\"\"\r\n0\r\n0\r\n");
     survey.write(TestMap + QStringLiteral("Ling\\parted.dbs"),
-                 "3,\"\",\"\",\"\"\r\n1\r\n\"a;b\"\r\n0\r\n0\r\n");
+                 "3,\"\",\"\",\"\"\r\n1\r\n\"a;b\"\r\n0\r\n1\r\n\"\"\r\n");
     const ImportReport report = write(out("a.csv"));
+    EXPECT_TRUE(report.text().contains(QStringLiteral("empty word forms: 1 (parted at locality 3)")));
     EXPECT_TRUE(report.text().contains(QStringLiteral("CLDF keeps them whole): 1")));
     EXPECT_TRUE(
         report.text().contains(QStringLiteral("cannot be read: 1 (bad.dbs: Input past end of file)")));
