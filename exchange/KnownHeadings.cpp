@@ -61,3 +61,9 @@ std::optional<ColumnRole> knownRole(const QString& heading)
     const auto found = knownHeadings().constFind(plainHeading(heading));
     return found == knownHeadings().constEnd() ? std::nullopt : std::optional(*found);
 }
+
+bool isPlace(ColumnRole role)
+{
+    return role == ColumnRole::Longitude || role == ColumnRole::Latitude || role == ColumnRole::X ||
+           role == ColumnRole::Y;
+}

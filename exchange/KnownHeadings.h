@@ -7,3 +7,6 @@
 /// What a column of that heading mostly is, in English, German, French, Spanish and Japanese tables; nothing
 /// for a heading that tells nothing.
 std::optional<ColumnRole> knownRole(const QString& heading);
+
+/// Whether a column of that role tells where localities lie.
+bool isPlace(ColumnRole role);

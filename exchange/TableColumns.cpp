@@ -103,11 +103,10 @@ void ColumnGuess::correct(const QMap<QString, ColumnRole>& corrections)
 
 void ColumnGuess::findPlaces()
 {
-    for (const ColumnRole role :
-         {ColumnRole::Longitude, ColumnRole::Latitude, ColumnRole::X, ColumnRole::Y}) {
-        const std::optional<int> column = meant(role);
-        if (column && holdsNumbers(m_table, *column)) {
-            give(role, column);
+    for (int column = 0; column < width(); ++column) {
+        const std::optional<ColumnRole> meant = role(column) ? std::nullopt : knownRole(heading(column));
+        if (meant && isPlace(*meant) && holdsNumbers(m_table, column)) {
+            give(*meant, column);
         }
     }
 }

@@ -235,11 +235,27 @@ SourceSurvey TableSurvey::take()
 void requireContents(const SourceSurvey& survey, const SourceTable& table)
 {
     if (survey.localities.empty() || survey.items.empty()) {
-        const QString what = survey.localities.empty()
-                                 ? QStringLiteral("No locality of the table has a place. ")
-                                 : QStringLiteral("The table has no item. ");
+        const QString what =
+            survey.localities.empty()
+                ? QStringLiteral("No locality of the table has a place. ")
+                : QStringLiteral("It has no column of answers. If it only tells where localities "
+                                 "lie, name it as the localities of a table with the answers. ");
         throw RunTimeError(ErrorNumber::TypeMismatch, what + survey.report.text())
             .at({table.path, table.headingRow});
+    }
+}
+
+void tellLeftColumns(const SourceTable& table, const TableColumns& columns, ImportReport& report)
+{
+    QStringList left;
+    for (int column = 0; column < columns.count(); ++column) {
+        if (columns.role(column) == ColumnRole::Left && !table.headings[column].isEmpty()) {
+            left << table.headings[column];
+        }
+    }
+    if (!left.isEmpty()) {
+        report.tell(QStringLiteral("Columns that were taken for no items: ") +
+                    left.join(QStringLiteral(", ")));
     }
 }
 
@@ -247,7 +263,11 @@ void requireContents(const SourceSurvey& survey, const SourceTable& table)
 
 SourceSurvey readTableSource(const SourceChoices& choices)
 {
-    const SourceTable table = readTable(choices.path);
+    return surveyInTable(readTable(choices.path), choices);
+}
+
+SourceSurvey surveyInTable(const SourceTable& table, const SourceChoices& choices)
+{
     SourceChoices ofTable = choices;
     if (!choices.localities.isEmpty()) {
         ofTable.columns = {}; // each file has its own headings; a correction holds where its heading is
@@ -259,6 +279,7 @@ SourceSurvey readTableSource(const SourceChoices& choices)
     }
     const TableColumns columns = guessColumns(table, ofTable.columns);
     SourceSurvey survey = TableSurvey(table, columns, choices).take();
+    tellLeftColumns(table, columns, survey.report);
     requireContents(survey, table);
     return survey;
 }
