@@ -35,6 +35,7 @@ public:
         m_varn.VarnMapName = QLatin1Char('\\') + options.map;
         m_varn.LingFolder = QStringLiteral("\\VarnData") + m_varn.VarnMapName + QStringLiteral("\\Ling");
         m_varn.PlotDots = options.localityDots;
+        m_varn.WholeWordForms = options.wholeWordForms;
         m_varn.HankoPosition = options.location;
         setFirstSize(m_frmMap);
         if (options.height > 0) {

@@ -34,10 +34,10 @@ std::vector<CommandForm> commandForms()
     const QStringList picture = size + list({"dpi"});
     return {
         {"linguistic-map", Command::LinguisticMap, map + list({"data", "symbols"}),
-         picture + list({"location"})},
+         picture + list({"location", "whole-word-forms"})},
         {"blank-map", Command::BlankMap, map, picture},
         {"symbols", Command::Symbols, map, {}},
-        {"atlas", Command::Atlas, map, size + list({"location"})},
+        {"atlas", Command::Atlas, map, size + list({"location", "whole-word-forms"})},
         {"accumulate", Command::Accumulate, list({"installation", "map", "counts", "characters", "data"}),
          list({"count-again"})},
         {"statistics", Command::Statistics, map + list({"counts"}), {}},
@@ -66,8 +66,9 @@ void addOptions(QCommandLineParser& parser)
                              "counts", "characters", "contrast", "graph", "word-form"}) {
         parser.addOption({QLatin1String(name), {}, QStringLiteral("value")});
     }
-    parser.addOption(QCommandLineOption(QStringLiteral("locality-dots")));
-    parser.addOption(QCommandLineOption(QStringLiteral("count-again")));
+    for (const char* name : {"locality-dots", "whole-word-forms", "count-again"}) {
+        parser.addOption(QCommandLineOption(QLatin1String(name)));
+    }
     parser.addOption(QCommandLineOption(QStringList{QStringLiteral("h"), QStringLiteral("help")}));
 }
 
@@ -195,6 +196,7 @@ std::optional<PlotOptions> readPlotOptions(const QStringList& arguments)
     options.characters = parser.value(QStringLiteral("characters"));
     options.contrast = parser.value(QStringLiteral("contrast"));
     options.localityDots = parser.isSet(QStringLiteral("locality-dots"));
+    options.wholeWordForms = parser.isSet(QStringLiteral("whole-word-forms"));
     options.countAgain = parser.isSet(QStringLiteral("count-again"));
     if (parser.isSet(QStringLiteral("location"))) {
         options.location = readLocation(parser.value(QStringLiteral("location")));
@@ -224,11 +226,13 @@ QString plotUsage()
 {
     return QStringLiteral(R"(usage:
   varnplot linguistic-map --installation DIR --map NAME --data FILE.dbs --symbols FILE.han --output FILE
-           [--location center|right|left|top|bottom] [--locality-dots] [--height MM] [--dpi N]
+           [--location center|right|left|top|bottom] [--whole-word-forms] [--locality-dots]
+           [--height MM] [--dpi N]
   varnplot blank-map --installation DIR --map NAME --output FILE [--locality-dots] [--height MM] [--dpi N]
   varnplot symbols   --installation DIR --map NAME --output FILE.pdf
   varnplot atlas     --installation DIR --map NAME --output FILE.pdf
-           [--location center|right|left|top|bottom] [--locality-dots] [--height MM]
+           [--location center|right|left|top|bottom] [--whole-word-forms] [--locality-dots]
+           [--height MM]
   varnplot accumulate --installation DIR --map NAME --counts FILE.ttl --characters FILE.sum --data FILE.dbs ...
            [--count-again]
   varnplot statistics --installation DIR --map NAME --counts FILE.ttl --output FILE.stt
@@ -244,6 +248,7 @@ DIR is the folder with VarnData and VarnSymbol. FILE ends in .svg, .pdf or .png.
 accumulate adds the items to the table in FILE.ttl and saves it after each. Items are left out and named that
 cannot be read, whose number of localities is not the map's, or that the table holds already; --count-again counts
 the last once more. A map of an item with another number of localities is drawn with a warning.
+With --whole-word-forms a symbol marks only the word forms that equal its kind, not those that contain it.
 --height is the height of the drawing area in millimetres, --dpi the resolution of a PNG (192).
 
 Exit code: 0 all is done, 1 an error or items left out, 2 the command line is not understood.

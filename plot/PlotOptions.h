@@ -42,6 +42,7 @@ struct PlotOptions
     QString output;
     qint16 location = HankoCenter;
     bool localityDots = false;
+    bool wholeWordForms = false;
     /// Whether items that the table holds already are counted again.
     bool countAgain = false;
     /// Height of the map in millimetres; 0 for the map form's first size.

@@ -123,6 +123,11 @@ TEST_F(PlotProcess, EveryCommandWritesItsFile)
     EXPECT_NE(read("map.svg"), read("top.svg")) << "the second word form stands elsewhere";
     expectDone("blank-map --locality-dots --output dots.svg --height 100");
     EXPECT_NE(read("dots.svg"), read("blank.svg"));
+    write("Ling/part.han", "\"\"\r\n1\r\n\"am\",\"\"\r\n50\r\n4\r\n12\r\n1\r\n1\r\n0\r\n");
+    expectDone("linguistic-map --data Ling/rain.dbs --symbols Ling/part.han --output part.svg");
+    expectDone("linguistic-map --data Ling/rain.dbs --symbols Ling/part.han --output whole.svg "
+               "--whole-word-forms");
+    EXPECT_GT(read("part.svg").size(), read("whole.svg").size()) << "no word form is just 'am'";
     expectDone("blank-map --dpi 48 --output small.png");
     EXPECT_EQ(QImage(file(QStringLiteral("small.png"))).size(), QSize(400, 300));
 }

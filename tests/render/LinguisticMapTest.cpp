@@ -105,6 +105,18 @@ TEST(LinguisticMap, ARecordMarksEveryFormThatContainsItsKind)
     EXPECT_EQ(plottedCircles(survey).size(), 4U) << "an empty kind is in every form that is not empty";
 }
 
+TEST(LinguisticMap, ByWholeWordFormsARecordMarksItsKindAloneAndTheEmptyKindTheRest)
+{
+    TestSurvey survey;
+    survey.varn.WholeWordForms = true;
+    setWords(survey.varn, 1, {QStringLiteral("AB"), QStringLiteral("A")});
+    setWords(survey.varn, 2, {QStringLiteral("B"), QString()});
+    addSymbol(survey.varn, QString(), 0);
+    addSymbol(survey.varn, QStringLiteral("A"), 1);
+    addSymbol(survey.varn, QStringLiteral("AB"), 2);
+    EXPECT_EQ(plottedCircles(survey), (Circles{{350, 450, 50}, {150, 250, 100}, {150, 250, 150}}));
+}
+
 TEST(LinguisticMap, BothInputsAreNeededInEitherOrder)
 {
     LoadedState state;

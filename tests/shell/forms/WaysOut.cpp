@@ -119,6 +119,11 @@ QStringList shownOn(const VarnForm& form)
     if (form.isWindowModified()) {
         lines << QStringLiteral("<modified>");
     }
+    for (const auto* action : form.findChildren<QAction*>()) {
+        if (action->isChecked()) {
+            lines << QStringLiteral("<%1>").arg(action->objectName());
+        }
+    }
     for (const auto* widget : form.findChildren<QWidget*>()) {
         if (widget->isVisible()) {
             lines << QStringLiteral("<%1>").arg(widget->objectName())

@@ -96,6 +96,7 @@ std::vector<EveryWayOut::Way> EveryWayOut::ways()
         {"frmMap", "mnuMapBlank", "map: Town"},
         {"frmMap", "mnuHanrei", "map: UYU"},
         {"frmMap", "mnuSymbols", "*"},
+        {"frmMap", "mnuWholeWordForms", "<mnuWholeWordForms>"},
         {"frmMap", "mnuTotalBar", "*"},
         {"frmMap", "mnuTotalSBar", "map: two"},
         {"frmMap", "mnuTotalCircle", "*"},
