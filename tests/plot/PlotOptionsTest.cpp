@@ -38,6 +38,22 @@ TEST(PlotOptions, PlacesGraphsAndTheLargestNumbersAreRead)
     }
 }
 
+TEST(PlotOptions, AnImportIsRead)
+{
+    const auto options = readPlotOptions(
+        words("import --installation i --map m --source s.csv --localities l.kml --base-map a --base-map b "
+              "--projection epsg:3035 --answers \\n --use cognates --column item=a=b --column Left=c"));
+    ASSERT_TRUE(options);
+    EXPECT_EQ(options->source.path, "s.csv");
+    EXPECT_EQ(options->source.localities, "l.kml");
+    EXPECT_EQ(options->newSurvey.baseMap, QStringList({"a", "b"}));
+    EXPECT_EQ(options->newSurvey.projection, "EPSG:3035");
+    EXPECT_EQ(options->source.answerSeparator, "\n");
+    EXPECT_EQ(options->source.words, WordSource::Cognates);
+    EXPECT_EQ(options->source.columns["a=b"], ColumnRole::Item);
+    EXPECT_EQ(options->source.columns["c"], ColumnRole::Left);
+}
+
 TEST(PlotOptions, WhatIsNotUnderstoodIsSaid)
 {
     // Endings: a file of another ending would be read, and one of the right ending written over.
@@ -56,6 +72,10 @@ TEST(PlotOptions, WhatIsNotUnderstoodIsSaid)
         {"symbols", "--output o.png", "--output must end in .pdf"},
         {"atlas", "--output o.pdf --location above", "--location is one of center, right, left, top, bottom"},
         {"linguistic-map", "--data a.dbs --symbols a.htL --output o.svg", "--symbols must end in .han"},
+        {"import", "--source s --use words", "--use is one of forms, cognates, codes"},
+        {"import", "--source s --column colour=a", "ROLE"},
+        {"import", "--source s --column a", "--column is ROLE=NAME"},
+        {"import", "--source s --projection mercator", "--projection is"},
         {"accumulate", "--counts all.bak --characters a.sum --data a.dbs", "--counts must end in .ttl"},
         {"accumulate", "--counts a.ttl --characters a.txt --data a.dbs", "--characters must end in .sum"},
         {"accumulate", "--counts a.ttl --characters a.sum --data a.dbs x.han", "--data must end in .dbs"},

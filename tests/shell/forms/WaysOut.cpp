@@ -109,6 +109,9 @@ QStringList visibleWindows()
 QStringList shownOn(const VarnForm& form)
 {
     QStringList lines = {form.windowTitle(), form.isWindowModified() ? "<modified>" : ""};
+    for (const auto* action : form.findChildren<QAction*>()) {
+        lines << (action->isChecked() ? '<' + action->objectName() + '>' : QString());
+    }
     for (const auto* widget : form.findChildren<QWidget*>()) {
         if (widget->isVisible()) {
             const QString& name = widget->objectName();
