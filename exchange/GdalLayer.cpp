@@ -17,7 +17,8 @@ GdalDataset openDataset(const QString& path, std::initializer_list<const char*> 
     const GdalScope scope;
     std::vector<const char*> allowed(drivers);
     allowed.push_back(nullptr);
-    GdalDataset dataset(GDALDataset::Open(path.toUtf8().constData(), GDAL_OF_VECTOR | GDAL_OF_READONLY,
+    GdalDataset dataset(GDALDataset::Open(path.toUtf8().constData(),
+                                          GDAL_OF_VECTOR | GDAL_OF_READONLY | GDAL_OF_VERBOSE_ERROR,
                                           drivers.size() == 0 ? nullptr : allowed.data()));
     if (!dataset || dataset->GetLayerCount() == 0) {
         throw RunTimeError(ErrorNumber::TypeMismatch,

@@ -91,13 +91,9 @@ void ColumnGuess::correct(const QMap<QString, ColumnRole>& corrections)
 {
     for (const auto& [name, role] : corrections.asKeyValueRange()) {
         const qsizetype column = m_table.headings.indexOf(name);
-        if (column < 0) {
-            throw RunTimeError(ErrorNumber::TypeMismatch,
-                               QStringLiteral("No column is called \"%1\"; there are: %2.")
-                                   .arg(name, m_table.headings.join(QStringLiteral(", "))))
-                .at({m_table.path, m_table.headingRow});
+        if (column >= 0) {
+            this->role(static_cast<int>(column)) = role;
         }
-        this->role(static_cast<int>(column)) = role;
     }
 }
 

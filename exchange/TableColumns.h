@@ -31,7 +31,7 @@ private:
 };
 
 /// Guesses what the columns of `table` are, by their headings in English, German, French, Spanish and
-/// Japanese and by what stands in them; `corrections` are by heading. Raises type mismatch for a correction
-/// of a heading that is not there, for headings that stand twice over what only one column can be, and where
-/// no column names the localities.
+/// Japanese and by what stands in them; `corrections` are by heading, those of other headings are passed
+/// over. Raises type mismatch for two columns of what only one can be, and where no column names the
+/// localities.
 TableColumns guessColumns(const SourceTable& table, const QMap<QString, ColumnRole>& corrections = {});

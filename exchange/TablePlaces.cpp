@@ -76,7 +76,7 @@ PlacedLocalities placedInTable(const SourceTable& table, const TableColumns& col
 {
     PlacedLocalities placed;
     placed.plane = !columns.hasDegrees();
-    placed.otherColumns = columns.count();
+    placed.headings = table.headings;
     for (const TableRow& row : table.rows) {
         const QString key = row.cells[*columns.key()];
         if (const std::optional<QPointF> place = placeIn(table, columns, row); place && !key.isEmpty()) {
@@ -89,12 +89,12 @@ PlacedLocalities placedInTable(const SourceTable& table, const TableColumns& col
     return placed;
 }
 
-/// How well a file places localities: how many of them, and how much else it holds.
+/// How well a file places localities: how many of them, and in how many columns.
 struct Candidate
 {
     QString path;
     int placed = 0;
-    int otherColumns = 0;
+    qsizetype columns = 0;
 };
 
 Candidate tryLocalities(const QString& path, const QStringList& keys)
@@ -106,7 +106,7 @@ Candidate tryLocalities(const QString& path, const QStringList& keys)
         const LocalityIndex index(localities.localities);
         candidate.placed = static_cast<int>(
             std::ranges::count_if(keys, [&](const QString& key) { return index.find(key).has_value(); }));
-        candidate.otherColumns = localities.otherColumns;
+        candidate.columns = localities.headings.size();
     } catch (const RunTimeError&) {
         candidate.placed = 0; // it does not hold these localities
     }
@@ -170,8 +170,8 @@ std::optional<QString> findLocalitiesBeside(const QString& table, const QStringL
     std::optional<Candidate> best;
     for (const QString& path : filesBeside(table)) {
         const Candidate candidate = tryLocalities(path, keys);
-        const auto order = [](const Candidate& each) { return std::tuple(-each.placed, each.otherColumns); };
-        if (2 * candidate.placed >= keys.size() && (!best || order(candidate) < order(*best))) {
+        const auto order = [](const Candidate& each) { return std::tuple(-each.placed, each.columns); };
+        if (candidate.placed >= (keys.size() + 1) / 2 && (!best || order(candidate) < order(*best))) {
             best = candidate;
         }
         if (best && isLayer(path) && best->placed == keys.size()) {

@@ -14,8 +14,8 @@ struct PlacedLocalities
 {
     std::vector<SourceLocality> localities;
     bool plane = false;
-    /// How many columns or attributes they come with beyond name and place.
-    int otherColumns = 0;
+    /// The headings of the table, or the names of the attributes.
+    QStringList headings;
     /// The file, where it brings lines for the base map, too.
     QStringList baseMapLayers;
 };

@@ -24,6 +24,7 @@ private:
     QStringList keys() const;
     QStringList answerCells() const;
     void placeByFile(const QString& path, const SourceChoices& choices);
+    void requireHeadings(const QStringList& corrected) const;
     void addItems();
     void addWideRow(const TableRow& row);
     void addLongRow(const TableRow& row);
@@ -65,6 +66,7 @@ TableSurvey::TableSurvey(const SourceTable& table, const TableColumns& columns, 
         }
         placeByFile(*beside, choices);
     }
+    requireHeadings(choices.columns.keys());
 }
 
 /// What the table calls its localities, each once.
@@ -99,6 +101,20 @@ void TableSurvey::placeByFile(const QString& path, const SourceChoices& choices)
     m_survey.plane = m_file->plane;
     m_survey.baseMapLayers = m_file->baseMapLayers;
     m_survey.report.tell(QStringLiteral("Localities: ") + path);
+}
+
+/// Each file has its own headings; a correction of one that is in none is a mistake.
+void TableSurvey::requireHeadings(const QStringList& corrected) const
+{
+    const QStringList headings = m_table.headings + (m_file ? m_file->headings : QStringList());
+    for (const QString& heading : corrected) {
+        if (!headings.contains(heading)) {
+            throw RunTimeError(ErrorNumber::TypeMismatch,
+                               QStringLiteral("No column is called \"%1\"; there are: %2.")
+                                   .arg(heading, headings.join(QStringLiteral(", "))))
+                .at({m_table.path, m_table.headingRow});
+        }
+    }
 }
 
 std::optional<SourceLocality> TableSurvey::placed(const TableRow& row)
@@ -268,16 +284,7 @@ SourceSurvey readTableSource(const SourceChoices& choices)
 
 SourceSurvey surveyInTable(const SourceTable& table, const SourceChoices& choices)
 {
-    SourceChoices ofTable = choices;
-    if (!choices.localities.isEmpty()) {
-        ofTable.columns = {}; // each file has its own headings; a correction holds where its heading is
-        for (const auto& [heading, role] : choices.columns.asKeyValueRange()) {
-            if (table.headings.contains(heading)) {
-                ofTable.columns.insert(heading, role);
-            }
-        }
-    }
-    const TableColumns columns = guessColumns(table, ofTable.columns);
+    const TableColumns columns = guessColumns(table, choices.columns);
     SourceSurvey survey = TableSurvey(table, columns, choices).take();
     tellLeftColumns(table, columns, survey.report);
     requireContents(survey, table);

@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cpl_conv.h>
 #include <map>
 #include <ogrsf_frmts.h>
 
@@ -129,6 +130,7 @@ std::vector<TableRow> textTableRows(const QByteArray& bytes)
         text.replace(Quote, LiteralQuote);
     }
     const std::vector<Record> records = recordsOf(text);
+    const CPLConfigOptionSetter anyWidth("OGR_CSV_MAX_FIELD_COUNT", "100000", false);
     const MemoryFile file(QStringLiteral("table.csv"), numberedText(records, separatorOf(records)));
     const GdalDataset table = openDataset(file.path(), {"CSV"});
     return rowsOf(*table->GetLayer(0));

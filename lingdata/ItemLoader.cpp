@@ -78,8 +78,8 @@ QString LoadWordData(const Folders& folders, const QString& itemPath, Linguistic
     fresh.ItemPath = itemPath;
     fresh.KindsPath = kindsFilePath(folders, itemPath);
     fresh.ItemReading = data.ItemReading + 1;
-    const QString trouble = fileExists(folders.Drive, fresh.KindsPath) ? readKindsFile(folders, fresh)
-                                                                       : makeKindsFile(folders, fresh);
+    QString trouble = fileExists(folders.Drive, fresh.KindsPath) ? readKindsFile(folders, fresh)
+                                                                 : makeKindsFile(folders, fresh);
     data = std::move(fresh);
     dataLoaded(state);
     return trouble;

@@ -19,7 +19,12 @@ void WordTable::replaceItem(ItemEditor item)
 
 void WordTable::showChanges()
 {
-    const int rows = m_editor.localities();
+    resize(m_editor.localities());
+    Q_EMIT dataChanged(index(0, 0), index(m_rows - 1, ItemEditor::MostWords - 1));
+}
+
+void WordTable::resize(int rows)
+{
     if (rows > m_rows) {
         beginInsertRows({}, m_rows, rows - 1);
         m_rows = rows;
@@ -29,7 +34,6 @@ void WordTable::showChanges()
         m_rows = rows;
         endRemoveRows();
     }
-    Q_EMIT dataChanged(index(0, 0), index(m_rows - 1, ItemEditor::MostWords - 1));
 }
 
 int WordTable::rowCount(const QModelIndex& parent) const

@@ -31,6 +31,9 @@ public:
     static CellPlace place(const QModelIndex& index) { return {index.row() + 1, index.column() + 1}; }
 
 private:
+    /// Tells the views that there are `rows` rows now.
+    void resize(int rows);
+
     ItemEditor& m_editor;
     const LocalityNames& m_names;
     /// How many rows the views know of.

@@ -144,6 +144,30 @@ TEST_F(Tables, DoubledNamesAndHeadingsAreToldApartOrTold)
     EXPECT_TRUE(error.detail().contains(QStringLiteral("Several localities are called \"Aa\"")));
 }
 
+TEST_F(Tables, ACorrectionHoldsInTheFileThatHasItsHeading)
+{
+    put("places.csv", "where,east,north\nAa,1,2\n");
+    SourceChoices choices;
+    choices.path = put("words.csv", "spot,lat,rain\nAa,x,y\n");
+    choices.localities = files.hostPath("places.csv");
+    choices.columns = {
+        {"east", ColumnRole::Longitude}, {"north", ColumnRole::Latitude}, {"lat", ColumnRole::Item}};
+    EXPECT_EQ(textOf(readTableSource(choices)), QStringLiteral("Aa Aa 1 2\nlat: x\nrain: y"));
+    choices.columns = {{"west", ColumnRole::Longitude}};
+    EXPECT_TRUE(errorOf([&] { readTableSource(choices); }).detail().contains("No column is called \"west\""));
+}
+
+TEST_F(Tables, ATableMayHaveManyColumns)
+{
+    QByteArray headings = "name,lon,lat";
+    QByteArray row = "Aa,1,2";
+    for (int item = 1; item <= 3000; ++item) {
+        headings += ",i" + QByteArray::number(item);
+        row += ",w";
+    }
+    EXPECT_EQ(read(put("wide.csv", headings + '\n' + row + '\n')).items.size(), 3000U);
+}
+
 TEST(Degrees, AreReadAsTheyAreWritten)
 {
     const std::pair<const char*, double> rows[] = {
