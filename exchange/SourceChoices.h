@@ -4,8 +4,9 @@
 #include <QString>
 #include <QStringList>
 
-/// What a column of a table can be.
-enum class ColumnRole { Id, Name, Longitude, Latitude, X, Y, Item, Answer, Locality, Left };
+/// What a column of a table can be. `Item` is an item of a wide table, or names the items of a long one,
+/// which `Answer` answers. `Left` is left out.
+enum class ColumnRole { Id, Name, Longitude, Latitude, X, Y, Item, Answer, Left };
 
 /// Which texts of a lexical source become word forms.
 enum class WordSource { Forms, Cognates, Codes };

@@ -143,14 +143,22 @@ bool decodeWhole(const char* encoding, const QByteArray& bytes, QString& text)
     return !decoder.hasError();
 }
 
+bool hasUtf16Mark(const QByteArray& bytes)
+{
+    return bytes.startsWith("\xFF\xFE") || bytes.startsWith("\xFE\xFF");
+}
+
 } // namespace
 
 QString decodeText(const QByteArray& bytes)
 {
+    QString text;
+    if (hasUtf16Mark(bytes) && decodeWhole("UTF-16", bytes, text)) {
+        return text;
+    }
     if (bytes.contains('\0')) {
         throw RunTimeError(ErrorNumber::TypeMismatch, QStringLiteral("The file does not hold text."));
     }
-    QString text;
     if (decodeWhole("UTF-8", bytes, text) ||
         (decodeWhole("Shift_JIS", bytes, text) && shiftJisScore(bytes) >= 0) ||
         decodeWhole("windows-1252", bytes, text)) {
