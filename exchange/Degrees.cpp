@@ -1,5 +1,6 @@
 #include "exchange/Degrees.h"
 
+#include <QLocale>
 #include <QRegularExpression>
 
 #include <cmath>
@@ -42,4 +43,9 @@ std::optional<double> degrees(const QString& text)
     }
     const double value = part(2) + part(3) / 60 + part(4) / 3600;
     return signOf(match.captured(1)) * signOf(match.captured(5)) * value;
+}
+
+QString coordinateText(double number)
+{
+    return QString::number(number, 'f', QLocale::FloatingPointShortest);
 }

@@ -1,6 +1,7 @@
 #include "exchange/ReadSource.h"
 
 #include "exchange/CldfSource.h"
+#include "exchange/LayerFiles.h"
 #include "exchange/LayerSource.h"
 #include "exchange/TableSource.h"
 #include "platform/RunTimeError.h"

@@ -1,7 +1,8 @@
 #include "exchange/TablePlaces.h"
 
 #include "exchange/Degrees.h"
-#include "exchange/LayerSource.h"
+#include "exchange/LayerFiles.h"
+#include "exchange/LayerTable.h"
 #include "exchange/LocalityIndex.h"
 
 #include <QDir>
@@ -149,10 +150,8 @@ std::optional<QPointF> placeIn(const SourceTable& table, const TableColumns& col
 PlacedLocalities readPlacedLocalities(const QString& path, const QMap<QString, ColumnRole>& corrections,
                                       ImportReport& report)
 {
-    if (isLayer(path)) {
-        return {readLayerLocalities(path, report), false, 0, baseMapLayersOf(path)};
-    }
-    const SourceTable table = readTable(path);
+    const bool layer = isLayer(path);
+    const SourceTable table = layer ? readLayerTable(path) : readTable(path);
     const TableColumns columns = guessColumns(table, corrections);
     if (!columns.hasPlaces()) {
         throw RunTimeError(
@@ -161,7 +160,9 @@ PlacedLocalities readPlacedLocalities(const QString& path, const QMap<QString, C
                 .arg(table.headings.join(QStringLiteral(", "))))
             .at({path, table.headingRow});
     }
-    return placedInTable(table, columns, report);
+    PlacedLocalities placed = placedInTable(table, columns, report);
+    placed.baseMapLayers = layer ? baseMapLayersOf(path) : QStringList();
+    return placed;
 }
 
 std::optional<QString> findLocalitiesBeside(const QString& table, const QStringList& keys)

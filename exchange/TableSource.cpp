@@ -235,9 +235,11 @@ SourceSurvey TableSurvey::take()
 void requireContents(const SourceSurvey& survey, const SourceTable& table)
 {
     if (survey.localities.empty() || survey.items.empty()) {
-        const QString what = survey.localities.empty()
-                                 ? QStringLiteral("No locality of the table has a place. ")
-                                 : QStringLiteral("The table has no item. ");
+        const QString what =
+            survey.localities.empty()
+                ? QStringLiteral("No locality of the table has a place. ")
+                : QStringLiteral("It has no column of answers. If it only tells where localities "
+                                 "lie, name it as the localities of a table with the answers. ");
         throw RunTimeError(ErrorNumber::TypeMismatch, what + survey.report.text())
             .at({table.path, table.headingRow});
     }
@@ -247,7 +249,11 @@ void requireContents(const SourceSurvey& survey, const SourceTable& table)
 
 SourceSurvey readTableSource(const SourceChoices& choices)
 {
-    const SourceTable table = readTable(choices.path);
+    return surveyInTable(readTable(choices.path), choices);
+}
+
+SourceSurvey surveyInTable(const SourceTable& table, const SourceChoices& choices)
+{
     SourceChoices ofTable = choices;
     if (!choices.localities.isEmpty()) {
         ofTable.columns = {}; // each file has its own headings; a correction holds where its heading is

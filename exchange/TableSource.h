@@ -2,9 +2,13 @@
 
 #include "exchange/SourceChoices.h"
 #include "exchange/SourceSurvey.h"
+#include "exchange/SourceTable.h"
 
 /// Reads a survey from a table: wide (a row a locality, a column an item) or long (locality, item, answer).
 /// The localities stand in the same table, in the file that `choices` name, or in a file beside the table.
 /// Raises type mismatch, with file, row and column and what can be done, for what is not sound, and what
 /// `readTable` and `guessColumns` raise.
 SourceSurvey readTableSource(const SourceChoices& choices);
+
+/// The same for a table that was read already.
+SourceSurvey surveyInTable(const SourceTable& table, const SourceChoices& choices);

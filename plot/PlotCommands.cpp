@@ -9,6 +9,7 @@
 #include "mapdata/MapFiles.h"
 #include "mapdata/MapSearch.h"
 #include "plot/DrawingFile.h"
+#include "plot/ExportCommand.h"
 #include "render/BlankMap.h"
 #include "render/LinguisticMap.h"
 #include "render/MapSize.h"
@@ -241,6 +242,8 @@ bool plot(const PlotOptions& options, PlotListener& listener)
     case PlotOptions::Command::ContrastMap:
         save(map.contrastMap(drive.varnPath(options.contrast)));
         break;
+    case PlotOptions::Command::Export:
+        return exportMap(map.folders(), options.output, listener);
     }
     return true;
 }

@@ -46,6 +46,7 @@ std::vector<CommandForm> commandForms()
         {"symbol-diffusion-map", Command::SymbolDiffusionMap, map + list({"counts", "symbols"}),
          picture + list({"word-form"})},
         {"contrast-map", Command::ContrastMap, map + list({"counts", "contrast"}), picture},
+        {"export", Command::Export, map, {}},
     };
 }
 
@@ -105,7 +106,7 @@ double readPositive(const QCommandLineParser& parser, const QString& name, doubl
     return value;
 }
 
-/// The endings that the file of an option may have in a command.
+/// The endings that the file of an option may have in a command; an empty one stands for a folder.
 struct FileEndings
 {
     PlotOptions::Command command;
@@ -137,15 +138,20 @@ std::vector<FileEndings> fileEndings()
         {Command::ContrastMap, "counts", list({"ttl"})},
         {Command::ContrastMap, "contrast", list({"rnk"})},
         {Command::ContrastMap, "output", picture},
+        {Command::Export, "output", list({"csv", "geojson", "gpkg", ""})},
     };
 }
 
 void checkEndings(const FileEndings& rule, const QStringList& files)
 {
+    QStringList named = rule.endings;
+    const bool orFolder = named.removeAll(QString()) > 0;
     for (const QString& file : files) {
         if (!rule.endings.contains(QFileInfo(file).suffix().toLower())) {
-            throw UsageError(QStringLiteral("--%1 must end in .%2")
-                                 .arg(QLatin1String(rule.option), rule.endings.join(QStringLiteral(", ."))));
+            throw UsageError(
+                QStringLiteral("--%1 must end in .%2%3")
+                    .arg(QLatin1String(rule.option), named.join(QStringLiteral(", .")),
+                         orFolder ? QStringLiteral(", or have no ending for a folder") : QString()));
         }
     }
 }
@@ -239,11 +245,14 @@ QString plotUsage()
            [--word-form K] [--locality-dots] [--height MM] [--dpi N]
   varnplot contrast-map --installation DIR --map NAME --counts FILE.ttl --contrast FILE.rnk --output FILE
            [--locality-dots] [--height MM] [--dpi N]
+  varnplot export --installation DIR --map NAME --output FILE.csv|FILE.geojson|FILE.gpkg|FOLDER
 
 DIR is the folder with VarnData and VarnSymbol. FILE ends in .svg, .pdf or .png.
 accumulate adds the items to the table in FILE.ttl and saves it after each. Items are left out and named that
 cannot be read, whose number of localities is not the map's, or that the table holds already; --count-again counts
 the last once more. A map of an item with another number of localities is drawn with a warning.
+export writes the localities with a column an item, or a new folder with a CLDF Wordlist. Items are left out and
+named that cannot be read or whose number of localities is not the map's.
 --height is the height of the drawing area in millimetres, --dpi the resolution of a PNG (192).
 
 Exit code: 0 all is done, 1 an error or items left out, 2 the command line is not understood.

@@ -22,6 +22,7 @@ struct PlotOptions
         DiffusionMap,
         SymbolDiffusionMap,
         ContrastMap,
+        Export,
     };
 
     Command command = Command::BlankMap;

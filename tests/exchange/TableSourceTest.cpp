@@ -4,6 +4,7 @@
 #include "exchange/SourceTable.h"
 #include "exchange/TableColumns.h"
 #include "platform/WholeFile.h"
+#include "tests/exchange/SurveyText.h"
 #include "tests/support/TestDrive.h"
 
 #include <QStringEncoder>
@@ -11,27 +12,6 @@
 #include <ogrsf_frmts.h>
 
 namespace {
-
-/// The survey as text: a line a locality with its place, then a line an item with the answers of each
-/// locality.
-QString textOf(const SourceSurvey& survey)
-{
-    QStringList lines;
-    for (const SourceLocality& locality : survey.localities) {
-        lines << QStringLiteral("%1 %2 %3 %4")
-                     .arg(locality.id, locality.name)
-                     .arg(locality.position.x())
-                     .arg(locality.position.y());
-    }
-    for (const SourceItem& item : survey.items) {
-        QStringList answers;
-        for (const QStringList& answer : item.answers) {
-            answers << answer.join(QLatin1Char('+'));
-        }
-        lines << item.name + QStringLiteral(": ") + answers.join(QLatin1Char('|'));
-    }
-    return lines.join(QLatin1Char('\n'));
-}
 
 /// Two places and two items, however a table writes them.
 const QString Places = QStringLiteral("1 Aa 10.5 -2.25\n2 Bö 11 3.5\nrain: ame+uyu|yuki\nsnow: |mĩ");
@@ -133,7 +113,7 @@ TEST_F(Tables, WhatIsNotSoundIsNamedWithItsPlace)
     const Row rows[] = {
         {"name,lon,lat,rain\nAa,1,2,x\nBb,145,-5O,y\n", 3, 3, "5°11"},
         {"name,lat,lon,rain\nAa,145,2,x\n", 2, 2, "swapped"},
-        {"name,lon,lat\nAa,1,2\n", 1, 0, "no item"},
+        {"name,lon,lat\nAa,1,2\n", 1, 0, "no column of answers"},
         {"name,rain\nAa,x\n", 1, 0, "Name the file with the localities"},
         {"name,lon,lat,rain\nAa,,,x\n", 1, 0, "Left out, localities without coordinates: 1 (Aa)"},
         {"name\n", 0, 0, "no rows"},
