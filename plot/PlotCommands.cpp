@@ -9,6 +9,7 @@
 #include "mapdata/MapFiles.h"
 #include "mapdata/MapSearch.h"
 #include "plot/DrawingFile.h"
+#include "plot/ImportCommand.h"
 #include "render/BlankMap.h"
 #include "render/LinguisticMap.h"
 #include "render/MapSize.h"
@@ -205,6 +206,10 @@ void saveStatistics(VarnModule& varn, const QString& output)
 
 bool plot(const PlotOptions& options, PlotListener& listener)
 {
+    if (options.command == PlotOptions::Command::Import) {
+        importSurvey(options, listener);
+        return true;
+    }
     MapPlot map(options, listener);
     const DriveC drive;
     const auto save = [&](const Drawing& drawing) {
@@ -214,6 +219,8 @@ bool plot(const PlotOptions& options, PlotListener& listener)
         loadCounts(map.varn(), options.counts);
     }
     switch (options.command) {
+    case PlotOptions::Command::Import:
+        break;
     case PlotOptions::Command::LinguisticMap:
         save(map.linguisticMap(drive.varnPath(options.data.value(0)), drive.varnPath(options.symbols)));
         break;

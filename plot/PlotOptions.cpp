@@ -1,6 +1,7 @@
 #include "plot/PlotOptions.h"
 
 #include "analysis/CumulativeTable.h"
+#include "plot/ImportOptions.h"
 
 #include <QCommandLineParser>
 #include <QFileInfo>
@@ -46,6 +47,8 @@ std::vector<CommandForm> commandForms()
         {"symbol-diffusion-map", Command::SymbolDiffusionMap, map + list({"counts", "symbols"}),
          picture + list({"word-form"})},
         {"contrast-map", Command::ContrastMap, map + list({"counts", "contrast"}), picture},
+        {"import", Command::Import, list({"installation", "map", "source"}),
+         list({"localities", "base-map", "projection", "answers", "use", "column"})},
     };
 }
 
@@ -62,8 +65,10 @@ CommandForm commandForm(const QString& name)
 
 void addOptions(QCommandLineParser& parser)
 {
-    for (const char* name : {"installation", "map", "data", "symbols", "output", "location", "height", "dpi",
-                             "counts", "characters", "contrast", "graph", "word-form"}) {
+    for (const char* name :
+         {"installation", "map",      "data",       "symbols",  "output", "location",  "height",
+          "dpi",          "counts",   "characters", "contrast", "graph",  "word-form", "source",
+          "localities",   "base-map", "projection", "answers",  "use",    "column"}) {
         parser.addOption({QLatin1String(name), {}, QStringLiteral("value")});
     }
     for (const char* name : {"locality-dots", "whole-word-forms", "count-again"}) {
@@ -213,6 +218,9 @@ std::optional<PlotOptions> readPlotOptions(const QStringList& arguments)
     if (parser.isSet(QStringLiteral("word-form"))) {
         options.wordForm = static_cast<int>(readPositive(parser, QStringLiteral("word-form"), MostWordForms));
     }
+    if (options.command == PlotOptions::Command::Import) {
+        readImportOptions(parser, options);
+    }
     for (const FileEndings& rule : fileEndings()) {
         if (rule.command == options.command) {
             const QString name = QLatin1String(rule.option);
@@ -243,12 +251,19 @@ QString plotUsage()
            [--word-form K] [--locality-dots] [--height MM] [--dpi N]
   varnplot contrast-map --installation DIR --map NAME --counts FILE.ttl --contrast FILE.rnk --output FILE
            [--locality-dots] [--height MM] [--dpi N]
+  varnplot import    --installation DIR --map NAME --source PATH [--localities FILE] [--base-map FILE ...]
+           [--projection laea|tmerc|EPSG:N] [--answers SEPARATOR] [--use forms|cognates|codes]
+           [--column ROLE=NAME ...]
 
 DIR is the folder with VarnData and VarnSymbol. FILE ends in .svg, .pdf or .png.
 accumulate adds the items to the table in FILE.ttl and saves it after each. Items are left out and named that
 cannot be read, whose number of localities is not the map's, or that the table holds already; --count-again counts
 the last once more. A map of an item with another number of localities is drawn with a warning.
 With --whole-word-forms a symbol marks only the word forms that equal its kind, not those that contain it.
+import makes the new map NAME of a whole survey: a table (CSV, TSV, XLSX, ODS), a CLDF data set, or a layer of
+points. What is not said is found out; ROLE is id, name, longitude, latitude, x, y, item, answer or left (out).
+Several answers in a cell are parted by SEPARATOR. --base-map and --column can stand several times. A report tells
+what came in and what was left out.
 --height is the height of the drawing area in millimetres, --dpi the resolution of a PNG (192).
 
 Exit code: 0 all is done, 1 an error or items left out, 2 the command line is not understood.

@@ -1,6 +1,8 @@
 #pragma once
 
 #include "analysis/DiffusionGraphs.h"
+#include "exchange/SourceChoices.h"
+#include "exchange/SurveyChoices.h"
 #include "render/MapStyle.h"
 
 #include <QString>
@@ -22,6 +24,7 @@ struct PlotOptions
         DiffusionMap,
         SymbolDiffusionMap,
         ContrastMap,
+        Import,
     };
 
     Command command = Command::BlankMap;
@@ -48,6 +51,9 @@ struct PlotOptions
     /// Height of the map in millimetres; 0 for the map form's first size.
     double height = 0;
     double dotsPerInch = 192;
+    /// What is imported, and what is made of it.
+    SourceChoices source;
+    SurveyChoices newSurvey;
 };
 
 /// A command line that is not understood; `what()` says why.

@@ -19,6 +19,7 @@ struct KeptTales : PlotListener
     {
         pagesTold << QStringLiteral("%1/%2 %3").arg(page).arg(pages).arg(name);
     }
+    void report(const QString& text) override { warnings << text; }
     void warning(const QString& text) override { warnings << text; }
 
     QStringList pagesTold;
@@ -119,12 +120,32 @@ TEST(PlotOptions, TheCommandLineIsRead)
     }
 }
 
+TEST(PlotOptions, AnImportIsRead)
+{
+    const auto options = readPlotOptions(
+        words("import --installation i --map m --source s.csv --localities l.kml --base-map a --base-map b "
+              "--projection epsg:3035 --answers \\n --use cognates --column item=a=b --column Left=c"));
+    ASSERT_TRUE(options);
+    EXPECT_EQ(options->source.path, QStringLiteral("s.csv"));
+    EXPECT_EQ(options->source.localities, QStringLiteral("l.kml"));
+    EXPECT_EQ(options->newSurvey.baseMap, QStringList({QStringLiteral("a"), QStringLiteral("b")}));
+    EXPECT_EQ(options->newSurvey.projection, QStringLiteral("EPSG:3035"));
+    EXPECT_EQ(options->source.answerSeparator, QStringLiteral("\n"));
+    EXPECT_EQ(options->source.words, WordSource::Cognates);
+    EXPECT_EQ(options->source.columns[QStringLiteral("a=b")], ColumnRole::Item);
+    EXPECT_EQ(options->source.columns[QStringLiteral("c")], ColumnRole::Left);
+}
+
 TEST(PlotOptions, WhatIsNotUnderstoodIsSaid)
 {
     const char* rows[] = {
         "",
         "draw --map m",
         "blank-map --installation i --map m",
+        "import --installation i --map m --source s --use words",
+        "import --installation i --map m --source s --column colour=a",
+        "import --installation i --map m --source s --column a",
+        "import --installation i --map m --source s --projection mercator",
         "blank-map --installation i --map m --output o.gif",
         "blank-map --installation i --map m --output o.png --data d",
         "blank-map --installation i --map m --output o.png extra",
