@@ -7,16 +7,19 @@
 #include "mapdata/LocalityNames.h"
 #include "symbols/SymbolSet.h"
 
-#include <memory>
 #include <vector>
 
 /// An item of a new survey: its answers and symbols, and the name of its two files without their endings.
+/// `ItemAnswers` are made of its answers (`itemAnswers`) one at a time, for they take far more room.
 struct NewItem
 {
     QString fileName;
-    ItemAnswers answers;
+    SourceItem source;
     SymbolSet symbols;
 };
+
+/// The answers of an item as its file holds them.
+ItemAnswers itemAnswers(const SourceItem& item);
 
 /// A survey that is ready to be written as a map of this program.
 struct NewSurvey
@@ -25,6 +28,6 @@ struct NewSurvey
     LocalityNames names;
     MapLines lines;
     PlaceNames placeNames;
-    std::vector<std::unique_ptr<NewItem>> items;
+    std::vector<NewItem> items;
     ImportReport report;
 };

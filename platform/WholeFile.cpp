@@ -20,7 +20,7 @@ constexpr qint64 MaxFileSize = 64LL * 1024 * 1024;
 
 /// Raises the error that the last step of writing `file` ended with. A disk can be full at every step: where
 /// the file is made, written, and put in its place.
-[[noreturn]] void raiseWriteError(const QSaveFile& file, ErrorNumber otherwise, const QString& path)
+[[noreturn]] void raiseWriteError(const QFileDevice& file, ErrorNumber otherwise, const QString& path)
 {
     const bool full = file.error() == QFileDevice::ResourceError || errno == ENOSPC || errno == EDQUOT;
     raise(full ? ErrorNumber::DiskFull : otherwise, path, file.errorString());
@@ -46,6 +46,27 @@ void requireReadable(const QFileInfo& file, const QString& path)
     requireRegular(file, path);
     if (file.size() > MaxFileSize) {
         raise(ErrorNumber::OutOfMemory, path, QStringLiteral("The file is larger than 64 MiB."));
+    }
+}
+
+/// Makes the file with all of `bytes`; it stays open.
+void writeAll(QFileDevice& file, const QString& path, const QByteArray& bytes)
+{
+    errno = 0;
+    if (!file.open(QIODevice::WriteOnly)) {
+        raiseWriteError(file, ErrorNumber::PermissionDenied, path);
+    }
+    // A disk that fills up takes a part of the bytes before it refuses the rest.
+    for (qsizetype written = 0; written < bytes.size();) {
+        const qint64 taken = file.write(bytes.constData() + written, bytes.size() - written);
+        if (taken <= 0) {
+            raiseWriteError(file, ErrorNumber::DeviceIOError, path);
+        }
+        written += taken;
+    }
+    // What is still in the buffer would be lost without a word when the file is closed.
+    if (!file.flush() || file.error() != QFileDevice::NoError) {
+        raiseWriteError(file, ErrorNumber::DeviceIOError, path);
     }
 }
 
@@ -82,23 +103,17 @@ void replaceHostFile(const QString& hostPath, const QString& path, const QByteAr
         raise(ErrorNumber::PathNotFound, path);
     }
     requireRegular(target, path);
-    errno = 0;
     QSaveFile file(target.absoluteFilePath());
-    if (!file.open(QIODevice::WriteOnly)) {
-        raiseWriteError(file, ErrorNumber::PermissionDenied, path);
-    }
-    // A disk that fills up takes a part of the bytes before it refuses the rest.
-    for (qsizetype written = 0; written < bytes.size();) {
-        const qint64 taken = file.write(bytes.constData() + written, bytes.size() - written);
-        if (taken <= 0) {
-            raiseWriteError(file, ErrorNumber::DeviceIOError, path);
-        }
-        written += taken;
-    }
-    // What is still in the buffer would be lost without a word by `commit`.
-    if (!file.flush() || file.error() != QFileDevice::NoError || !file.commit()) {
+    writeAll(file, path, bytes);
+    if (!file.commit()) {
         raiseWriteError(file, ErrorNumber::DeviceIOError, path);
     }
+}
+
+void writeNewHostFile(const QString& hostPath, const QString& path, const QByteArray& bytes)
+{
+    QFile file(hostPath);
+    writeAll(file, path, bytes);
 }
 
 void replaceFile(const DriveC& drive, const QString& path, const QByteArray& bytes)

@@ -21,5 +21,9 @@ void replaceFile(const DriveC& drive, const QString& path, const QByteArray& byt
 /// The same for the file at `hostPath`, a path of this machine; `path` names it in errors.
 void replaceHostFile(const QString& hostPath, const QString& path, const QByteArray& bytes);
 
+/// Writes `bytes` to the new file at `hostPath`, in a folder that nobody knows yet; so it does not wait, as
+/// `replaceFile` does, until they are on the disk. Raises permission denied, disk full, device I/O error.
+void writeNewHostFile(const QString& hostPath, const QString& path, const QByteArray& bytes);
+
 /// Whether a file (not a folder) exists at `path`.
 bool fileExists(const DriveC& drive, const QString& path);

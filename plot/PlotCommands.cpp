@@ -10,6 +10,7 @@
 #include "mapdata/MapSearch.h"
 #include "plot/DrawingFile.h"
 #include "plot/ExportCommand.h"
+#include "plot/ImportCommand.h"
 #include "render/BlankMap.h"
 #include "render/LinguisticMap.h"
 #include "render/MapSize.h"
@@ -36,6 +37,7 @@ public:
         m_varn.VarnMapName = QLatin1Char('\\') + options.map;
         m_varn.LingFolder = QStringLiteral("\\VarnData") + m_varn.VarnMapName + QStringLiteral("\\Ling");
         m_varn.PlotDots = options.localityDots;
+        m_varn.WholeWordForms = options.wholeWordForms;
         m_varn.HankoPosition = options.location;
         if (options.height > 0) {
             m_area = withHeight(m_area, options.height);
@@ -205,6 +207,10 @@ void saveStatistics(VarnModule& varn, const QString& output)
 
 bool plot(const PlotOptions& options, PlotListener& listener)
 {
+    if (options.command == PlotOptions::Command::Import) {
+        importSurvey(options, listener);
+        return true;
+    }
     MapPlot map(options, listener);
     const DriveC drive;
     const auto save = [&](const Drawing& drawing) {
@@ -214,6 +220,8 @@ bool plot(const PlotOptions& options, PlotListener& listener)
         loadCounts(map.varn(), options.counts);
     }
     switch (options.command) {
+    case PlotOptions::Command::Import:
+        break;
     case PlotOptions::Command::LinguisticMap:
         save(map.linguisticMap(drive.varnPath(options.data.value(0)), drive.varnPath(options.symbols)));
         break;

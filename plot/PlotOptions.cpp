@@ -1,6 +1,7 @@
 #include "plot/PlotOptions.h"
 
 #include "analysis/CumulativeTable.h"
+#include "plot/ImportOptions.h"
 
 #include <QCommandLineParser>
 #include <QFileInfo>
@@ -34,10 +35,10 @@ std::vector<CommandForm> commandForms()
     const QStringList picture = size + list({"dpi"});
     return {
         {"linguistic-map", Command::LinguisticMap, map + list({"data", "symbols"}),
-         picture + list({"location"})},
+         picture + list({"location", "whole-word-forms"})},
         {"blank-map", Command::BlankMap, map, picture},
         {"symbols", Command::Symbols, map, {}},
-        {"atlas", Command::Atlas, map, size + list({"location"})},
+        {"atlas", Command::Atlas, map, size + list({"location", "whole-word-forms"})},
         {"accumulate", Command::Accumulate, list({"installation", "map", "counts", "characters", "data"}),
          list({"count-again"})},
         {"statistics", Command::Statistics, map + list({"counts"}), {}},
@@ -47,6 +48,8 @@ std::vector<CommandForm> commandForms()
          picture + list({"word-form"})},
         {"contrast-map", Command::ContrastMap, map + list({"counts", "contrast"}), picture},
         {"export", Command::Export, map, {}},
+        {"import", Command::Import, list({"installation", "map", "source"}),
+         list({"localities", "base-map", "projection", "answers", "use", "column"})},
     };
 }
 
@@ -63,12 +66,15 @@ CommandForm commandForm(const QString& name)
 
 void addOptions(QCommandLineParser& parser)
 {
-    for (const char* name : {"installation", "map", "data", "symbols", "output", "location", "height", "dpi",
-                             "counts", "characters", "contrast", "graph", "word-form"}) {
+    for (const char* name :
+         {"installation", "map",      "data",       "symbols",  "output", "location",  "height",
+          "dpi",          "counts",   "characters", "contrast", "graph",  "word-form", "source",
+          "localities",   "base-map", "projection", "answers",  "use",    "column"}) {
         parser.addOption({QLatin1String(name), {}, QStringLiteral("value")});
     }
-    parser.addOption(QCommandLineOption(QStringLiteral("locality-dots")));
-    parser.addOption(QCommandLineOption(QStringLiteral("count-again")));
+    for (const char* name : {"locality-dots", "whole-word-forms", "count-again"}) {
+        parser.addOption(QCommandLineOption(QLatin1String(name)));
+    }
     parser.addOption(QCommandLineOption(QStringList{QStringLiteral("h"), QStringLiteral("help")}));
 }
 
@@ -201,6 +207,7 @@ std::optional<PlotOptions> readPlotOptions(const QStringList& arguments)
     options.characters = parser.value(QStringLiteral("characters"));
     options.contrast = parser.value(QStringLiteral("contrast"));
     options.localityDots = parser.isSet(QStringLiteral("locality-dots"));
+    options.wholeWordForms = parser.isSet(QStringLiteral("whole-word-forms"));
     options.countAgain = parser.isSet(QStringLiteral("count-again"));
     if (parser.isSet(QStringLiteral("location"))) {
         options.location = readLocation(parser.value(QStringLiteral("location")));
@@ -217,6 +224,9 @@ std::optional<PlotOptions> readPlotOptions(const QStringList& arguments)
     if (parser.isSet(QStringLiteral("word-form"))) {
         options.wordForm = static_cast<int>(readPositive(parser, QStringLiteral("word-form"), MostWordForms));
     }
+    if (options.command == PlotOptions::Command::Import) {
+        readImportOptions(parser, options);
+    }
     for (const FileEndings& rule : fileEndings()) {
         if (rule.command == options.command) {
             const QString name = QLatin1String(rule.option);
@@ -230,11 +240,13 @@ QString plotUsage()
 {
     return QStringLiteral(R"(usage:
   varnplot linguistic-map --installation DIR --map NAME --data FILE.dbs --symbols FILE.han --output FILE
-           [--location center|right|left|top|bottom] [--locality-dots] [--height MM] [--dpi N]
+           [--location center|right|left|top|bottom] [--whole-word-forms] [--locality-dots]
+           [--height MM] [--dpi N]
   varnplot blank-map --installation DIR --map NAME --output FILE [--locality-dots] [--height MM] [--dpi N]
   varnplot symbols   --installation DIR --map NAME --output FILE.pdf
   varnplot atlas     --installation DIR --map NAME --output FILE.pdf
-           [--location center|right|left|top|bottom] [--locality-dots] [--height MM]
+           [--location center|right|left|top|bottom] [--whole-word-forms] [--locality-dots]
+           [--height MM]
   varnplot accumulate --installation DIR --map NAME --counts FILE.ttl --characters FILE.sum --data FILE.dbs ...
            [--count-again]
   varnplot statistics --installation DIR --map NAME --counts FILE.ttl --output FILE.stt
@@ -246,6 +258,9 @@ QString plotUsage()
   varnplot contrast-map --installation DIR --map NAME --counts FILE.ttl --contrast FILE.rnk --output FILE
            [--locality-dots] [--height MM] [--dpi N]
   varnplot export --installation DIR --map NAME --output FILE.csv|FILE.geojson|FILE.gpkg|FOLDER
+  varnplot import    --installation DIR --map NAME --source PATH [--localities FILE] [--base-map FILE ...]
+           [--projection laea|tmerc|EPSG:N] [--answers SEPARATOR] [--use forms|cognates|codes]
+           [--column ROLE=NAME ...]
 
 DIR is the folder with VarnData and VarnSymbol. FILE ends in .svg, .pdf or .png.
 accumulate adds the items to the table in FILE.ttl and saves it after each. Items are left out and named that
@@ -253,6 +268,11 @@ cannot be read, whose number of localities is not the map's, or that the table h
 the last once more. A map of an item with another number of localities is drawn with a warning.
 export writes the localities with a column an item, or a new folder with a CLDF Wordlist. Items are left out and
 named that cannot be read or whose number of localities is not the map's.
+With --whole-word-forms a symbol marks only the word forms that equal its kind, not those that contain it.
+import makes the new map NAME of a whole survey: a table (CSV, TSV, XLSX, ODS), a CLDF data set, or a layer of
+points. What is not said is found out; ROLE is id, name, longitude, latitude, x, y, item, answer or left (out).
+Several answers in a cell are parted by SEPARATOR. --base-map and --column can stand several times. A report tells
+what came in and what was left out.
 --height is the height of the drawing area in millimetres, --dpi the resolution of a PNG (192).
 
 Exit code: 0 all is done, 1 an error or items left out, 2 the command line is not understood.

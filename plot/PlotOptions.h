@@ -1,6 +1,8 @@
 #pragma once
 
 #include "analysis/DiffusionGraphs.h"
+#include "exchange/SourceChoices.h"
+#include "exchange/SurveyChoices.h"
 #include "render/MapStyle.h"
 
 #include <QString>
@@ -23,6 +25,7 @@ struct PlotOptions
         SymbolDiffusionMap,
         ContrastMap,
         Export,
+        Import,
     };
 
     Command command = Command::BlankMap;
@@ -43,11 +46,15 @@ struct PlotOptions
     QString output;
     qint16 location = HankoCenter;
     bool localityDots = false;
+    bool wholeWordForms = false;
     /// Whether items that the table holds already are counted again.
     bool countAgain = false;
     /// Height of the map in millimetres; 0 for the map form's first size.
     double height = 0;
     double dotsPerInch = 192;
+    /// What is imported, and what is made of it.
+    SourceChoices source;
+    SurveyChoices newSurvey;
 };
 
 /// A command line that is not understood; `what()` says why.

@@ -15,7 +15,7 @@ namespace {
 
 enum ExitCode { Done = 0, Failed = 1, WrongUsage = 2 };
 
-/// Tells on stderr what goes on.
+/// Tells on stderr what goes on, and on stdout what came of it.
 class StderrListener : public PlotListener
 {
 public:
@@ -26,6 +26,8 @@ public:
                          page == pages ? "\n" : "");
         }
     }
+
+    void report(const QString& text) override { std::fprintf(stdout, "%s\n", qPrintable(text)); }
 
     void warning(const QString& text) override
     {

@@ -25,13 +25,28 @@ QPointF wordStep(qint16 hankoPosition)
     }
 }
 
-/// An empty word form contains no kind, not even the empty one.
-bool containsKind(const QString& word, const QString& kind)
+/// Whether a record of the set stands for just this word form.
+bool hasRecordOf(const SymbolSet& symbols, const QString& word)
 {
-    return !word.isEmpty() && word.contains(kind);
+    for (int k = 1; k <= symbols.NHanrei; ++k) {
+        if (symbols.HankoWord(k) == word) {
+            return true;
+        }
+    }
+    return false;
 }
 
-/// Draws the symbol of record k at every word form that contains its kind.
+/// Whether record k marks the word form. An empty word form contains no kind, not even the empty one.
+bool isMarked(const LinguisticMapParts& parts, const QString& word, int k)
+{
+    const QString& kind = parts.symbols.HankoWord(k);
+    if (word.isEmpty() || !parts.base.style.WholeWordForms) {
+        return !word.isEmpty() && word.contains(kind);
+    }
+    return kind.isEmpty() ? !hasRecordOf(parts.symbols, word) : word == kind;
+}
+
+/// Draws the symbol of record k at every word form that it marks.
 void plotRecord(const LinguisticMapParts& parts, int k, QPointF step, SymbolShapes& shapes)
 {
     const BaseMap& map = parts.base.map;
@@ -44,7 +59,7 @@ void plotRecord(const LinguisticMapParts& parts, int k, QPointF step, SymbolShap
         geometry.ScreenXY(i, 0) = x;
         geometry.ScreenXY(i, 1) = y;
         for (int j = 1; j <= parts.item.WordCount(i); ++j) {
-            if (containsKind(parts.item.WordData(i, j), parts.symbols.HankoWord(k))) {
+            if (isMarked(parts, parts.item.WordData(i, j), k)) {
                 // A word form has its place by its number, also where those before it have no symbol.
                 const auto steps = static_cast<float>(j - 1);
                 shapes.DrawHanko(parts.symbols.Hanko(k), x + steps * dx, y + steps * dy);

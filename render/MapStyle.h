@@ -11,6 +11,9 @@ struct MapStyle
     bool WriteFileName = false;
     /// Where the second and later word forms of a locality stand.
     qint16 HankoPosition = 0;
+    /// Whether a record of a symbol set marks only the word forms that equal its kind, and one with an empty
+    /// kind those that no other record marks.
+    bool WholeWordForms = false;
     /// Whether phonetic glyphs are bold.
     bool PhoneticBold = false;
 };

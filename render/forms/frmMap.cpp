@@ -58,6 +58,7 @@ void frmMap::connectMenus()
     click(m_ui->mnuMapBlank, &frmMap::mnuMapBlank_Click);
     click(m_ui->mnuHanrei, &frmMap::mnuHanrei_Click);
     click(m_ui->mnuSymbols, &frmMap::mnuSymbols_Click);
+    click(m_ui->mnuWholeWordForms, &frmMap::mnuWholeWordForms_Click);
     click(m_ui->mnuTotalBar, &frmMap::mnuTotalBar_Click);
     click(m_ui->mnuTotalSBar, &frmMap::mnuTotalSBar_Click);
     click(m_ui->mnuTotalCircle, &frmMap::mnuTotalCircle_Click);

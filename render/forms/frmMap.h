@@ -58,6 +58,7 @@ private:
     void mnuMapBlank_Click();
     void mnuHanrei_Click();
     void mnuSymbols_Click();
+    void mnuWholeWordForms_Click();
     void mnuTotalBar_Click();
     void mnuTotalSBar_Click();
     void mnuTotalCircle_Click();

@@ -1,4 +1,4 @@
-// What can be set for the maps: place of the symbols, dots, file names, size.
+// What can be set for the maps: place of the symbols, dots, whole word forms, file names, size.
 
 #include "platform/Numbers.h"
 #include "render/MapSize.h"
@@ -29,6 +29,11 @@ void frmMap::mnuChiten_Click()
 {
     m_varn.PlotDots = dialogs().askYesNo(QStringLiteral("Will you plot dots for localities ?"),
                                          QStringLiteral("Plot Locality Dots"));
+}
+
+void frmMap::mnuWholeWordForms_Click()
+{
+    m_varn.WholeWordForms = m_ui->mnuWholeWordForms->isChecked();
 }
 
 void frmMap::mnuStyle_Click()

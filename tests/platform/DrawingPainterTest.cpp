@@ -3,6 +3,7 @@
 #include "platform/DrawingPainter.h"
 
 #include "platform/DrawSurface.h"
+#include "platform/DrawnArea.h"
 #include "platform/StandardColors.h"
 #include "tests/support/Pixels.h"
 #include "tests/support/TestDrive.h"
@@ -192,4 +193,14 @@ TEST(DrawingPainter, ADotIsAtLeastOneBlackPixel)
             EXPECT_GT(sum, std::max(0.9, pixelRatio * pixelRatio)) << "as large as its outline";
         }
     }
+}
+
+TEST(DrawnArea, HoldsLinesAndTexts)
+{
+    DrawSurface surface;
+    surface.PrintAt(1000, 2000, QStringLiteral("a text"));
+    const QRectF text(1000, 2000, surface.TextWidth(QStringLiteral("a text")), surface.TextHeight());
+    EXPECT_EQ(drawnArea(surface.drawing()).toRect(), text.toRect());
+    surface.Line(10, 20, 30, 40, QBColor(0));
+    EXPECT_TRUE(drawnArea(surface.drawing()).contains(text | QRectF(10, 20, 20, 20)));
 }

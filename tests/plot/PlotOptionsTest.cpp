@@ -38,6 +38,20 @@ TEST(PlotOptions, PlacesGraphsAndTheLargestNumbersAreRead)
     }
 }
 
+TEST(PlotOptions, AnImportIsRead)
+{
+    const auto read = readPlotOptions(
+        words("import --installation i --map m --source s.csv --localities l.kml --base-map a --base-map b "
+              "--projection epsg:3035 --answers \\n --use cognates --column item=a=b --column Left=c"));
+    EXPECT_EQ(read->source.path + read->source.localities, "s.csvl.kml");
+    EXPECT_EQ(read->newSurvey.baseMap, QStringList({"a", "b"}));
+    EXPECT_EQ(read->newSurvey.projection, "EPSG:3035");
+    EXPECT_EQ(read->source.answerSeparator, "\n");
+    EXPECT_EQ(read->source.words, WordSource::Cognates);
+    EXPECT_EQ(read->source.columns,
+              (QMap<QString, ColumnRole>{{"a=b", ColumnRole::Item}, {"c", ColumnRole::Left}}));
+}
+
 TEST(PlotOptions, WhatIsNotUnderstoodIsSaid)
 {
     // Endings: a file of another ending would be read, and one of the right ending written over.
@@ -65,6 +79,10 @@ TEST(PlotOptions, WhatIsNotUnderstoodIsSaid)
         {"symbol-diffusion-map", "--counts c.ttl --symbols a.han --output o.svg",
          "--symbols must end in .htl"},
         {"contrast-map", "--counts c.ttl --contrast c.ttl --output o.svg", "--contrast must end in .rnk"},
+        {"import", "--source s --use words", "--use is one of forms, cognates, codes"},
+        {"import", "--source s --column colour=a", "--column is ROLE=NAME, the role one of id, name"},
+        {"import", "--source s --column a", "--column is ROLE=NAME"},
+        {"import", "--source s --projection mercator", "--projection is laea, tmerc or EPSG:N"},
     };
     for (const auto& [command, options, text] : rows) {
         const QByteArray line = QByteArray(command) + " --installation i --map m " + options;

@@ -111,6 +111,11 @@ TEST_F(PlotProcess, EveryCommandWritesItsFile)
     EXPECT_EQ(read("all.ttl"), "1,2,\"All\"\r\n\"am words\"\r\n12,4\r\n0,0\r\n2\r\n0\r\n2\r\n");
     EXPECT_NE(read("map.svg"), read("top.svg")) << "the second word form stands elsewhere";
     EXPECT_NE(read("dots.svg"), read("blank.svg"));
+    write("Ling/part.han", "\"\"\r\n1\r\n\"am\",\"\"\r\n50\r\n4\r\n12\r\n1\r\n1\r\n0\r\n");
+    const QByteArray partly = "linguistic-map --data Ling/rain.dbs --symbols Ling/part.han --output ";
+    expectDone(partly + "part.svg");
+    expectDone(partly + "whole.svg --whole-word-forms");
+    EXPECT_GT(read("part.svg").size(), read("whole.svg").size()) << "no word form is just 'am'";
     EXPECT_EQ(QImage(file(QStringLiteral("small.png"))).size(), QSize(400, 300));
 }
 

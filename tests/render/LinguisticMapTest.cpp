@@ -88,3 +88,19 @@ TEST(LinguisticMap, AThickSymbolLeavesThinLinesOnFormAndPrinter)
     }
     EXPECT_EQ(printer.drawing().pens.at(0).width, 5) << "the symbol was thick";
 }
+
+TEST(LinguisticMap, ByWholeWordFormsARecordMarksItsKindAloneAndTheEmptyKindTheRest)
+{
+    SymbolSurvey survey;
+    survey.varn.WholeWordForms = true;
+    survey.setWords(1, {"AB", "A"});
+    survey.setWords(2, {"B", ""});
+    survey.addRecord("", 0);
+    survey.addRecord("A", 1);
+    survey.addRecord("AB", 2);
+    EXPECT_EQ(survey.drawn(), R"(
+ellipse 350,450 50,50 pen 1/0/0
+ellipse 150,250 100,100 pen 1/0/0
+ellipse 150,250 150,150 pen 1/0/0
+)");
+}

@@ -109,6 +109,11 @@ QStringList visibleWindows()
 QStringList shownOn(const VarnForm& form)
 {
     QStringList lines = {form.windowTitle(), form.isWindowModified() ? "<modified>" : ""};
+    for (const auto* action : form.findChildren<QAction*>()) {
+        if (action->isChecked()) {
+            lines << '<' + action->objectName() + '>';
+        }
+    }
     for (const auto* widget : form.findChildren<QWidget*>()) {
         if (widget->isVisible()) {
             const QString& name = widget->objectName();

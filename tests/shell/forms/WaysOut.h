@@ -18,6 +18,6 @@ void use(QObject& way);
 
 /// The windows that are shown, as "[frmMap]".
 QStringList visibleWindows();
-/// What a person reads on `form`: its title, "<modified>" and, for each part of it that is shown, "<name>"
-/// and "name=text".
+/// What a person reads on `form`: its title, "<modified>", "<name>" of each checked entry and, for each part
+/// of it that is shown, "<name>" and "name=text".
 QStringList shownOn(const VarnForm& form);

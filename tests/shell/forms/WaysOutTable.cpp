@@ -26,6 +26,7 @@ frmMap: mnuMapBlank, (yes), mnuChiten, mnuMapBlank -> *picMap
 frmMap: (yes), mnuStyle, mnuMapLing -> map: rain.han; (161 symbols), mnuHankoNext, mnuHankoList -> -map: 161
 frmMap: (161 symbols), mnuHankoPrevious, mnuHankoNext -> map: 161
 frmMap: (161 symbols), mnuHankoNext, mnuHankoNext, mnuHankoPrevious -> -map: 161
+frmMap: mnuWholeWordForms -> <mnuWholeWordForms>
 frmMap: mnuHpos, mnuMapBlank -> -<fraStyle>; mnuHpos, mnuHanrei -> -<fraStyle>
 frmMap: mnuHpos, (Escape on the map) -> -<fraStyle>
 frmMap: mnuCopyMap -> clipboard: picture; mnuMapLing -> map: UYU; mnuMapBlank -> map: Town; mnuSymbols -> *

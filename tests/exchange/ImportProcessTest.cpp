@@ -1,0 +1,92 @@
+// varnplot import as a script calls it: from a table to the atlas, and what is told of what goes wrong.
+
+#include "tests/support/TestDrive.h"
+
+#include <QDir>
+#include <QProcess>
+
+namespace {
+
+struct Finished
+{
+    int exitCode;
+    QString out;
+    QString err;
+};
+
+/// An installation with a map "Test", and a table with its coast.
+struct ImportProcess : testing::Test
+{
+    ImportProcess()
+    {
+        write("wide.csv", "id,name,longitude,latitude,rain,to/go\n"
+                          "a,Ann,5,52,ame;ame-huri,x\nb,Bo,6,52,ame,y\nc,Cy,5,53,,x\nd,Di,6,53,yuki,x\n");
+        write("coast.geojson", R"({"type":"LineString","coordinates":[[4,51],[7,51],[7,54],[4,54]]})");
+        write("broken.csv", "id,name,longitude,latitude,rain\na,Ann,5,52,x\nb,Bo,6,north,y\n");
+    }
+
+    void write(const char* name, const QByteArray& text) const
+    {
+        drive.write(QStringLiteral("C:\\") + QLatin1String(name), text);
+    }
+
+    /// Runs a command in the folder of the tables; words are separated by blanks.
+    Finished run(const QString& line) const
+    {
+        QProcess process;
+        process.setWorkingDirectory(drive.root());
+        process.start(QStringLiteral(VARNPLOT),
+                      line.split(QLatin1Char(' ')) +
+                          QStringList{QStringLiteral("--installation"),
+                                      drive.hostPath(QStringLiteral("Varn62E/Varn"))});
+        EXPECT_TRUE(process.waitForFinished());
+        return {process.exitCode(), QString::fromUtf8(process.readAllStandardOutput()),
+                QString::fromUtf8(process.readAllStandardError())};
+    }
+
+    QStringList maps() const
+    {
+        const QDir folder(drive.hostPath(QStringLiteral("Varn62E/Varn/VarnData")));
+        return folder.entryList(QDir::Dirs | QDir::Hidden | QDir::NoDotAndDotDot);
+    }
+
+    TestSurvey drive;
+};
+
+} // namespace
+
+TEST_F(ImportProcess, ATableBecomesASurveyWhoseAtlasCanBeDrawn)
+{
+    const QString import =
+        QStringLiteral("import --source wide.csv --base-map coast.geojson --answers ; --map New");
+    const Finished done = run(import);
+    ASSERT_EQ(done.exitCode, 0) << done.err.toStdString();
+    EXPECT_EQ(done.err, QString());
+    EXPECT_TRUE(done.out.contains(QStringLiteral("4 localities, 2 items, 8 word forms")))
+        << done.out.toStdString();
+    const QString map = drive.drive().varnPath(drive.hostPath(QStringLiteral("Varn62E/Varn/VarnData/New")));
+    EXPECT_EQ(drive.read(map + QStringLiteral("\\Import.txt")).replace("\r\n", "\n"), done.out.toUtf8());
+    EXPECT_TRUE(
+        drive.read(map + QStringLiteral("\\Ling\\001-rain.han")).contains("\"ame-huri\",\"ame\u2010huri\""));
+    EXPECT_TRUE(
+        drive.read(map + QStringLiteral("\\Ling\\002-to_go.dbs")).startsWith("4,\"\",\"to/go\",\"\""));
+    EXPECT_EQ(run(QStringLiteral("atlas --map New --whole-word-forms --output atlas.pdf")).err, QString());
+
+    const Finished again = run(import.chopped(3) + QStringLiteral("NEW"));
+    EXPECT_EQ(again.exitCode, 1);
+    EXPECT_TRUE(again.err.contains(QStringLiteral("There is a map of this name already.")));
+}
+
+TEST_F(ImportProcess, AnErrorIsToldAndLeavesNothingBehind)
+{
+    const std::pair<const char*, const char*> rows[] = {{"broken.csv", "Line 3"},
+                                                        {"none.csv", "File not found"}};
+    for (const auto& [source, text] : rows) {
+        const Finished failed = run(QStringLiteral("import --map New --source ") + QLatin1String(source));
+        EXPECT_EQ(failed.exitCode, 1);
+        EXPECT_TRUE(failed.err.contains(QLatin1String(text))) << failed.err.toStdString();
+        EXPECT_TRUE(failed.err.contains(QLatin1String(source))) << failed.err.toStdString();
+    }
+    EXPECT_EQ(run(QStringLiteral("import --map New --source wide.csv --use words")).exitCode, 2);
+    EXPECT_EQ(maps(), QStringList(QStringLiteral("Test")));
+}
