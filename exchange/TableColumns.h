@@ -33,5 +33,5 @@ private:
 /// Guesses what the columns of `table` are, by their headings in English, German, French, Spanish and
 /// Japanese and by what stands in them; `corrections` are by heading. Raises type mismatch for a correction
 /// of a heading that is not there, for headings that stand twice over what only one column can be, and where
-/// no column names the localities.
+/// no column names the localities, or the items of answers.
 TableColumns guessColumns(const SourceTable& table, const QMap<QString, ColumnRole>& corrections = {});

@@ -163,6 +163,7 @@ TEST_F(PlotProcess, AnAtlasHasAPageForEachItemWithSymbols)
         {
             names << QStringLiteral("%1/%2 %3").arg(page).arg(pages).arg(name);
         }
+        void report(const QString&) override {}
         void warning(const QString& text) override { names << text; }
         QStringList names;
     };
