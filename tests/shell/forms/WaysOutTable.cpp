@@ -16,6 +16,7 @@ frmMain: cmdRegMap -> [frmChizu]; cmdInputData -> [frmDataInput]; cmdData -> [fr
 frmMain: cmdHanko -> [frmSetHanko]; cmdSumUp -> [frmCalc]; cmdSettingPrinter -> <fraSetMergin>
 frmMain: (no file), mnuImportLocalities -> Import Localities; (no file), mnuImportLines -> Import Lines
 frmMain: (no file), mnuImportPlaceNames -> Import Place Names; (no file), mnuImportPolygons -> Import Polygon
+frmMain: mnuNewSurvey -> [frmNewSurvey]; (no name), mnuExportSurvey -> Export Survey
 frmMain: (no), cmdMapName -> [frmChizu]; cmdSettingPrinter, cmdExitSetMergin -> -<fraSetMergin>
 frmMain: cmdSettingPrinter, cmdPrinter -> Printer is not connected.
 frmMain: cmdSettingPrinter, lblDisplayPaperSize -> Portrait(
