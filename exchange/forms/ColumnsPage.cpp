@@ -45,18 +45,25 @@ ColumnsPage::~ColumnsPage() = default;
 void ColumnsPage::initializePage()
 {
     const SourceDraft& source = draft().source();
-    const bool isCldf = source.isCldf();
-    for (QWidget* each : std::initializer_list<QWidget*>{m_ui->lblWords, m_ui->cboWords}) {
-        each->setVisible(isCldf);
-    }
-    for (QWidget* each : std::initializer_list<QWidget*>{m_ui->lblSeparator, m_ui->cboSeparator}) {
-        each->setVisible(!isCldf);
-    }
+    showAsked(source.isCldf());
     m_ui->cboWords->setCurrentIndex(static_cast<int>(source.choices().words));
     m_ui->cboSeparator->setCurrentIndex(separatorIndex(source.choices().answerSeparator));
-    m_ui->tblColumns->setVisible(!isCldf);
     showRows();
     workNow();
+}
+
+/// Shows what is asked of CLDF, which tells its columns itself, or of a table.
+void ColumnsPage::showAsked(bool isCldf)
+{
+    setTitle(isCldf ? QStringLiteral("Word Forms") : QStringLiteral("Columns"));
+    setSubTitle(isCldf ? QStringLiteral("What of the data set becomes the word forms of the map.")
+                       : QStringLiteral("What the columns are was guessed from their headings and contents. "
+                                        "Correct it where it is wrong."));
+    m_ui->lblWords->setVisible(isCldf);
+    m_ui->cboWords->setVisible(isCldf);
+    m_ui->lblSeparator->setVisible(!isCldf);
+    m_ui->cboSeparator->setVisible(!isCldf);
+    m_ui->tblColumns->setVisible(!isCldf);
 }
 
 /// The first rows of the table, the boxes with the roles of its columns above them.

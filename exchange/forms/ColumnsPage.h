@@ -27,6 +27,7 @@ protected:
     void work() override;
 
 private:
+    void showAsked(bool isCldf);
     void showRows();
     void showRow(int row, const QStringList& cells);
     QComboBox* roleBox(int column);

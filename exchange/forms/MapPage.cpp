@@ -45,6 +45,7 @@ MapPage::~MapPage() = default;
 void MapPage::initializePage()
 {
     m_ui->txtTitle->setText(draft().title());
+    m_ui->txtTitle->setCursorPosition(0);
     workNow();
 }
 

@@ -7,6 +7,19 @@
 #include "exchange/forms/SourcePage.h"
 
 #include <QAbstractButton>
+#include <QScreen>
+#include <QStyle>
+
+namespace {
+
+/// The largest size that the wizard can have on its screen, in its frame.
+QSize roomOnScreen(const QWidget& wizard)
+{
+    const int title = wizard.style()->pixelMetric(QStyle::PM_TitleBarHeight);
+    return wizard.screen()->availableGeometry().size() - QSize(0, 2 * title);
+}
+
+} // namespace
 
 frmNewSurvey::frmNewSurvey(const Folders& folders, Dialogs& dialogs, QWidget* parent)
     : QWizard(parent), m_draft(folders), m_source(new SourcePage(m_draft, dialogs, this)),
@@ -22,7 +35,7 @@ frmNewSurvey::frmNewSurvey(const Folders& folders, Dialogs& dialogs, QWidget* pa
     addPage(new MapPage(m_draft, dialogs, this));
     addPage(new ItemsPage(m_draft, this));
     addPage(m_create);
-    resize(FirstSize);
+    resize(FirstSize.boundedTo(roomOnScreen(*this)));
     connect(m_create, &CreatePage::stateChanged, this, &frmNewSurvey::showCreation);
     connect(this, &QDialog::accepted, this,
             [this] { Q_EMIT surveyMade(m_draft.mapName(), m_draft.firstItem()); });
