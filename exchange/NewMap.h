@@ -1,5 +1,6 @@
 #pragma once
 
+#include "exchange/NamedLocalities.h"
 #include "exchange/SourceSurvey.h"
 #include "exchange/SurveyChoices.h"
 #include "mapdata/BaseMap.h"
@@ -7,10 +8,8 @@
 #include <QSizeF>
 
 /// The map of a new survey.
-struct NewMap
+struct NewMap : NamedLocalities
 {
-    Localities localities;
-    LocalityNames names;
     MapLines lines;
     PlaceNames placeNames;
 };

@@ -8,22 +8,33 @@
 
 #include <QFileInfo>
 
-SourceSurvey readSource(const SourceChoices& choices)
+SourceKind kindOfSource(const QString& path)
 {
-    const QString& path = choices.path;
     if (!QFileInfo::exists(path)) {
         throw RunTimeError(ErrorNumber::FileNotFound).at({path});
     }
     if (isCldf(path)) {
-        return readCldf(choices);
+        return SourceKind::Cldf;
     }
     if (isLayer(path)) {
-        return readLayerSource(choices);
+        return SourceKind::Layer;
     }
     if (QFileInfo(path).isDir()) {
         throw RunTimeError(ErrorNumber::TypeMismatch,
                            QStringLiteral("There is no CLDF metadata in the folder."))
             .at({path});
     }
-    return readTableSource(choices);
+    return SourceKind::Table;
+}
+
+SourceSurvey readSource(const SourceChoices& choices)
+{
+    switch (kindOfSource(choices.path)) {
+    case SourceKind::Cldf:
+        return readCldf(choices);
+    case SourceKind::Layer:
+        return readLayerSource(choices);
+    default:
+        return readTableSource(choices);
+    }
 }

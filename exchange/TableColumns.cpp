@@ -162,6 +162,17 @@ void requireSingle(const SourceTable& table, const TableColumns& columns)
     }
 }
 
+void requireItemsOfAnswers(const SourceTable& table, const TableColumns& columns)
+{
+    if (columns.isLong() && !columns.find(ColumnRole::Item)) {
+        throw RunTimeError(
+            ErrorNumber::TypeMismatch,
+            QStringLiteral("The column \"%1\" holds answers, but none names the items; say which one does.")
+                .arg(table.headings[*columns.find(ColumnRole::Answer)]))
+            .at({table.path, table.headingRow});
+    }
+}
+
 } // namespace
 
 std::optional<int> TableColumns::find(ColumnRole role) const
@@ -206,6 +217,7 @@ TableColumns guessColumns(const SourceTable& table, const QMap<QString, ColumnRo
     guess.findLong();
     TableColumns columns = guess.wholeTable();
     requireSingle(table, columns);
+    requireItemsOfAnswers(table, columns);
     if (!columns.key()) {
         throw RunTimeError(
             ErrorNumber::TypeMismatch,

@@ -33,5 +33,5 @@ private:
 /// Guesses what the columns of `table` are, by their headings in English, German, French, Spanish and
 /// Japanese and by what stands in them; `corrections` are by heading, those of other headings are passed
 /// over. Raises type mismatch for two columns of what only one can be, and where no column names the
-/// localities.
+/// localities, or the items of answers.
 TableColumns guessColumns(const SourceTable& table, const QMap<QString, ColumnRole>& corrections = {});

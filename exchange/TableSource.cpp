@@ -22,7 +22,6 @@ public:
 
 private:
     QStringList keys() const;
-    QStringList answerCells() const;
     void placeByFile(const QString& path, const SourceChoices& choices);
     void requireHeadings(const QStringList& corrected) const;
     void addItems();
@@ -47,7 +46,8 @@ private:
 
 TableSurvey::TableSurvey(const SourceTable& table, const TableColumns& columns, const SourceChoices& choices)
     : m_table(table), m_columns(columns),
-      m_separator(choices.answerSeparator.isEmpty() ? guessSeparator(answerCells()) : choices.answerSeparator)
+      m_separator(choices.answerSeparator.isEmpty() ? guessedSeparator(table, columns)
+                                                    : choices.answerSeparator)
 {
     m_survey.title = QFileInfo(table.path).completeBaseName();
     m_survey.plane = !columns.hasDegrees() && columns.hasPlane();
@@ -79,19 +79,6 @@ QStringList TableSurvey::keys() const
     keys.removeAll(QString());
     keys.removeDuplicates();
     return keys;
-}
-
-QStringList TableSurvey::answerCells() const
-{
-    const std::vector<int> columns =
-        m_columns.isLong() ? std::vector{*m_columns.find(ColumnRole::Answer)} : m_columns.items();
-    QStringList cells;
-    for (const TableRow& row : m_table.rows) {
-        for (const int column : columns) {
-            cells << row.cells[column];
-        }
-    }
-    return cells;
 }
 
 void TableSurvey::placeByFile(const QString& path, const SourceChoices& choices)
@@ -276,6 +263,19 @@ void tellLeftColumns(const SourceTable& table, const TableColumns& columns, Impo
 }
 
 } // namespace
+
+QString guessedSeparator(const SourceTable& table, const TableColumns& columns)
+{
+    const std::vector<int> answers =
+        columns.isLong() ? std::vector{*columns.find(ColumnRole::Answer)} : columns.items();
+    QStringList cells;
+    for (const TableRow& row : table.rows) {
+        for (const int column : answers) {
+            cells << row.cells[column];
+        }
+    }
+    return guessSeparator(cells);
+}
 
 SourceSurvey readTableSource(const SourceChoices& choices)
 {

@@ -3,6 +3,7 @@
 #include "mapdata/MapFiles.h"
 #include "mapdata/MapImport.h"
 #include "mapdata/MapSearch.h"
+#include "platform/FileName.h"
 #include "platform/Folder.h"
 #include "platform/SequentialFile.h"
 #include "render/BlankMap.h"
@@ -44,24 +45,39 @@ void makeCurrentMap(const VarnModule& varn)
     }
 }
 
-/// Imports what `read`, a function of a path, reads, and saves it with `write`. Returns whether the file of
-/// the current map was written.
+/// Imports what `read`, a function of a path, reads, and saves it with `write`. Returns the path that was
+/// written; nothing where a dialog was cancelled.
 template <typename Read, typename Write>
-bool importFile(const VarnModule& varn, Dialogs& dialogs, const ImportedFile& file, Read read, Write write)
+std::optional<QString> importFile(const VarnModule& varn, Dialogs& dialogs, const ImportedFile& file,
+                                  Read read, Write write)
 {
     const std::optional<QString> source = askForSource(varn, dialogs, file);
     if (!source) {
-        return false;
+        return std::nullopt;
     }
     const auto map = read(*source);
     makeCurrentMap(varn);
     const std::optional<QString> target =
         askWhereToSave(dialogs, varn.Drive, file.current, QStringLiteral("Save ") + file.what, file.targets);
-    if (!target) {
-        return false;
+    if (target) {
+        writeSequentialFile(varn.Drive, *target, [&](SequentialWriter& writer) { write(writer, map); });
     }
-    writeSequentialFile(varn.Drive, *target, [&](SequentialWriter& writer) { write(writer, map); });
-    return varn.Drive.hostPath(*target) == varn.Drive.hostPath(file.current);
+    return target;
+}
+
+/// Whether the file of the current map was written.
+bool isCurrent(const VarnModule& varn, const std::optional<QString>& written, const ImportedFile& file)
+{
+    return written && varn.Drive.hostPath(*written) == varn.Drive.hostPath(file.current);
+}
+
+/// Writes the names of localities beside their file; those of a table of x and y have none.
+void writeNamesBeside(const DriveC& drive, const QString& localitiesFile, const LocalityNames& names)
+{
+    if (!names.localityNames.empty()) {
+        writeSequentialFile(drive, folderOf(localitiesFile) + QStringLiteral("\\Localities.csv"),
+                            [&names](SequentialWriter& writer) { writeLocalityNames(writer, names); });
+    }
 }
 
 /// Gives the current map, if there is one, the place names where it has none of its own.
@@ -77,14 +93,24 @@ void keepAsOwnNames(const VarnModule& varn, const QString& path, const PlaceName
 
 } // namespace
 
-void SaveLocateData(VarnModule& varn, Dialogs& dialogs)
+void SaveLocateData(VarnModule& varn, Dialogs& dialogs, const ReadNamedLocalities& readNamed)
 {
     const ImportedFile file{
         QStringLiteral("Localities"),
-        QStringLiteral("Localities and tables (*.map;*.csv;*.tsv;*.txt)|*.map;*.csv;*.tsv;*.txt"),
+        QStringLiteral("Localities, tables and layers (*.map;*.csv;*.tsv;*.txt;*.xlsx;*.ods;*.kml;*.geojson)"
+                       "|*.map;*.csv;*.tsv;*.txt;*.xlsx;*.ods;*.kml;*.geojson;*.gpkg"),
         MapPartFiles.filter(), currentMapFile(varn, "Loc.map")};
-    const auto read = [&](const QString& path) { return importLocalities(varn.Drive, path); };
-    if (importFile(varn, dialogs, file, read, writeLocalities)) {
+    LocalityNames names;
+    const auto read = [&](const QString& path) {
+        const auto named = readNamed(varn.Drive.hostPath(path), varn);
+        names = named ? named->names : LocalityNames();
+        return named ? named->localities : importLocalities(varn.Drive, path);
+    };
+    const std::optional<QString> written = importFile(varn, dialogs, file, read, writeLocalities);
+    if (written) {
+        writeNamesBeside(varn.Drive, *written, names);
+    }
+    if (isCurrent(varn, written, file)) {
         LoadLocateData(varn.Drive, varn.VarnPath, varn.VarnMapName, varn);
         loadLocalityNames(varn, varn);
     }
@@ -95,7 +121,7 @@ void SaveLineData(VarnModule& varn, Dialogs& dialogs)
     const ImportedFile file{QStringLiteral("Lines"), MapPartFiles.filter(), MapPartFiles.filter(),
                             currentMapFile(varn, "Line.map")};
     const auto read = [&](const QString& path) { return readSequentialFile(varn.Drive, path, readLines); };
-    if (importFile(varn, dialogs, file, read, writeLines)) {
+    if (isCurrent(varn, importFile(varn, dialogs, file, read, writeLines), file)) {
         LoadLineData(varn.Drive, varn.VarnPath, varn.VarnMapName, varn);
     }
 }
@@ -107,7 +133,7 @@ void SaveSquareData(VarnModule& varn, Dialogs& dialogs)
     const auto read = [&](const QString& path) {
         return readSequentialFile(varn.Drive, path, readAbsolutePolygons);
     };
-    if (importFile(varn, dialogs, file, read, writeAbsolutePolygons)) {
+    if (isCurrent(varn, importFile(varn, dialogs, file, read, writeAbsolutePolygons), file)) {
         LoadSquareData(varn.Drive, varn.VarnPath, varn);
     }
 }

@@ -11,7 +11,7 @@ import sys
 ROOMS = [
     "platform", "mapdata", "lingdata", "symbols", "render", "exchange", "analysis", "shell", "plot",
     "platform/forms", "render/forms", "mapdata/forms", "lingdata/forms", "symbols/forms", "analysis/forms",
-    "shell/forms",
+    "exchange/forms", "shell/forms",
 ]
 INCLUDE = re.compile(r'^\s*#include "([^"]+)/[^/"]+"', re.MULTILINE)
 

@@ -109,6 +109,7 @@ MapSurfaces frmMap::surfaces()
 void frmMap::refresh()
 {
     m_ui->picMap->refresh();
+    m_ui->mnuWholeWordForms->setChecked(m_varn.WholeWordForms);
     showLoaded();
     DisplayInsatsu();
     enableMapLing();

@@ -1,5 +1,7 @@
 #include "shell/forms/frmMain.h"
 
+#include "exchange/NamedLocalities.h"
+#include "exchange/forms/frmNewSurvey.h"
 #include "platform/Numbers.h"
 #include "platform/forms/ThemeColors.h"
 #include "render/BlankMap.h"
@@ -20,9 +22,11 @@ frmMain::frmMain(VarnModule& varn, Dialogs& dialogs)
           varn, dialogs, [this] { return m_map.surfaces(); }, [this] { return m_keeper->mayChangeMap(); }),
       m_dataInput(varn, dialogs), m_data(varn, dialogs), m_setHanko(varn, dialogs), m_calc(varn, dialogs),
       m_calExec(varn, dialogs), m_rankData(varn, dialogs), m_totalHanko(varn, dialogs),
-      m_keeper(new WorkKeeper(varn, dialogs, *this, [this] { return m_dataInput.unsavedItem(); }))
+      m_keeper(new WorkKeeper(varn, dialogs, *this, [this] { return m_dataInput.unsavedItem(); })),
+      m_newSurvey(new frmNewSurvey(varn, dialogs, this))
 {
     m_ui->setupUi(this);
+    setAcceptDrops(true);
     m_preview.Width = m_map.surface().Width;
     m_preview.Height = m_map.surface().Height;
     m_ui->picPreview->setSurface(m_preview, SurfaceView::Fit::WholePaper);
@@ -52,6 +56,8 @@ void frmMain::connectButtons()
     handle(m_ui->mnuImportLines, &QAction::triggered, &frmMain::mnuImportLines_Click);
     handle(m_ui->mnuImportPlaceNames, &QAction::triggered, &frmMain::mnuImportPlaceNames_Click);
     handle(m_ui->mnuImportPolygons, &QAction::triggered, &frmMain::mnuImportPolygons_Click);
+    handle(m_ui->mnuNewSurvey, &QAction::triggered, &frmMain::mnuNewSurvey_Click);
+    handle(m_ui->mnuExportSurvey, &QAction::triggered, &frmMain::mnuExportSurvey_Click);
 }
 
 void frmMain::connectForms()
@@ -66,6 +72,8 @@ void frmMain::connectForms()
     handle(&m_chizu, &frmChizu::mapChosen, &frmMain::showNewMap);
     connect(&m_data, &frmData::itemLoaded, &m_map, &frmMap::enableMapLing);
     handle(&m_dataInput, &frmDataInput::itemReloaded, &frmMain::showReloadedItem);
+    connect(m_newSurvey, &frmNewSurvey::surveyMade, this,
+            [this](const QString& mapName, const QString& item) { run([&] { showSurvey(mapName, item); }); });
 }
 
 void frmMain::connectAnalysisForms()
@@ -273,7 +281,7 @@ void frmMain::closeEvent(QCloseEvent* event)
 
 void frmMain::mnuImportLocalities_Click()
 {
-    SaveLocateData(m_varn, dialogs());
+    SaveLocateData(m_varn, dialogs(), readNamedLocalities);
 }
 
 void frmMain::mnuImportLines_Click()

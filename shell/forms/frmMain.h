@@ -12,6 +12,7 @@
 #include "symbols/forms/frmSetHanko.h"
 
 class WorkKeeper;
+class frmNewSurvey;
 
 namespace Ui {
 class frmMain;
@@ -34,6 +35,8 @@ public:
 
 protected:
     void closeEvent(QCloseEvent* event) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
 
 private:
     void SetMapName();
@@ -76,6 +79,14 @@ private:
     void mnuImportLines_Click();
     void mnuImportPlaceNames_Click();
     void mnuImportPolygons_Click();
+    void mnuNewSurvey_Click();
+    void mnuExportSurvey_Click();
+
+    /// Opens the wizard with the source at `path`, a path of this machine; empty for none yet.
+    void openNewSurvey(const QString& path);
+    /// Makes a new map the current one, for the next start too, and shows an item of it.
+    void showSurvey(const QString& mapName, const QString& item);
+    bool mayLoseSymbols();
 
     std::unique_ptr<Ui::frmMain> m_ui;
     VarnModule& m_varn;
@@ -91,4 +102,5 @@ private:
     /// The form's own drawing: the preview of the map.
     DrawSurface m_preview;
     WorkKeeper* m_keeper;
+    frmNewSurvey* m_newSurvey;
 };

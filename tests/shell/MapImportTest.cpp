@@ -29,6 +29,12 @@ QByteArray rewritten(Read read, Write write, const QByteArray& text)
     return writer.bytes();
 }
 
+/// The import of a file that tells no names of localities.
+void SaveBareLocalities(VarnModule& varn, Dialogs& dialogs)
+{
+    SaveLocateData(varn, dialogs, [](const QString&, const LocalityNames&) { return std::nullopt; });
+}
+
 /// The import commands on a survey's map, with a script for the dialogs.
 class ImportCommands : public testing::Test
 {
@@ -170,7 +176,7 @@ TEST_F(ImportCommands, FilesAreSavedAndLoadedIfTheyAreOfTheCurrentMap)
     using Import = void (*)(VarnModule&, Dialogs&);
     using Counts = std::array<int, 3>;
     const std::tuple<Import, QByteArray, QByteArray, QString, Counts> rows[] = {
-        {SaveLocateData, "x y\n1 2\n", "1\r\n1,2\r\n", MapFolder + "loc.map", {1, 0, 0}},
+        {SaveBareLocalities, "x y\n1 2\n", "1\r\n1,2\r\n", MapFolder + "loc.map", {1, 0, 0}},
         {SaveLineData, Lines, Lines, MapFolder + "Line.map", {1, 2, 0}},
         {SaveSquareData, polygon, polygon, Data + "Square.sbl", {1, 2, 1}}};
     Counts before = {2, 0, 0};
@@ -188,17 +194,30 @@ TEST_F(ImportCommands, FilesAreSavedAndLoadedIfTheyAreOfTheCurrentMap)
     }
 }
 
+TEST_F(ImportCommands, NamesOfLocalitiesAreWrittenBesideThem)
+{
+    NamedLocalities named{{}, {"", true, {{"a", "Ann", 3, 4}}}};
+    named.localities.NLocality = 1;
+    named.localities.LocXY(1, 0) = 3;
+    answer("names and degrees", MapFolder + "Loc.map");
+    SaveLocateData(varn, dialogs, [&](const QString& path, const LocalityNames&) {
+        return path == varn.Drive.hostPath(Source) ? std::optional(named) : std::nullopt;
+    });
+    EXPECT_EQ(localityName(varn, 1), "Ann");
+    EXPECT_EQ(varn.LocXY(1, 0), 3);
+}
+
 TEST_F(ImportCommands, BadFilesAndCancelledDialogsChangeNothing)
 {
     const QString target = MapFolder + "Loc.map";
     const QByteArray before = survey.read(target);
     answer("1,x\n", target);
-    EXPECT_EQ(errorOf([&] { SaveLocateData(varn, dialogs); }).place().path, Source);
+    EXPECT_EQ(errorOf([&] { SaveBareLocalities(varn, dialogs); }).place().path, Source);
     EXPECT_EQ(dialogs.savedFiles.size(), 1U) << "a file that cannot be read is not saved";
     answer("1,2\n", std::nullopt);
-    SaveLocateData(varn, dialogs);
+    SaveBareLocalities(varn, dialogs);
     dialogs.files = {std::nullopt, std::nullopt};
-    SaveLocateData(varn, dialogs);
+    SaveBareLocalities(varn, dialogs);
     SaveKanjiData(varn, dialogs, survey.surfaces);
     EXPECT_EQ(survey.read(target), before);
     EXPECT_EQ(varn.NLocality, 3);

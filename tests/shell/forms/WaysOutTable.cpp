@@ -16,6 +16,7 @@ frmMain: cmdRegMap -> [frmChizu]; cmdInputData -> [frmDataInput]; cmdData -> [fr
 frmMain: cmdHanko -> [frmSetHanko]; cmdSumUp -> [frmCalc]; cmdSettingPrinter -> <fraSetMergin>
 frmMain: (no file), mnuImportLocalities -> Import Localities; (no file), mnuImportLines -> Import Lines
 frmMain: (no file), mnuImportPlaceNames -> Import Place Names; (no file), mnuImportPolygons -> Import Polygon
+frmMain: mnuNewSurvey -> [frmNewSurvey]; (no name), mnuExportSurvey -> Export Survey
 frmMain: (no), cmdMapName -> [frmChizu]; cmdSettingPrinter, cmdExitSetMergin -> -<fraSetMergin>
 frmMain: cmdSettingPrinter, cmdPrinter -> Printer is not connected.
 frmMain: cmdSettingPrinter, lblDisplayPaperSize -> Portrait(
@@ -26,6 +27,7 @@ frmMap: mnuMapBlank, (yes), mnuChiten, mnuMapBlank -> *picMap
 frmMap: (yes), mnuStyle, mnuMapLing -> map: rain.han; (161 symbols), mnuHankoNext, mnuHankoList -> -map: 161
 frmMap: (161 symbols), mnuHankoPrevious, mnuHankoNext -> map: 161
 frmMap: (161 symbols), mnuHankoNext, mnuHankoNext, mnuHankoPrevious -> -map: 161
+frmMap: mnuWholeWordForms -> <mnuWholeWordForms>
 frmMap: mnuHpos, mnuMapBlank -> -<fraStyle>; mnuHpos, mnuHanrei -> -<fraStyle>
 frmMap: mnuHpos, (Escape on the map) -> -<fraStyle>
 frmMap: mnuCopyMap -> clipboard: picture; mnuMapLing -> map: UYU; mnuMapBlank -> map: Town; mnuSymbols -> *

@@ -1,0 +1,97 @@
+// Whole surveys that come in and go out.
+
+#include "exchange/SurveyExport.h"
+#include "exchange/forms/frmNewSurvey.h"
+#include "platform/FileKind.h"
+#include "shell/MapChange.h"
+#include "shell/MapChoice.h"
+#include "shell/forms/WorkKeeper.h"
+#include "shell/forms/frmMain.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QDropEvent>
+#include <QMimeData>
+#include <QProgressDialog>
+
+namespace {
+
+/// The file or folder of this machine that is dragged; empty where it is none, or several.
+QString draggedPath(const QDropEvent& event)
+{
+    const QList<QUrl> urls = event.mimeData()->urls();
+    return urls.size() == 1 ? urls.first().toLocalFile() : QString();
+}
+
+} // namespace
+
+void frmMain::dragEnterEvent(QDragEnterEvent* event)
+{
+    event->setAccepted(!draggedPath(*event).isEmpty());
+}
+
+void frmMain::dropEvent(QDropEvent* event)
+{
+    event->acceptProposedAction();
+    openNewSurvey(draggedPath(*event));
+}
+
+void frmMain::mnuNewSurvey_Click()
+{
+    openNewSurvey({});
+}
+
+void frmMain::openNewSurvey(const QString& path)
+{
+    m_newSurvey->begin(path);
+}
+
+bool frmMain::mayLoseSymbols()
+{
+    return !isSymbolSetUnsaved(m_varn) ||
+           dialogs().confirmLoss(QStringLiteral("The symbol set is not saved and will be lost. Go on ?"),
+                                 QStringLiteral("New Survey"));
+}
+
+void frmMain::showSurvey(const QString& mapName, const QString& item)
+{
+    if (!m_keeper->mayChangeMap() || !mayLoseSymbols()) {
+        return;
+    }
+    changeMap({m_varn.VarnPath, QLatin1Char('\\') + mapName}, m_varn);
+    loadLocalityNames(m_varn, m_varn);
+    saveMapChoice(m_varn, currentMapChoice(m_varn));
+    showNewMap();
+    openMap();
+    if (!item.isEmpty()) {
+        const QString files = m_varn.dataFolder() + QLatin1Char('\\') + item;
+        m_map.showItem(files + QStringLiteral(".dbs"), files + QStringLiteral(".han"));
+    }
+}
+
+void frmMain::mnuExportSurvey_Click()
+{
+    const QString title = QStringLiteral("Export Survey");
+    const auto output = dialogs().saveFile(
+        title, QDir::homePath(),
+        QStringLiteral("Table (*.csv)|*.csv|GeoJSON (*.geojson)|*.geojson|GeoPackage (*.gpkg)|*.gpkg|"
+                       "Folder with CLDF (*)|*"),
+        m_varn.VarnMapName.mid(1));
+    if (!output) {
+        return;
+    }
+    QProgressDialog progress(title, QStringLiteral("Stop"), 0, 0, this);
+    progress.setWindowTitle(title);
+    progress.setWindowModality(Qt::ApplicationModal);
+    const auto report = exportSurvey(m_varn, *output, [&](int done, int total, const QString& item) {
+        progress.setMaximum(total);
+        progress.setLabelText(item);
+        progress.setValue(done);
+        QApplication::processEvents(); // a click on Stop
+        return !progress.wasCanceled();
+    });
+    progress.close();
+    if (report) {
+        dialogs().message(report->text(), title);
+    }
+}
