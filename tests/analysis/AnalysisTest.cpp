@@ -4,7 +4,10 @@
 #include "analysis/CumulativeTable.h"
 #include "analysis/DiffusionSymbols.h"
 #include "analysis/Statistics.h"
+#include "analysis/StatisticsLines.h"
+#include "analysis/TotalCommands.h"
 #include "lingdata/LinguisticFile.h"
+#include "tests/support/ScriptedDialogs.h"
 #include "tests/support/TestDrive.h"
 
 #include <functional>
@@ -189,6 +192,8 @@ TEST(Statistics, FiguresAreThoseOfTheOccupiedLocalities)
         const CumulativeTable table = countsOf(counts, items);
         Statistics statistics;
         Stats(table, static_cast<int>(counts.size()), statistics);
+        EXPECT_TRUE(areCurrent(statistics, table, static_cast<int>(counts.size())));
+        Stats(table, static_cast<int>(counts.size()), statistics); // nothing is counted twice
         const auto write = [&](auto& file, const Statistics& read) { writeStatistics(file, table, read); };
         const std::string file = "1," + std::to_string(items) + "\r\n1\r\n" + figures;
         EXPECT_EQ(rewritten(
@@ -200,6 +205,66 @@ TEST(Statistics, FiguresAreThoseOfTheOccupiedLocalities)
                   ErrorNumber::InputPastEndOfFile);
         EXPECT_EQ(GetNL(0, 1, 9, statistics), 9);
     }
+}
+
+TEST(Statistics, EachWordFormHasItsOwn)
+{
+    CumulativeTable table = countsOf({2, 3, 3, 0}, 3);
+    table.NumWordforms = 2;
+    table.Counts(2, 1) = table.Counts(2, 2) = 1;
+    table.Counts(2, 4) = 2;
+    const TestDrive drive;
+    const QString path = "C:\\all.stt";
+    Statistics statistics;
+    Stats(table, 4, statistics);
+    SaveStats(drive.drive(), path, table, statistics);
+    EXPECT_EQ(drive.read(path),
+              "2,3\r\n1\r\n0,3,2.6666666666666665,0.5773502691896258\r\n4,1\r\n3,0\r\n3,1\r\n"
+              "2,2\r\n2\r\n2,1,1.3333333333333333,0.5773502691896257\r\n4,1\r\n3,2\r\n1,1\r\n0,0\r\n");
+    Statistics loaded;
+    loaded.StatsFileName = "before";
+    LoadStats(drive.drive(), path, loaded);
+    EXPECT_EQ(statistics.StatsFileName + ' ' + loaded.StatsFileName, path + " before");
+    EXPECT_TRUE(areCurrent(loaded, table, 4));
+    EXPECT_FALSE(areCurrent(loaded, table, 3));
+    for (const auto change :
+         {+[](CumulativeTable& t) { t.NumWordforms = 1; },
+          +[](CumulativeTable& t) { t.NumItemsAccumulated = 4; },
+          +[](CumulativeTable& t) { t.Counts(2, 4) = 3; }, +[](CumulativeTable& t) { t.Counts(1, 1) = 0; }}) {
+        CumulativeTable other = table;
+        change(other);
+        EXPECT_FALSE(areCurrent(loaded, other, 4));
+    }
+    EXPECT_EQ(statisticsLines(table, statistics, 2),
+              QStringList({"Kt=2 ", "Median =2", "Mode   =1", "Average=1.33", "Standard Dev. Sigma=0.57",
+                           "Av - Sigma=0.75", "Av + SIgma=1.91"}));
+}
+
+TEST(TotalCommands, WordFormsAreDroppedAfterAQuestion)
+{
+    TestSurvey survey;
+    VarnModule& varn = survey.varn;
+    ScriptedDialogs dialogs;
+    setNumWordforms(varn, 4);
+    varn.WordformName(2) = "two";
+    varn.NumSpecifyChars(4) = 1;
+    const TotalState state{varn, 3, varn, varn};
+    const auto change = [&](int number) {
+        varn.ContrastAnalysed = true;
+        const bool changed = changeNumWordforms(number, state, dialogs);
+        EXPECT_EQ(varn.ContrastAnalysed, !changed);
+        return changed;
+    };
+    dialogs.yesNo = {false, true};
+    EXPECT_FALSE(change(1));
+    EXPECT_EQ(varn.NumWordforms, 4);
+    EXPECT_TRUE(change(2));
+    EXPECT_TRUE(change(3));
+    EXPECT_EQ(varn.NumWordforms, 3);
+    const QString text = "These word forms are dropped, with their counts and strings: ";
+    EXPECT_EQ(dialogs.shown,
+              std::vector<ScriptedDialogs::Shown>(
+                  {{text + "2 two, 4. O.K.?", "Accumulate Data"}, {text + "4. O.K.?", "Accumulate Data"}}));
 }
 
 TEST(Statistics, WhatHasNoFigureIsAnErrorThatNamesTheWordForm)
