@@ -246,12 +246,14 @@ TEST_F(ContrastMap, TheLegendHasHalfTheStepsRoundedToTheEvenNeighbour)
         EXPECT_TRUE(wasPrinted(drawing, QStringLiteral("title")));
         EXPECT_EQ(drawing.texts.size(), 1 + labels) << typed;
     }
-    varn.ContrastMaxSize = 400;
-    frmMap.Cls();
-    contrast();
-    const QString label = QStringLiteral("-100%");
-    const float left = operationsOf<EllipseOperation>(drawing).at(3).x - 400;
-    EXPECT_GT(left, printedAt(drawing, label).x() + frmMap.TextWidth(label)) << "large circles";
+    // As many as stand left of the labels; larger circles stand behind the longest label.
+    const double behind = 676.4 + frmMap.TextWidth("-100%") + 60;
+    for (const auto& [size, x] : {std::pair(190, 426.4), {191, behind + 191}}) {
+        varn.ContrastMaxSize = static_cast<qint16>(size);
+        frmMap.Cls();
+        contrast();
+        EXPECT_NEAR(operationsOf<EllipseOperation>(drawing).at(3).x, x, 0.1);
+    }
 
     varn.ContrastMaxSize = 10000;
     varn.ContrastSum(0, 2) = 4;

@@ -167,7 +167,9 @@ TEST(DrawingPainter, DashesAndDotsDiffer)
     for (const std::string& pattern : std::vector<std::string>{"############", "####..####..", "#..#..#..#..",
                                                                "####..#..####..#", "####..#..#..####"}) {
         surface.Cls();
-        surface.Line(0, 30, 900, 30, QBColor(0));
+        for (int i = 0; i < 100; ++i) { // a polyline: the pattern goes on over its points
+            surface.Line(static_cast<float>(9 * i), 30, static_cast<float>(9 * i + 9), 30, QBColor(0));
+        }
         const QImage image = painted(surface.drawing(), 10 * ScreenScale, {600, 40}); // a pen of 10 pixels
         std::string found;
         for (int x = 5; found.size() < pattern.size(); x += 10) {

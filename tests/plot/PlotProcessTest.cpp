@@ -111,6 +111,7 @@ TEST_F(PlotProcess, EveryCommandWritesItsFile)
     EXPECT_EQ(read("all.ttl"), "1,2,\"All\"\r\n\"am words\"\r\n12,4\r\n0,0\r\n2\r\n0\r\n2\r\n");
     EXPECT_NE(read("map.svg"), read("top.svg")) << "the second word form stands elsewhere";
     EXPECT_NE(read("dots.svg"), read("blank.svg"));
+    EXPECT_EQ(read("one.svg"), read("often.svg")) << "the first row of the legend";
     write("Ling/part.han", "\"\"\r\n1\r\n\"am\",\"\"\r\n50\r\n4\r\n12\r\n1\r\n1\r\n0\r\n");
     expectDone("linguistic-map --data Ling/rain.dbs --symbols Ling/part.han --output part.svg");
     expectDone("linguistic-map --data Ling/rain.dbs --symbols Ling/part.han --output whole.svg "
