@@ -54,7 +54,7 @@ TEST(Accumulation, TheFirstAnswerCountsForEachStringItContains)
     EXPECT_EQ(data.NumItemsAccumulated, 2);
 
     clearCounts(5, data);
-    EXPECT_EQ(data.Counts(3, 5), 0);
+    EXPECT_EQ(data.Counts(1, 1) + data.Counts(3, 1) + data.Counts(3, 5), 0);
     EXPECT_EQ(data.NumItemsAccumulated, 0);
     EXPECT_EQ(data.SpecifyChars(1, 2), QStringLiteral("am"));
 }
@@ -167,6 +167,29 @@ TEST(Accumulation, ItsEndNamesFifteenItemsAtMostThatAreNotCounted)
     done.uncounted.push_back({"w16", "reason"});
     done.uncounted.push_back({"w17", "reason"});
     EXPECT_EQ(accumulationText(done), text + "\nand 2 more, as the form shows");
+}
+
+TEST(CumulativeTable, StringsThatDifferAnywhereAreOthers)
+{
+    CumulativeData data;
+    setNumWordforms(data, 10);
+    for (const int k : {1, 10}) {
+        data.NumSpecifyChars(k) = 2;
+        data.SpecifyChars(k, 1) = data.SpecifyChars(k, 2) = "a";
+    }
+    data.SavedChars.keep(data);
+    EXPECT_FALSE(areCharsUnsaved(data));
+    for (const int k : {1, 10}) {
+        for (const int c : {1, 2}) {
+            data.SpecifyChars(k, c) = "b";
+            EXPECT_TRUE(areCharsUnsaved(data)) << k << ' ' << c;
+            data.SpecifyChars(k, c) = "a";
+        }
+        data.SpecifyChars(k, 3) = "beyond those that count";
+    }
+    EXPECT_FALSE(areCharsUnsaved(data));
+    data.NumSpecifyChars(10) = 1;
+    EXPECT_TRUE(areCharsUnsaved(data));
 }
 
 TEST(TotalCommands, WordFormsAreDroppedAfterAQuestion)

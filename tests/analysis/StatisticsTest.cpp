@@ -154,4 +154,17 @@ TEST(Contrast, GroupsAndDiffusionSymbolsReadBack)
     EXPECT_EQ(rewritten(rank, readContrast, writeContrast), rank);
     const std::string symbols = "\"c\",2\r\n50,1,9,1,1,0,3,\"one, \"\"two\"\"\"\r\n153,4,4,0,2,1,1,\"\"\r\n";
     EXPECT_EQ(rewritten(symbols, readDiffusionSymbols, writeDiffusionSymbols), symbols);
+
+    SequentialReader file(QString::fromStdString(symbols));
+    const DiffusionSymbols read = readDiffusionSymbols(file);
+    for (const auto change : {+[](DiffusionSymbols& s) { s.DiffusionComment = "d"; },
+                              +[](DiffusionSymbols& s) { s.NDiffusion = 1; },
+                              +[](DiffusionSymbols& s) { s.DiffusionHanko(1).LineThick = 1; },
+                              +[](DiffusionSymbols& s) { s.MinimumPoints(2) = 2; },
+                              +[](DiffusionSymbols& s) { s.DiffusionCaption(2) = "two"; }}) {
+        DiffusionSymbols other = read;
+        EXPECT_EQ(other, read);
+        change(other);
+        EXPECT_NE(other, read);
+    }
 }
