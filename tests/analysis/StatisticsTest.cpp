@@ -1,6 +1,6 @@
 #include "analysis/Statistics.h"
 
-#include "analysis/ContrastData.h"
+#include "analysis/ContrastEditor.h"
 #include "analysis/CumulativeFile.h"
 #include "analysis/DiffusionSymbols.h"
 #include "analysis/StatisticsLines.h"
@@ -146,6 +146,36 @@ TEST(Contrast, SidesAreSummedAndSubtracted)
     contrast.ContrastWord(2, 1) = 4;
     EXPECT_EQ(errorOf([&] { analyseContrast(table, 3, contrast); }).number(),
               ErrorNumber::SubscriptOutOfRange);
+}
+
+TEST(ContrastEditor, BothSidesFollowTheTable)
+{
+    CumulativeTable table;
+    table.NumWordforms = 3;
+    for (int k = 1; k <= 3; ++k) {
+        table.WordformName(k) = QChar('a' + k - 1);
+    }
+    SequentialReader file("\"\",1,1\n2\n0,0\n\"a\",1\n\"x\",2\n2\n0,0\n\"b\",2\n\"y\",3\n");
+    ContrastData contrast = readContrast(file);
+    ContrastEditor editor(table, contrast);
+    EXPECT_EQ(differingNames(table, contrast),
+              "Word form 2 is \"x\" in the file and \"b\" in the cumulative data.\n"
+              "Word form 3 is \"y\" in the file and \"c\" in the cumulative data.");
+    const ContrastSettings settings = settingsOf(boxesOf(contrast), contrast);
+    EXPECT_EQ(settings.wordforms(1), std::vector<int>({1, 2}));
+    EXPECT_EQ(settings.wordforms(2), std::vector<int>({2, 3}));
+    for (const int k : {1, 2, 3}) {
+        for (const int j : {1, 3}) {
+            analyseContrast(table, 3, contrast);
+            ++table.Counts(k, j);
+            editor.followTable(3);
+            EXPECT_FALSE(contrast.ContrastAnalysed) << k << ' ' << j;
+        }
+    }
+    EXPECT_EQ(editor.wordforms(1) + editor.wordforms(2), QStringList({"a", "b", "b", "c"}));
+    table.NumWordforms = 2;
+    EXPECT_EQ(errorOf([&] { differingNames(table, contrast); }).detail(),
+              "The cumulative data has no word form 3 (c); it has 2.");
 }
 
 TEST(Contrast, GroupsAndDiffusionSymbolsReadBack)

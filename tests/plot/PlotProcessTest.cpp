@@ -124,6 +124,7 @@ TEST_F(PlotProcess, HelpAndWrongUsage)
 {
     const auto [help, error] = run("--help", 0);
     EXPECT_TRUE(help.contains("usage:") && error.isEmpty());
+    EXPECT_TRUE(help.contains("0 all is done, 1 an error or something left out, 2 the command line is not"));
     expectTold("", 2, {"a command is missing", "usage:"});
     expectTold("statistics --counts all.ttl --output all.ttl", 2, {"--output must end in .stt"});
     EXPECT_EQ(read("all.ttl"), Table);
