@@ -137,6 +137,59 @@ ellipse 176.4,1344.6 100,100 pen 3/0/0
 )");
 }
 
+TEST_F(DiffusionGraphs, LayersStandOneOverTheOtherWithARowEach)
+{
+    varn.NLine = 1;
+    varn.NKanji = 0;
+    const auto layers = [&](DiffusionGraph graph) {
+        drawLayeredGraph(parts, graph, surfaces);
+        const std::string all = transcript(drawing);
+        return '\n' + all.substr(all.find("ellipse"));
+    };
+    EXPECT_EQ(layers(DiffusionGraph::Circle), R"(
+ellipse 932,1814 100,100 filled 9 pen 1/0/1
+ellipse 2696,3578 0,0 filled 9 pen 1/0/1
+ellipse 4464.4,5346.4 40,40 filled 9 pen 1/0/1
+white box
+"All items" 226.4,314.6 10pt
+ellipse 326.4,1234.6 100,100 filled 9 pen 1/0/1
+"form 1" 526.4,1114.6 10pt
+ellipse 326.4,1984.6 25,25 pen 1/0/0
+"25 %" 526.4,1864.6 10pt
+ellipse 326.4,2284.6 50,50 pen 1/0/0
+"50 %" 526.4,2164.6 10pt
+ellipse 326.4,2584.6 75,75 pen 1/0/0
+"75 %" 526.4,2464.6 10pt
+ellipse 326.4,2884.6 100,100 pen 1/0/0
+"100 %" 526.4,2764.6 10pt
+"No. of Items =10" 226.4,8050 10pt
+ellipse 932,1814 0,0 filled 10 pen 1/0/2
+ellipse 2696,3578 50,50 filled 10 pen 1/0/2
+ellipse 4464.4,5346.4 0,0 filled 10 pen 1/0/2
+white box
+"All items" 226.4,314.6 10pt
+ellipse 326.4,1534.6 100,100 filled 10 pen 1/0/2
+"form 2" 526.4,1414.6 10pt
+)");
+    for (int k = 1; k <= 2; ++k) {
+        varn.DiffusionHanko(k) = {static_cast<qint16>(48 + k), 0, 4, 0, 1, 2};
+        varn.DiffusionCaption(k) = QStringLiteral("caption %1").arg(k);
+        varn.MinimumPoints(k) = 5;
+    }
+    EXPECT_EQ(layers(DiffusionGraph::Symbol), R"(
+ellipse 932,1814 100,100 pen 5/0/0
+white box
+"caption 1" 376.4,864.6 10pt
+ellipse 176.4,944.6 100,100 pen 5/0/0
+ellipse 2696,3578 100,100 filled 4 pen 5/0/0
+white box
+"caption 2" 376.4,1264.6 10pt
+ellipse 176.4,1344.6 100,100 filled 4 pen 5/0/0
+)");
+    EXPECT_EQ(frmMap.DrawWidth, 1);
+    EXPECT_EQ(varn.ScreenXY(2, 0), 2696);
+}
+
 TEST_F(ContrastMap, CirclesSayWhichSidePrevailsAndByHowMuch)
 {
     varn.ContrastTitle = QStringLiteral("1 against 2");
@@ -179,12 +232,14 @@ TEST_F(ContrastMap, TheLegendHasHalfTheStepsRoundedToTheEvenNeighbour)
         EXPECT_TRUE(wasPrinted(drawing, QStringLiteral("title")));
         EXPECT_EQ(drawing.texts.size(), 1 + labels) << typed;
     }
-    varn.ContrastMaxSize = 400;
-    frmMap.Cls();
-    contrast();
-    const QString label = QStringLiteral("-100%");
-    const float left = operationsOf<EllipseOperation>(drawing).at(3).x - 400;
-    EXPECT_GT(left, printedAt(drawing, label).x() + frmMap.TextWidth(label)) << "large circles";
+    // As many as stand left of the labels; larger circles stand behind the longest label.
+    const double behind = 676.4 + frmMap.TextWidth("-100%") + 60;
+    for (const auto& [size, x] : {std::pair(190, 426.4), {191, behind + 191}}) {
+        varn.ContrastMaxSize = static_cast<qint16>(size);
+        frmMap.Cls();
+        contrast();
+        EXPECT_NEAR(operationsOf<EllipseOperation>(drawing).at(3).x, x, 0.1);
+    }
 
     varn.ContrastMaxSize = 10000;
     varn.ContrastSum(0, 2) = 4;

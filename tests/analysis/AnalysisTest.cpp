@@ -1,38 +1,14 @@
 #include "analysis/Accumulation.h"
-#include "analysis/ContrastData.h"
 #include "analysis/CumulativeFile.h"
 #include "analysis/CumulativeTable.h"
-#include "analysis/DiffusionSymbols.h"
-#include "analysis/Statistics.h"
+#include "analysis/ExecuteCommands.h"
+#include "analysis/TotalCommands.h"
 #include "lingdata/LinguisticFile.h"
+#include "tests/support/EnteredWords.h"
+#include "tests/support/ScriptedDialogs.h"
 #include "tests/support/TestDrive.h"
 
-#include <functional>
-
 namespace {
-
-/// A table of one word form with these counts, `items` items accumulated.
-CumulativeTable countsOf(const std::vector<int>& counts, int items)
-{
-    CumulativeTable table;
-    table.NumWordforms = 1;
-    table.NumItemsAccumulated = items;
-    int j = 0;
-    for (const int count : counts) {
-        table.Counts(1, ++j) = static_cast<qint16>(count);
-    }
-    return table;
-}
-
-/// What is written of what `read` finds in `text`.
-template <typename Read, typename Write>
-std::string rewritten(const std::string& text, Read read, Write write)
-{
-    SequentialReader reader(QString::fromStdString(text));
-    SequentialWriter writer;
-    write(writer, read(reader));
-    return writer.bytes().toStdString();
-}
 
 /// The `.ttl` file "C:\all.ttl" and the table that is read from it.
 struct TotalFile : TestDrive
@@ -78,7 +54,7 @@ TEST(Accumulation, TheFirstAnswerCountsForEachStringItContains)
     EXPECT_EQ(data.NumItemsAccumulated, 2);
 
     clearCounts(5, data);
-    EXPECT_EQ(data.Counts(3, 5), 0);
+    EXPECT_EQ(data.Counts(1, 1) + data.Counts(3, 1) + data.Counts(3, 5), 0);
     EXPECT_EQ(data.NumItemsAccumulated, 0);
     EXPECT_EQ(data.SpecifyChars(1, 2), QStringLiteral("am"));
 }
@@ -175,88 +151,70 @@ TEST(CumulativeTable, NewWordFormsAreEmptyAndHaveColoursOfTheirOwn)
     EXPECT_EQ(data.NumSpecifyChars(1), 1);
 }
 
-TEST(Statistics, FiguresAreThoseOfTheOccupiedLocalities)
+TEST(Accumulation, ItsEndNamesFifteenItemsAtMostThatAreNotCounted)
 {
-    // Median, mode, average, deviation; for each level the localities with at least that, with exactly that.
-    const std::tuple<std::vector<int>, int, std::string> rows[] = {
-        {{1, 2, 3, 0, 0}, 3, "3,1,2,1\r\n5,2\r\n3,1\r\n2,1\r\n1,1\r\n"}, // the lowest of the frequent levels
-        {{1, 1, 1, 1}, 2, "2,1,1,0\r\n4,0\r\n4,4\r\n0,0\r\n"},
-        {{1, 5, 5, 5, 0}, 6, "6,5,4,2\r\n5,1\r\n4,1\r\n3,0\r\n3,0\r\n3,0\r\n3,3\r\n0,0\r\n"},
-        {{1, 1, 2, 4, 4, 6, 0}, 6, "3,1,3,2\r\n7,1\r\n6,2\r\n4,1\r\n3,0\r\n3,2\r\n1,0\r\n1,1\r\n"},
-        {{2, 2, 2, 4, 0, 5}, 4, "3,2,2,1\r\n6,1\r\n5,0\r\n5,3\r\n2,0\r\n2,1\r\n"}, // 5 is at least each
-    };
-    for (const auto& [counts, items, figures] : rows) {
-        const CumulativeTable table = countsOf(counts, items);
-        Statistics statistics;
-        Stats(table, static_cast<int>(counts.size()), statistics);
-        const auto write = [&](auto& file, const Statistics& read) { writeStatistics(file, table, read); };
-        const std::string file = "1," + std::to_string(items) + "\r\n1\r\n" + figures;
-        EXPECT_EQ(rewritten(
-                      "", [&](auto&) { return statistics; }, write),
-                  file);
-        EXPECT_EQ(rewritten(file, readStatistics, write), file);
-        const std::string cut = file.substr(0, file.size() - 5);
-        EXPECT_EQ(errorOf([&] { rewritten(cut, readStatistics, write); }).number(),
-                  ErrorNumber::InputPastEndOfFile);
-        EXPECT_EQ(GetNL(0, 1, 9, statistics), 9);
+    AccumulationResult done;
+    done.items = 20;
+    done.counted = 2;
+    QString text = "Analyse of Linguistic Data File is completed.\n2 of 20 items were counted.";
+    EXPECT_EQ(accumulationText(done), text);
+    text += "\n\nNot counted:";
+    for (const QString& name : numbered(15)) {
+        done.uncounted.push_back({name, "reason"});
+        text += '\n' + name;
     }
+    EXPECT_EQ(accumulationText(done), text);
+    done.uncounted.push_back({"w16", "reason"});
+    done.uncounted.push_back({"w17", "reason"});
+    EXPECT_EQ(accumulationText(done), text + "\nand 2 more, as the form shows");
 }
 
-TEST(Statistics, WhatHasNoFigureIsAnErrorThatNamesTheWordForm)
+TEST(CumulativeTable, StringsThatDifferAnywhereAreOthers)
 {
-    Statistics statistics;
-    statistics.Mode(1) = 7;
-    const auto stats = [&](const std::vector<int>& counts, int items) {
-        return [&, counts, items] { Stats(countsOf(counts, items), 90, statistics); };
-    };
-    const auto read = [](const char* text) {
-        return [text] {
-            SequentialReader file(QString::fromLatin1(text));
-            readStatistics(file);
-        };
-    };
-    const std::tuple<std::function<void()>, ErrorNumber, const char*> rows[] = {
-        {stats({0, 0}, 3), ErrorNumber::DivisionByZero, "The average of word form 1 ()."},
-        {stats({2, 0}, 3), ErrorNumber::DivisionByZero, "The deviation of word form 1 ()."},
-        {stats(std::vector<int>(90, 400), 400), ErrorNumber::Overflow, "The average of word form 1 ()."},
-        {stats({1, 1}, 401), ErrorNumber::SubscriptOutOfRange, "400 items, not of 401."},
-        {read("1,401\r\n"), ErrorNumber::SubscriptOutOfRange, "400 items, not of 401."},
-        {read("11,1\r\n"), ErrorNumber::SubscriptOutOfRange, "10 word forms, not of 11."},
-    };
-    for (const auto& [action, number, detail] : rows) {
-        const RunTimeError error = errorOf(action);
-        EXPECT_EQ(error.number(), number) << detail;
-        EXPECT_TRUE(error.detail().contains(QLatin1String(detail))) << qPrintable(error.detail());
+    CumulativeData data;
+    setNumWordforms(data, 10);
+    for (const int k : {1, 10}) {
+        data.NumSpecifyChars(k) = 2;
+        data.SpecifyChars(k, 1) = data.SpecifyChars(k, 2) = "a";
     }
-    EXPECT_EQ(statistics.Mode(1), 7) << "the statistics are as they were";
-    EXPECT_EQ(statistics.CumCount(1, 1), 0);
+    data.SavedChars.keep(data);
+    EXPECT_FALSE(areCharsUnsaved(data));
+    for (const int k : {1, 10}) {
+        for (const int c : {1, 2}) {
+            data.SpecifyChars(k, c) = "b";
+            EXPECT_TRUE(areCharsUnsaved(data)) << k << ' ' << c;
+            data.SpecifyChars(k, c) = "a";
+        }
+        data.SpecifyChars(k, 3) = "beyond those that count";
+    }
+    EXPECT_FALSE(areCharsUnsaved(data));
+    data.NumSpecifyChars(10) = 1;
+    EXPECT_TRUE(areCharsUnsaved(data));
 }
 
-TEST(Contrast, SidesAreSummedAndSubtracted)
+TEST(TotalCommands, WordFormsAreDroppedAfterAQuestion)
 {
-    SequentialReader counts("3,10,\"\"\r\n" + QStringLiteral("\"w\"\r\n0,0\r\n0,0\r\n").repeated(3) +
-                            "5,1,4\r\n1,1,4\r\n4,1,4\r\n");
-    CumulativeTable table = readTotal(counts, 3);
-    SequentialReader groups(
-        QStringLiteral("\"\",1,1\r\n2\r\n0,0\r\n\"a\",1\r\n\"b\",2\r\n1\r\n0,0\r\n\"c\",3\r\n"));
-    ContrastData contrast = readContrast(groups);
-    analyseContrast(table, 3, contrast);
-    EXPECT_EQ(contrast.ContrastSum(1, 1), 6);
-    EXPECT_EQ(contrast.ContrastSum(0, 1), 2);
-    EXPECT_EQ(contrast.ContrastSum(0, 2), -2);
-
-    table.Counts(1, 3) = 32767;
-    EXPECT_EQ(errorOf([&] { analyseContrast(table, 3, contrast); }).number(), ErrorNumber::Overflow);
-    EXPECT_EQ(contrast.ContrastSum(0, 2), -2);
-    contrast.ContrastWord(2, 1) = 4;
-    EXPECT_EQ(errorOf([&] { analyseContrast(table, 3, contrast); }).number(),
-              ErrorNumber::SubscriptOutOfRange);
-}
-
-TEST(Contrast, GroupsAndDiffusionSymbolsReadBack)
-{
-    const std::string rank = "\"West, east\",6,100\r\n2\r\n12,4\r\n\"a\",1\r\n\"b\",3\r\n0\r\n9,1\r\n";
-    EXPECT_EQ(rewritten(rank, readContrast, writeContrast), rank);
-    const std::string symbols = "\"c\",2\r\n50,1,9,1,1,0,3,\"one, \"\"two\"\"\"\r\n153,4,4,0,2,1,1,\"\"\r\n";
-    EXPECT_EQ(rewritten(symbols, readDiffusionSymbols, writeDiffusionSymbols), symbols);
+    TestSurvey survey;
+    VarnModule& varn = survey.varn;
+    ScriptedDialogs dialogs;
+    setNumWordforms(varn, 4);
+    varn.WordformName(2) = "two";
+    varn.NumSpecifyChars(4) = 1;
+    const TotalState state{varn, 3, varn, varn};
+    const auto change = [&](int number) {
+        varn.ContrastAnalysed = true;
+        const bool changed = changeNumWordforms(number, state, dialogs);
+        EXPECT_EQ(varn.ContrastAnalysed, !changed);
+        return changed;
+    };
+    dialogs.yesNo = {false, true};
+    EXPECT_FALSE(change(1));
+    EXPECT_EQ(varn.NumWordforms, 4);
+    EXPECT_TRUE(change(2));
+    EXPECT_TRUE(change(3));
+    EXPECT_EQ(varn.NumWordforms, 3);
+    const QString text = "These word forms are dropped, with their counts and strings: ";
+    EXPECT_EQ(dialogs.shown,
+              std::vector<ScriptedDialogs::Shown>(
+                  {{text + "2 two, 4. O.K.?", "Accumulate Data"}, {text + "4. O.K.?", "Accumulate Data"}}));
 }

@@ -1,10 +1,8 @@
 #include "lingdata/ItemEditor.h"
 
 #include "lingdata/InputKindsFile.h"
-#include "render/LocalityMap.h"
 #include "tests/support/EnteredWords.h"
 #include "tests/support/TestDrive.h"
-#include "tests/support/Transcript.h"
 
 namespace {
 
@@ -197,28 +195,4 @@ TEST(ItemEditor, IllegalCodesAreFoundWhereTheyStand)
                            R"(\A7: \A7 is in no code)", R"(a\: \ is cut short)", R"(a\A: \A is cut short)",
                            R"(\A\A1: \A is cut short)", R"(\\A1: \ is cut short)",
                            R"(\A1\A1\E: \E is cut short)", R"(\1A1: \1A is in no code)"}));
-}
-
-TEST(LocalityMap, LocalitiesAreFoundOnPaperThatHoldsThemAll)
-{
-    TestSurvey survey;
-    survey.varn.LocXY(3, 0) = -300; // left of all lines
-    LocalityMap map;
-    map.draw(survey.varn);
-    EXPECT_EQ(transcript(map.surface().drawing()), R"(
-line 1473,150 5883,150 5883,4560 1473,4560 1473,150 pen 1/0/1
-ellipse 1914,1032 18,18 filled 0 pen 1/0/0
-ellipse 2796,1914 18,18 filled 0 pen 1/0/0
-ellipse 150,2798.2 18,18 filled 0 pen 1/0/0
-)");
-    EXPECT_EQ(QSizeF(map.surface().Width, map.surface().Height), QSizeF(5883 + 150, 4560 + 150));
-    EXPECT_EQ(map.position(2), QPointF(2796, 1914));
-    EXPECT_EQ(map.nearest(map.position(3) + QPointF(20, -20)), 3);
-
-    survey.varn.NLine = 0;
-    map.draw(survey.varn);
-    EXPECT_EQ(map.nearest(map.position(2)), 2) << "a map without lines";
-    survey.varn.NLocality = 0;
-    map.draw(survey.varn);
-    EXPECT_EQ(map.nearest({0, 0}), 0) << "a map without anything";
 }

@@ -8,6 +8,7 @@
 #include "tests/support/Pixels.h"
 #include "tests/support/TestDrive.h"
 
+#include <QFile>
 #include <QPainter>
 
 #include <algorithm>
@@ -81,6 +82,31 @@ TEST(DrawingPainter, ATextStandsAtItsPlaceInItsSizeAndColor)
         EXPECT_NEAR(box.left(), 300 * scale, 0.12 * 400 * scale + 1) << scale;
         EXPECT_NEAR(box.center().x(), (300 + surface.TextWidth(QStringLiteral("H")) / 2) * scale, 2);
         EXPECT_EQ(image.pixel(box.center()), QBColor(12)) << "the bar between the stems";
+    }
+}
+
+TEST(PictureStore, GrayPicturesAreInkOnGlassAndOthersStayAsTheyAre)
+{
+    const TestDrive drive;
+    PictureStore store;
+    for (const bool gray : {true, false}) {
+        QImage file(3, 1, QImage::Format_RGB32);
+        file.setDotsPerMeterX(7559);
+        file.setDotsPerMeterY(5669);
+        const QRgb colors[] = {qRgb(0, 0, 0), qRgb(255, 255, 255), gray ? qRgb(100, 100, 100) : QBColor(12)};
+        const QRgb seen[] = {qRgb(0, 0, 0), gray ? 0 : colors[1], gray ? qRgba(0, 0, 0, 155) : colors[2]};
+        const QString name = gray ? "gray.bmp" : "red.bmp";
+        for (int x = 0; x < 3; ++x) {
+            file.setPixel(x, 0, colors[x]);
+        }
+        ASSERT_TRUE(file.save(drive.hostPath(name)));
+        const QImage picture = store.picture(drive.drive(), "C:\\" + name);
+        for (int x = 0; x < 3; ++x) {
+            EXPECT_EQ(picture.pixel(x, 0), seen[x]) << qPrintable(name) << ' ' << x;
+        }
+        EXPECT_EQ(std::pair(picture.dotsPerMeterX(), picture.dotsPerMeterY()), std::pair(7559, 5669));
+        QFile::remove(drive.hostPath(name));
+        EXPECT_EQ(store.picture(drive.drive(), "C:\\" + name), picture) << "read once";
     }
 }
 
@@ -167,7 +193,9 @@ TEST(DrawingPainter, DashesAndDotsDiffer)
     for (const std::string& pattern : std::vector<std::string>{"############", "####..####..", "#..#..#..#..",
                                                                "####..#..####..#", "####..#..#..####"}) {
         surface.Cls();
-        surface.Line(0, 30, 900, 30, QBColor(0));
+        for (int i = 0; i < 100; ++i) { // a polyline: the pattern goes on over its points
+            surface.Line(static_cast<float>(9 * i), 30, static_cast<float>(9 * i + 9), 30, QBColor(0));
+        }
         const QImage image = painted(surface.drawing(), 10 * ScreenScale, {600, 40}); // a pen of 10 pixels
         std::string found;
         for (int x = 5; found.size() < pattern.size(); x += 10) {

@@ -5,6 +5,8 @@
 #include <QStringDecoder>
 #include <QStringEncoder>
 
+#include <cstdlib>
+
 namespace {
 
 /// Everyday words of French, German, Spanish, Portuguese, Danish and Italian.
@@ -34,7 +36,46 @@ void expectRead(const QString& text, const char* encoding)
     EXPECT_EQ(decodeText(bytes), text) << encoding;
 }
 
+/// How much `text` speaks for Shift-JIS: how many kanji that speak against it, each by 1, it outweighs.
+int shiftJisScore(const QByteArray& text)
+{
+    QStringDecoder western("windows-1252");
+    int score = 9;
+    while (score > -9) {
+        const QByteArray kanji = score < 0 ? "-%E9A" : "-%E9a"; // by 1 for, by 1 against
+        const QByteArray balanced = text + QByteArray::fromPercentEncoding(kanji).repeated(std::abs(score));
+        if (decodeText(balanced) != QString(western(balanced))) {
+            return score;
+        }
+        --score;
+    }
+    return score;
+}
+
 } // namespace
+
+TEST(TextEncoding, EachCharacterSpeaksForOneByItsNeighbours)
+{
+    if (!QStringDecoder("Shift_JIS").isValid()) {
+        GTEST_SKIP() << "This system's Qt has no Shift-JIS.";
+    }
+    // Neighbours that are just within or just beyond the letters and the digits.
+    const std::pair<int, QByteArray> rows[] = {
+        {5, "%82%A0%B1"},
+        {4, "%82%A0 %83A"},
+        {3, "a%B1%82%A0"},
+        {2, "%81A %84A %9FA %9Cu a%9CU %9CUa 1%9Cu1 a%9C@b a%9C[b a%9C`b a%9C{b %B1%B1 %B1%E9a %E9A%E9a"},
+        {1, "%E0A %E9A %E9` %E9{ %FA@"},
+        {0, "@%B1 [%B1 `%B1 {%B1 /%B1 :%B1 a%B1%B1"},
+        {-1, "%E9a"},
+        {-2, "a%9CAb a%9CZb a%9Cab a%9Czb a%9Cu %9Cua a%E9A %E9Aa"},
+        {-3, "A%B1 Z%B1 a%B1 z%B1 0%B1 9%B1 %B1a a%B1a a%A1 a%DF %F0@ %F9@"}};
+    for (const auto& [score, texts] : rows) {
+        for (const QByteArray& text : texts.split(' ')) {
+            EXPECT_EQ(shiftJisScore(QByteArray::fromPercentEncoding(text)), score) << text.constData();
+        }
+    }
+}
 
 TEST(TextEncoding, TextsAreReadInTheEncodingThatTheySpeakFor)
 {

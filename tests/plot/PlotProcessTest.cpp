@@ -111,6 +111,7 @@ TEST_F(PlotProcess, EveryCommandWritesItsFile)
     EXPECT_EQ(read("all.ttl"), "1,2,\"All\"\r\n\"am words\"\r\n12,4\r\n0,0\r\n2\r\n0\r\n2\r\n");
     EXPECT_NE(read("map.svg"), read("top.svg")) << "the second word form stands elsewhere";
     EXPECT_NE(read("dots.svg"), read("blank.svg"));
+    EXPECT_EQ(read("one.svg"), read("often.svg")) << "the first row of the legend";
     write("Ling/part.han", "\"\"\r\n1\r\n\"am\",\"\"\r\n50\r\n4\r\n12\r\n1\r\n1\r\n0\r\n");
     expectDone("linguistic-map --data Ling/rain.dbs --symbols Ling/part.han --output part.svg");
     expectDone("linguistic-map --data Ling/rain.dbs --symbols Ling/part.han --output whole.svg "
@@ -123,6 +124,7 @@ TEST_F(PlotProcess, HelpAndWrongUsage)
 {
     const auto [help, error] = run("--help", 0);
     EXPECT_TRUE(help.contains("usage:") && error.isEmpty());
+    EXPECT_TRUE(help.contains("0 all is done, 1 an error or something left out, 2 the command line is not"));
     expectTold("", 2, {"a command is missing", "usage:"});
     expectTold("statistics --counts all.ttl --output all.ttl", 2, {"--output must end in .stt"});
     EXPECT_EQ(read("all.ttl"), Table);

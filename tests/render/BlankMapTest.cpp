@@ -1,8 +1,11 @@
 #include "render/BlankMap.h"
 
+#include "render/LocalityMap.h"
 #include "shell/MapParts.h"
 #include "tests/support/TestDrive.h"
 #include "tests/support/Transcript.h"
+
+#include <sstream>
 
 TEST(BlankMap, TheHeightOfTheFormSetsTheScale)
 {
@@ -12,8 +15,25 @@ TEST(BlankMap, TheHeightOfTheFormSetsTheScale)
     const auto scale = [&] { return FindMinMax(varn, survey.surfaces.area, varn); };
     EXPECT_FLOAT_EQ(scale(), 0.98F * 9000 / 1000);
     EXPECT_EQ(std::tuple(varn.MinY, varn.MaxY, varn.RatioX), std::tuple(250, 1250, 12));
+    EXPECT_EQ(std::pair(varn.MinX, varn.MaxX), std::pair(0.0, 1000.0));
+    varn.LineOffset(1, 0) = 500;
+    survey.surfaces.area.Left = 600;
+    scale();
+    EXPECT_EQ(std::tuple(varn.MinX, varn.MaxX, varn.RatioX), std::tuple(500, 1500, 11.4));
     survey.surfaces.area.Top = 1000; // a window further down leaves less height
     EXPECT_FLOAT_EQ(scale(), 0.98F * 8000 / 1000);
+
+    varn.LineOffset(1, 1) = 2000000; // what lies that far out is drawn as if it reached to the middle
+    EXPECT_FLOAT_EQ(scale(), 0.98F * 8000 / 1001000);
+    findStartExtent(varn, varn);
+    EXPECT_EQ(std::tuple(varn.MinX, varn.MaxX, varn.MinY, varn.MaxY),
+              std::tuple(500, 1500, 2000000, 2001000));
+    varn.LineOffset(1, 1) = -2000000;
+    EXPECT_FLOAT_EQ(scale(), 0.98F * 8000 / 1000001);
+    varn.LineOffset(1, 0) = -2000000;
+    scale();
+    EXPECT_EQ(std::pair(varn.MinX, varn.MaxX), std::pair(-2000000.0, -999999.0));
+    varn.LineOffset(1, 0) = varn.LineOffset(1, 1) = 0;
 
     for (int j = 1; j <= 5; ++j) {
         varn.LineXY(1, j, 1) = 7;
@@ -63,10 +83,81 @@ ellipse 2696,3578 75,75 pen 1/0/12
 ellipse 4464.4,5346.4 45,45 filled 10 pen 1/0/10
 ellipse 4464.4,5346.4 75,75 pen 1/0/12
 )");
+}
 
-    survey.varn.ScaleDivisions = 0;
-    EXPECT_EQ(errorOf([&] { DrawBlankMap(blankMapParts(survey.varn), survey.surfaces); }).number(),
-              ErrorNumber::DivisionByZero);
+TEST(BlankMap, AScaleBarIsDrawnWhereAnyOfItsThreeFiguresIsThere)
+{
+    TestSurvey survey;
+    VarnModule& varn = survey.varn;
+    varn.NKanji = 0;
+    varn.Scale = 10;
+    const auto drawn = [&](double divisions, double length, const char* label) {
+        varn.ScaleDivisions = divisions;
+        varn.ScaleLength = length;
+        varn.ScaleLabel = QString::fromLatin1(label);
+        survey.frmMap.Cls();
+        PlotKanjiData(varn, varn, survey.surfaces);
+        return transcript(survey.frmMap.drawing());
+    };
+    varn.KanjiXY(1, 0) = 10;
+    varn.KanjiXY(1, 1) = 50;
+    EXPECT_EQ(drawn(0, 0, ""), "\n");
+    EXPECT_EQ(drawn(2.5, 100, ""), R"(
+line 150,550 1150,550 pen 1/0/0
+line 150,550 150,300 pen 1/0/0
+line 550,550 550,466.7 pen 1/0/0
+line 950,550 950,466.7 pen 1/0/0
+"0" 200,250 10pt
+)") << "divisions that do not come out even";
+    EXPECT_EQ(drawn(1, 0, ""), R"(
+line 150,550 150,550 150,300 pen 1/0/0
+line 150,550 150,300 pen 1/0/0
+"0" 200,250 10pt
+)");
+    for (const auto& [length, label] : {std::pair(5, ""), {0, "km"}}) {
+        EXPECT_EQ(errorOf([&] { drawn(0, length, label); }).number(), ErrorNumber::DivisionByZero) << label;
+    }
+}
+
+TEST(LocalityMap, LinesAndLocalitiesFillThePaper)
+{
+    TestSurvey survey;
+    LocalityMap map;
+    const auto drawn = [&] {
+        map.draw(survey.varn);
+        const DrawSurface& surface = map.surface();
+        std::ostringstream text;
+        text << surface.ScaleLeft << ' ' << surface.ScaleTop << ' ' << surface.Width << ' ' << surface.Height;
+        for (int i = 1; i <= map.localities(); ++i) {
+            text << " | " << map.position(i).x() << ' ' << map.position(i).y();
+        }
+        return text.str() + transcript(surface.drawing());
+    };
+    survey.varn.LineOffset(1, 0) = 200;
+    survey.varn.LineOffset(1, 1) = 400;
+    EXPECT_EQ(drawn(), R"(341 782 5151 5592 | 150 150 | 1032 1032 | 1916.2 1916.2
+line 591,1032 5001,1032 5001,5442 591,5442 591,1032 pen 1/0/1
+ellipse 150,150 18,18 filled 0 pen 1/0/0
+ellipse 1032,1032 18,18 filled 0 pen 1/0/0
+ellipse 1916.2,1916.2 18,18 filled 0 pen 1/0/0
+)");
+    EXPECT_EQ(map.nearest({0, 0}), 1);
+    EXPECT_EQ(map.nearest(map.position(3) - QPointF(100, 300)), 3);
+    EXPECT_EQ(map.nearest(map.position(2) + QPointF(300, -100)), 2);
+    survey.varn.NLine = 0;
+    survey.varn.LocXY(3, 1) = 500;
+    EXPECT_EQ(drawn(), R"(1023.6 2147.19 4800 3670.79 | 150 150 | 2397.19 2397.19 | 4650 3520.79
+ellipse 150,150 18,18 filled 0 pen 1/0/0
+ellipse 2397.2,2397.2 18,18 filled 0 pen 1/0/0
+ellipse 4650,3520.8 18,18 filled 0 pen 1/0/0
+)") << "localities alone";
+    survey.varn.NLocality = 1;
+    EXPECT_EQ(drawn(), R"(449900 899900 300 300 | 150 150
+ellipse 150,150 18,18 filled 0 pen 1/0/0
+)") << "one alone";
+    survey.varn.NLocality = 0;
+    EXPECT_EQ(drawn(), "0 0 0 0\n");
+    EXPECT_EQ(map.nearest({0, 0}), 0);
 }
 
 TEST(BlankMap, TheStampStandsInTheCornerInSmallType)

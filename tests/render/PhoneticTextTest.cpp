@@ -1,6 +1,8 @@
 #include "render/PhoneticText.h"
 
 #include "platform/DrawnArea.h"
+#include "platform/StandardColors.h"
+#include "render/ListText.h"
 #include "render/SymbolHelp.h"
 #include "shell/MapParts.h"
 #include "tests/support/TestDrive.h"
@@ -12,7 +14,10 @@
 
 namespace {
 
-/// A survey with two glyphs in each set, which are as wide as many pixels of 96 dpi as stands here.
+/// Twips of a glyph's pixel across, at 192 dpi; down, at 144 dpi, it is 10.
+constexpr double GlyphWidth = 7.5;
+
+/// A survey with two glyphs in each set, which are as wide as many of their pixels as stands here.
 struct GlyphSurvey : TestSurvey
 {
     GlyphSurvey()
@@ -20,8 +25,8 @@ struct GlyphSurvey : TestSurvey
         for (const auto& [set, width] :
              {std::pair("Standard16", 4), {"Standard18", 5}, {"Bold16", 6}, {"Bold18", 7}}) {
             QImage glyph(width, 16, QImage::Format_Grayscale8);
-            glyph.setDotsPerMeterX(3780);
-            glyph.setDotsPerMeterY(3780);
+            glyph.setDotsPerMeterX(7559);
+            glyph.setDotsPerMeterY(5669);
             const QString folder = hostPath("Varn62E/Varn/VarnSymbol/") + set;
             QDir().mkpath(folder);
             EXPECT_TRUE(glyph.save(folder + "/Symbol10.bmp") && glyph.save(folder + "/SymbolS1.bmp"));
@@ -73,12 +78,13 @@ TEST(PhoneticText, GlyphsStandBetweenPlainCharacters)
     GlyphSurvey survey;
     const float a = survey.frmMap.TextWidth(QStringLiteral("a"));
     const float b = survey.frmMap.TextWidth(QStringLiteral("b"));
-    EXPECT_NEAR(survey.plot("a\\A1b"), 100 + a + 4 * 15 + b, 0.1);
+    EXPECT_NEAR(survey.plot("a\\A1b"), 100 + a + 4 * GlyphWidth + b, 0.1);
     const Drawing& drawing = survey.frmMap.drawing();
     const auto glyph = operationsOf<PictureOperation>(drawing).at(0);
     EXPECT_NEAR(glyph.x, 100 + a, 0.1);
+    EXPECT_NEAR(glyph.height, 160, 0.1);
     EXPECT_NEAR(glyph.y + 0.75 * glyph.height, 200 + survey.frmMap.TextAscent(), 0.1) << "on the baseline";
-    EXPECT_NEAR(printedAt(drawing, "b").x(), 100 + a + 60, 0.1);
+    EXPECT_NEAR(printedAt(drawing, "b").x(), 100 + a + 4 * GlyphWidth, 0.1);
     survey.varn.SpecialFontShift = -2;
     survey.plot("\\A5");
     EXPECT_NEAR(operationsOf<PictureOperation>(drawing).at(1).y, glyph.y - 40, 0.1) << "two points up";
@@ -93,7 +99,7 @@ TEST(PhoneticText, FontSizeAndBoldChooseTheGlyphSet)
         GlyphSurvey survey;
         survey.varn.MapFontSize = fontSize;
         survey.varn.PhoneticBold = bold;
-        EXPECT_NEAR(survey.plot("\\A1"), 100 + width * 15, 0.1) << fontSize << bold;
+        EXPECT_NEAR(survey.plot("\\A1"), 100 + width * GlyphWidth, 0.1) << fontSize << bold;
     }
 }
 
@@ -144,11 +150,74 @@ TEST(SymbolHelp, AllCodesStandOnThePageWhateverTheFontOfTheMap)
         EXPECT_FALSE(wasPrinted(drawing, note));
         EXPECT_EQ(survey.frmMap.FontSize, size);
     }
-    survey.varn.MapFontSize = 10;
-    EXPECT_EQ(printedAt(page(), "\\A1"), QPointF(50, 626));
-    EXPECT_EQ(operationsOf<PictureOperation>(survey.frmMap.drawing()).at(1).x, 50 + 528);
-    EXPECT_EQ(printedAt(survey.frmMap.drawing(), "a"), QPointF(50 + 2 * 528, 626));
-    EXPECT_EQ(printedAt(survey.frmMap.drawing(), "a long name of vowel 2"), QPointF(50 + 3 * 528, 626 + 288));
     survey.surfaces.area.Height = 3000;
     EXPECT_TRUE(wasPrinted(page(), note)) << "there is no room for them";
+}
+
+TEST(SymbolHelp, CodesGlyphsLettersAndNamesStandInColumns)
+{
+    TestSurvey survey;
+    survey.surfaces.area.Height = 626 + 2 * 288 + 10; // two rows
+    survey.varn.ExpSymbols = {{"c1", "l1", ""}, {"c2", "l2", ""}, {"c3", "l3", "n3"}};
+    const Drawing& drawing = survey.frmMap.drawing();
+    const auto draw = [&](float width) {
+        survey.surfaces.area.Width = width;
+        WriteSymbolHelp(survey.varn.ExpSymbols, textParts(survey.varn), survey.surfaces);
+    };
+    draw(12000);
+    EXPECT_EQ(transcript(drawing), R"(
+"** List of VARN Format Data and Phonetic Alphabets **" 50,50 10pt
+"c1" 50,626 10pt
+"c1" 578,626 10pt
+"l1" 1106,626 10pt
+"c2" 50,914 10pt
+"c2" 578,914 10pt
+"l2" 1106,914 10pt
+"c3" 1898,626 10pt
+"c3" 2426,626 10pt
+"l3" 2954,626 10pt
+"n3" 3482,626 10pt
+)");
+    survey.varn.ExpSymbols[2].name.clear();
+    draw(3482);
+    EXPECT_EQ(printedAt(drawing, "c3"), QPointF(1898, 626)) << "just wide enough";
+    draw(3481);
+    EXPECT_EQ(printedAt(drawing, "c3"), QPointF(50 + 1440 + 240, 578)) << "a size smaller";
+    survey.surfaces.area.Height = 100;
+    draw(3481);
+    EXPECT_EQ(printedAt(drawing, "c3"), QPointF(50 + 2 * (1296 + 216), 530)) << "the least size";
+    EXPECT_EQ(printedAt(drawing, "Make the map form larger to see all codes."), QPointF(50, 290));
+    survey.varn.ExpSymbols[0].name = "n1";
+    draw(12000);
+    EXPECT_NEAR(printedAt(drawing, "c2").x(), 50 + 1584 + survey.frmMap.TextWidth("n1") + 264, 0.1);
+}
+
+TEST(ListText, ListsAreWrittenInBlackOfTenPointsAndCutBetweenLetters)
+{
+    GlyphSurvey survey;
+    DrawSurface& surface = survey.frmMap;
+    const TextFont font{"Some Sans", 14, true, true};
+    const QString word = "ab\\A1cd";
+    surface.setFont(font);
+    surface.ForeColor = QBColor(12);
+    {
+        ListText list(textParts(survey.varn), surface);
+        const float width = list.width("abcde");
+        EXPECT_FLOAT_EQ(width, surface.TextWidth("abcde"));
+        list.write(10, 20, "plain \\A1");
+        list.writeRight(10 + width, 40, "abcde");
+        list.write(30, 60, "\\Q1xp", ListText::Coding::Phonetic);
+        EXPECT_NEAR(list.width(word, ListText::Coding::Phonetic),
+                    list.width("ab") + GlyphWidth * 4 + list.width("cd"), 0.1);
+        EXPECT_EQ(list.shortened("abcde", width), "abcde");
+        EXPECT_EQ(list.shortened("abcdefgh", list.width("abc...") + 1), "abc...");
+        EXPECT_EQ(list.shortened("abcdefgh", list.width("...") + 1), "");
+        const float cut = list.width("ab\\A1...", ListText::Coding::Phonetic);
+        EXPECT_EQ(list.shortened(word + word, cut, ListText::Coding::Phonetic), "ab\\A1...");
+        EXPECT_EQ(list.shortened(word + word, cut - 1, ListText::Coding::Phonetic), "ab...");
+    }
+    EXPECT_EQ(surface.font(), font);
+    EXPECT_EQ(surface.ForeColor, QBColor(12));
+    EXPECT_EQ(transcript(surface.drawing()),
+              "\n\"plain \\A1\" 10,20 10pt\n\"abcde\" 10,40 10pt\n\"p\" 30,60 10pt\n");
 }

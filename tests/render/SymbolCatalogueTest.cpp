@@ -23,6 +23,8 @@ line 11694.5,405.5 11805.5,294.5 pen 2/0/0
         EXPECT_NE(pen.color, QBColor(15)) << "nothing is outlined in white";
     }
 
+    EXPECT_EQ(std::pair(survey.frmMap.FontSize, survey.frmMap.DrawWidth), std::pair(10, 1));
+
     survey.surfaces.area.Width = 16 * 320; // a narrow form shows the first column whole
     PlotSymbol(survey.varn, survey.varn, 1, survey.surfaces);
     EXPECT_EQ(printedAt(drawing, "1"), QPointF(0, 50));
@@ -34,4 +36,5 @@ line 11694.5,405.5 11805.5,294.5 pen 2/0/0
     EXPECT_EQ(LastSymbolPage(survey.varn), 2);
     PlotSymbol(survey.varn, survey.varn, 2, survey.surfaces);
     EXPECT_EQ(drawing.texts, std::vector<QString>({"161", "162", "163", "164"}));
+    EXPECT_EQ(printedAt(drawing, "162"), QPointF(320, 50));
 }

@@ -156,16 +156,21 @@ TEST(SymbolShapes, SizeAndWidthCodesBeyondTheTablesAreTheLargest)
 {
     TestSurvey survey;
     std::string found = "\n";
-    for (const int code : {0, 1, 2, 3, -1}) {
-        found += std::to_string(code) +
-                 onOneLine(transcript(drawn(survey, {symbol(49, code, code), symbol(154, code, code)})));
+    for (const auto& [size, thickness] : {std::pair(0, 0), {1, 0}, {1, 1}, {2, 2}, {3, 3}, {-1, -1}}) {
+        std::string row = std::to_string(size);
+        for (const int number : {2, 8, 51, 154}) {
+            row += onOneLine(transcript(drawn(survey, {symbol(number, size, thickness)})));
+            row.pop_back();
+        }
+        found += row + '\n';
     }
     EXPECT_EQ(found, R"(
-0 ellipse 0,0 50,50 line -30,-15 30,15 pen 1/0/1
-1 ellipse 0,0 100,100 line -60,-30 60,30 pen 3/0/1
-2 ellipse 0,0 150,150 line -90,-45 90,45 pen 5/0/1
-3 ellipse 0,0 200,200 line -120,-60 120,60 pen 7/0/1
--1 ellipse 0,0 200,200 line -120,-60 120,60 pen 7/0/1
+0 line 0,-48 0,48 line -48,0 48,0 pen 1/0/1 box -19.2,-19.2 19.2,19.2 filled 1 box -48,-48 48,48 pen 1/0/1 ellipse 0,0 50,50 ellipse 0,0 25,25 filled 12 pen 1/0/1 line -30,-15 30,15 pen 1/0/1
+1 line 0,-96 0,96 line -96,0 96,0 pen 1/0/1 box -38.4,-38.4 38.4,38.4 filled 1 box -96,-96 96,96 pen 1/0/1 ellipse 0,0 100,100 ellipse 0,0 50,50 filled 12 pen 1/0/1 line -60,-30 60,30 pen 1/0/1
+1 line 0,-96 0,96 line -96,0 96,0 pen 3/0/1 box -38.4,-38.4 38.4,38.4 filled 1 pen 1/0/1 box -96,-96 96,96 pen 3/0/1 ellipse 0,0 100,100 pen 3/0/1 ellipse 0,0 50,50 filled 12 pen 1/0/1 line -60,-30 60,30 pen 3/0/1
+2 line 0,-144 0,144 line -144,0 144,0 pen 5/0/1 box -57.6,-57.6 57.6,57.6 filled 1 pen 2/0/1 box -144,-144 144,144 pen 5/0/1 ellipse 0,0 150,150 pen 5/0/1 ellipse 0,0 75,75 filled 12 pen 2/0/1 line -90,-45 90,45 pen 5/0/1
+3 line 0,-192 0,192 line -192,0 192,0 pen 7/0/1 box -76.8,-76.8 76.8,76.8 filled 1 pen 3/0/1 box -192,-192 192,192 pen 7/0/1 ellipse 0,0 200,200 pen 7/0/1 ellipse 0,0 100,100 filled 12 pen 3/0/1 line -120,-60 120,60 pen 7/0/1
+-1 line 0,-192 0,192 line -192,0 192,0 pen 7/0/1 box -76.8,-76.8 76.8,76.8 filled 1 pen 3/0/1 box -192,-192 192,192 pen 7/0/1 ellipse 0,0 200,200 pen 7/0/1 ellipse 0,0 100,100 filled 12 pen 3/0/1 line -120,-60 120,60 pen 7/0/1
 )");
 }
 

@@ -19,6 +19,20 @@ TEST(SymbolFile, ItIsWrittenAsItIsRead)
     SaveHankoData(drive.drive(), path, set);
     EXPECT_EQ(drive.read(path), two);
 
+    for (const auto change :
+         {+[](SymbolSet& s) { s.Explain = "x"; }, +[](SymbolSet& s) { s.NHanrei = 1; },
+          +[](SymbolSet& s) { s.HankoWord(1) = "x"; }, +[](SymbolSet& s) { s.HankoCaption(2) = "x"; },
+          +[](SymbolSet& s) { s.Hanko(2).LineThick = 1; }, +[](SymbolSet& s) { s.NHanrei = 0; }}) {
+        SymbolSet other = set;
+        EXPECT_FALSE(isSymbolSetUnsaved(other));
+        change(other);
+        EXPECT_TRUE(isSymbolSetUnsaved(other));
+    }
+    SymbolSet empty = set;
+    empty.NHanrei = 0;
+    empty.Explain.clear();
+    EXPECT_FALSE(isSymbolSetUnsaved(empty)) << "nothing to lose";
+
     const QByteArray record = "\"\",\"\"\r\n1\r\n2\r\n3\r\n4\r\n5\r\n6\r\n";
     drive.write(path, "\"\"\r\n101\r\n" + record.repeated(101));
     const RunTimeError error = errorOf([&] { LoadHankoData(drive.drive(), path, set); });
