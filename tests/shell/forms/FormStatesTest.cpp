@@ -341,6 +341,16 @@ TEST_F(FormStates, WhatIsChosenAndTypedStaysWhenAFormComesBackToTheFront)
     }
 }
 
+TEST_F(FormStates, AFormThatWasMadeAnIconComesBack)
+{
+    open();
+    for (VarnForm* form : allForms()) {
+        form->showMinimized();
+        form->bringToFront();
+        EXPECT_TRUE(form->isVisible() && !form->isMinimized()) << form->metaObject()->className();
+    }
+}
+
 TEST_F(FormStates, TheMapFormBeginsInTheCornerOfTheScreenAndItsPlaceCounts)
 {
     program = std::make_unique<Program>(survey);
