@@ -345,6 +345,25 @@ TEST_F(LoadedCalcForms, AnotherTableDoesNotCountByTheOldStringsUnasked)
     EXPECT_EQ(varn.NumSpecifyChars(1), 3);
 }
 
+TEST_F(LoadedCalcForms, AColorThatNoListHasIsShownAsNothingAndStays)
+{
+    const auto shown = [this] {
+        return std::pair(control<QComboBox>("cboForeColor").currentIndex(),
+                         control<QComboBox>("cboFillColor").currentIndex());
+    };
+    EXPECT_EQ(shown(), std::pair(12, 9));
+    use("cmdNext");
+    EXPECT_EQ(shown(), std::pair(0, 15));
+    use("cmdPrevious");
+    varn.WordformSymbolColor(2) = 16;
+    varn.WordformPaintColor(2) = -1;
+    use("cmdNext");
+    EXPECT_EQ(shown(), std::pair(-1, -1));
+    use("cmdSet");
+    EXPECT_EQ(std::pair(int(varn.WordformSymbolColor(2)), int(varn.WordformPaintColor(2))),
+              std::pair(16, -1));
+}
+
 TEST_F(LoadedCalcForms, PagesAndItemsGoRound)
 {
     varn.NLocality = 320;
@@ -378,6 +397,12 @@ TEST_F(LoadedCalcForms, StatisticsAreShownSavedAndOpened)
     use("mnuStatsSave");
     EXPECT_TRUE(saved("all.stt").startsWith("2,5\r\n1\r\n4,1,3,2\r\n3,0\r\n3,1\r\n"));
     EXPECT_EQ(varn.StatsFileName, ling("all.stt"));
+    varn.NumItemsAccumulated = 6;
+    EXPECT_TRUE(open("mnuStatsOpen", "all.stt")
+                    .endsWith("2 word forms and 5 items, the cumulative data has 2 and 6."));
+    varn.NumItemsAccumulated = 5;
+    open("mnuStatsOpen", "all.stt");
+    EXPECT_EQ(dialogs.shown.size(), 1U) << "there is nothing to tell";
     varn.TotalFileName.clear();
     EXPECT_EQ(use("mnuStatsSave"), NoName);
 
