@@ -1,8 +1,12 @@
 #include "tests/support/Transcript.h"
 
+#include "platform/DrawSurface.h"
 #include "platform/StandardColors.h"
 
+#include <QRegularExpression>
+
 #include <cmath>
+#include <map>
 #include <numbers>
 #include <sstream>
 
@@ -12,7 +16,14 @@ namespace {
 class Transcript
 {
 public:
-    explicit Transcript(const Drawing& drawing) : m_drawing(drawing) { m_out << '\n'; }
+    Transcript(const Drawing& drawing, const std::string& expected)
+        : m_drawing(drawing), m_expected(QString::fromStdString(expected).split('\n'))
+    {
+        m_out << '\n';
+    }
+
+    /// An operation follows.
+    void begin() { ++m_lines; }
 
     void operator()(const PolylineOperation& line)
     {
@@ -53,7 +64,7 @@ public:
     {
         const TextFont& font = m_drawing.fonts[static_cast<std::size_t>(text.font)];
         m_out << '"' << m_drawing.texts[text.text].toStdString() << '"';
-        place(text.x, text.y);
+        placeText(text, font);
         m_out << ' ' << font.size << "pt" << (font.bold ? " bold" : "") << (font.italic ? " italic" : "")
               << (text.color == QBColor(0) ? "" : " color " + color(text.color)) << '\n';
     }
@@ -73,6 +84,25 @@ private:
     static double tenths(double value) { return static_cast<double>(std::lround(10 * value)) / 10; }
 
     void place(double x, double y) { m_out << ' ' << tenths(x) << ',' << tenths(y); }
+
+    /// Places a text in the way of the expected line that stands where its own will.
+    void placeText(const TextOperation& text, const TextFont& font)
+    {
+        static const QRegularExpression Way("\" ([+>|]?)[-\\d.]+,([+~]?)[-\\d.]+ \\d+pt");
+        const auto way = Way.match(m_expected.value(m_lines));
+        DrawSurface ruler;
+        ruler.setFont(font);
+        const float end = text.x + ruler.TextWidth(m_drawing.texts[text.text]);
+        const float height = ruler.TextHeight();
+        const std::map<QString, float> x = {
+            {"", text.x}, {">", end}, {"|", (text.x + end) / 2}, {"+", text.x - m_lastEnd}};
+        const std::map<QString, float> y = {
+            {"", text.y}, {"~", text.y + height / 2}, {"+", text.y - m_lastBottom}};
+        m_out << ' ' << way.captured(1).toStdString() << tenths(x.at(way.captured(1))) << ','
+              << way.captured(2).toStdString() << tenths(y.at(way.captured(2)));
+        m_lastEnd = end;
+        m_lastBottom = text.y + height;
+    }
 
     static std::string color(QRgb color)
     {
@@ -94,6 +124,10 @@ private:
     }
 
     const Drawing& m_drawing;
+    QStringList m_expected;
+    qsizetype m_lines = 0;
+    float m_lastEnd = 0;
+    float m_lastBottom = 0;
     std::ostringstream m_out;
 };
 
@@ -101,8 +135,14 @@ private:
 
 std::string transcript(const Drawing& drawing)
 {
-    Transcript lines(drawing);
+    return transcriptLike({}, drawing);
+}
+
+std::string transcriptLike(const std::string& expected, const Drawing& drawing)
+{
+    Transcript lines(drawing, expected);
     for (const DrawingOperation& operation : drawing.operations) {
+        lines.begin();
         std::visit(lines, operation);
     }
     return lines.text();

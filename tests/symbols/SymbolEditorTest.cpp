@@ -1,7 +1,5 @@
 #include "symbols/SymbolEditor.h"
 
-#include "render/SymbolSample.h"
-#include "symbols/forms/SymbolPreview.h"
 #include "tests/support/TestDrive.h"
 
 #include <array>
@@ -48,28 +46,6 @@ protected:
     SymbolSet set;
     SymbolEditor editor{set};
     HankoFields fields;
-};
-
-/// A preview of the records of a map.
-class SymbolPreview : public testing::Test
-{
-protected:
-    SymbolPreview()
-    {
-        surface.Width = 6000;
-        surface.Height = smallestPreviewHeight();
-    }
-
-    void add(const QString& word, const QString& caption, const HankoStyle& hanko)
-    {
-        const int k = ++survey.varn.NHanrei;
-        survey.varn.HankoWord(k) = word;
-        survey.varn.HankoCaption(k) = caption;
-        survey.varn.Hanko(k) = hanko;
-    }
-
-    TestSurvey survey;
-    DrawSurface surface;
 };
 
 } // namespace
@@ -190,61 +166,5 @@ TEST_F(SymbolEditing, PreviewShowsTheLastTwentyAndScrolls)
         }
         EXPECT_EQ(std::pair(editor.firstShown(), editor.lastShown()), std::pair(first, last))
             << records << " up " << ups << " down " << downs;
-    }
-}
-
-TEST_F(SymbolPreview, RowsAndColumnsDoNotCollide)
-{
-    const QString longKind = QString(60, QLatin1Char('w'));
-    for (int k = 1; k <= 20; ++k) {
-        add(k == 7 ? longKind : QStringLiteral("kind %1").arg(k), QStringLiteral("caption %1").arg(k),
-            {49, 4, 0, 0, 1, 1});
-    }
-    surface.FontSize = 30;
-    const float end = DisplayHanrei(survey.varn, 1, 20, surface);
-    const std::vector<EllipseOperation> symbols = operationsOf<EllipseOperation>(surface.drawing());
-    ASSERT_EQ(symbols.size(), 20U);
-    for (std::size_t k = 1; k < symbols.size(); ++k) {
-        EXPECT_GE(symbols[k].y, symbols[k - 1].y + surface.TextHeight()) << k;
-        EXPECT_EQ(symbols[k].x, symbols[0].x);
-    }
-    EXPECT_LE(symbols.back().y + surface.TextHeight() / 2, surface.Height);
-    const QPointF kind = printedAt(surface.drawing(), longKind);
-    const QPointF caption = printedAt(surface.drawing(), QStringLiteral("caption 7"));
-    EXPECT_LT(symbols[0].x + 150, kind.x()) << "the largest circle";
-    EXPECT_EQ(kind.y(), caption.y());
-    EXPECT_GT(caption.x(), kind.x() + surface.TextWidth(longKind));
-    EXPECT_GT(end, caption.x() + surface.TextWidth(QStringLiteral("caption 7")));
-    EXPECT_EQ(printedAt(surface.drawing(), QStringLiteral("caption 20")).x(), caption.x());
-
-    DisplayHanrei(survey.varn, 5, 5, surface);
-    EXPECT_EQ(operationsOf<EllipseOperation>(surface.drawing()).size(), 1U) << "cleared first";
-    EXPECT_TRUE(wasPrinted(surface.drawing(), QStringLiteral("5")));
-    DisplayHanrei(survey.varn, 1, 0, surface);
-    EXPECT_TRUE(surface.drawing().operations.empty());
-}
-
-TEST_F(SymbolPreview, CodedWordsAreLettersAndFaultyOnesStayAsWritten)
-{
-    survey.varn.VarnPath = survey.varn.Drive.varnPath(QStringLiteral(INSTALLATION_FOLDER)); // with its glyphs
-    add(QStringLiteral("a\\E1b"), QStringLiteral("plain"), {1, 0, 0, 0, 1, 1});
-    add(QStringLiteral("a\\Zxb"), QString(), {1, 0, 0, 0, 1, 1});
-    DisplayHanrei(survey.varn, 1, 2, surface);
-    EXPECT_EQ(operationsOf<PictureOperation>(surface.drawing()).size(), 1U);
-    EXPECT_TRUE(wasPrinted(surface.drawing(), QStringLiteral("b")));
-    EXPECT_TRUE(wasPrinted(surface.drawing(), QStringLiteral("a\\Zxb")));
-}
-
-TEST_F(SymbolPreview, SymbolsThatCannotBeDrawnAreMarked)
-{
-    const std::pair<HankoStyle, bool> rows[] = {
-        {{161, 0, 0, 0, 1, 1}, false}, {{-1, 0, 0, 0, 1, 1}, false}, {{49, 16, 0, 0, 1, 1}, false},
-        {{49, 0, -1, 0, 1, 1}, false}, {{160, 0, 0, 0, 1, 1}, true}, {{49, 15, 15, 7, 9, -4}, true}};
-    for (const auto& [hanko, isDrawn] : rows) {
-        survey.varn.NHanrei = 0;
-        add(QStringLiteral("k"), QString(), hanko);
-        DisplayHanrei(survey.varn, 1, 1, surface);
-        EXPECT_EQ(canDraw(hanko, survey.varn), isDrawn) << hanko.HankoNo;
-        EXPECT_EQ(wasPrinted(surface.drawing(), QStringLiteral("?")), !isDrawn) << hanko.HankoNo;
     }
 }

@@ -284,7 +284,8 @@ TEST_F(LoadedCalcForms, AllItemsOfAFolderAreCountedUntilStop)
         EXPECT_EQ(progress.windowTitle(), Analysis);
         EXPECT_EQ(progress.windowModality(), Qt::ApplicationModal);
         EXPECT_EQ(progress.labelText(), "bad.dbs (1 of 4)");
-        EXPECT_EQ(progress.maximum(), 4);
+        EXPECT_EQ(std::tuple(progress.value(), progress.maximum(), progress.minimumWidth()),
+                  std::tuple(0, 4, 360));
         EXPECT_EQ(progress.findChild<QPushButton*>()->text(), "Stop");
         progress.findChild<QPushButton*>()->click();
     });
@@ -344,13 +345,36 @@ TEST_F(LoadedCalcForms, AnotherTableDoesNotCountByTheOldStringsUnasked)
     EXPECT_EQ(varn.NumSpecifyChars(1), 3);
 }
 
+TEST_F(LoadedCalcForms, AColorThatNoListHasIsShownAsNothingAndStays)
+{
+    const auto shown = [this] {
+        return std::pair(control<QComboBox>("cboForeColor").currentIndex(),
+                         control<QComboBox>("cboFillColor").currentIndex());
+    };
+    EXPECT_EQ(shown(), std::pair(12, 9));
+    use("cmdNext");
+    EXPECT_EQ(shown(), std::pair(0, 15));
+    use("cmdPrevious");
+    varn.WordformSymbolColor(2) = 16;
+    varn.WordformPaintColor(2) = -1;
+    use("cmdNext");
+    EXPECT_EQ(shown(), std::pair(-1, -1));
+    use("cmdSet");
+    EXPECT_EQ(std::pair(int(varn.WordformSymbolColor(2)), int(varn.WordformPaintColor(2))),
+              std::pair(16, -1));
+}
+
 TEST_F(LoadedCalcForms, PagesAndItemsGoRound)
 {
     varn.NLocality = 320;
+    varn.NumWordforms = 3;
+    varn.WordformName(3) = "three";
     const std::tuple<const char*, const char*, const char*> steps[] = {
-        {"mnuDisplay", "1 one", "160"},     {"mnuDisplayPrevious", "1 one", ""},
-        {"mnuDisplayNext", "1 one", "160"}, {"mnuItemPrevious", "2 two", "160"},
-        {"mnuItemNext", "1 one", "160"},    {"mnuDisplayNext", "1 one", "320"},
+        {"mnuDisplay", "1 one", "160"},         {"mnuDisplayPrevious", "1 one", ""},
+        {"mnuDisplayPrevious", "1 one", "320"}, {"mnuDisplayNext", "1 one", ""},
+        {"mnuDisplayNext", "1 one", "160"},     {"mnuItemPrevious", "3 three", "160"},
+        {"mnuItemPrevious", "2 two", "160"},    {"mnuItemNext", "3 three", "160"},
+        {"mnuItemNext", "1 one", "160"},        {"mnuDisplayNext", "1 one", "320"},
         {"mnuItemNext", "2 two", "160"}}; // another item begins with page 1
     for (const auto& [entry, wordform, lastLocality] : steps) {
         use(entry);
@@ -373,6 +397,12 @@ TEST_F(LoadedCalcForms, StatisticsAreShownSavedAndOpened)
     use("mnuStatsSave");
     EXPECT_TRUE(saved("all.stt").startsWith("2,5\r\n1\r\n4,1,3,2\r\n3,0\r\n3,1\r\n"));
     EXPECT_EQ(varn.StatsFileName, ling("all.stt"));
+    varn.NumItemsAccumulated = 6;
+    EXPECT_TRUE(open("mnuStatsOpen", "all.stt")
+                    .endsWith("2 word forms and 5 items, the cumulative data has 2 and 6."));
+    varn.NumItemsAccumulated = 5;
+    open("mnuStatsOpen", "all.stt");
+    EXPECT_EQ(dialogs.shown.size(), 1U) << "there is nothing to tell";
     varn.TotalFileName.clear();
     EXPECT_EQ(use("mnuStatsSave"), NoName);
 

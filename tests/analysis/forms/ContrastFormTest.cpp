@@ -1,6 +1,8 @@
 #include "analysis/forms/ContrastPages.h"
 #include "analysis/forms/frmRankData.h"
+#include "platform/StandardColors.h"
 #include "tests/analysis/forms/AnalysisForm.h"
+#include "tests/support/Transcript.h"
 
 #include <QComboBox>
 #include <QMenu>
@@ -127,6 +129,48 @@ TEST(ContrastPages, LocalitiesFillColumnsAndPages)
         EXPECT_EQ(wasPrinted(page.drawing(), "-2120"), number == 1);
         EXPECT_FALSE(wasPrinted(page.drawing(), "-2960")) << "it is on page 8";
     }
+}
+
+TEST(ContrastPages, APageTellsTheGroupsAndTheSums)
+{
+    TestSurvey survey;
+    VarnModule& varn = survey.varn;
+    varn.NLocality = 122;
+    varn.ContrastCount(1) = 2;
+    varn.ContrastCount(2) = 1;
+    varn.ContrastWordName(1, 1) = "east";
+    varn.ContrastWordName(1, 2) = "north";
+    varn.ContrastWordName(2, 1) = "west";
+    for (int sum = 0; sum <= 2; ++sum) {
+        varn.ContrastSum(sum, 121) = static_cast<qint16>(sum + 5);
+        varn.ContrastSum(sum, 122) = static_cast<qint16>(-sum);
+    }
+    DrawSurface page;
+    page.ForeColor = QBColor(4);
+    ContrastPages(varn, "mine").draw(2, page);
+    const char* const drawn = R"(
+"Contrast Analysis File Name mine" 0,0 10pt
+"PAGE = 2 / 2" >10200,0 10pt
+"Item 1" 0,300 10pt color 8
+"east + north" 750,300 10pt
+"Item 2" 0,540 10pt color 8
+"west" 750,540 10pt
+line 0,840 10200,840 pen 1/0/8
+"Loc." >480,900 10pt color 8
+"Item 1" >1320,900 10pt color 8
+"Item 2" >2160,900 10pt color 8
+"Diff." >3000,900 10pt color 8
+"121" >480,1180 10pt color 8
+"6" >1320,1180 10pt
+"7" >2160,1180 10pt
+"5" >3000,1180 10pt
+"122" >480,1420 10pt color 8
+"-1" >1320,1420 10pt
+"-2" >2160,1420 10pt
+"0" >3000,1420 10pt
+)";
+    EXPECT_EQ(transcriptLike(drawn, page.drawing()), drawn);
+    EXPECT_EQ(page.ForeColor, QBColor(4));
 }
 
 TEST_F(RankData, GroupsAreBuiltAnalysedAndShown)

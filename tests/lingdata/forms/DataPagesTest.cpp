@@ -5,8 +5,10 @@
 #include "render/ListText.h"
 #include "shell/MapParts.h"
 #include "tests/support/TestDrive.h"
+#include "tests/support/Transcript.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace {
 
@@ -107,6 +109,61 @@ TEST_F(DataPagesOf, EveryPageHasItsLinesUnderAHeading)
     EXPECT_EQ(printedAt(page, "ame").y(), 760);
     const auto rule = operationsOf<PolylineOperation>(page).at(0);
     EXPECT_EQ(page.points[rule.firstPoint + 1], QPointF(static_cast<float>(pages.area().width()), 288));
+}
+
+TEST_F(DataPagesOf, ALineStandsUnderTheTitlesOfItsColumn)
+{
+    DataList list{"Q", "q.dbs", {"No.", "Sub"}, {}};
+    list.lines = {{{1, 2}, "C", "i"}, {{3, 4}, {}, "\\E2"}};
+    const DataPages pages(varn, list);
+    DrawSurface ruler;
+    const double no = ruler.TextWidth("No.");
+    const double sub = no + 180 + ruler.TextWidth("Sub");
+    const double locality = sub + 180;
+    const double word = locality + ruler.TextWidth("Locality") + 180;
+    const double code = word + ruler.TextWidth("Word") + 180;
+    QString page = R"(
+"** PAGE = 1 / 1" 0,0 10pt
+"Q" +960,0 10pt
+"q.dbs" >%1,0 10pt
+line 0,288 %1,288 pen 1/0/8
+"No." 0,400 10pt color 8
+"Sub" +180,400 10pt color 8
+"Locality" +180,400 10pt color 8
+"Word" +180,400 10pt color 8
+"Code" +180,400 10pt color 8
+"1" >%2,760 10pt
+"2" >%3,760 10pt
+"C" %4,760 10pt
+"i" %5,760 10pt
+"3" >%2,1048 10pt
+"4" >%3,1048 10pt
+"\E2" %6,1048 10pt
+)";
+    for (const double x : {pages.area().width(), no, sub, locality, word, code}) {
+        page = page.arg(std::round(10 * x) / 10);
+    }
+    Drawing texts = drawn(pages, 1);
+    std::erase_if(texts.operations,
+                  [](const auto& it) { return std::holds_alternative<PictureOperation>(it); });
+    EXPECT_EQ(transcriptLike(page.toStdString(), texts), page.toStdString());
+}
+
+TEST_F(DataPagesOf, ColumnsShareThePageAndItsLines)
+{
+    const DataPages pages(varn, listOf(64, "ame"));
+    const Drawing page = drawn(pages, 1);
+    const auto columns = static_cast<int>(std::ranges::count(page.texts, QString("No.")));
+    EXPECT_EQ(columns > 2, anyFont());
+    const double step = (pages.area().width() + 480) / columns;
+    const int lines = (64 + columns - 1) / columns;
+    const double end = DrawSurface().TextWidth("No.");
+    for (int n = 1; n <= 64; ++n) {
+        const QString number = QString::number(n);
+        const QPointF place = printedAt(page, number);
+        EXPECT_NEAR(place.x() + DrawSurface().TextWidth(number), step * ((n - 1) / lines) + end, 1) << n;
+        EXPECT_EQ(place.y(), 760 + 288 * ((n - 1) % lines)) << n;
+    }
 }
 
 TEST_F(DataPagesOf, WhateverTheWordsNothingCollidesAndAllIsOnThePage)

@@ -53,6 +53,7 @@ TEST(PrinterDevice, EveryDocumentHasAFileOfItsOwn)
     const QByteArray first = bytesOf(file("map.v1.pdf"));
     EXPECT_TRUE(first.contains("/MediaBox [0 0 842")) << "A4 across";
     EXPECT_TRUE(first.contains(QByteArray("\0I\0s\0l\0a\0n\0d\0 \0-\0 \0r\0a\0i\0n", 26))) << "its title";
+    EXPECT_TRUE(first.contains(QByteArray("\0v\0a\0r\0n", 8))) << "its creator";
 
     PrintedDocument upright = onePage();
     upright.orientation = PageOrientation::Portrait;

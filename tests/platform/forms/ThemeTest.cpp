@@ -1,10 +1,12 @@
 // Texts in lists can be read in a light theme and in a dark one, and in the size of the desktop's font.
 
 #include "platform/forms/ThemeColors.h"
+#include "platform/forms/VarnForm.h"
 #include "render/forms/WordDelegate.h"
 #include "tests/support/Pixels.h"
 #include "tests/support/TestDrive.h"
 
+#include <QGuiApplication>
 #include <QLabel>
 #include <QListWidget>
 
@@ -93,6 +95,28 @@ TEST(Theme, PhoneticLettersAreAsLargeAsTheListsFont)
     const int small = WordList({}, 12).word(1).second;
     EXPECT_NEAR(small, 9, 2) << "the h of a text of 12 pixels";
     EXPECT_NEAR(WordList({}, 36).word(1).second, 3 * small, 4);
+}
+
+TEST(Theme, ACodeEndsAtTheRightEdgeOfItsCell)
+{
+    const WordList words({}, 24);
+    const QRect cell = words.list.visualItemRect(words.list.item(2));
+    EXPECT_EQ(cell.height(), QFontMetrics(words.list.font()).height() + 8);
+    const QColor background = words.picture.pixelColor(cell.center().x(), cell.top() + 3);
+    const QRect ink = extent(words.picture, cell.adjusted(1, 1, -1, -1),
+                             [&](const QColor& color) { return contrast(color, background) > 1.5; });
+    EXPECT_NEAR(ink.left(), cell.left() + 5, 3);
+    EXPECT_NEAR(ink.right(), anyFont() ? cell.right() - 5 : 0, anyFont() ? 3 : 600);
+}
+
+TEST(Theme, TheWaitCursorGoesWithItsWork)
+{
+    {
+        const WaitCursor wait;
+        ASSERT_NE(QGuiApplication::overrideCursor(), nullptr);
+        EXPECT_EQ(QGuiApplication::overrideCursor()->shape(), Qt::WaitCursor);
+    }
+    EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
 }
 
 TEST(Theme, ColorsBesideThePaletteCanBeReadOnIt)

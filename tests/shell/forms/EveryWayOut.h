@@ -85,10 +85,12 @@ protected:
         QApplication::processEvents();
     }
 
-    /// What a person sees: forms in front, questions, what stands on `form`, the map, the files.
+    /// What a person sees: forms in front, questions, what stands on `form`, where typing goes, the map, the
+    /// files.
     QString seen(const VarnForm& form) const
     {
         QStringList lines = visibleWindows() + shownOn(form);
+        lines << "focus: " + (form.focusWidget() != nullptr ? form.focusWidget()->objectName() : QString());
         for (const Shown& shown : program->dialogs.shown) {
             lines << shown.title << shown.text;
         }

@@ -44,6 +44,10 @@ QString greyedOf(const VarnForm& form)
     std::erase_if(ways, [](const auto& way) { return way.second->property("enabled").toBool(); });
     QStringList names;
     std::ranges::copy(std::views::keys(ways), std::back_inserter(names));
+    for (const auto* widget : form.findChildren<QWidget*>(QRegularExpression("^(txt|cbo|lst|chk)"))) {
+        names << (widget->isVisible() && !widget->isEnabled() ? QStringList(widget->objectName())
+                                                              : QStringList());
+    }
     return names.join(' ');
 }
 
@@ -136,7 +140,8 @@ Greyed: cmdBefore mnuHankoInit mnuLoadMap mnuRedo mnuSaveHanko mnuUndo Held: lbl
 cboBack=Black cboSize=Normal cboWidth=Normal
 #frmCalc: Accumulate Data - Test Status: Open a cumulative file, or type the number of word forms and press
 O.K. Greyed: cmdNext cmdPrevious cmdSet cmdSetWord cmdWordBefore cmdWordDelete cmdWordNext cmdWordReset
-cmdWordRewrite cmdWordSave cmdWordSelect Held: txtTotalItems=0 lblTotal=No wordforms cboForeColor=Black
+cmdWordRewrite cmdWordSave cmdWordSelect lstTotal txtTotalName cboForeColor cboFillColor txtInputWord
+Held: txtTotalItems=0 lblTotal=No wordforms cboForeColor=Black
 cboFillColor=Black lblWordNumber=No kinds of words lblStrings=Strings of wordform 1: 0
 #frmCalExec: Execution of Cumulative Analysis - Test Status: No cumulative data: open it in Accumulate Data |
 No linguistic file loaded Greyed: mnuDisplay mnuDisplayNext mnuDisplayPrevious mnuItemNext mnuItemPrevious
@@ -146,7 +151,8 @@ Greyed: cmdCalc cmdData1 cmdData2 cmdDel1 cmdDel2 mnuDisplayNext mnuDisplayPrevi
 mnuRankOpen Held: txtStep=6 txtSize=150
 #frmTotalHanko: Set Symbols for Diffusion Map - Test Status: No cumulative data: open it in the form
 Accumulate Data Greyed: cmdBefore cmdNext cmdStatistics cmdSymbol mnuTotalHankoMap mnuTotalHankoOpen
-mnuTotalHankoSave Held: cboColor=Black cboBack=Black cboSize=Small cboWidth=Thin)");
+mnuTotalHankoSave txtExplain txtHanrei txtHankoNumber cboColor cboBack chkPat cboSize cboWidth txtMinimum
+Held: cboColor=Black cboBack=Black cboSize=Small cboWidth=Thin)");
 }
 
 TEST_F(FormStates, WithEverythingDisplayed)
@@ -214,6 +220,7 @@ TEST_F(FormStates, ControlsOfOneKindAreMadeAlike)
     for (const VarnForm* form : allForms()) {
         for (const QLabel* label : statusLabels(*form)) {
             EXPECT_EQ(label->textFormat(), Qt::PlainText) << "a file name is no markup";
+            EXPECT_EQ(label->contentsMargins(), QMargins(8, 0, 8, 0)) << "texts stand clear of each other";
         }
         if (const auto* scroll = qobject_cast<QScrollArea*>(form->centralWidget());
             scroll != nullptr && scroll->objectName().isEmpty()) { // a small screen
@@ -263,6 +270,7 @@ TEST_F(FormStates, DrawingsLieOnTheirPaper)
         growingView.resize(growingView.width() + 50, growingView.height() + 30);
         EXPECT_EQ(paperAndInk(growingView).first, growingView.rect()) << name << ": paper to its edges";
     }
+    EXPECT_EQ(view("frmSetHanko", "picHanrei").minimumWidth(), 4290 / 15);
     SurfaceView& results = view("frmCalExec", "picPage");
     EXPECT_EQ(results.minimumSize(), QSize(573, 293));
     for (const auto& [entry, area] : {std::pair("mnuStatsExec", StatisticsPages::tableArea(5)),
@@ -338,6 +346,16 @@ TEST_F(FormStates, WhatIsChosenAndTypedStaysWhenAFormComesBackToTheFront)
         const QStringList before = chosen();
         showOnly(*form);
         EXPECT_EQ(chosen(), before) << form->metaObject()->className();
+    }
+}
+
+TEST_F(FormStates, AFormThatWasMadeAnIconComesBack)
+{
+    open();
+    for (VarnForm* form : allForms()) {
+        form->showMinimized();
+        form->bringToFront();
+        EXPECT_TRUE(form->isVisible() && !form->isMinimized()) << form->metaObject()->className();
     }
 }
 

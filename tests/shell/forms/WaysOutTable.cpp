@@ -109,7 +109,14 @@ frmTotalHanko: mnuTotalHankoSave -> Input File Name of Symbol Data; mnuTotalHank
 frmTotalHanko: mnuTotalHankoReturn -> [frmCalExec]; cmdNext -> Word form 2 of 2; cmdNext -> *picSample
 frmTotalHanko: cmdNext -> *picHanko; cmdSymbol -> [SymbolPicker]; cmdStatistics -> *
 frmTotalHanko: (no file), mnuTotalHankoOpen -> Open Symbol File; cmdStatistics, cmdNext -> *picStatistics
-frmTotalHanko: cmdNext, cmdBefore -> Word form 1 of 2; txtFileName=west -> west.htL)";
+frmTotalHanko: cmdNext, cmdBefore -> Word form 1 of 2; txtFileName=west -> west.htL
+frmRankData: mnuRankSave -> focus: txtRankFileName
+frmTotalHanko: mnuTotalHankoSave -> focus: txtFileName
+frmCalc: cmdSetWord -> focus: txtInputWord; txtSetFileName=, cmdWordSave -> focus: txtSetFileName
+frmCalc: txtTotalFileName=, mnuFileSave -> focus: txtTotalFileName
+frmDataInput: mnuSave -> focus: txtFileName; cmdSetKind -> focus: txtKind
+frmDataInput: tblWords=a\Q, cmdCheckCode -> focus: lstCheck; cmdSetKind, (1), mnuGoTo -> focus: tblWords
+frmDataInput: cmdSetKind, (yes), mnuInitialize -> focus: tblWords)";
 
 } // namespace
 

@@ -294,7 +294,13 @@ TEST_F(SetHanko, ASymbolIsChosenFromTheCatalogue)
     EXPECT_EQ(symbols.currentItem()->text(), QStringLiteral("93"));
     EXPECT_EQ(picker->windowTitle(), QStringLiteral("Symbols"));
     EXPECT_EQ(picker->focusWidget(), &symbols);
-    EXPECT_TRUE(symbols.viewport()->rect().contains(symbols.visualItemRect(symbols.currentItem())));
+    EXPECT_EQ(picker->size(), QSize(700, 520));
+    EXPECT_EQ(symbols.iconSize(), QSize(44, 44));
+    EXPECT_EQ(symbols.gridSize(), QSize(60, 72));
+    EXPECT_EQ(symbols.accessibleName(), "Symbols by number");
+    EXPECT_NEAR(symbols.visualItemRect(symbols.currentItem()).center().y(),
+                symbols.viewport()->rect().center().y(), 36)
+        << "the symbol chosen is in the middle";
     EXPECT_EQ(symbols.viewMode(), QListView::IconMode);
     EXPECT_EQ(symbols.movement(), QListView::Static) << "the numbers keep their places";
     EXPECT_EQ(icon(0, QIcon::Selected), icon(0));
