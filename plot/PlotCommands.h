@@ -20,7 +20,7 @@ public:
     virtual void warning(const QString& text) = 0;
 };
 
-/// Draws what `options` ask for into their output file, counts or exports what they ask for, or makes a map of
-/// it. Returns whether everything was done: false where items were left out of an accumulation or export.
+/// Draws what `options` ask for into their output file, counts or exports what they ask for, or makes a map
+/// of it. Returns whether everything was done: false where items were left out of an accumulation or export.
 /// Raises the run-time's errors; a file that was drawn into is then as it was.
 bool plot(const PlotOptions& options, PlotListener& listener);
