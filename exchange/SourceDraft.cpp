@@ -58,6 +58,9 @@ void SourceDraft::setWords(WordSource words)
 
 void SourceDraft::setRole(int column, ColumnRole role)
 {
+    if (!m_table || column >= m_table->headings.size()) {
+        return; // the file is another by now
+    }
     const bool isOneOfMany =
         role == ColumnRole::Left || (role == ColumnRole::Item && !TableColumns(m_roles).isLong());
     if (!isOneOfMany) {
@@ -72,16 +75,17 @@ bool SourceDraft::isCorrectable(int column) const
     return m_table->headings.indexOf(m_table->headings[column]) == column;
 }
 
+/// Opens the source anew each time: whoever is told of a mistake in a file mends it there.
 void SourceDraft::open()
 {
-    if (isOpen()) {
-        return;
+    m_kind.reset();
+    m_table.reset();
+    const SourceKind kind = kindOfSource(m_choices.path);
+    if (kind != SourceKind::Cldf) {
+        m_table = kind == SourceKind::Layer ? readLayerTable(m_choices.path) : readTable(m_choices.path);
+        m_roles.resize(static_cast<std::size_t>(m_table->headings.size()), ColumnRole::Left);
     }
-    m_kind = kindOfSource(m_choices.path);
-    if (m_kind != SourceKind::Cldf) {
-        m_table = m_kind == SourceKind::Layer ? readLayerTable(m_choices.path) : readTable(m_choices.path);
-        m_roles.assign(static_cast<std::size_t>(m_table->headings.size()), ColumnRole::Left);
-    }
+    m_kind = kind;
 }
 
 /// Finds out what the columns are; corrections that do not go together are kept, too, to be corrected again.
@@ -107,7 +111,7 @@ void SourceDraft::read()
     m_fault = faultOf([this] {
         open();
         guess();
-        m_survey = readSource(m_choices);
+        m_survey = m_kind == SourceKind::Table ? surveyInTable(*m_table, m_choices) : readSource(m_choices);
     });
 }
 

@@ -115,7 +115,9 @@ QComboBox* ColumnsPage::roleBox(int column)
 
 void ColumnsPage::showRoles()
 {
-    for (int column = 0; draft().source().table() && column < m_ui->tblColumns->columnCount(); ++column) {
+    const std::optional<SourceTable>& table = draft().source().table();
+    const qsizetype columns = table ? table->headings.size() : 0;
+    for (int column = 0; column < std::min<qsizetype>(columns, m_ui->tblColumns->columnCount()); ++column) {
         auto* box = qobject_cast<QComboBox*>(m_ui->tblColumns->cellWidget(0, column));
         box->setCurrentIndex(static_cast<int>(draft().source().role(column)));
     }

@@ -83,6 +83,17 @@ TEST_F(Drafts, ColumnsAreCorrectedOneByOneUntilTheSourceIsASurvey)
               "The column \"Name\" holds answers, but none names the items; say which one does.");
 }
 
+TEST_F(Drafts, AFileThatWasMendedIsReadAnew)
+{
+    const QByteArray rows = "name,longitude,latitude,rain\nAnn,5,52,ame\nBo,6,";
+    open(put("isle.csv", rows + "north,yuki\n"));
+    EXPECT_TRUE(draft.source().fault().endsWith(", row 3, column 3")) << qPrintable(draft.source().fault());
+    put("isle.csv", rows + "52,yuki\n");
+    draft.source().read();
+    EXPECT_EQ(draft.source().fault(), "");
+    EXPECT_EQ(draft.source().table()->rows[1].cells[2], "52");
+}
+
 TEST_F(Drafts, TheSurveyIsMadeOfWhatWasSaidAndWrittenOnce)
 {
     describeIsle();

@@ -157,6 +157,16 @@ TEST_F(NewSurveyWizard, AFileThatIsDroppedOnTheMainFormIsTheSource)
     EXPECT_EQ(of<QLineEdit>("txtSource").text(), survey.hostPath("isle.csv"));
 }
 
+TEST_F(NewSurveyWizard, LocalitiesWithDegreesComeThroughTheSameDoor)
+{
+    program.dialogs.files = {put("places.csv", "Name,Longitude,Latitude\nAnn,5,52\nBo,6,52\n")};
+    program.dialogs.savedFiles = {survey.hostPath("Varn62E/Varn/VarnData/Test/Map/Loc.map")};
+    trigger<frmMain>("mnuImportLocalities");
+    EXPECT_EQ(program.dialogs.errors, std::vector<Shown>());
+    EXPECT_EQ(localityTitle(program.varn, 2), "2 Bo");
+    EXPECT_LT(program.varn.LocXY(1, 0), program.varn.LocXY(2, 0));
+}
+
 TEST_F(NewSurveyWizard, TheSurveyThatIsExportedIsToldOf)
 {
     program.dialogs.savedFiles = {survey.hostPath("out.csv")};
