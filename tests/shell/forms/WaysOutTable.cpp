@@ -31,7 +31,6 @@ frmMap: mnuWholeWordForms -> <mnuWholeWordForms>
 frmMap: mnuHpos, mnuMapBlank -> -<fraStyle>; mnuHpos, mnuHanrei -> -<fraStyle>
 frmMap: mnuHpos, (Escape on the map) -> -<fraStyle>
 frmMap: mnuCopyMap -> clipboard: picture; mnuMapLing -> map: UYU; mnuMapBlank -> map: Town; mnuSymbols -> *
-frmMap: mnuWholeWordForms -> <mnuWholeWordForms>
 frmMap: mnuFilePrint -> Printer is not connected.  Please connect the printer in the Main Form.
 frmMap: lblInsatsumode -> Printer is not connected. Please connect the printer in the Main Form.
 frmMap: mnuHanrei -> map: UYU; mnuTotalBar -> *; mnuTotalSBar -> map: two; mnuTotalCircle -> *
