@@ -10,6 +10,6 @@
 std::string transcript(const Drawing& drawing);
 
 /// The same, with each text placed as the line of `expected` places it that stands where its own will, so
-/// that nothing follows from the fonts of the machine: "x,y" is where it begins, ">x" where it ends, "~y" the
-/// middle of its height, "+x" and "+y" how far it is behind and below the end of the text before it.
+/// that nothing follows from the fonts of the machine: "x,y" is where it begins, ">x" where it ends, "|x" and
+/// "~y" its middle, "+x" and "+y" how far it is behind and below the end of the text before it.
 std::string transcriptLike(const std::string& expected, const Drawing& drawing);

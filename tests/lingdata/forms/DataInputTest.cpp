@@ -5,6 +5,7 @@
 #include "tests/support/TestProgram.h"
 
 #include <QClipboard>
+#include <QHeaderView>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
@@ -357,11 +358,29 @@ TEST_F(DataInput, EmptyWordFormsAreSeenAndEntered)
     table.goTo(1, 2);
     type("✎⏎");
     EXPECT_EQ(entered(), "\"\", //\"\"|\"\", |||") << "looked at, not changed";
+    const QBrush quiet = QGuiApplication::palette().placeholderText();
+    EXPECT_EQ(kindList.item(0)->foreground(), quiet);
+    EXPECT_NE(kindList.item(1)->foreground(), quiet);
+    EXPECT_EQ(table.model()->index(0, 0).data(Qt::ForegroundRole), QVariant(quiet));
+    EXPECT_EQ(table.model()->index(0, 1).data(Qt::ForegroundRole), QVariant());
     type("\"\"⏎");
     kindList.setCurrentRow(0);
     table.goTo(3, 3);
     click("cmdKindToData");
     EXPECT_EQ(entered(), "\"\", /\"\"/\"\",,\"\"|\"\", |||*");
+}
+
+TEST_F(DataInput, TheTableHasAWordALineAndFillsItsWidth)
+{
+    const QHeaderView& rows = *table.verticalHeader();
+    const QHeaderView& columns = *table.horizontalHeader();
+    EXPECT_EQ(rows.sectionSize(0), input.fontMetrics().height() + 8);
+    EXPECT_EQ(rows.sectionResizeMode(0), QHeaderView::Fixed);
+    EXPECT_EQ(rows.defaultAlignment(), Qt::AlignRight | Qt::AlignVCenter);
+    EXPECT_EQ(columns.minimumSectionSize(), input.fontMetrics().averageCharWidth() * 14);
+    EXPECT_NEAR(columns.length(), std::max(table.viewport()->width(), 5 * columns.minimumSectionSize()), 1);
+    EXPECT_FALSE(columns.highlightSections() || table.wordWrap());
+    EXPECT_EQ(table.verticalScrollMode(), QAbstractItemView::ScrollPerItem);
 }
 
 TEST_F(DataInput, KindsAreEnteredByTheirLettersHoweverQuickly)

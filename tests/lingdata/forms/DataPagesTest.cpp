@@ -154,7 +154,7 @@ TEST_F(DataPagesOf, ColumnsShareThePageAndItsLines)
     const DataPages pages(varn, listOf(64, "ame"));
     const Drawing page = drawn(pages, 1);
     const auto columns = static_cast<int>(std::ranges::count(page.texts, QString("No.")));
-    EXPECT_EQ(columns > 2, anyFont());
+    ASSERT_GT(columns, 2);
     const double step = (pages.area().width() + 480) / columns;
     const int lines = (64 + columns - 1) / columns;
     const double end = DrawSurface().TextWidth("No.");

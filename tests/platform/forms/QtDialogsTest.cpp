@@ -233,12 +233,18 @@ TEST_F(DialogsOfTheDesktop, OnlyWhatExistsIsOpened)
     folder.write("C:\\Ling\\rain.dbs", "");
     const QString ling = folder.hostPath("Ling");
     const auto inLing = [&](const Answer& answer) { return seeing({"title", ling, ""}, answer); };
+    const auto look = [](QDialog& dialog) {
+        const auto& files = dynamic_cast<QFileDialog&>(dialog);
+        EXPECT_EQ(files.nameFilters(), QStringList("DBS Files (*.dbs)"));
+        EXPECT_EQ(files.viewMode(), QFileDialog::List);
+        typeFile("rain.dbs")(dialog);
+    };
     const auto accept = [](QDialog& dialog) {
         EXPECT_EQ(dynamic_cast<QFileDialog&>(dialog).fileMode(), QFileDialog::Directory);
         QMetaObject::invokeMethod(&dialog, "accept", Qt::QueuedConnection);
     };
-    const Person person({inLing(typeFile("rain.dbs")), typeFile("gone.dbs"), press(QMessageBox::Ok),
-                         key(Qt::Key_Escape), inLing(key(Qt::Key_Escape)), inLing(accept)});
+    const Person person({inLing(look), typeFile("gone.dbs"), press(QMessageBox::Ok), key(Qt::Key_Escape),
+                         inLing(key(Qt::Key_Escape)), inLing(accept)});
     const QString filter = QStringLiteral("DBS Files (*.dbs)|*.dbs");
     EXPECT_EQ(dialogs.openFile("title", ling, filter), ling + "/rain.dbs");
     EXPECT_EQ(dialogs.openFile("title", ling, filter), std::nullopt);

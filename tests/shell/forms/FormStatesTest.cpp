@@ -204,6 +204,11 @@ TEST_F(FormStates, TheMapFormInFrontShowsWhatOtherFormsChanged)
     expectStates(R"(
 #frmMap: VARN Map - Test - rain.dbs - rain.han Status: The item has 3 localities, the map has 4. | Item: Rain
 (3 localities) | Symbols: rain.han (2 captions) Greyed: mnuMapLing Held:)");
+    for (int mode = 5; mode >= 0; --mode) {
+        varn.AnalysisMode = mode;
+        Program::map().enableMapLing();
+        EXPECT_EQ(Program::menu("mnuMapLing").isEnabled(), mode == 2 || mode == 4) << mode;
+    }
     varn.ItemFileName.clear();
     varn.LoadState = 2;
     varn.ContrastAnalysed = false;

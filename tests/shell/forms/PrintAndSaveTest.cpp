@@ -102,6 +102,8 @@ TEST_F(LoadedProgram, TheTabKeyGoesFromTheMapToThePrintSwitch)
     EXPECT_EQ(printSwitch().accessibleDescription(), "Turn printing on or off");
     EXPECT_EQ(printSwitch().toolTip(), printSwitch().accessibleDescription());
     EXPECT_TRUE(printSwitch().isFlat());
+    EXPECT_TRUE(std::ranges::any_of(program.map().statusBar()->findChildren<QLabel*>(),
+                                    [](QLabel* label) { return label->accessibleName() == "Loaded files"; }));
     QStringList visited;
     const QWidget* const map = &child<QWidget>(program.map(), "scrMap");
     const QWidget* widget = map;
