@@ -7,6 +7,7 @@
 #include "tests/analysis/forms/AnalysisForm.h"
 #include "tests/support/Transcript.h"
 
+#include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QValidator>
@@ -206,6 +207,18 @@ TEST_F(TotalHanko, StatisticsAreOfTheCountsAsTheyAre)
     varn.Counts(2, 3) = 0;
     click("cmdStatistics");
     EXPECT_EQ(varn.Average(2), 3);
+}
+
+TEST_F(TotalHanko, AFormThatWasOpenedFollowsTheTableWhenItComesToTheFront)
+{
+    fillTable(varn, 3);
+    frmTotalHanko unopened(varn, dialogs);
+    for (const auto& [shown, symbols] : {std::pair(&unopened, 2), {&form, 3}}) {
+        QEvent activated(QEvent::WindowActivate);
+        QApplication::sendEvent(shown, &activated);
+        EXPECT_EQ(varn.NDiffusion, symbols);
+    }
+    EXPECT_EQ(listed("lstWordform"), QStringList({"w1", "w2", "w3"}));
 }
 
 TEST_F(TotalHanko, WithoutATableThereIsNothingToSet)
