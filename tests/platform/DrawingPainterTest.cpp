@@ -187,6 +187,20 @@ TEST(DrawingPainter, EachOperationIsPaintedAlone)
     }
 }
 
+TEST(DrawingPainter, ATextChangesNeitherThePenNorThePlaceOfWhatFollows)
+{
+    DrawSurface surface;
+    surface.DrawWidth = 3;
+    surface.Line(150, 150, 1500, 150, QBColor(9));
+    surface.PrintAt(150, 300, QStringLiteral("H"));
+    surface.Arc(3000, 1500, 900, QBColor(4), 0, 3);
+    surface.Line(150, 2250, 1500, 2250, QBColor(9));
+    const QImage image = painted(surface.drawing(), ScreenScale, {300, 200});
+    for (const auto& [x, y, color] : {std::tuple(50, 10, 9), {200, 39, 4}, {50, 150, 9}}) {
+        EXPECT_EQ(image.pixel(x, y), QBColor(color)) << x << ' ' << y;
+    }
+}
+
 TEST(DrawingPainter, DashesAndDotsDiffer)
 {
     DrawSurface surface;

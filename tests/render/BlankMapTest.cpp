@@ -135,11 +135,12 @@ TEST(LocalityMap, LinesAndLocalitiesFillThePaper)
     };
     survey.varn.LineOffset(1, 0) = 200;
     survey.varn.LineOffset(1, 1) = 400;
-    EXPECT_EQ(drawn(), R"(341 782 5151 5592 | 150 150 | 1032 1032 | 1916.2 1916.2
-line 591,1032 5001,1032 5001,5442 591,5442 591,1032 pen 1/0/1
-ellipse 150,150 18,18 filled 0 pen 1/0/0
-ellipse 1032,1032 18,18 filled 0 pen 1/0/0
-ellipse 1916.2,1916.2 18,18 filled 0 pen 1/0/0
+    survey.varn.LineXY(1, 1, 1) = -300; // the first point alone reaches up there
+    EXPECT_EQ(drawn(), R"(239.231 239.231 4031.54 4710 | 150 489.231 | 828.462 1167.69 | 1508.62 1847.85
+line 489.2,150 3881.5,1167.7 3881.5,4560 489.2,4560 489.2,1167.7 pen 1/0/1
+ellipse 150,489.2 18,18 filled 0 pen 1/0/0
+ellipse 828.5,1167.7 18,18 filled 0 pen 1/0/0
+ellipse 1508.6,1847.9 18,18 filled 0 pen 1/0/0
 )");
     EXPECT_EQ(map.nearest({0, 0}), 1);
     EXPECT_EQ(map.nearest(map.position(3) - QPointF(100, 300)), 3);
