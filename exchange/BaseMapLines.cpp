@@ -1,6 +1,6 @@
 #include "exchange/BaseMapLines.h"
 
-#include "exchange/GdalScope.h"
+#include "exchange/GdalLayer.h"
 #include "exchange/MapFrame.h"
 #include "exchange/SourceWindow.h"
 #include "platform/RunTimeError.h"
@@ -9,7 +9,6 @@
 #include <QLineF>
 #include <QRegularExpression>
 
-#include <gdal_priv.h>
 #include <map>
 #include <ogrsf_frmts.h>
 #include <optional>
@@ -164,19 +163,10 @@ private:
 };
 
 /// The way of a layer's coordinates to degrees; none where they are degrees already, or where nobody knows.
-std::unique_ptr<OGRCoordinateTransformation> toDegrees(const OGRLayer& layer)
+std::unique_ptr<OGRCoordinateTransformation> toDegrees(OGRLayer& layer)
 {
-    OGRSpatialReference degrees;
-    degrees.SetWellKnownGeogCS("WGS84");
-    degrees.SetAxisMappingStrategy(OAMS_TRADITIONAL_GIS_ORDER);
-    OGRSpatialReference own;
-    if (const OGRSpatialReference* system = const_cast<OGRLayer&>(layer).GetSpatialRef()) {
-        own = *system;
-        own.SetAxisMappingStrategy(OAMS_TRADITIONAL_GIS_ORDER);
-    }
-    const bool differs = !own.IsEmpty() && !own.IsSame(&degrees);
-    return std::unique_ptr<OGRCoordinateTransformation>(
-        differs ? OGRCreateCoordinateTransformation(&own, &degrees) : nullptr);
+    const OGRSpatialReference* system = layer.GetSpatialRef();
+    return system && !system->IsEmpty() ? wayToDegrees(*system) : nullptr;
 }
 
 QString featureName(const OGRFeature& feature)

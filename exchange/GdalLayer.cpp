@@ -28,6 +28,17 @@ GdalDataset openDataset(const QString& path, std::initializer_list<const char*> 
     return dataset;
 }
 
+std::unique_ptr<OGRCoordinateTransformation> wayToDegrees(const OGRSpatialReference& system)
+{
+    OGRSpatialReference own = system;
+    own.SetAxisMappingStrategy(OAMS_TRADITIONAL_GIS_ORDER);
+    OGRSpatialReference degrees;
+    degrees.SetWellKnownGeogCS("WGS84");
+    degrees.SetAxisMappingStrategy(OAMS_TRADITIONAL_GIS_ORDER);
+    return std::unique_ptr<OGRCoordinateTransformation>(
+        own.IsSame(&degrees) ? nullptr : OGRCreateCoordinateTransformation(&own, &degrees));
+}
+
 MemoryFile::MemoryFile(const QString& name, QByteArray bytes)
     : m_bytes(std::move(bytes)),
       m_path(QStringLiteral("/vsimem/varn-%1/%2").arg(std::bit_cast<quintptr>(this)).arg(name))

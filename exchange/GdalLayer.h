@@ -8,6 +8,7 @@
 #include <gdal_priv.h>
 #include <initializer_list>
 #include <memory>
+#include <ogr_spatialref.h>
 
 // What the readers of this room share. It is for their .cpp files: the headers of the room do not show GDAL.
 
@@ -21,6 +22,10 @@ using GdalDataset = std::unique_ptr<GDALDataset, CloseDataset>;
 /// Opens tables or layers for reading, with one of `drivers` or with any. Raises type mismatch, with what
 /// GDAL says, at `path`.
 GdalDataset openDataset(const QString& path, std::initializer_list<const char*> drivers = {});
+
+/// The way from a reference system to degrees east and north (WGS 84); nothing where it has them already, or
+/// where PROJ knows no way.
+std::unique_ptr<OGRCoordinateTransformation> wayToDegrees(const OGRSpatialReference& system);
 
 /// Bytes that GDAL reads as a file, while this lives.
 class MemoryFile

@@ -15,14 +15,12 @@
 
 namespace {
 
-using Transformation = std::unique_ptr<OGRCoordinateTransformation>;
-
 /// What the coordinates of a layer are.
 struct LayerSystem
 {
     /// Whether they are degrees, or become degrees by `way`.
     bool isKnown = false;
-    Transformation way;
+    std::unique_ptr<OGRCoordinateTransformation> way;
 };
 
 LayerSystem systemOf(OGRLayer& layer)
@@ -32,13 +30,7 @@ LayerSystem systemOf(OGRLayer& layer)
         QByteArrayView(system->GetName()).startsWith("Undefined")) {
         return {};
     }
-    OGRSpatialReference own = *system;
-    own.SetAxisMappingStrategy(OAMS_TRADITIONAL_GIS_ORDER);
-    OGRSpatialReference degrees;
-    degrees.SetWellKnownGeogCS("WGS84");
-    degrees.SetAxisMappingStrategy(OAMS_TRADITIONAL_GIS_ORDER);
-    return {true, Transformation(own.IsSame(&degrees) ? nullptr
-                                                      : OGRCreateCoordinateTransformation(&own, &degrees))};
+    return {true, wayToDegrees(*system)};
 }
 
 /// The point of a feature, or the first of several; nothing where it is a line or an area.
