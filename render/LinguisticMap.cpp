@@ -2,6 +2,7 @@
 
 #include "render/BlankMap.h"
 #include "render/Legend.h"
+#include "render/SymbolMarks.h"
 #include "render/SymbolShapes.h"
 #include "symbols/SymbolFile.h"
 
@@ -25,32 +26,12 @@ QPointF wordStep(qint16 hankoPosition)
     }
 }
 
-/// Whether a record of the set stands for just this word form.
-bool hasRecordOf(const SymbolSet& symbols, const QString& word)
-{
-    for (int k = 1; k <= symbols.NHanrei; ++k) {
-        if (symbols.HankoWord(k) == word) {
-            return true;
-        }
-    }
-    return false;
-}
-
-/// Whether record k marks the word form. An empty word form contains no kind, not even the empty one.
-bool isMarked(const LinguisticMapParts& parts, const QString& word, int k)
-{
-    const QString& kind = parts.symbols.HankoWord(k);
-    if (word.isEmpty() || !parts.base.style.WholeWordForms) {
-        return !word.isEmpty() && word.contains(kind);
-    }
-    return kind.isEmpty() ? !hasRecordOf(parts.symbols, word) : word == kind;
-}
-
 /// Draws the symbol of record k at every word form that it marks.
-void plotRecord(const LinguisticMapParts& parts, int k, QPointF step, SymbolShapes& shapes)
+void plotRecord(const LinguisticMapParts& parts, int k, const SymbolMarks& marks, SymbolShapes& shapes)
 {
     const BaseMap& map = parts.base.map;
     MapGeometry& geometry = parts.base.geometry;
+    const QPointF step = wordStep(parts.base.style.HankoPosition);
     const auto dx = static_cast<float>(step.x());
     const auto dy = static_cast<float>(step.y());
     for (int i = 1; i <= parts.item.NLocate; ++i) {
@@ -59,7 +40,7 @@ void plotRecord(const LinguisticMapParts& parts, int k, QPointF step, SymbolShap
         geometry.ScreenXY(i, 0) = x;
         geometry.ScreenXY(i, 1) = y;
         for (int j = 1; j <= parts.item.WordCount(i); ++j) {
-            if (isMarked(parts, parts.item.WordData(i, j), k)) {
+            if (marks(k, parts.item.WordData(i, j))) {
                 // A word form has its place by its number, also where those before it have no symbol.
                 const auto steps = static_cast<float>(j - 1);
                 shapes.DrawHanko(parts.symbols.Hanko(k), x + steps * dx, y + steps * dy);
@@ -72,10 +53,11 @@ void plotRecord(const LinguisticMapParts& parts, int k, QPointF step, SymbolShap
 
 void PlotLinguisticData(const LinguisticMapParts& parts, MapSurfaces surfaces)
 {
+    const SymbolMarks marks(parts.symbols, parts.base.style.WholeWordForms);
     SymbolShapes shapes(parts.base.map, parts.base.geometry, surfaces);
     for (int k = 1; k <= parts.symbols.NHanrei; ++k) {
         try {
-            plotRecord(parts, k, wordStep(parts.base.style.HankoPosition), shapes);
+            plotRecord(parts, k, marks, shapes);
         } catch (const RunTimeError& error) {
             throw ofRecord(error, parts.symbols, k);
         }

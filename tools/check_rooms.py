@@ -10,8 +10,8 @@ import sys
 
 ROOMS = [
     "platform", "mapdata", "lingdata", "symbols", "render", "exchange", "analysis", "shell", "plot",
-    "platform/forms", "render/forms", "mapdata/forms", "lingdata/forms", "symbols/forms", "analysis/forms",
-    "exchange/forms", "shell/forms",
+    "atlas", "platform/forms", "render/forms", "mapdata/forms", "lingdata/forms", "symbols/forms", "analysis/forms",
+    "exchange/forms", "atlas/forms", "shell/forms",
 ]
 INCLUDE = re.compile(r'^\s*#include "([^"]+)/[^/"]+"', re.MULTILINE)
 

@@ -22,6 +22,7 @@ frmMain::frmMain(VarnModule& varn, Dialogs& dialogs)
           varn, dialogs, [this] { return m_map.surfaces(); }, [this] { return m_keeper->mayChangeMap(); }),
       m_dataInput(varn, dialogs), m_data(varn, dialogs), m_setHanko(varn, dialogs), m_calc(varn, dialogs),
       m_calExec(varn, dialogs), m_rankData(varn, dialogs), m_totalHanko(varn, dialogs),
+      m_atlas(varn, dialogs),
       m_keeper(new WorkKeeper(varn, dialogs, *this, [this] { return m_dataInput.unsavedItem(); })),
       m_newSurvey(new frmNewSurvey(varn, dialogs, this))
 {
@@ -50,6 +51,7 @@ void frmMain::connectButtons()
     handle(m_ui->cmdHanko, &QPushButton::clicked, &frmMain::cmdHanko_Click);
     handle(m_ui->cmdMap, &QPushButton::clicked, &frmMain::cmdMap_Click);
     handle(m_ui->cmdSumUp, &QPushButton::clicked, &frmMain::cmdSumUp_Click);
+    handle(m_ui->cmdAtlas, &QPushButton::clicked, &frmMain::cmdAtlas_Click);
     connect(m_ui->cmdSettingPrinter, &QPushButton::clicked, m_ui->fraSetMergin, &PageSetupFrame::open);
     handle(m_ui->cmdExit, &QPushButton::clicked, &frmMain::cmdExit_Click);
     handle(m_ui->mnuImportLocalities, &QAction::triggered, &frmMain::mnuImportLocalities_Click);
@@ -72,6 +74,8 @@ void frmMain::connectForms()
     handle(&m_chizu, &frmChizu::mapChosen, &frmMain::showNewMap);
     connect(&m_data, &frmData::itemLoaded, &m_map, &frmMap::enableMapLing);
     handle(&m_dataInput, &frmDataInput::itemReloaded, &frmMain::showReloadedItem);
+    connect(&m_atlas, &frmAtlas::toMain, this, &frmMain::bringToFront);
+    handle(&m_atlas, &frmAtlas::toNewSurvey, &frmMain::mnuNewSurvey_Click);
     connect(m_newSurvey, &frmNewSurvey::surveyMade, this,
             [this](const QString& mapName, const QString& item) { run([&] { showSurvey(mapName, item); }); });
 }
@@ -217,8 +221,8 @@ void frmMain::showNewMap()
 std::vector<VarnForm*> frmMain::workingForms()
 {
     // Those that may have unsaved work come first.
-    return {&m_dataInput, &m_setHanko, &m_calc,  &m_totalHanko, &m_rankData,
-            &m_calExec,   &m_data,     &m_chizu, &m_map};
+    return {&m_dataInput, &m_setHanko, &m_atlas, &m_calc,  &m_totalHanko,
+            &m_rankData,  &m_calExec,  &m_data,  &m_chizu, &m_map};
 }
 
 void frmMain::showReloadedItem()
@@ -258,6 +262,11 @@ void frmMain::cmdMap_Click()
 void frmMain::cmdSumUp_Click()
 {
     openCalc();
+}
+
+void frmMain::cmdAtlas_Click()
+{
+    open(m_atlas);
 }
 
 void frmMain::cmdExit_Click()

@@ -4,6 +4,7 @@
 #include "analysis/forms/frmCalc.h"
 #include "analysis/forms/frmRankData.h"
 #include "analysis/forms/frmTotalHanko.h"
+#include "atlas/forms/frmAtlas.h"
 #include "lingdata/forms/frmData.h"
 #include "lingdata/forms/frmDataInput.h"
 #include "mapdata/forms/frmChizu.h"
@@ -73,6 +74,7 @@ private:
     void cmdHanko_Click();
     void cmdMap_Click();
     void cmdSumUp_Click();
+    void cmdAtlas_Click();
     void cmdExit_Click();
 
     void mnuImportLocalities_Click();
@@ -99,6 +101,7 @@ private:
     frmCalExec m_calExec;
     frmRankData m_rankData;
     frmTotalHanko m_totalHanko;
+    frmAtlas m_atlas;
     /// The form's own drawing: the preview of the map.
     DrawSurface m_preview;
     WorkKeeper* m_keeper;

@@ -13,6 +13,7 @@ namespace {
 /// For a form "step, step -> change; step -> change", as `Way` and `EveryWayOut::perform` say.
 const char* const Rows = R"(
 frmMain: cmdRegMap -> [frmChizu]; cmdInputData -> [frmDataInput]; cmdData -> [frmData]; cmdMap -> [frmMap]
+frmMain: cmdAtlas -> [frmAtlas]
 frmMain: cmdHanko -> [frmSetHanko]; cmdSumUp -> [frmCalc]; cmdSettingPrinter -> <fraSetMergin>
 frmMain: (no file), mnuImportLocalities -> Import Localities; (no file), mnuImportLines -> Import Lines
 frmMain: (no file), mnuImportPlaceNames -> Import Place Names; (no file), mnuImportPolygons -> Import Polygon

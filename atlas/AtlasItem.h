@@ -1,0 +1,37 @@
+#pragma once
+
+#include "mapdata/Folders.h"
+
+#include <QStringList>
+
+/// What the list of items tells of an item.
+struct AtlasItem
+{
+    /// Path of the program.
+    QString path;
+    QString caption;
+    /// Its distinct word forms, in order of first appearance.
+    QStringList wordForms;
+    /// How many localities it has, and how many of them have a word form.
+    int localities = 0;
+    int answered = 0;
+    bool hasSymbols = false;
+    /// Why the item cannot be read; empty where it can.
+    QString trouble;
+
+    /// Name of its file, without its ending.
+    QString name() const;
+};
+
+/// Paths of the items of the current map, in the order of their names; none where the map has no folder of
+/// items.
+QStringList atlasItemPaths(const Folders& folders);
+
+/// Reads the item at `path` for the list. An item that cannot be read has its reason in it.
+AtlasItem readAtlasItem(const Folders& folders, const QString& path);
+
+/// The path of the symbol file that belongs to the item at `itemPath`: the one of its name.
+QString symbolPathOf(const QString& itemPath);
+
+/// Whether `text`, without regard to letter case, stands in the item's caption, name or a word form.
+bool contains(const AtlasItem& item, const QString& text);

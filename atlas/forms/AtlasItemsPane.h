@@ -1,0 +1,21 @@
+#pragma once
+
+#include <QWidget>
+
+class AtlasDocument;
+class AtlasSelection;
+struct VarnModule;
+
+/// The list of the map's items, with a filter.
+class AtlasItemsPane : public QWidget
+{
+    Q_OBJECT
+
+public:
+    AtlasItemsPane(VarnModule& varn, AtlasDocument& document, AtlasSelection& selection);
+
+private:
+    VarnModule& m_varn;
+    AtlasDocument& m_document;
+    AtlasSelection& m_selection;
+};

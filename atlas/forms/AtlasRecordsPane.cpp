@@ -1,0 +1,9 @@
+#include "atlas/forms/AtlasRecordsPane.h"
+
+#include "atlas/AtlasDocument.h"
+#include "atlas/AtlasSelection.h"
+#include "shell/VarnModule.h"
+
+AtlasRecordsPane::AtlasRecordsPane(VarnModule& varn, AtlasDocument& document, AtlasSelection& selection)
+    : m_varn(varn), m_document(document), m_selection(selection)
+{}
