@@ -6,6 +6,7 @@
 #include <QGuiApplication>
 #include <QLoggingCategory>
 
+#include <csignal>
 #include <cstdio>
 #include <new>
 #include <stdexcept>
@@ -13,14 +14,31 @@
 
 namespace {
 
-enum ExitCode { Done = 0, Failed = 1, WrongUsage = 2 };
+enum ExitCode { Done = 0, Failed = 1, WrongUsage = 2, StoppedBySignal = 128 };
 
-/// Tells on stderr what goes on, and on stdout what came of it.
+/// The signal that asks the program to end; 0 for none.
+volatile std::sig_atomic_t endingSignal = 0;
+
+void noteSignal(int signal)
+{
+    endingSignal = signal;
+    std::signal(signal, SIG_DFL); // asked again, it ends at once
+}
+
+/// Ends the command between two pages, so that nothing half made is left.
+struct Stopped
+{
+};
+
+/// Tells on stderr what goes on, and on stdout what came of it. Raises `Stopped` once a signal came.
 class StderrListener : public PlotListener
 {
 public:
     void page(int page, int pages, const QString& name) override
     {
+        if (endingSignal != 0) {
+            throw Stopped();
+        }
         if (isatty(STDERR_FILENO) != 0) {
             std::fprintf(stderr, "\r\033[K%d/%d %s%s", page, pages, qPrintable(name),
                          page == pages ? "\n" : "");
@@ -60,6 +78,9 @@ int run(const QStringList& arguments)
     } catch (const UsageError& error) {
         std::fprintf(stderr, "varnplot: %s\n%s", error.what(), qPrintable(plotUsage()));
         return WrongUsage;
+    } catch (const Stopped&) {
+        std::fputs("\nvarnplot: stopped; nothing was written.\n", stderr);
+        return StoppedBySignal + endingSignal;
     } catch (const RunTimeError& error) {
         return failed(error);
     } catch (const std::bad_alloc&) {
@@ -77,5 +98,7 @@ int main(int argc, char* argv[])
     // The toolkit's remarks on its surroundings would stand among the errors of the maps.
     QLoggingCategory::setFilterRules(QStringLiteral("default.warning=false"));
     const QGuiApplication application(argc, argv);
+    std::signal(SIGINT, noteSignal);
+    std::signal(SIGTERM, noteSignal);
     return run(QGuiApplication::arguments().mid(1));
 }

@@ -5,6 +5,8 @@
 #include <QDir>
 #include <QProcess>
 
+#include <csignal>
+
 namespace {
 
 struct Finished
@@ -89,4 +91,33 @@ TEST_F(ImportProcess, AnErrorIsToldAndLeavesNothingBehind)
     }
     EXPECT_EQ(run(QStringLiteral("import --map New --source wide.csv --use words")).exitCode, 2);
     EXPECT_EQ(maps(), QStringList(QStringLiteral("Test")));
+}
+
+TEST_F(ImportProcess, AStoppedImportLeavesNothingBehind)
+{
+    QByteArray table = "id,name,longitude,latitude";
+    for (int item = 1; item <= 2000; ++item) {
+        table += ",item " + QByteArray::number(item);
+    }
+    for (int locality = 1; locality <= 4; ++locality) {
+        const QByteArray number = QByteArray::number(locality);
+        table += "\n" + number + ",at " + number + "," + number + "," + number +
+                 QByteArray(",word").repeated(2000);
+    }
+    write("large.csv", table);
+    const QStringList before = maps();
+    QProcess process;
+    process.start(QStringLiteral(VARNPLOT),
+                  {QStringLiteral("import"), QStringLiteral("--source"),
+                   drive.hostPath(QStringLiteral("large.csv")), QStringLiteral("--base-map"),
+                   drive.hostPath(QStringLiteral("coast.geojson")), QStringLiteral("--map"),
+                   QStringLiteral("New"), QStringLiteral("--installation"),
+                   drive.hostPath(QStringLiteral("Varn62E/Varn"))});
+    while (maps() == before && !process.waitForFinished(1)) {
+    }
+    process.terminate();
+    EXPECT_TRUE(process.waitForFinished());
+    EXPECT_EQ(process.exitStatus(), QProcess::NormalExit);
+    EXPECT_EQ(process.exitCode(), 128 + SIGTERM) << process.readAllStandardError().toStdString();
+    EXPECT_EQ(maps(), before);
 }
