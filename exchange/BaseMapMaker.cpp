@@ -97,14 +97,16 @@ Look lookOf(BaseLineKind kind)
 {
     constexpr Look Black{0, 0};
     constexpr Look Blue{1, 0};
+    constexpr Look LightBlue{9, 0};
     constexpr Look GreyDashDot{8, 3};
 
     switch (kind) {
     case BaseLineKind::Border:
         return GreyDashDot;
     case BaseLineKind::River:
-    case BaseLineKind::Lake:
         return Blue;
+    case BaseLineKind::Lake:
+        return LightBlue;
     default:
         return Black;
     }

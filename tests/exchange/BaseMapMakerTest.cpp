@@ -67,7 +67,7 @@ TEST(BaseMapMaker, KindsAreToldByNamesAndOutlinesAreLines)
         int color;
         int style;
     };
-    const Row rows[] = {{0, 0, 0}, {1, 0, 0}, {2, 8, 3}, {3, 1, 0}, {4, 1, 0}};
+    const Row rows[] = {{0, 0, 0}, {1, 0, 0}, {2, 8, 3}, {3, 1, 0}, {4, 9, 0}};
     ASSERT_EQ(lines.NLine, 5);
     for (int i = 1; i <= lines.NLine; ++i) {
         const Row& row = rows[lines.LineKind(i)];
