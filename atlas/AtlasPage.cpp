@@ -1,9 +1,11 @@
 #include "atlas/AtlasPage.h"
 
 #include "atlas/AtlasItem.h"
+#include "atlas/ItemKey.h"
 #include "lingdata/ItemLoader.h"
 #include "lingdata/KindList.h"
 #include "lingdata/LinguisticFile.h"
+#include "lingdata/LocalityMismatch.h"
 #include "platform/FileName.h"
 #include "platform/WholeFile.h"
 #include "symbols/SymbolFile.h"
@@ -36,6 +38,17 @@ void listWords(ItemAnswers& item)
     }
 }
 
+void readWords(const Folders& folders, AtlasPage& page)
+{
+    try {
+        static_cast<ItemAnswers&>(page.item) = readItemAnswers(folders, page.item.ItemPath);
+        renewKinds(page);
+    } catch (const RunTimeError& error) {
+        page.trouble = error.message();
+    }
+    page.savedWords.keep(localityWords(page.item));
+}
+
 void readSymbols(const Folders& folders, AtlasPage& page)
 {
     const QString path = symbolPathOf(page.item.ItemPath);
@@ -50,6 +63,11 @@ void readSymbols(const Folders& folders, AtlasPage& page)
     } catch (const RunTimeError& error) {
         page.symbolTrouble = error.message();
     }
+}
+
+bool hasKinds(const AtlasPage& page)
+{
+    return page.item.NKind > 0 || page.item.WordTotal == 0;
 }
 
 void saveWords(const Folders& folders, AtlasPage& page)
@@ -96,6 +114,10 @@ LocalityWords localityWords(const ItemAnswers& item)
 
 void setLocalityWords(ItemAnswers& item, int i, const QStringList& words)
 {
+    if (i < 1 || i > item.NLocate) {
+        throw RunTimeError(ErrorNumber::SubscriptOutOfRange,
+                           QStringLiteral("%1 is not in 1 to %2.").arg(i).arg(item.NLocate));
+    }
     item.WordData.require(i, static_cast<int>(qMax(qsizetype(1), words.size())));
     item.WordCount(i) = static_cast<qint16>(words.size());
     for (int j = 1; j <= item.WordData.last<1>(); ++j) {
@@ -118,14 +140,32 @@ AtlasPage readAtlasPage(const Folders& folders, const QString& itemPath)
 {
     AtlasPage page;
     page.item.ItemPath = itemPath;
-    noteItemFile(folders, page);
-    static_cast<ItemAnswers&>(page.item) = readItemAnswers(folders, itemPath);
     page.item.ItemFileName = fileNameOf(itemPath);
     page.item.KindsPath = kindsFilePath(folders, itemPath);
-    page.savedWords.keep(localityWords(page.item));
-    renewKinds(page);
+    noteItemFile(folders, page);
+    readWords(folders, page);
     readSymbols(folders, page);
     return page;
+}
+
+QStringList warningsOf(const AtlasPage& page, int mapLocalities)
+{
+    QStringList warnings;
+    if (!page.trouble.isEmpty()) {
+        warnings << QStringLiteral("The item cannot be read. ") + page.trouble;
+    } else {
+        warnings << localityMismatch(page.item.NLocate, mapLocalities);
+    }
+    if (!hasKinds(page)) {
+        warnings << QStringLiteral("The item has more than %1 kinds of word forms; its kinds are not listed.")
+                        .arg(WordKinds().KindWord.last());
+    }
+    if (!page.symbolTrouble.isEmpty()) {
+        warnings << QStringLiteral("The symbol file cannot be read and is left as it is. ") +
+                        page.symbolTrouble;
+    }
+    warnings.removeAll(QString());
+    return warnings;
 }
 
 void saveAtlasPage(const Folders& folders, AtlasPage& page)
@@ -148,4 +188,21 @@ QStringList filesChanged(const Folders& folders, const AtlasPage& page)
         changed << page.symbols.SymbolFileName;
     }
     return changed;
+}
+
+bool hasOwnSymbols(const AtlasPage& page)
+{
+    return itemKey(page.symbols.SymbolFilePath) == itemKey(symbolPathOf(page.item.ItemPath));
+}
+
+void keepAgainstFiles(const Folders& folders, AtlasPage& page)
+{
+    if (stampOf(folders, page.item.ItemPath) != page.itemFile) {
+        page.savedWords.forget();
+        noteItemFile(folders, page);
+    }
+    if (stampOf(folders, page.symbols.SymbolFilePath) != page.symbolFile) {
+        page.symbols.SavedRecords.forget();
+        noteSymbolFile(folders, page);
+    }
 }
