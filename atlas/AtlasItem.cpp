@@ -6,17 +6,33 @@
 #include "symbols/SymbolFile.h"
 
 #include <QDir>
+#include <QFileInfo>
 #include <QSet>
 
 #include <algorithm>
 
 namespace {
 
+bool stands(const QString& text, const QString& where)
+{
+    return where.contains(text, Qt::CaseInsensitive);
+}
+
+/// Whether the item is found without its word forms.
+bool isNamed(const AtlasItem& item, const QString& text)
+{
+    return stands(text, item.caption) || stands(text, item.name());
+}
+
+} // namespace
+
 void describe(const ItemAnswers& answers, AtlasItem& item)
 {
     QSet<QString> seen;
     item.caption = answers.Hanrei;
     item.localities = answers.NLocate;
+    item.answered = 0;
+    item.wordForms.clear();
     for (int i = 1; i <= answers.NLocate; ++i) {
         item.answered += answers.WordCount(i) > 0 ? 1 : 0;
         for (int j = 1; j <= answers.WordCount(i); ++j) {
@@ -29,7 +45,13 @@ void describe(const ItemAnswers& answers, AtlasItem& item)
     }
 }
 
-} // namespace
+QByteArray fileMark(const Folders& folders, const QString& path)
+{
+    const QFileInfo file(folders.Drive.hostPath(path));
+    return file.exists() ? QByteArray::number(file.size()) + ' ' +
+                               QByteArray::number(file.lastModified().toMSecsSinceEpoch())
+                         : QByteArray();
+}
 
 QString AtlasItem::name() const
 {
@@ -53,6 +75,9 @@ AtlasItem readAtlasItem(const Folders& folders, const QString& path)
     item.hasSymbols = fileExists(folders.Drive, symbolPathOf(path));
     try {
         describe(readItemAnswers(folders, path), item);
+        if (item.hasSymbols) {
+            readSequentialFile(folders.Drive, symbolPathOf(path), readSymbolSet);
+        }
     } catch (const RunTimeError& error) {
         item.trouble = error.message();
     }
@@ -66,6 +91,11 @@ QString symbolPathOf(const QString& itemPath)
 
 bool contains(const AtlasItem& item, const QString& text)
 {
-    const auto holds = [&](const QString& where) { return where.contains(text, Qt::CaseInsensitive); };
-    return holds(item.caption) || holds(item.name()) || std::ranges::any_of(item.wordForms, holds);
+    const auto holds = [&](const QString& where) { return stands(text, where); };
+    return isNamed(item, text) || std::ranges::any_of(item.wordForms, holds);
+}
+
+QStringList wordFormsWith(const AtlasItem& item, const QString& text)
+{
+    return isNamed(item, text) ? QStringList() : item.wordForms.filter(text, Qt::CaseInsensitive);
 }

@@ -2,7 +2,10 @@
 
 #include "mapdata/Folders.h"
 
+#include <QByteArray>
 #include <QStringList>
+
+struct ItemAnswers;
 
 /// What the list of items tells of an item.
 struct AtlasItem
@@ -16,7 +19,7 @@ struct AtlasItem
     int localities = 0;
     int answered = 0;
     bool hasSymbols = false;
-    /// Why the item cannot be read; empty where it can.
+    /// Why the item, or its symbol file, cannot be read; empty where they can.
     QString trouble;
 
     /// Name of its file, without its ending.
@@ -30,8 +33,16 @@ QStringList atlasItemPaths(const Folders& folders);
 /// Reads the item at `path` for the list. An item that cannot be read has its reason in it.
 AtlasItem readAtlasItem(const Folders& folders, const QString& path);
 
+/// Tells in `item` what its word forms are.
+void describe(const ItemAnswers& answers, AtlasItem& item);
+
+/// A mark of what the file at `path` holds, by its size and time; empty where there is no file.
+QByteArray fileMark(const Folders& folders, const QString& path);
+
 /// The path of the symbol file that belongs to the item at `itemPath`: the one of its name.
 QString symbolPathOf(const QString& itemPath);
 
 /// Whether `text`, without regard to letter case, stands in the item's caption, name or a word form.
 bool contains(const AtlasItem& item, const QString& text);
+/// The word forms in which `text` stands, where neither the caption nor the name has it.
+QStringList wordFormsWith(const AtlasItem& item, const QString& text);

@@ -11,18 +11,8 @@
 #include "symbols/SymbolFile.h"
 
 #include <QFile>
-#include <QFileInfo>
 
 namespace {
-
-/// A mark of the file's contents by its size and time; empty where there is no file.
-QByteArray stampOf(const Folders& folders, const QString& path)
-{
-    const QFileInfo file(folders.Drive.hostPath(path));
-    return file.exists() ? QByteArray::number(file.size()) + ' ' +
-                               QByteArray::number(file.lastModified().toMSecsSinceEpoch())
-                         : QByteArray();
-}
 
 /// Numbers the word forms of all localities anew.
 void listWords(ItemAnswers& item)
@@ -93,12 +83,12 @@ void saveSymbols(const Folders& folders, AtlasPage& page)
 
 void noteItemFile(const Folders& folders, AtlasPage& page)
 {
-    page.itemFile = stampOf(folders, page.item.ItemPath);
+    page.itemFile = fileMark(folders, page.item.ItemPath);
 }
 
 void noteSymbolFile(const Folders& folders, AtlasPage& page)
 {
-    page.symbolFile = stampOf(folders, page.symbols.SymbolFilePath);
+    page.symbolFile = fileMark(folders, page.symbols.SymbolFilePath);
 }
 
 LocalityWords localityWords(const ItemAnswers& item)
@@ -181,10 +171,10 @@ void saveAtlasPage(const Folders& folders, AtlasPage& page)
 QStringList filesChanged(const Folders& folders, const AtlasPage& page)
 {
     QStringList changed;
-    if (stampOf(folders, page.item.ItemPath) != page.itemFile) {
+    if (fileMark(folders, page.item.ItemPath) != page.itemFile) {
         changed << page.item.ItemFileName;
     }
-    if (stampOf(folders, page.symbols.SymbolFilePath) != page.symbolFile) {
+    if (fileMark(folders, page.symbols.SymbolFilePath) != page.symbolFile) {
         changed << page.symbols.SymbolFileName;
     }
     return changed;
@@ -197,11 +187,11 @@ bool hasOwnSymbols(const AtlasPage& page)
 
 void keepAgainstFiles(const Folders& folders, AtlasPage& page)
 {
-    if (stampOf(folders, page.item.ItemPath) != page.itemFile) {
+    if (fileMark(folders, page.item.ItemPath) != page.itemFile) {
         page.savedWords.forget();
         noteItemFile(folders, page);
     }
-    if (stampOf(folders, page.symbols.SymbolFilePath) != page.symbolFile) {
+    if (fileMark(folders, page.symbols.SymbolFilePath) != page.symbolFile) {
         page.symbols.SavedRecords.forget();
         noteSymbolFile(folders, page);
     }
