@@ -18,8 +18,8 @@
 AtlasItemsPane::AtlasItemsPane(VarnModule& varn, AtlasDocument& document, AtlasSelection&)
     : m_varn(varn), m_document(document), m_table(varn), m_filter(new AtlasItemFilter(m_table, this)),
       m_filterBox(new QLineEdit), m_list(new QListView), m_state(new QLabel),
-      m_next(turning(QStringLiteral("Next Item"), Qt::Key_PageDown, 1)),
-      m_previous(turning(QStringLiteral("Previous Item"), Qt::Key_PageUp, -1))
+      m_next(turning("mnuNextItem", QStringLiteral("Next Item"), Qt::Key_PageDown, 1)),
+      m_previous(turning("mnuPreviousItem", QStringLiteral("Previous Item"), Qt::Key_PageUp, -1))
 {
     addControls();
     connectDocument();
@@ -54,9 +54,10 @@ void AtlasItemsPane::addControls()
     layout->addWidget(m_state);
 }
 
-QAction* AtlasItemsPane::turning(const QString& text, Qt::Key key, int rows)
+QAction* AtlasItemsPane::turning(const char* name, const QString& text, Qt::Key key, int rows)
 {
     auto* action = new QAction(text, this);
+    action->setObjectName(QLatin1String(name));
     action->setShortcut(key);
     action->setShortcutContext(Qt::WindowShortcut);
     addAction(action);

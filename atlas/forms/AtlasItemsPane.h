@@ -38,7 +38,7 @@ protected:
 private:
     void addControls();
     void connectDocument();
-    QAction* turning(const QString& text, Qt::Key key, int rows);
+    QAction* turning(const char* name, const QString& text, Qt::Key key, int rows);
     void filter(const QString& text);
     void readSome();
     void turnBy(int rows);

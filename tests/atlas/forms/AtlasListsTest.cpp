@@ -81,7 +81,7 @@ protected:
         const QModelIndex cell = localities().model()->index(row, AtlasLocalityTable::FirstWord + word);
         localities().setCurrentIndex(cell);
         localities().edit(cell);
-        auto& editor = *localities().viewport()->findChild<QLineEdit*>();
+        auto& editor = dynamic_cast<QLineEdit&>(*localities().indexWidget(cell));
         editor.setText(text);
         press(editor, Qt::Key_Return);
         QApplication::processEvents();

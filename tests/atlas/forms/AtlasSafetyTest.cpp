@@ -181,7 +181,7 @@ TEST_F(AtlasSafety, WhatTheOtherFormsSaveIsSeenAtOnceAndTheOtherWayRound)
 
     document().setWords({{2, {"edited"}}}, "Words");
     form<frmAtlas>().save();
-    program.load("mnuDataInput", "rain.dbs");
+    program.load("mnuInputWord", "rain.dbs");
     EXPECT_EQ(program.varn.WordData(2, 1), "edited");
     EXPECT_EQ(program.dialogs.errors, std::vector<Shown>());
 }
