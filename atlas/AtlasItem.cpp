@@ -73,15 +73,22 @@ AtlasItem readAtlasItem(const Folders& folders, const QString& path)
     AtlasItem item;
     item.path = path;
     item.hasSymbols = fileExists(folders.Drive, symbolPathOf(path));
+    QString what = QStringLiteral("The item");
     try {
         describe(readItemAnswers(folders, path), item);
         if (item.hasSymbols) {
+            what = QStringLiteral("The symbol file");
             readSequentialFile(folders.Drive, symbolPathOf(path), readSymbolSet);
         }
     } catch (const RunTimeError& error) {
-        item.trouble = error.message();
+        item.trouble = unreadable(what, error);
     }
     return item;
+}
+
+QString unreadable(const QString& what, const RunTimeError& error)
+{
+    return QStringLiteral("%1 cannot be read: %2.\n%3").arg(what, error.text(), error.where()).trimmed();
 }
 
 QString symbolPathOf(const QString& itemPath)

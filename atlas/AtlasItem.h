@@ -5,6 +5,7 @@
 #include <QByteArray>
 #include <QStringList>
 
+class RunTimeError;
 struct ItemAnswers;
 
 /// What the list of items tells of an item.
@@ -19,7 +20,7 @@ struct AtlasItem
     int localities = 0;
     int answered = 0;
     bool hasSymbols = false;
-    /// Why the item, or its symbol file, cannot be read; empty where they can.
+    /// Why the item, or its symbol file, cannot be read, as `unreadable` says it; empty where they can.
     QString trouble;
 
     /// Name of its file, without its ending.
@@ -32,6 +33,9 @@ QStringList atlasItemPaths(const Folders& folders);
 
 /// Reads the item at `path` for the list. An item that cannot be read has its reason in it.
 AtlasItem readAtlasItem(const Folders& folders, const QString& path);
+
+/// That `what` cannot be read and why: a line, and the place in the file in further ones.
+QString unreadable(const QString& what, const RunTimeError& error);
 
 /// Tells in `item` what its word forms are.
 void describe(const ItemAnswers& answers, AtlasItem& item);

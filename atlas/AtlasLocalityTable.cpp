@@ -32,20 +32,29 @@ AtlasLocalityTable::AtlasLocalityTable(const VarnModule& varn, AtlasDocument& do
     : QAbstractTableModel(parent), m_varn(varn), m_document(document)
 {
     connect(&document, &AtlasDocument::pageTurned, this, &AtlasLocalityTable::showPage);
-    connect(&document, &AtlasDocument::baseMapChanged, this, &AtlasLocalityTable::showPage);
+    connect(&document, &AtlasDocument::baseMapChanged, this, &AtlasLocalityTable::showMap);
     connect(&document, &AtlasDocument::wordsChanged, this, &AtlasLocalityTable::showWords);
     connect(&document, &AtlasDocument::symbolsChanged, this, &AtlasLocalityTable::showWords);
 }
 
 void AtlasLocalityTable::showPage()
 {
-    const int rows = std::max(m_varn.NLocality, m_document.page().item.NLocate);
-    if (rows != m_rows) {
-        beginResetModel();
-        m_rows = rows;
-        endResetModel();
+    if (rowsNow() != m_rows) {
+        showMap();
     }
     showWords();
+}
+
+void AtlasLocalityTable::showMap()
+{
+    beginResetModel();
+    m_rows = rowsNow();
+    endResetModel();
+}
+
+int AtlasLocalityTable::rowsNow() const
+{
+    return std::max(m_varn.NLocality, m_document.page().item.NLocate);
 }
 
 /// The rows and columns that stay show other words, so that a view of them stays where it is.
@@ -53,7 +62,7 @@ void AtlasLocalityTable::showWords()
 {
     setWordColumns(std::min(MostWords, mostWords(m_document.page().item) + 1));
     if (m_rows > 0) {
-        Q_EMIT dataChanged(index(0, 0), index(m_rows - 1, columnCount() - 1));
+        Q_EMIT dataChanged(index(0, FirstWord), index(m_rows - 1, columnCount() - 1));
     }
 }
 

@@ -28,8 +28,10 @@ public:
     Qt::ItemFlags flags(const QModelIndex& index) const override;
 
 private:
+    void showMap();
     void showPage();
     void showWords();
+    int rowsNow() const;
     void setWordColumns(int count);
     QVariant word(int locality, int j, int role) const;
     QVariant marks(const QString& word) const;

@@ -34,7 +34,7 @@ void readWords(const Folders& folders, AtlasPage& page)
         static_cast<ItemAnswers&>(page.item) = readItemAnswers(folders, page.item.ItemPath);
         renewKinds(page);
     } catch (const RunTimeError& error) {
-        page.trouble = error.message();
+        page.trouble = unreadable(QStringLiteral("The item"), error);
     }
     page.savedWords.keep(localityWords(page.item));
 }
@@ -51,7 +51,7 @@ void readSymbols(const Folders& folders, AtlasPage& page)
     try {
         LoadHankoData(folders.Drive, path, page.symbols);
     } catch (const RunTimeError& error) {
-        page.symbolTrouble = error.message();
+        page.symbolTrouble = unreadable(QStringLiteral("The symbol file"), error);
     }
 }
 
@@ -142,7 +142,7 @@ QStringList warningsOf(const AtlasPage& page, int mapLocalities)
 {
     QStringList warnings;
     if (!page.trouble.isEmpty()) {
-        warnings << QStringLiteral("The item cannot be read. ") + page.trouble;
+        warnings << page.trouble;
     } else {
         warnings << localityMismatch(page.item.NLocate, mapLocalities);
     }
@@ -150,10 +150,7 @@ QStringList warningsOf(const AtlasPage& page, int mapLocalities)
         warnings << QStringLiteral("The item has more than %1 kinds of word forms; its kinds are not listed.")
                         .arg(WordKinds().KindWord.last());
     }
-    if (!page.symbolTrouble.isEmpty()) {
-        warnings << QStringLiteral("The symbol file cannot be read and is left as it is. ") +
-                        page.symbolTrouble;
-    }
+    warnings << page.symbolTrouble;
     warnings.removeAll(QString());
     return warnings;
 }

@@ -25,10 +25,11 @@ struct AtlasPage
     /// Its path is that of the file that the symbols are saved to, which may not exist yet.
     SymbolSet symbols;
     Saved<LocalityWords> savedWords;
-    /// Why the item cannot be read; empty where it can. Such a page has no word forms and is not edited.
+    /// That the item cannot be read and why; empty where it can. Such a page has no word forms and is not
+    /// edited.
     QString trouble;
-    /// Why the symbol file cannot be read; empty where it can, or where there is none. Such a set is not
-    /// edited, so that the file is left as it is.
+    /// That the symbol file cannot be read and why; empty where it can, or where there is none. Such a set is
+    /// not edited, so that the file is left as it is.
     QString symbolTrouble;
     /// What the two files held when they were read or written last.
     QByteArray itemFile;

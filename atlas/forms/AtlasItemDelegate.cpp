@@ -23,7 +23,7 @@ Note noteOf(const QModelIndex& index, const QPalette& palette)
     const QString trouble = index.data(AtlasItemTable::Trouble).toString();
     const QStringList found = index.data(AtlasItemFilter::Found).toStringList();
     if (!trouble.isEmpty()) {
-        return {QStringLiteral("Cannot be read: ") + trouble.simplified(), warningText(palette)};
+        return {trouble.simplified(), warningText(palette)};
     }
     if (!found.isEmpty()) {
         return {QStringLiteral("with ") + found.join(QStringLiteral(", ")), palette.color(QPalette::Link)};
