@@ -1,5 +1,6 @@
 #include "atlas/AtlasItem.h"
 
+#include "atlas/ItemKey.h"
 #include "lingdata/ItemLoader.h"
 #include "lingdata/LinguisticFile.h"
 #include "platform/FileName.h"
@@ -7,6 +8,7 @@
 
 #include <QDir>
 #include <QFileInfo>
+#include <QHash>
 #include <QSet>
 
 #include <algorithm>
@@ -22,6 +24,18 @@ bool stands(const QString& text, const QString& where)
 bool isNamed(const AtlasItem& item, const QString& text)
 {
     return stands(text, item.caption) || stands(text, item.name());
+}
+
+QByteArray markOf(const QFileInfo& file)
+{
+    return QByteArray::number(file.size()) + ' ' +
+           QByteArray::number(file.lastModified().toMSecsSinceEpoch());
+}
+
+QFileInfoList filesOf(const Folders& folders, const FileKind& kind)
+{
+    const QDir folder(folders.Drive.hostPath(folders.dataFolder()));
+    return folder.entryInfoList({kind.pattern()}, QDir::Files, QDir::Name);
 }
 
 } // namespace
@@ -48,9 +62,7 @@ void describe(const ItemAnswers& answers, AtlasItem& item)
 QByteArray fileMark(const Folders& folders, const QString& path)
 {
     const QFileInfo file(folders.Drive.hostPath(path));
-    return file.exists() ? QByteArray::number(file.size()) + ' ' +
-                               QByteArray::number(file.lastModified().toMSecsSinceEpoch())
-                         : QByteArray();
+    return file.exists() ? markOf(file) : QByteArray();
 }
 
 QString AtlasItem::name() const
@@ -60,12 +72,25 @@ QString AtlasItem::name() const
 
 QStringList atlasItemPaths(const Folders& folders)
 {
-    const QDir folder(folders.Drive.hostPath(folders.dataFolder()));
     QStringList paths;
-    for (const QString& file : folder.entryList({ItemFiles.pattern()}, QDir::Files, QDir::Name)) {
-        paths << folders.dataFolder() + QLatin1Char('\\') + file;
+    for (const QFileInfo& file : filesOf(folders, ItemFiles)) {
+        paths << folders.dataFolder() + QLatin1Char('\\') + file.fileName();
     }
     return paths;
+}
+
+std::vector<std::pair<QString, QByteArray>> atlasItemMarks(const Folders& folders)
+{
+    QHash<QString, QByteArray> symbols;
+    for (const QFileInfo& file : filesOf(folders, SymbolFiles)) {
+        symbols.insert(itemKey(file.fileName()), markOf(file));
+    }
+    std::vector<std::pair<QString, QByteArray>> marks;
+    for (const QFileInfo& file : filesOf(folders, ItemFiles)) {
+        const QString path = folders.dataFolder() + QLatin1Char('\\') + file.fileName();
+        marks.emplace_back(path, markOf(file) + '/' + symbols.value(itemKey(fileNameOf(symbolPathOf(path)))));
+    }
+    return marks;
 }
 
 AtlasItem readAtlasItem(const Folders& folders, const QString& path)

@@ -5,6 +5,9 @@
 #include <QByteArray>
 #include <QStringList>
 
+#include <utility>
+#include <vector>
+
 class RunTimeError;
 struct ItemAnswers;
 
@@ -30,6 +33,10 @@ struct AtlasItem
 /// Paths of the items of the current map, in the order of their names; none where the map has no folder of
 /// items.
 QStringList atlasItemPaths(const Folders& folders);
+
+/// The same items with marks of what their files hold: `fileMark` of the item, a slash, and that of the
+/// symbol file that belongs to it. The folder is read once.
+std::vector<std::pair<QString, QByteArray>> atlasItemMarks(const Folders& folders);
 
 /// Reads the item at `path` for the list. An item that cannot be read has its reason in it.
 AtlasItem readAtlasItem(const Folders& folders, const QString& path);

@@ -31,23 +31,16 @@ AtlasItemTable::AtlasItemTable(const Folders& folders, QObject* parent)
     : QAbstractListModel(parent), m_folders(folders)
 {}
 
-QByteArray AtlasItemTable::markOf(const QString& path) const
-{
-    return fileMark(m_folders, path) + '/' + fileMark(m_folders, symbolPathOf(path));
-}
-
-/// Rows for `paths`: those that are known as they are.
-std::vector<AtlasItemTable::Row> AtlasItemTable::rowsOf(const QStringList& paths)
+/// Rows for the items that are there now: those that are known as they are.
+std::vector<AtlasItemTable::Row> AtlasItemTable::rowsNow()
 {
     std::vector<Row> rows;
-    for (const QString& path : paths) {
+    for (auto& [path, mark] : atlasItemMarks(m_folders)) {
         const int known = rowOf(path);
-        Row row;
-        if (known >= 0) {
-            row = std::move(m_rows[static_cast<std::size_t>(known)]);
-        }
+        Row row = known >= 0 ? m_rows[static_cast<std::size_t>(known)] : Row();
         row.item.path = path;
-        row.isRead = row.isRead && (row.isUnsaved || row.mark == markOf(path));
+        row.isRead = row.isRead && (row.isUnsaved || row.mark == mark);
+        row.mark = mark;
         rows.push_back(std::move(row));
     }
     return rows;
@@ -55,21 +48,25 @@ std::vector<AtlasItemTable::Row> AtlasItemTable::rowsOf(const QStringList& paths
 
 void AtlasItemTable::refresh()
 {
-    const QStringList paths = atlasItemPaths(m_folders);
-    const bool isSame =
-        std::ranges::equal(paths, m_rows, {}, {}, [](const Row& row) { return row.item.path; });
-    if (isSame) {
-        m_rows = rowsOf(paths);
+    std::vector<Row> rows = rowsNow();
+    const auto pathOf = [](const Row& row) { return row.item.path; };
+    if (std::ranges::equal(rows, m_rows, {}, pathOf, pathOf)) {
+        m_rows = std::move(rows);
     } else {
-        beginResetModel();
-        m_rows = rowsOf(paths);
-        m_rowOf.clear();
-        for (const QString& path : paths) {
-            m_rowOf.insert(itemKey(path), static_cast<int>(m_rowOf.size()));
-        }
-        endResetModel();
+        replaceRows(std::move(rows));
     }
     m_next = 0;
+}
+
+void AtlasItemTable::replaceRows(std::vector<Row> rows)
+{
+    beginResetModel();
+    m_rows = std::move(rows);
+    m_rowOf.clear();
+    for (const Row& row : m_rows) {
+        m_rowOf.insert(itemKey(row.item.path), static_cast<int>(m_rowOf.size()));
+    }
+    endResetModel();
 }
 
 bool AtlasItemTable::readSome(int milliseconds)
@@ -87,7 +84,6 @@ bool AtlasItemTable::readSome(int milliseconds)
 
 void AtlasItemTable::read(Row& row) const
 {
-    row.mark = markOf(row.item.path);
     row.item = readAtlasItem(m_folders, row.item.path);
     row.isRead = true;
 }
@@ -102,7 +98,7 @@ void AtlasItemTable::showPage(const AtlasPage& page)
     describe(page.item, shown.item);
     shown.item.hasSymbols = !page.symbolFile.isEmpty();
     shown.item.trouble = page.trouble.isEmpty() ? page.symbolTrouble : page.trouble;
-    shown.mark = markOf(shown.item.path);
+    shown.mark = page.itemFile + '/' + page.symbolFile;
     shown.isRead = true;
     changed(static_cast<std::size_t>(row));
 }

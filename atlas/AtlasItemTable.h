@@ -53,14 +53,14 @@ private:
     struct Row
     {
         AtlasItem item;
-        /// What the files held when they were read.
+        /// What the files held when they were listed or read last.
         QByteArray mark;
         bool isRead = false;
         bool isUnsaved = false;
     };
 
-    QByteArray markOf(const QString& path) const;
-    std::vector<Row> rowsOf(const QStringList& paths);
+    std::vector<Row> rowsNow();
+    void replaceRows(std::vector<Row> rows);
     void read(Row& row) const;
     QString wholeText(const Row& row) const;
     void changed(std::size_t row);
