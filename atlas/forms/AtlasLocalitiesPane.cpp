@@ -17,15 +17,18 @@
 
 AtlasLocalitiesPane::AtlasLocalitiesPane(VarnModule& varn, AtlasDocument& document, AtlasSelection& selection)
     : m_varn(varn), m_document(document), m_selection(selection), m_table(varn, document),
-      m_filter(new AtlasLocalityFilter(this)), m_filterBox(new QLineEdit),
-      m_onlySelected(new QCheckBox(QStringLiteral("Only &selected"))), m_list(new QTableView),
-      m_state(new QLabel)
+      m_filter(new AtlasLocalityFilter(this)),
+      m_delegate(new AtlasLocalityDelegate(varn, document, *new WordDelegate(varn, this), this)),
+      m_filterBox(new QLineEdit), m_onlySelected(new QCheckBox(QStringLiteral("Only &selected"))),
+      m_list(new QTableView), m_state(new QLabel)
 {
     addControls();
     setUpList();
     connectSelection();
     connect(&document, &AtlasDocument::pageTurned, this, &AtlasLocalitiesPane::showPage);
     connect(&document, &AtlasDocument::baseMapChanged, this, &AtlasLocalitiesPane::showPage);
+    connect(&document, &AtlasDocument::wordsChanged, m_delegate, &AtlasLocalityDelegate::showKinds);
+    connect(m_delegate, &AtlasLocalityDelegate::left, this, &AtlasLocalitiesPane::editBelow);
     connect(m_filterBox, &QLineEdit::textChanged, this, [this](const QString& text) {
         const QScopedValueRollback following(m_isFollowing, true);
         m_filter->setText(text);
@@ -61,7 +64,7 @@ void AtlasLocalitiesPane::setUpList()
 {
     m_filter->setSourceModel(&m_table);
     m_list->setModel(m_filter);
-    m_list->setItemDelegate(new AtlasLocalityDelegate(m_varn, m_document, this));
+    m_list->setItemDelegate(m_delegate);
     m_list->setSelectionBehavior(QAbstractItemView::SelectRows);
     m_list->setSelectionMode(QAbstractItemView::ExtendedSelection);
     m_list->setEditTriggers(QAbstractItemView::DoubleClicked | QAbstractItemView::EditKeyPressed |
@@ -142,6 +145,7 @@ void AtlasLocalitiesPane::showOnly()
 
 void AtlasLocalitiesPane::showPage()
 {
+    m_delegate->showKinds();
     m_list->setColumnHidden(AtlasLocalityTable::Name, m_varn.localityNames.empty());
     select();
 }
@@ -166,6 +170,17 @@ void AtlasLocalitiesPane::seek(const QModelIndex& index)
 {
     if (index.column() < AtlasLocalityTable::FirstWord) {
         Q_EMIT m_selection.localitySought(m_filter->mapToSource(index).row() + 1);
+    }
+}
+
+/// The arrow keys go on to the same word form of the next locality.
+void AtlasLocalitiesPane::editBelow(int rows)
+{
+    const QModelIndex current = m_list->currentIndex();
+    const QModelIndex next = current.siblingAtRow(current.row() + rows);
+    if (next.isValid()) {
+        m_list->setCurrentIndex(next);
+        m_list->edit(next);
     }
 }
 

@@ -5,6 +5,7 @@
 #include <QWidget>
 
 class AtlasDocument;
+class AtlasLocalityDelegate;
 class AtlasLocalityFilter;
 class AtlasSelection;
 class QCheckBox;
@@ -37,6 +38,7 @@ private:
     void showPage();
     void showState();
     void seek(const QModelIndex& index);
+    void editBelow(int rows);
     QItemSelection rowsSelected() const;
 
     VarnModule& m_varn;
@@ -44,6 +46,7 @@ private:
     AtlasSelection& m_selection;
     AtlasLocalityTable m_table;
     AtlasLocalityFilter* m_filter;
+    AtlasLocalityDelegate* m_delegate;
     QLineEdit* m_filterBox;
     QCheckBox* m_onlySelected;
     QTableView* m_list;

@@ -20,9 +20,20 @@ QVariantList marksOf(const QModelIndex& index)
 
 } // namespace
 
-AtlasLocalityDelegate::AtlasLocalityDelegate(VarnModule& varn, const AtlasDocument& document, QObject* parent)
-    : WordDelegate(varn, parent), m_varn(varn), m_document(document)
+AtlasLocalityDelegate::AtlasLocalityDelegate(VarnModule& varn, const AtlasDocument& document,
+                                             QAbstractItemDelegate& kindDelegate, QObject* parent)
+    : WordEntryDelegate(varn, kindDelegate, parent), m_varn(varn), m_document(document)
 {}
+
+void AtlasLocalityDelegate::showKinds()
+{
+    const WordKinds& kinds = m_document.page().item;
+    QStringList words;
+    for (int k = 1; k <= kinds.NKind; ++k) {
+        words << kinds.KindWord(k);
+    }
+    setKinds(words);
+}
 
 /// Symbols stand on white, as on the map, in a dark theme, too.
 void AtlasLocalityDelegate::paintSymbol(QPainter& painter, const QRect& place, int record) const
@@ -56,12 +67,12 @@ void AtlasLocalityDelegate::paint(QPainter* painter, const QStyleOptionViewItem&
         paintSymbol(*painter, {cell.rect.left() + 1, top, SymbolSide, SymbolSide}, record.toInt());
         cell.rect.adjust(SymbolSide + 2, 0, 0, 0);
     }
-    WordDelegate::paint(painter, cell, index);
+    WordEntryDelegate::paint(painter, cell, index);
 }
 
 QSize AtlasLocalityDelegate::sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const
 {
-    const QSize word = WordDelegate::sizeHint(option, index);
+    const QSize word = WordEntryDelegate::sizeHint(option, index);
     const auto symbols = static_cast<int>(marksOf(index).size());
     return {word.width() + symbols * (SymbolSide + 2), std::max(word.height(), SymbolSide + 2)};
 }

@@ -193,6 +193,14 @@ TEST_F(AtlasLists, WordFormsAreEditedInPlaceAsSteps)
     EXPECT_EQ(cells(), QStringList({"1,,ame,uyu,", "2,,,,", "3,,uyu,,"}));
     EXPECT_FALSE(form.document().isUnsaved());
 
+    localities().setCurrentIndex(localities().model()->index(0, AtlasLocalityTable::FirstWord));
+    press(localities(), Qt::Key_U, "u");
+    press(*localities().indexWidget(localities().currentIndex()), Qt::Key_Down);
+    EXPECT_EQ(cells()[0], "1,,u,uyu,") << "typing replaces";
+    EXPECT_EQ(localities().currentIndex().row(), 1);
+    EXPECT_NE(localities().indexWidget(localities().currentIndex()), nullptr) << "an arrow key goes on below";
+    form.save();
+
     survey.write(ling("few.dbs"), "2,\"\",\"Few\",\"\"\r\n0\r\n0\r\n");
     form.document().turnTo(ling("few.dbs"));
     EXPECT_EQ(cells(), QStringList({"1,,", "2,,", "3,,"}));
