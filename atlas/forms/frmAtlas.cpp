@@ -41,14 +41,15 @@ void frmAtlas::addPanes()
 void frmAtlas::Form_Load()
 {
     m_isPrepared = true;
-    followSharedState();
+    m_document.followSharedState();
     turnToFirst();
     refresh();
 }
 
+/// A window that is not shown leaves the other forms the items and symbols that they have together.
 void frmAtlas::followSharedState()
 {
-    if (m_isPrepared) {
+    if (m_isPrepared && isVisible()) {
         m_document.followSharedState();
     }
 }

@@ -111,16 +111,19 @@ void frmAtlas::closeEvent(QCloseEvent* event)
 
 void frmAtlas::showNewState()
 {
-    VarnForm::showNewState();
+    if (m_isPrepared) {
+        m_document.followSharedState();
+    }
     if (isVisible()) {
         turnToFirst();
     }
+    refresh();
 }
 
 void frmAtlas::showItem(const QString& itemPath)
 {
     m_isPrepared = true;
-    followSharedState();
+    m_document.followSharedState();
     m_document.turnTo(itemPath);
 }
 

@@ -118,7 +118,6 @@ void frmMain::Form_Load(const QString& installation)
 
 UnsavedWork frmMain::unsavedWork()
 {
-    m_atlas.followSharedState(); // it may have the symbols that are set elsewhere
     UnsavedWork work = ::unsavedWork(m_varn, m_dataInput.unsavedItem());
     m_atlas.document().addTo(work);
     return work;

@@ -184,4 +184,13 @@ TEST_F(AtlasSafety, WhatTheOtherFormsSaveIsSeenAtOnceAndTheOtherWayRound)
     program.load("mnuInputWord", "rain.dbs");
     EXPECT_EQ(program.varn.WordData(2, 1), "edited");
     EXPECT_EQ(program.dialogs.errors, std::vector<Shown>());
+
+    EXPECT_TRUE(form<frmAtlas>().close());
+    program.load("mnuInputWord", "snow.dbs");
+    program.load("mnuHankoInput", "rain.han");
+    program.varn.HankoCaption(1) = "edited elsewhere";
+    keepWork(program);
+    EXPECT_EQ(program.varn.Hanrei + program.varn.SymbolFileName + program.varn.HankoCaption(1),
+              "Snowrain.hanedited elsewhere")
+        << "a window that is closed changes nothing";
 }
