@@ -1,29 +1,17 @@
 #include "atlas/AtlasDocument.h"
 
-#include "lingdata/ItemLoader.h"
-#include "mapdata/MapFiles.h"
+#include "atlas/ItemKey.h"
 #include "platform/Numbers.h"
 #include "shell/VarnModule.h"
 
+#include <QSet>
+
 #include <utility>
-
-namespace {
-
-QString key(const QString& itemPath)
-{
-    return itemPath.toCaseFolded();
-}
-
-/// Symbols that a form with no item loaded has, or none yet.
-bool isNothing(const SymbolSet& set)
-{
-    return set.NHanrei == 0 && set.Explain.isEmpty() && set.SymbolFileName.isEmpty();
-}
-
-} // namespace
 
 AtlasDocument::AtlasDocument(VarnModule& varn) : m_varn(varn)
 {
+    constexpr int MostSteps = 500;
+    m_steps.setUndoLimit(MostSteps);
     connect(&m_steps, &QUndoStack::indexChanged, this, &AtlasDocument::savedChanged);
 }
 
@@ -35,10 +23,10 @@ void AtlasDocument::restart()
     m_page = {};
     m_kept.clear();
     m_preview.reset();
-    m_steps.clear();
     m_legend = legendPlace();
     m_savedLegend.reset();
     m_itemReading = -1;
+    m_steps.clear();
     Q_EMIT pageTurned();
     Q_EMIT baseMapChanged();
     Q_EMIT savedChanged();
@@ -46,7 +34,18 @@ void AtlasDocument::restart()
 
 bool AtlasDocument::isShown(const QString& itemPath) const
 {
-    return hasPage() && key(itemPath) == key(m_page.item.ItemPath);
+    return hasPage() && itemKey(itemPath) == itemKey(m_page.item.ItemPath);
+}
+
+QStringList AtlasDocument::warnings() const
+{
+    return hasPage() ? warningsOf(m_page, m_varn.NLocality) : QStringList();
+}
+
+AtlasPage AtlasDocument::keptOrRead(const QString& itemPath) const
+{
+    const auto kept = m_kept.find(itemKey(itemPath));
+    return kept == m_kept.end() ? readAtlasPage(m_varn, itemPath) : kept->second.page;
 }
 
 void AtlasDocument::turnTo(const QString& itemPath)
@@ -54,35 +53,45 @@ void AtlasDocument::turnTo(const QString& itemPath)
     if (isShown(itemPath)) {
         return;
     }
-    const auto kept = m_kept.find(key(itemPath));
-    AtlasPage page = kept == m_kept.end() ? readAtlasPage(m_varn, itemPath) : kept->second;
+    const bool isFirst = !hasPage();
+    const SymbolSet shared = m_varn;
+    AtlasPage page = keptOrRead(itemPath);
     keepPage();
     show(std::move(page));
+    if (isFirst && isSymbolSetUnsaved(shared)) {
+        static_cast<SymbolSet&>(m_varn) = shared;
+        followSymbols();
+    }
 }
 
-void AtlasDocument::readAgain()
-{
-    AtlasPage page = readAtlasPage(m_varn, m_page.item.ItemPath);
-    m_steps.clear(); // they lead from what was there before
-    show(std::move(page));
-}
-
-/// A page with steps stays, too: undoing them turns back to it.
+/// A page with steps stays, too: undoing them turns back to it. So does one with the symbols of another file.
 void AtlasDocument::keepPage()
 {
-    if (!hasPage()) {
-        return;
+    if (hasPage()) {
+        KeptPage& kept = m_kept[itemKey(m_page.item.ItemPath)];
+        kept.isUnsaved = m_page.isUnsaved();
+        kept.page = std::move(m_page);
     }
-    const QString path = key(m_page.item.ItemPath);
-    if (m_page.isUnsaved() || m_steps.count() > 0) {
-        m_kept.insert_or_assign(path, std::move(m_page));
-    } else {
-        m_kept.erase(path);
+    dropNeedless();
+}
+
+void AtlasDocument::dropNeedless()
+{
+    QSet<QString> withSteps;
+    for (int i = 0; i < m_steps.count(); ++i) {
+        if (const auto* step = dynamic_cast<const PageStep*>(m_steps.command(i))) {
+            withSteps.insert(itemKey(step->itemPath()));
+        }
     }
+    std::erase_if(m_kept, [&](const auto& entry) {
+        const auto& [path, kept] = entry;
+        return !kept.isUnsaved && !withSteps.contains(path) && hasOwnSymbols(kept.page);
+    });
 }
 
 void AtlasDocument::show(AtlasPage page)
 {
+    m_kept.erase(itemKey(page.item.ItemPath));
     m_page = std::move(page);
     m_preview.reset();
     shareItem();
@@ -91,42 +100,10 @@ void AtlasDocument::show(AtlasPage page)
     Q_EMIT savedChanged();
 }
 
-/// An item that the other forms cannot show is not loaded there.
-void AtlasDocument::shareItem()
-{
-    const bool hasKinds = m_page.item.NKind > 0 || m_page.item.WordTotal == 0;
-    const int reading = m_varn.ItemReading + 1;
-    if (hasKinds) {
-        static_cast<LinguisticData&>(m_varn) = m_page.item;
-        m_varn.ItemReading = reading;
-        dataLoaded(m_varn);
-    } else {
-        dropItem(m_varn, m_varn);
-    }
-    m_itemReading = m_varn.ItemReading;
-}
-
-void AtlasDocument::shareSymbols()
-{
-    SymbolSet& shared = m_varn;
-    SymbolSet set = m_page.symbols;
-    if (m_page.symbolFile.isEmpty()) { // the other forms show no file that is not there
-        set.SymbolFileName.clear();
-        set.SymbolFilePath.clear();
-    }
-    if (shared == set && shared.SymbolFilePath == set.SymbolFilePath) {
-        return; // a form that edits them goes on
-    }
-    set.CurrentHanko = set.NHanrei;
-    set.HankoReading = shared.HankoReading + 1;
-    shared = std::move(set);
-    symbolSetLoaded(m_varn);
-}
-
 void AtlasDocument::setSymbols(const SymbolRecords& records, const QString& text, int merging)
 {
     m_preview.reset();
-    if (m_page.symbols == records) {
+    if (m_page.symbols == records || !m_page.symbolTrouble.isEmpty()) {
         Q_EMIT symbolsChanged();
         return;
     }
@@ -199,142 +176,4 @@ void AtlasDocument::putLegend(QPointF place)
     m_varn.HanreiY = toInteger(m_varn.KanjiXY(1, 1));
     m_legend = legendPlace();
     Q_EMIT baseMapChanged();
-}
-
-std::vector<const AtlasPage*> AtlasDocument::unsavedPages() const
-{
-    std::vector<const AtlasPage*> pages;
-    for (const auto& [path, page] : m_kept) {
-        if (!isShown(path) && page.isUnsaved()) {
-            pages.push_back(&page);
-        }
-    }
-    if (hasPage() && m_page.isUnsaved()) {
-        pages.push_back(&m_page);
-    }
-    return pages;
-}
-
-QStringList AtlasDocument::unsavedItems() const
-{
-    QStringList paths;
-    for (const AtlasPage* page : unsavedPages()) {
-        paths << page->item.ItemPath;
-    }
-    return paths;
-}
-
-bool AtlasDocument::isLegendPlaceUnsaved() const
-{
-    return m_savedLegend && legendPlace() != *m_savedLegend;
-}
-
-bool AtlasDocument::isUnsaved() const
-{
-    return isLegendPlaceUnsaved() || !unsavedPages().empty();
-}
-
-void AtlasDocument::save()
-{
-    for (auto& [path, page] : m_kept) {
-        if (!isShown(path)) {
-            saveAtlasPage(m_varn, page);
-        }
-    }
-    if (hasPage()) {
-        saveAtlasPage(m_varn, m_page);
-        m_varn.SavedRecords = m_page.symbols.SavedRecords;
-    }
-    if (isLegendPlaceUnsaved()) {
-        writeSequentialFile(m_varn.Drive,
-                            mapFolder(m_varn.VarnPath, m_varn.VarnMapName) + QStringLiteral("\\kanji.map"),
-                            [&](SequentialWriter& file) { writePlaceNames(file, m_varn); });
-        m_savedLegend = legendPlace();
-    }
-    Q_EMIT savedChanged();
-}
-
-void AtlasDocument::followSharedState()
-{
-    if (m_map != MapPlace{m_varn.VarnPath, m_varn.VarnMapName}) {
-        restart();
-    }
-    if (m_legend != legendPlace()) { // place names were imported
-        m_legend = legendPlace();
-        m_savedLegend.reset();
-        Q_EMIT baseMapChanged();
-    }
-    if (m_itemReading != m_varn.ItemReading) {
-        m_itemReading = m_varn.ItemReading;
-        followItem();
-    }
-    if (hasPage() && !isNothing(m_varn)) {
-        followSymbols();
-    }
-}
-
-void AtlasDocument::followItem()
-{
-    if (m_varn.ItemPath.isEmpty()) {
-        return;
-    }
-    if (isShown(m_varn.ItemPath)) {
-        followWords();
-        return;
-    }
-    const SymbolSet shared = m_varn;
-    const auto kept = m_kept.find(key(m_varn.ItemPath));
-    AtlasPage page = kept == m_kept.end() ? readAtlasPage(m_varn, m_varn.ItemPath) : kept->second;
-    if (!isNothing(shared)) {
-        page.symbols = shared; // whatever its file; it may be unsaved
-        noteSymbolFile(m_varn, page);
-    }
-    keepPage();
-    show(std::move(page));
-}
-
-/// The item was saved by another form. Unsaved word forms are what undoing brings back.
-void AtlasDocument::followWords()
-{
-    const LocalityWords words = localityWords(m_varn);
-    m_page.savedWords.keep(words);
-    noteItemFile(m_varn, m_page);
-    if (m_varn.NLocate != m_page.item.NLocate) {
-        m_steps.clear();
-        static_cast<LinguisticData&>(m_page.item) = m_varn;
-        Q_EMIT pageTurned();
-    } else if (words != localityWords(m_page.item)) {
-        WordsStep::Words changed;
-        for (std::size_t i = 0; i < words.size(); ++i) {
-            changed[static_cast<int>(i) + 1] = words[i];
-        }
-        m_steps.push(new WordsStep(*this, changed, QStringLiteral("Change in Another Form"))); // it owns it
-    }
-    m_page.item.Hanrei = m_varn.Hanrei;
-    m_page.item.Comment = m_varn.Comment;
-    Q_EMIT savedChanged();
-}
-
-void AtlasDocument::followSymbols()
-{
-    const SymbolSet& shared = m_varn;
-    const bool sameFile =
-        shared.SymbolFilePath.isEmpty() || key(m_page.symbols.SymbolFilePath) == key(shared.SymbolFilePath);
-    const bool sameRecords = m_page.symbols == shared;
-    if (sameFile && sameRecords && m_page.areSymbolsUnsaved() == isSymbolSetUnsaved(shared)) {
-        return;
-    }
-    if (!sameFile) {
-        m_steps.clear(); // they would bring the symbols of one file into another
-        m_page.symbols = shared;
-    } else {
-        m_page.symbols.SavedRecords = shared.SavedRecords;
-        if (!sameRecords) {
-            m_steps.push(new SymbolsStep(*this, shared, QStringLiteral("Change in Another Form"),
-                                         SymbolsStep::NoMerging)); // the stack owns it
-        }
-    }
-    noteSymbolFile(m_varn, m_page);
-    Q_EMIT symbolsChanged();
-    Q_EMIT savedChanged();
 }

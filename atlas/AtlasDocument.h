@@ -11,11 +11,13 @@
 #include <map>
 #include <optional>
 
+struct UnsavedWork;
 struct VarnModule;
 
 /// The pages of the current map's atlas while they are turned and edited. The page that is turned to is the
-/// shared state's item and symbol set, for all forms; pages with unsaved work, or with steps to undo, are
-/// kept until they are turned to again. Every edit is a step that can be undone, over pages.
+/// shared state's item and symbol set, for all forms; pages with unsaved work, or with steps of their own to
+/// undo, are kept until they are turned to again, and others are read from their files. Every edit is a step
+/// that can be undone, over pages.
 class AtlasDocument : public QObject
 {
     Q_OBJECT
@@ -33,12 +35,16 @@ public:
     /// The symbols to be shown: those of the page, or a preview of others.
     const SymbolRecords& shownSymbols() const { return m_preview ? *m_preview : m_page.symbols; }
 
-    /// Turns to the item at `itemPath`. Raises what `readAtlasPage` raises; the page is then as it was.
+    /// Turns to the item at `itemPath`. One that cannot be read is a page with its `trouble`. An unsaved
+    /// symbol set of another form becomes a change of the first page, so that it is not lost.
     void turnTo(const QString& itemPath);
-    /// Reads the page's files again; steps and unsaved work of the page are lost. Raises what reading raises.
-    void readAgain();
+    /// Why there is nothing to be drawn of the page; empty where it can be.
+    const QString& trouble() const { return m_page.trouble; }
+    /// What else the user is to know of the page, a sentence each, the trouble among it.
+    QStringList warnings() const;
 
-    /// Makes `records` the page's symbols, a step called `text`.
+    /// Makes `records` the page's symbols, a step called `text`. Symbols whose file cannot be read stay as
+    /// they are.
     void setSymbols(const SymbolRecords& records, const QString& text, int merging = SymbolsStep::NoMerging);
     /// Shows `records` while the user has not decided yet; `endPreview` shows the page's own again.
     void previewSymbols(const SymbolRecords& records);
@@ -62,6 +68,20 @@ public:
     std::vector<const AtlasPage*> unsavedPages() const;
     /// Saves everything. Raises what writing raises; what was saved until then is.
     void save();
+    /// Gives up everything that is unsaved, with all steps: the pages are as their files, for all forms.
+    void discard();
+
+    /// Adds the unsaved pages and the place of the legend to the work that is kept, and the other way round:
+    /// makes pages of work on the current map, as unsaved as they were, and turns to one of them.
+    void addTo(UnsavedWork& work) const;
+    void restore(const UnsavedWork& work);
+
+    /// Names of the files of the pages that are here which another program changed or deleted since.
+    QStringList changedFiles() const;
+    /// Reads the pages of such files again; all steps, and the unsaved work on them, are lost.
+    void readChanged();
+    /// Keeps these pages as they are, for saving to replace the files.
+    void keepChanged();
 
     /// Takes over what other forms did to the shared state: another item or symbol set is turned to, changed
     /// symbols are a step.
@@ -87,25 +107,37 @@ private:
     void putWords(const QString& itemPath, const WordsStep::Words& words);
     void putLegend(QPointF place);
 
+    struct KeptPage
+    {
+        AtlasPage page;
+        bool isUnsaved = false;
+    };
+
     bool isShown(const QString& itemPath) const;
+    bool isOfPage(const SymbolSet& shared) const;
+    AtlasPage keptOrRead(const QString& itemPath) const;
     void keepPage();
+    void dropNeedless();
     void show(AtlasPage page);
     void shareItem();
     void shareSymbols();
+    void followMap();
     void followItem();
     void followWords();
     void followSymbols();
+    void adoptSymbols(const SymbolSet& set);
 
     VarnModule& m_varn;
     MapPlace m_map;
     AtlasPage m_page;
     /// Pages that were turned away from and are still needed, by the paths of their items.
-    std::map<QString, AtlasPage> m_kept;
+    std::map<QString, KeptPage> m_kept;
     std::optional<SymbolRecords> m_preview;
     /// The place of the legend as it was shown last, and as its file holds it once it was moved.
     QPointF m_legend;
     std::optional<QPointF> m_savedLegend;
-    /// The shared state's item as it was shared or taken over last.
+    /// The shared state's item and symbol set as they were shared or taken over last.
     int m_itemReading = -1;
+    int m_symbolsReading = -1;
     QUndoStack m_steps;
 };

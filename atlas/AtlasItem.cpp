@@ -1,22 +1,52 @@
 #include "atlas/AtlasItem.h"
 
+#include "atlas/ItemKey.h"
 #include "lingdata/ItemLoader.h"
 #include "lingdata/LinguisticFile.h"
 #include "platform/FileName.h"
 #include "symbols/SymbolFile.h"
 
 #include <QDir>
+#include <QFileInfo>
+#include <QHash>
 #include <QSet>
 
 #include <algorithm>
 
 namespace {
 
+bool stands(const QString& text, const QString& where)
+{
+    return where.contains(text, Qt::CaseInsensitive);
+}
+
+/// Whether the item is found without its word forms.
+bool isNamed(const AtlasItem& item, const QString& text)
+{
+    return stands(text, item.caption) || stands(text, item.name());
+}
+
+QByteArray markOf(const QFileInfo& file)
+{
+    return QByteArray::number(file.size()) + ' ' +
+           QByteArray::number(file.lastModified().toMSecsSinceEpoch());
+}
+
+QFileInfoList filesOf(const Folders& folders, const FileKind& kind)
+{
+    const QDir folder(folders.Drive.hostPath(folders.dataFolder()));
+    return folder.entryInfoList({kind.pattern()}, QDir::Files, QDir::Name);
+}
+
+} // namespace
+
 void describe(const ItemAnswers& answers, AtlasItem& item)
 {
     QSet<QString> seen;
     item.caption = answers.Hanrei;
     item.localities = answers.NLocate;
+    item.answered = 0;
+    item.wordForms.clear();
     for (int i = 1; i <= answers.NLocate; ++i) {
         item.answered += answers.WordCount(i) > 0 ? 1 : 0;
         for (int j = 1; j <= answers.WordCount(i); ++j) {
@@ -29,7 +59,11 @@ void describe(const ItemAnswers& answers, AtlasItem& item)
     }
 }
 
-} // namespace
+QByteArray fileMark(const Folders& folders, const QString& path)
+{
+    const QFileInfo file(folders.Drive.hostPath(path));
+    return file.exists() ? markOf(file) : QByteArray();
+}
 
 QString AtlasItem::name() const
 {
@@ -38,12 +72,25 @@ QString AtlasItem::name() const
 
 QStringList atlasItemPaths(const Folders& folders)
 {
-    const QDir folder(folders.Drive.hostPath(folders.dataFolder()));
     QStringList paths;
-    for (const QString& file : folder.entryList({ItemFiles.pattern()}, QDir::Files, QDir::Name)) {
-        paths << folders.dataFolder() + QLatin1Char('\\') + file;
+    for (const QFileInfo& file : filesOf(folders, ItemFiles)) {
+        paths << folders.dataFolder() + QLatin1Char('\\') + file.fileName();
     }
     return paths;
+}
+
+std::vector<std::pair<QString, QByteArray>> atlasItemMarks(const Folders& folders)
+{
+    QHash<QString, QByteArray> symbols;
+    for (const QFileInfo& file : filesOf(folders, SymbolFiles)) {
+        symbols.insert(itemKey(file.fileName()), markOf(file));
+    }
+    std::vector<std::pair<QString, QByteArray>> marks;
+    for (const QFileInfo& file : filesOf(folders, ItemFiles)) {
+        const QString path = folders.dataFolder() + QLatin1Char('\\') + file.fileName();
+        marks.emplace_back(path, markOf(file) + '/' + symbols.value(itemKey(fileNameOf(symbolPathOf(path)))));
+    }
+    return marks;
 }
 
 AtlasItem readAtlasItem(const Folders& folders, const QString& path)
@@ -51,12 +98,22 @@ AtlasItem readAtlasItem(const Folders& folders, const QString& path)
     AtlasItem item;
     item.path = path;
     item.hasSymbols = fileExists(folders.Drive, symbolPathOf(path));
+    QString what = QStringLiteral("The item");
     try {
         describe(readItemAnswers(folders, path), item);
+        if (item.hasSymbols) {
+            what = QStringLiteral("The symbol file");
+            readSequentialFile(folders.Drive, symbolPathOf(path), readSymbolSet);
+        }
     } catch (const RunTimeError& error) {
-        item.trouble = error.message();
+        item.trouble = unreadable(what, error);
     }
     return item;
+}
+
+QString unreadable(const QString& what, const RunTimeError& error)
+{
+    return QStringLiteral("%1 cannot be read: %2.\n%3").arg(what, error.text(), error.where()).trimmed();
 }
 
 QString symbolPathOf(const QString& itemPath)
@@ -66,6 +123,11 @@ QString symbolPathOf(const QString& itemPath)
 
 bool contains(const AtlasItem& item, const QString& text)
 {
-    const auto holds = [&](const QString& where) { return where.contains(text, Qt::CaseInsensitive); };
-    return holds(item.caption) || holds(item.name()) || std::ranges::any_of(item.wordForms, holds);
+    const auto holds = [&](const QString& where) { return stands(text, where); };
+    return isNamed(item, text) || std::ranges::any_of(item.wordForms, holds);
+}
+
+QStringList wordFormsWith(const AtlasItem& item, const QString& text)
+{
+    return isNamed(item, text) ? QStringList() : item.wordForms.filter(text, Qt::CaseInsensitive);
 }

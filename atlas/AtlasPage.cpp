@@ -1,26 +1,18 @@
 #include "atlas/AtlasPage.h"
 
 #include "atlas/AtlasItem.h"
+#include "atlas/ItemKey.h"
 #include "lingdata/ItemLoader.h"
 #include "lingdata/KindList.h"
 #include "lingdata/LinguisticFile.h"
+#include "lingdata/LocalityMismatch.h"
 #include "platform/FileName.h"
 #include "platform/WholeFile.h"
 #include "symbols/SymbolFile.h"
 
 #include <QFile>
-#include <QFileInfo>
 
 namespace {
-
-/// A mark of the file's contents by its size and time; empty where there is no file.
-QByteArray stampOf(const Folders& folders, const QString& path)
-{
-    const QFileInfo file(folders.Drive.hostPath(path));
-    return file.exists() ? QByteArray::number(file.size()) + ' ' +
-                               QByteArray::number(file.lastModified().toMSecsSinceEpoch())
-                         : QByteArray();
-}
 
 /// Numbers the word forms of all localities anew.
 void listWords(ItemAnswers& item)
@@ -36,6 +28,17 @@ void listWords(ItemAnswers& item)
     }
 }
 
+void readWords(const Folders& folders, AtlasPage& page)
+{
+    try {
+        static_cast<ItemAnswers&>(page.item) = readItemAnswers(folders, page.item.ItemPath);
+        renewKinds(page);
+    } catch (const RunTimeError& error) {
+        page.trouble = unreadable(QStringLiteral("The item"), error);
+    }
+    page.savedWords.keep(localityWords(page.item));
+}
+
 void readSymbols(const Folders& folders, AtlasPage& page)
 {
     const QString path = symbolPathOf(page.item.ItemPath);
@@ -48,8 +51,13 @@ void readSymbols(const Folders& folders, AtlasPage& page)
     try {
         LoadHankoData(folders.Drive, path, page.symbols);
     } catch (const RunTimeError& error) {
-        page.symbolTrouble = error.message();
+        page.symbolTrouble = unreadable(QStringLiteral("The symbol file"), error);
     }
+}
+
+bool hasKinds(const AtlasPage& page)
+{
+    return page.item.NKind > 0 || page.item.WordTotal == 0;
 }
 
 void saveWords(const Folders& folders, AtlasPage& page)
@@ -75,12 +83,12 @@ void saveSymbols(const Folders& folders, AtlasPage& page)
 
 void noteItemFile(const Folders& folders, AtlasPage& page)
 {
-    page.itemFile = stampOf(folders, page.item.ItemPath);
+    page.itemFile = fileMark(folders, page.item.ItemPath);
 }
 
 void noteSymbolFile(const Folders& folders, AtlasPage& page)
 {
-    page.symbolFile = stampOf(folders, page.symbols.SymbolFilePath);
+    page.symbolFile = fileMark(folders, page.symbols.SymbolFilePath);
 }
 
 LocalityWords localityWords(const ItemAnswers& item)
@@ -96,6 +104,10 @@ LocalityWords localityWords(const ItemAnswers& item)
 
 void setLocalityWords(ItemAnswers& item, int i, const QStringList& words)
 {
+    if (i < 1 || i > item.NLocate) {
+        throw RunTimeError(ErrorNumber::SubscriptOutOfRange,
+                           QStringLiteral("%1 is not in 1 to %2.").arg(i).arg(item.NLocate));
+    }
     item.WordData.require(i, static_cast<int>(qMax(qsizetype(1), words.size())));
     item.WordCount(i) = static_cast<qint16>(words.size());
     for (int j = 1; j <= item.WordData.last<1>(); ++j) {
@@ -118,14 +130,29 @@ AtlasPage readAtlasPage(const Folders& folders, const QString& itemPath)
 {
     AtlasPage page;
     page.item.ItemPath = itemPath;
-    noteItemFile(folders, page);
-    static_cast<ItemAnswers&>(page.item) = readItemAnswers(folders, itemPath);
     page.item.ItemFileName = fileNameOf(itemPath);
     page.item.KindsPath = kindsFilePath(folders, itemPath);
-    page.savedWords.keep(localityWords(page.item));
-    renewKinds(page);
+    noteItemFile(folders, page);
+    readWords(folders, page);
     readSymbols(folders, page);
     return page;
+}
+
+QStringList warningsOf(const AtlasPage& page, int mapLocalities)
+{
+    QStringList warnings;
+    if (!page.trouble.isEmpty()) {
+        warnings << page.trouble;
+    } else {
+        warnings << localityMismatch(page.item.NLocate, mapLocalities);
+    }
+    if (!hasKinds(page)) {
+        warnings << QStringLiteral("The item has more than %1 kinds of word forms; its kinds are not listed.")
+                        .arg(WordKinds().KindWord.last());
+    }
+    warnings << page.symbolTrouble;
+    warnings.removeAll(QString());
+    return warnings;
 }
 
 void saveAtlasPage(const Folders& folders, AtlasPage& page)
@@ -141,11 +168,28 @@ void saveAtlasPage(const Folders& folders, AtlasPage& page)
 QStringList filesChanged(const Folders& folders, const AtlasPage& page)
 {
     QStringList changed;
-    if (stampOf(folders, page.item.ItemPath) != page.itemFile) {
+    if (fileMark(folders, page.item.ItemPath) != page.itemFile) {
         changed << page.item.ItemFileName;
     }
-    if (stampOf(folders, page.symbols.SymbolFilePath) != page.symbolFile) {
+    if (fileMark(folders, page.symbols.SymbolFilePath) != page.symbolFile) {
         changed << page.symbols.SymbolFileName;
     }
     return changed;
+}
+
+bool hasOwnSymbols(const AtlasPage& page)
+{
+    return itemKey(page.symbols.SymbolFilePath) == itemKey(symbolPathOf(page.item.ItemPath));
+}
+
+void keepAgainstFiles(const Folders& folders, AtlasPage& page)
+{
+    if (fileMark(folders, page.item.ItemPath) != page.itemFile) {
+        page.savedWords.forget();
+        noteItemFile(folders, page);
+    }
+    if (fileMark(folders, page.symbols.SymbolFilePath) != page.symbolFile) {
+        page.symbols.SavedRecords.forget();
+        noteSymbolFile(folders, page);
+    }
 }

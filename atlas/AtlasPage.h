@@ -15,7 +15,7 @@ using LocalityWords = std::vector<QStringList>;
 
 LocalityWords localityWords(const ItemAnswers& item);
 /// Puts `words` (at most five) in place of those of locality i. The list of all word forms is made anew.
-/// Raises subscript out of range for another locality, and for more word forms.
+/// Raises subscript out of range for a locality that the item does not have, and for more word forms.
 void setLocalityWords(ItemAnswers& item, int i, const QStringList& words);
 
 /// A page of the atlas: an item and its symbol set, as they are now and as their files hold them.
@@ -25,8 +25,11 @@ struct AtlasPage
     /// Its path is that of the file that the symbols are saved to, which may not exist yet.
     SymbolSet symbols;
     Saved<LocalityWords> savedWords;
-    /// Why the symbol file cannot be read; empty where it can, or where there is none. Such a set is not
-    /// edited, so that the file is left as it is.
+    /// That the item cannot be read and why; empty where it can. Such a page has no word forms and is not
+    /// edited.
+    QString trouble;
+    /// That the symbol file cannot be read and why; empty where it can, or where there is none. Such a set is
+    /// not edited, so that the file is left as it is.
     QString symbolTrouble;
     /// What the two files held when they were read or written last.
     QByteArray itemFile;
@@ -37,12 +40,16 @@ struct AtlasPage
     bool isUnsaved() const { return areWordsUnsaved() || areSymbolsUnsaved(); }
 };
 
-/// Reads the item at `itemPath` with its kinds, and the symbol file of its name. An item of more kinds than a
-/// survey's forms can show has none here. Raises what reading the item raises.
+/// Reads the item at `itemPath` with its kinds, and the symbol file of its name. An item of more kinds than
+/// the forms can show has none here. What cannot be read says why in the page.
 AtlasPage readAtlasPage(const Folders& folders, const QString& itemPath);
 
 /// Derives the kinds of the page's item from its word forms.
 void renewKinds(AtlasPage& page);
+
+/// What the user is to know of the page on a map of `mapLocalities` localities, a sentence each: what cannot
+/// be read, and what does not fit.
+QStringList warningsOf(const AtlasPage& page, int mapLocalities);
 
 /// Writes what is unsaved of the page to its files. Raises what writing raises.
 void saveAtlasPage(const Folders& folders, AtlasPage& page);
@@ -51,5 +58,12 @@ void saveAtlasPage(const Folders& folders, AtlasPage& page);
 void noteItemFile(const Folders& folders, AtlasPage& page);
 void noteSymbolFile(const Folders& folders, AtlasPage& page);
 
+/// Whether the page's symbols are those of the file of the item's name.
+bool hasOwnSymbols(const AtlasPage& page);
+
 /// Which files of the page are not as they were read or written last, by name; empty where they are.
 QStringList filesChanged(const Folders& folders, const AtlasPage& page);
+
+/// Keeps the page as it is where its files are not as they were read or written last: what they held counts
+/// as unsaved.
+void keepAgainstFiles(const Folders& folders, AtlasPage& page);

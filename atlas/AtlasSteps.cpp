@@ -4,25 +4,29 @@
 
 #include <utility>
 
+PageStep::PageStep(AtlasDocument& document, const QString& text)
+    : QUndoCommand(text), m_document(document), m_itemPath(document.page().item.ItemPath)
+{}
+
 SymbolsStep::SymbolsStep(AtlasDocument& document, SymbolRecords after, const QString& text, int merging)
-    : QUndoCommand(text), m_document(document), m_itemPath(document.page().item.ItemPath),
-      m_before(document.page().symbols), m_after(std::move(after)), m_merging(merging)
+    : PageStep(document, text), m_before(document.page().symbols), m_after(std::move(after)),
+      m_merging(merging)
 {}
 
 void SymbolsStep::undo()
 {
-    m_document.putSymbols(m_itemPath, m_before);
+    document().putSymbols(itemPath(), m_before);
 }
 
 void SymbolsStep::redo()
 {
-    m_document.putSymbols(m_itemPath, m_after);
+    document().putSymbols(itemPath(), m_after);
 }
 
 bool SymbolsStep::mergeWith(const QUndoCommand* next)
 {
     const auto* step = static_cast<const SymbolsStep*>(next);
-    if (step->m_itemPath != m_itemPath) {
+    if (step->itemPath() != itemPath()) {
         return false;
     }
     m_after = step->m_after;
@@ -31,8 +35,7 @@ bool SymbolsStep::mergeWith(const QUndoCommand* next)
 }
 
 WordsStep::WordsStep(AtlasDocument& document, Words after, const QString& text)
-    : QUndoCommand(text), m_document(document), m_itemPath(document.page().item.ItemPath),
-      m_after(std::move(after))
+    : PageStep(document, text), m_after(std::move(after))
 {
     const LocalityWords now = localityWords(document.page().item);
     for (const auto& [locality, words] : m_after) {
@@ -42,12 +45,12 @@ WordsStep::WordsStep(AtlasDocument& document, Words after, const QString& text)
 
 void WordsStep::undo()
 {
-    m_document.putWords(m_itemPath, m_before);
+    document().putWords(itemPath(), m_before);
 }
 
 void WordsStep::redo()
 {
-    m_document.putWords(m_itemPath, m_after);
+    document().putWords(itemPath(), m_after);
 }
 
 LegendPlaceStep::LegendPlaceStep(AtlasDocument& document, QPointF after)

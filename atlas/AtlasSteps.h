@@ -9,8 +9,24 @@
 
 class AtlasDocument;
 
+/// A step on the page of one item.
+class PageStep : public QUndoCommand
+{
+public:
+    PageStep(AtlasDocument& document, const QString& text);
+
+    const QString& itemPath() const { return m_itemPath; }
+
+protected:
+    AtlasDocument& document() { return m_document; }
+
+private:
+    AtlasDocument& m_document;
+    QString m_itemPath;
+};
+
 /// New symbols of an item.
-class SymbolsStep : public QUndoCommand
+class SymbolsStep : public PageStep
 {
 public:
     /// Successive steps of the same `merging` are one; `NoMerging` is a step of its own.
@@ -24,15 +40,13 @@ public:
     bool mergeWith(const QUndoCommand* next) override;
 
 private:
-    AtlasDocument& m_document;
-    QString m_itemPath;
     SymbolRecords m_before;
     SymbolRecords m_after;
     int m_merging;
 };
 
 /// New word forms of some localities of an item.
-class WordsStep : public QUndoCommand
+class WordsStep : public PageStep
 {
 public:
     using Words = std::map<int, QStringList>;
@@ -43,8 +57,6 @@ public:
     void redo() override;
 
 private:
-    AtlasDocument& m_document;
-    QString m_itemPath;
     Words m_before;
     Words m_after;
 };

@@ -10,6 +10,9 @@
 
 struct PageLayout;
 
+/// What becomes of unsaved work.
+enum class SaveChoice { Save, Discard, Cancel };
+
 /// The dialogs that the forms ask their questions with. The desktop program shows real ones; whoever drives
 /// the forms without a person answers them from a script.
 class Dialogs
@@ -26,6 +29,8 @@ public:
     /// Asks whether to go on where something would be lost, with Yes and No; No is what Enter answers. True
     /// where the answer is Yes.
     virtual bool confirmLoss(const QString& text, const QString& title) = 0;
+    /// Asks what becomes of unsaved work, with Save, Discard and Cancel; Save is what Enter answers.
+    virtual SaveChoice askSaveChoice(const QString& text, const QString& title) = 0;
     /// Asks a question with OK and Cancel; true where the answer is OK.
     virtual bool askOkCancel(const QString& text, const QString& title) = 0;
     /// Asks for a line of text, `initial` standing there at first. Nothing where the dialog was cancelled.

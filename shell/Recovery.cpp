@@ -4,6 +4,7 @@
 #include "analysis/CumulativeFile.h"
 #include "lingdata/InputKindsFile.h"
 #include "lingdata/LinguisticFile.h"
+#include "platform/FileName.h"
 #include "platform/Folder.h"
 #include "shell/MapChoice.h"
 #include "symbols/SymbolFile.h"
@@ -38,8 +39,12 @@ struct KeptFiles
           symbols(folder + QStringLiteral("\\symbols") + SymbolFiles.ending),
           table(folder + QStringLiteral("\\table") + TotalFiles.ending),
           strings(folder + QStringLiteral("\\table") + StringFiles.ending),
-          countedItems(countedItemsPath(table))
+          countedItems(countedItemsPath(table)), pages(folder + QStringLiteral("\\page"))
     {}
+
+    /// Of the page of that number.
+    QString pageWords(std::size_t page) const { return pages + QString::number(page) + ItemFiles.ending; }
+    QString pageSymbols(std::size_t page) const { return pages + QString::number(page) + SymbolFiles.ending; }
 
     QString contents;
     QString item;
@@ -48,6 +53,7 @@ struct KeptFiles
     QString table;
     QString strings;
     QString countedItems;
+    QString pages;
 };
 
 /// A line for every word form, however many strings it has, which a file that is saved does not write.
@@ -63,6 +69,70 @@ void writeAllStrings(SequentialWriter& file, const CumulativeData& data)
     }
 }
 
+void writeAtlasContents(SequentialWriter& file, const UnsavedWork& work)
+{
+    file.write(work.pages.size());
+    for (const UnsavedPage& page : work.pages) {
+        file.write(page.itemPath, page.answers.has_value(), page.symbols.has_value(),
+                   page.symbols ? page.symbols->SymbolFilePath : QString());
+    }
+    const QPointF legend = work.legendPlace.value_or(QPointF());
+    file.write(work.legendPlace.has_value(), legend.x(), legend.y());
+}
+
+void readAtlasContents(SequentialReader& file, UnsavedWork& work)
+{
+    const int pages = file.readCount();
+    for (int n = 0; n < pages; ++n) {
+        UnsavedPage page{file.readString(), {}, {}};
+        if (file.readBoolean()) {
+            page.answers.emplace();
+        }
+        const bool symbols = file.readBoolean();
+        if (const QString path = file.readString(); symbols) {
+            page.symbols.emplace().SymbolFilePath = path;
+        }
+        work.pages.push_back(std::move(page));
+    }
+    const bool legend = file.readBoolean();
+    const double x = file.readNumber();
+    const QPointF place(x, file.readNumber());
+    if (legend) {
+        work.legendPlace = place;
+    }
+}
+
+void writePages(const UnsavedWork& work, const DriveC& drive, const KeptFiles& files)
+{
+    for (std::size_t n = 0; n < work.pages.size(); ++n) {
+        const UnsavedPage& page = work.pages[n];
+        if (page.answers) {
+            writeSequentialFile(drive, files.pageWords(n),
+                                [&](auto& file) { writeItem(file, *page.answers); });
+        }
+        if (page.symbols) {
+            writeSequentialFile(drive, files.pageSymbols(n),
+                                [&](auto& file) { writeSymbolSet(file, *page.symbols); });
+        }
+    }
+}
+
+void readPages(const DriveC& drive, const KeptFiles& files, UnsavedWork& work)
+{
+    for (std::size_t n = 0; n < work.pages.size(); ++n) {
+        UnsavedPage& page = work.pages[n];
+        if (page.answers) {
+            page.answers = readSequentialFile(drive, files.pageWords(n), readItem);
+        }
+        if (page.symbols) {
+            const QString path = page.symbols->SymbolFilePath;
+            page.symbols = readSequentialFile(drive, files.pageSymbols(n), readSymbolSet);
+            page.symbols->SymbolFilePath = path;
+            page.symbols->SymbolFileName = fileNameOf(path);
+        }
+    }
+}
+
 void writeContents(SequentialWriter& file, const UnsavedWork& work)
 {
     file.write(work.map.VarnPath, work.map.VarnMapName, work.localities);
@@ -71,6 +141,7 @@ void writeContents(SequentialWriter& file, const UnsavedWork& work)
     const CumulativeData none;
     const CumulativeData& table = work.table ? *work.table : none;
     file.write(work.table.has_value(), table.TotalFileName, table.TotalFilePath, table.SpecifyFileName);
+    writeAtlasContents(file, work);
 }
 
 /// What the parts are; the parts themselves are still empty.
@@ -88,11 +159,16 @@ UnsavedWork readContents(SequentialReader& file)
     if (const QString name = file.readString(); symbols) {
         work.symbols.emplace().SymbolFileName = name;
     }
-    if (file.readBoolean()) {
-        CumulativeData& table = work.table.emplace();
-        table.TotalFileName = file.readString();
-        table.TotalFilePath = file.readString();
-        table.SpecifyFileName = file.readString();
+    const bool isTable = file.readBoolean();
+    CumulativeData table;
+    table.TotalFileName = file.readString();
+    table.TotalFilePath = file.readString();
+    table.SpecifyFileName = file.readString();
+    if (isTable) {
+        work.table = std::move(table);
+    }
+    if (file.hasMore()) { // work that was kept before there was an atlas has none
+        readAtlasContents(file, work);
     }
     return work;
 }
@@ -117,6 +193,7 @@ void writeWork(const UnsavedWork& work, const DriveC& drive, const QString& fold
         writeSequentialFile(drive, files.countedItems,
                             [&](auto& file) { writeCountedItems(file, *work.table); });
     }
+    writePages(work, drive, files);
     writeSequentialFile(drive, files.contents, [&](auto& file) { writeContents(file, work); });
 }
 
@@ -143,6 +220,7 @@ UnsavedWork readWork(const DriveC& drive, const QString& folder)
             return readCountedItems(file, table.NumItemsAccumulated);
         });
     }
+    readPages(drive, files, work);
     return work;
 }
 

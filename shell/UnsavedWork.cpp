@@ -1,6 +1,7 @@
 #include "shell/UnsavedWork.h"
 
 #include "analysis/CumulativeFile.h"
+#include "platform/FileName.h"
 #include "shell/MapChange.h"
 #include "shell/VarnModule.h"
 
@@ -80,6 +81,14 @@ QString describe(const UnsavedWork& work)
     }
     if (work.table) {
         parts << QStringLiteral("cumulative data ") + orNew(work.table->TotalFileName);
+    }
+    if (work.pages.size() == 1) {
+        parts << QStringLiteral("atlas page ") + stemOf(work.pages.front().itemPath);
+    } else if (!work.pages.empty()) {
+        parts << QStringLiteral("%1 atlas pages").arg(work.pages.size());
+    }
+    if (work.legendPlace) {
+        parts << QStringLiteral("place of the legend");
     }
     return parts.join(QStringLiteral(", "));
 }

@@ -1,14 +1,11 @@
 #include "atlas/forms/frmAtlas.h"
 
-#include "atlas/AtlasItem.h"
 #include "atlas/forms/AtlasItemsPane.h"
 #include "atlas/forms/AtlasLocalitiesPane.h"
 #include "atlas/forms/AtlasMapView.h"
 #include "atlas/forms/AtlasRecordsPane.h"
 #include "shell/VarnModule.h"
 
-#include <QCloseEvent>
-#include <QMessageBox>
 #include <QSplitter>
 
 frmAtlas::frmAtlas(VarnModule& varn, Dialogs& dialogs)
@@ -44,19 +41,15 @@ void frmAtlas::addPanes()
 void frmAtlas::Form_Load()
 {
     m_isPrepared = true;
-    followSharedState();
-    if (!m_document.hasPage()) {
-        const QStringList items = atlasItemPaths(m_varn);
-        if (!items.isEmpty()) {
-            m_document.turnTo(items.first());
-        }
-    }
+    m_document.followSharedState();
+    turnToFirst();
     refresh();
 }
 
+/// A window that is not shown leaves the other forms the items and symbols that they have together.
 void frmAtlas::followSharedState()
 {
-    if (m_isPrepared) {
+    if (m_isPrepared && isVisible()) {
         m_document.followSharedState();
     }
 }
@@ -71,20 +64,4 @@ void frmAtlas::showLoaded()
     const AtlasPage& page = m_document.page();
     showTitle({QStringLiteral("VARN Atlas"), m_varn.VarnMapName.mid(1), page.item.Hanrei},
               m_document.isUnsaved());
-}
-
-bool frmAtlas::mayClose()
-{
-    if (!m_document.isUnsaved()) {
-        return true;
-    }
-    const QStringList items = m_document.unsavedItems();
-    return dialogs().confirmLoss(
-        QStringLiteral("%1 items are not saved. Close without saving O.K.?").arg(items.size()),
-        QStringLiteral("Atlas"));
-}
-
-void frmAtlas::closeEvent(QCloseEvent* event)
-{
-    event->setAccepted(mayClose());
 }

@@ -24,9 +24,18 @@ public:
     /// Shows the item that is loaded, or the first one of the current map.
     void Form_Load();
     AtlasDocument& document() { return m_document; }
+    AtlasSelection& selection() { return m_selection; }
 
     void refresh() override;
     void followSharedState() override;
+    void showNewState() override;
+
+    /// Turns to the item at `itemPath` of the current map.
+    void showItem(const QString& itemPath);
+    /// Saves everything. Raises what saving raises.
+    void save();
+    /// Opens the window with the pages of work that was kept.
+    void showKept(const UnsavedWork& work);
 
 Q_SIGNALS:
     /// The user wants to go back to the main form.
@@ -35,12 +44,17 @@ Q_SIGNALS:
     void toNewSurvey();
 
 protected:
+    bool event(QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
 
 private:
     void addPanes();
     void showLoaded();
+    void turnToFirst();
     bool mayClose();
+    /// Asks about files that another program changed, once for each change.
+    void checkFiles();
+    bool mayReadAgain(const QStringList& changed);
 
     VarnModule& m_varn;
     AtlasDocument m_document;

@@ -108,6 +108,19 @@ bool QtDialogs::confirmLoss(const QString& text, const QString& title)
                    QMessageBox::No) == QMessageBox::Yes;
 }
 
+SaveChoice QtDialogs::askSaveChoice(const QString& text, const QString& title)
+{
+    switch (showBox(QMessageBox::Question, text, {}, title,
+                    QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, QMessageBox::Save)) {
+    case QMessageBox::Save:
+        return SaveChoice::Save;
+    case QMessageBox::Discard:
+        return SaveChoice::Discard;
+    default:
+        return SaveChoice::Cancel;
+    }
+}
+
 bool QtDialogs::askOkCancel(const QString& text, const QString& title)
 {
     return showBox(QMessageBox::Question, text, {}, title, QMessageBox::Ok | QMessageBox::Cancel) ==

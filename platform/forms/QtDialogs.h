@@ -10,6 +10,7 @@ public:
     void error(const QString& title, const QString& detail) override;
     bool askYesNo(const QString& text, const QString& title) override;
     bool confirmLoss(const QString& text, const QString& title) override;
+    SaveChoice askSaveChoice(const QString& text, const QString& title) override;
     bool askOkCancel(const QString& text, const QString& title) override;
     std::optional<QString> input(const QString& prompt, const QString& title,
                                  const QString& initial) override;

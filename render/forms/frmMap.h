@@ -29,8 +29,6 @@ public:
     /// Draws the map of the diffusion symbols, and the contrast map.
     void mnuTotalHanko_Click();
     void mnuRank_Click();
-    /// Loads an item and its symbols, which mark whole word forms, and draws their map. Paths of the program.
-    void showItem(const QString& itemPath, const QString& symbolPath);
     /// The form's own surface.
     const DrawSurface& surface() const { return m_surface; }
     /// The surfaces of a drawing command, with the form's place and size as they are now.

@@ -60,16 +60,6 @@ void frmMap::mnuInputWord_Click()
     }
 }
 
-void frmMap::showItem(const QString& itemPath, const QString& symbolPath)
-{
-    LoadWordData(m_varn, itemPath, m_varn, m_varn, dialogs());
-    LoadHankoData(m_varn.Drive, symbolPath, m_varn);
-    symbolSetLoaded(m_varn);
-    m_varn.WholeWordForms = true;
-    mnuMapLing_Click();
-    refresh();
-}
-
 void frmMap::mnuHankoInput_Click()
 {
     if (isSymbolSetUnsaved(m_varn) &&

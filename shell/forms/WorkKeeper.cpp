@@ -15,8 +15,8 @@ constexpr int KeepingInterval = 60 * 1000; // ms
 
 } // namespace
 
-WorkKeeper::WorkKeeper(VarnModule& varn, Dialogs& dialogs, VarnForm& form, EnteredItem item)
-    : QObject(&form), m_varn(varn), m_dialogs(dialogs), m_form(form), m_item(std::move(item))
+WorkKeeper::WorkKeeper(VarnModule& varn, Dialogs& dialogs, VarnForm& form, Collect collect)
+    : QObject(&form), m_varn(varn), m_dialogs(dialogs), m_form(form), m_collect(std::move(collect))
 {}
 
 WorkKeeper::~WorkKeeper() = default;
@@ -29,14 +29,9 @@ void WorkKeeper::start()
     m_timer.start(KeepingInterval);
 }
 
-UnsavedWork WorkKeeper::work() const
-{
-    return unsavedWork(m_varn, m_item());
-}
-
 void WorkKeeper::keep()
 {
-    if (m_recovery && !m_form.run([this] { m_recovery->keep(work()); })) {
+    if (m_recovery && !m_form.run([this] { m_recovery->keep(m_collect()); })) {
         m_timer.stop(); // told once is enough
     }
 }
@@ -87,7 +82,7 @@ std::optional<UnsavedWork> WorkKeeper::open(const QString& folder)
 
 bool WorkKeeper::mayChangeMap()
 {
-    UnsavedWork lost = work();
+    UnsavedWork lost = m_collect();
     lost.symbols.reset(); // they stay
     return lost.isEmpty() ||
            m_dialogs.confirmLoss(QStringLiteral("Unsaved work belongs to map %1 and will be lost: %2. Choose "

@@ -19,10 +19,10 @@ class WorkKeeper : public QObject
     Q_OBJECT
 
 public:
-    using EnteredItem = std::function<std::optional<UnsavedItem>()>;
+    using Collect = std::function<UnsavedWork()>;
 
-    /// `item` gives the item that is being entered and is not saved. Errors are shown by `form`.
-    WorkKeeper(VarnModule& varn, Dialogs& dialogs, VarnForm& form, EnteredItem item);
+    /// `collect` gives the unsaved work of all forms. Errors are shown by `form`.
+    WorkKeeper(VarnModule& varn, Dialogs& dialogs, VarnForm& form, Collect collect);
     ~WorkKeeper() override;
 
     /// Begins to keep.
@@ -39,13 +39,12 @@ public:
     bool mayChangeMap();
 
 private:
-    UnsavedWork work() const;
     std::optional<UnsavedWork> open(const QString& folder);
 
     VarnModule& m_varn;
     Dialogs& m_dialogs;
     VarnForm& m_form;
-    EnteredItem m_item;
+    Collect m_collect;
     /// Null before the start.
     std::unique_ptr<Recovery> m_recovery;
     QTimer m_timer{this};

@@ -23,7 +23,7 @@ frmMain::frmMain(VarnModule& varn, Dialogs& dialogs)
       m_dataInput(varn, dialogs), m_data(varn, dialogs), m_setHanko(varn, dialogs), m_calc(varn, dialogs),
       m_calExec(varn, dialogs), m_rankData(varn, dialogs), m_totalHanko(varn, dialogs),
       m_atlas(varn, dialogs),
-      m_keeper(new WorkKeeper(varn, dialogs, *this, [this] { return m_dataInput.unsavedItem(); })),
+      m_keeper(new WorkKeeper(varn, dialogs, *this, [this] { return unsavedWork(); })),
       m_newSurvey(new frmNewSurvey(varn, dialogs, this))
 {
     m_ui->setupUi(this);
@@ -116,6 +116,13 @@ void frmMain::Form_Load(const QString& installation)
     run([this] { offerKeptWork(); });
 }
 
+UnsavedWork frmMain::unsavedWork()
+{
+    UnsavedWork work = ::unsavedWork(m_varn, m_dataInput.unsavedItem());
+    m_atlas.document().addTo(work);
+    return work;
+}
+
 void frmMain::offerKeptWork()
 {
     const std::optional<UnsavedWork> work = m_keeper->offer();
@@ -129,6 +136,9 @@ void frmMain::offerKeptWork()
     }
     if (work->table) {
         open(m_calc);
+    }
+    if (work->isOfAtlas()) {
+        m_atlas.showKept(*work);
     } // symbols are set with an item, which is not loaded
 }
 
@@ -220,9 +230,9 @@ void frmMain::showNewMap()
 
 std::vector<VarnForm*> frmMain::workingForms()
 {
-    // Those that may have unsaved work come first.
-    return {&m_dataInput, &m_setHanko, &m_atlas, &m_calc,  &m_totalHanko,
-            &m_rankData,  &m_calExec,  &m_data,  &m_chizu, &m_map};
+    // Those that may have unsaved work come first, and the symbols of the atlas are saved with its pages.
+    return {&m_dataInput, &m_atlas,   &m_setHanko, &m_calc,  &m_totalHanko,
+            &m_rankData,  &m_calExec, &m_data,     &m_chizu, &m_map};
 }
 
 void frmMain::showReloadedItem()

@@ -14,6 +14,7 @@
 
 class WorkKeeper;
 class frmNewSurvey;
+struct UnsavedWork;
 
 namespace Ui {
 class frmMain;
@@ -63,6 +64,7 @@ private:
     /// Shows the current map in all forms, after it was changed.
     void showNewMap();
     void showReloadedItem();
+    UnsavedWork unsavedWork();
     /// Offers the work that was kept, and shows it in the forms that it is edited in.
     void offerKeptWork();
     std::vector<VarnForm*> workingForms();

@@ -2,6 +2,7 @@
 
 #include "exchange/SurveyExport.h"
 #include "exchange/forms/frmNewSurvey.h"
+#include "lingdata/LinguisticFile.h"
 #include "platform/FileKind.h"
 #include "shell/MapChange.h"
 #include "shell/MapChoice.h"
@@ -61,12 +62,13 @@ void frmMain::showSurvey(const QString& mapName, const QString& item)
     changeMap({m_varn.VarnPath, QLatin1Char('\\') + mapName}, m_varn);
     loadLocalityNames(m_varn, m_varn);
     saveMapChoice(m_varn, currentMapChoice(m_varn));
+    m_varn.SavedRecords.keep(m_varn); // those that were given up do not come along
     showNewMap();
-    openMap();
     if (!item.isEmpty()) {
-        const QString files = m_varn.dataFolder() + QLatin1Char('\\') + item;
-        m_map.showItem(files + QStringLiteral(".dbs"), files + QStringLiteral(".han"));
+        m_varn.WholeWordForms = true;
+        m_atlas.showItem(m_varn.dataFolder() + QLatin1Char('\\') + item + ItemFiles.ending);
     }
+    open(m_atlas);
 }
 
 void frmMain::mnuExportSurvey_Click()

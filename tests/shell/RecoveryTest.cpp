@@ -37,6 +37,16 @@ protected:
         return item;
     }
 
+    /// With the word forms of one page of the atlas, and the symbols of another.
+    UnsavedWork work() const
+    {
+        UnsavedWork work = unsavedWork(varn, item());
+        work.pages = {{"C:\\snow.dbs", item().answers, {}}, {"C:\\fog.dbs", {}, varn}};
+        work.pages[1].symbols->SymbolFilePath = "C:\\fog.han";
+        work.legendPlace = QPointF(1.5, 2);
+        return work;
+    }
+
     TestSurvey survey;
     VarnModule& varn = survey.varn;
 };
@@ -48,13 +58,20 @@ TEST_F(RecoveryOf, AllKindsOfWorkComeBackAsUnsaved)
     {
         Recovery recovery(varn.Drive);
         recovery.keep({});
-        recovery.keep(unsavedWork(varn, item()));
+        recovery.keep(work());
         EXPECT_EQ(foldersLeftBehind(varn.Drive), QStringList()) << "a program that runs keeps its own";
     }
     const QStringList folders = foldersLeftBehind(varn.Drive);
     ASSERT_EQ(folders.size(), 1);
     const UnsavedWork work = readWork(varn.Drive, folders[0]);
-    EXPECT_EQ(describe(work), "item new.dbs, symbol set rain.han, cumulative data sum");
+    EXPECT_EQ(describe(work),
+              "item new.dbs, symbol set rain.han, cumulative data sum, 2 atlas pages, place of the legend");
+    EXPECT_EQ(work.pages[0].itemPath + work.pages[0].answers->WordData(2, 1), "C:\\snow.dbsmi");
+    EXPECT_FALSE(work.pages[0].symbols);
+    EXPECT_FALSE(work.pages[1].answers);
+    EXPECT_EQ(work.pages[1].symbols->SymbolFilePath, "C:\\fog.han");
+    EXPECT_EQ(work.pages[1].symbols->HankoWord(1), varn.HankoWord(1));
+    EXPECT_EQ(work.legendPlace, QPointF(1.5, 2));
     EXPECT_EQ(work.item->answers.WordData(2, 1), "mi");
     EXPECT_EQ(work.item->kinds, QStringList("mi"));
 

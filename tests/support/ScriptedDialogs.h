@@ -15,9 +15,9 @@ public:
     ~ScriptedDialogs() override
     {
         const std::pair<const char*, std::size_t> left[] = {
-            {"yesNo", yesNo.size()}, {"okCancel", okCancel.size()}, {"inputs", inputs.size()},
-            {"files", files.size()}, {"folders", folders.size()},   {"savedFiles", savedFiles.size()},
-            {"fonts", fonts.size()}};
+            {"saves", saves.size()},           {"yesNo", yesNo.size()}, {"okCancel", okCancel.size()},
+            {"inputs", inputs.size()},         {"files", files.size()}, {"folders", folders.size()},
+            {"savedFiles", savedFiles.size()}, {"fonts", fonts.size()}};
         for (const auto& [kind, answers] : left) {
             EXPECT_EQ(answers, 0U) << "answers of " << kind << " were not asked for";
         }
@@ -52,6 +52,7 @@ public:
         }
     };
 
+    std::deque<SaveChoice> saves;
     std::deque<bool> yesNo, okCancel;
     std::deque<std::optional<QString>> inputs, files, folders, savedFiles;
     std::deque<std::optional<TextFont>> fonts;
@@ -71,6 +72,10 @@ public:
     bool confirmLoss(const QString& text, const QString& title) override
     {
         return answer(yesNo, {text, title});
+    }
+    SaveChoice askSaveChoice(const QString& text, const QString& title) override
+    {
+        return answer(saves, {text, title});
     }
     bool askOkCancel(const QString& text, const QString& title) override
     {
@@ -115,7 +120,7 @@ private:
         shown.push_back(question);
         if (answers.empty()) {
             ADD_FAILURE() << "no answer to: " << qPrintable(question.text);
-            return {};
+            return Answer();
         }
         const Answer next = answers.front();
         answers.pop_front();

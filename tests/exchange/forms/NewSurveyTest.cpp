@@ -94,9 +94,13 @@ TEST_F(NewSurveyWizard, ATableBecomesTheCurrentMapWithItsFirstItem)
     EXPECT_EQ(program.varn.VarnMapName, "\\isle");
     EXPECT_TRUE(survey.read(MapNameFile).startsWith("\"\\isle\"")) << "it is the map of the next start, too";
     EXPECT_EQ(program.varn.Hanrei, "snow");
+    EXPECT_TRUE(form<frmAtlas>().isVisible());
+    EXPECT_EQ(form<frmAtlas>().document().page().item.Hanrei, "snow");
+    EXPECT_GT(program.varn.NHanrei, 0);
+    program.click("cmdMap");
+    Program::menu("mnuMapLing").trigger();
+    EXPECT_TRUE(wasPrinted(Program::drawing(), "snow")) << "the other forms show it, too";
     EXPECT_TRUE(Program::menu("mnuWholeWordForms").isChecked());
-    EXPECT_TRUE(Program::map().isVisible());
-    EXPECT_TRUE(wasPrinted(Program::drawing(), "snow"));
     EXPECT_EQ(program.dialogs.errors, std::vector<Shown>());
 }
 

@@ -155,6 +155,17 @@ TEST_F(DialogsOfTheDesktop, EnterAndEscapeAnswerWhatLosesNothing)
     }
 }
 
+TEST_F(DialogsOfTheDesktop, UnsavedWorkIsSavedByEnterAndStaysByEscape)
+{
+    const std::pair<Answer, SaveChoice> rows[] = {{key(Qt::Key_Return), SaveChoice::Save},
+                                                  {key(Qt::Key_Escape), SaveChoice::Cancel},
+                                                  {press(QMessageBox::Discard), SaveChoice::Discard}};
+    for (const auto& [answer, expected] : rows) {
+        const Person person({seeing({"Atlas", "Save?", ""}, answer)});
+        EXPECT_EQ(dialogs.askSaveChoice("Save?", "Atlas"), expected);
+    }
+}
+
 TEST_F(DialogsOfTheDesktop, MessagesAndErrorsShowTheirTexts)
 {
     const auto close = [](QMessageBox::Icon icon, Qt::Key last) {

@@ -22,7 +22,7 @@ TEST_P(WaysOutOf, DoWhatTheySay)
 }
 
 INSTANTIATE_TEST_SUITE_P(Forms, WaysOutOf,
-                         testing::Values("frmMain", "frmMap", "frmChizu", "frmData", "frmDataInput",
+                         testing::Values("frmMain", "frmAtlas", "frmMap", "frmChizu", "frmData", "frmDataInput",
                                          "frmSetHanko", "frmCalc", "frmCalExec", "frmRankData",
                                          "frmTotalHanko"),
                          [](const auto& form) { return std::string(form.param); });

@@ -3,6 +3,7 @@
 #include <QAbstractItemView>
 #include <QAction>
 #include <QApplication>
+#include <QLineEdit>
 #include <QMenu>
 #include <QPushButton>
 #include <QShortcut>
@@ -34,9 +35,12 @@ QString textOf(const QWidget& widget)
     return rows.join(',');
 }
 
-/// Menus, separators and the parts of other windows are none.
+/// Menus, separators, the parts of other windows and the buttons inside text boxes are none.
 bool isWayOut(const QObject& object, const VarnForm& form)
 {
+    if (qobject_cast<const QLineEdit*>(object.parent()) != nullptr) {
+        return false;
+    }
     if (const auto* action = qobject_cast<const QAction*>(&object)) {
         return action->menu() == nullptr && !action->isSeparator();
     }

@@ -24,6 +24,8 @@ frmMain: cmdSettingPrinter, lblDisplayPaperSize -> Portrait(
 frmMain: cmdSettingPrinter, cboOrientation=0 -> Portrait(
 frmMain: (yes), cmdMapName -> *picPreview; (yes), cmdMapName, cmdRegMap -> *picPreview
 frmMain: (no), cmdMapName -> Is this a right map name ? 
+frmAtlas: (snow in the atlas), mnuNextItem ->  - Snow
+frmAtlas: (snow in the atlas), mnuNextItem, mnuPreviousItem ->  - Rain
 frmMap: mnuMapBlank, (yes), mnuChiten, mnuMapBlank -> *picMap
 frmMap: (yes), mnuStyle, mnuMapLing -> map: rain.han; (161 symbols), mnuHankoNext, mnuHankoList -> -map: 161
 frmMap: (161 symbols), mnuHankoPrevious, mnuHankoNext -> map: 161
@@ -150,6 +152,12 @@ std::map<QString, std::function<void()>> EveryWayOut::preparations()
         {"(yes)", [&] { dialogs.yesNo = {true}; }},
         {"(cancel)", [&] { dialogs.okCancel = {false}; }},
         {"(frmMap in front)", [] { press<frmMain>("cmdMap"); }},
+        {"(snow in the atlas)",
+         [&] {
+             survey.write(ling("snow.dbs"), "3,\"\",\"Snow\",\"\"\r\n0\r\n0\r\n0\r\n");
+             press<frmMain>("cmdAtlas");
+             showOnly(form<frmAtlas>());
+         }},
         {"(hail on the clipboard)", [] { QGuiApplication::clipboard()->setText("hail"); }},
         {"(161 symbols)", [&] { varn.Nsquare = 3; }},
         {"(4 localities)",
