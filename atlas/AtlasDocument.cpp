@@ -1,5 +1,6 @@
 #include "atlas/AtlasDocument.h"
 
+#include "exchange/MadeSymbols.h"
 #include "lingdata/ItemLoader.h"
 #include "mapdata/MapFiles.h"
 #include "platform/Numbers.h"
@@ -57,6 +58,7 @@ void AtlasDocument::turnTo(const QString& itemPath)
     const auto kept = m_kept.find(key(itemPath));
     AtlasPage page = kept == m_kept.end() ? readAtlasPage(m_varn, itemPath) : kept->second;
     keepPage();
+    m_varn.WholeWordForms = m_wholeWordForms = isMadeForWholeWordForms(page.symbols);
     show(std::move(page));
 }
 
@@ -147,6 +149,25 @@ void AtlasDocument::endPreview()
     }
 }
 
+bool AtlasDocument::wholeWordForms() const
+{
+    return m_varn.WholeWordForms;
+}
+
+void AtlasDocument::setWholeWordForms(bool whole)
+{
+    m_varn.WholeWordForms = whole;
+    followWholeWordForms();
+}
+
+void AtlasDocument::followWholeWordForms()
+{
+    if (m_wholeWordForms != m_varn.WholeWordForms) {
+        m_wholeWordForms = m_varn.WholeWordForms;
+        Q_EMIT symbolsChanged();
+    }
+}
+
 void AtlasDocument::setWords(const WordsStep::Words& words, const QString& text)
 {
     ItemAnswers tried = m_page.item;
@@ -174,6 +195,9 @@ void AtlasDocument::putSymbols(const QString& itemPath, const SymbolRecords& rec
 {
     turnTo(itemPath);
     m_preview.reset();
+    if (isMadeForWholeWordForms(records) != isMadeForWholeWordForms(m_page.symbols)) {
+        m_varn.WholeWordForms = m_wholeWordForms = isMadeForWholeWordForms(records);
+    }
     static_cast<SymbolRecords&>(m_page.symbols) = records;
     shareSymbols();
     Q_EMIT symbolsChanged();
@@ -271,6 +295,7 @@ void AtlasDocument::followSharedState()
     if (hasPage() && !isNothing(m_varn)) {
         followSymbols();
     }
+    followWholeWordForms();
 }
 
 void AtlasDocument::followItem()
