@@ -15,7 +15,7 @@ frmAtlas::frmAtlas(VarnModule& varn, Dialogs& dialogs)
     : VarnForm(dialogs), m_varn(varn), m_document(varn),
       m_items(new AtlasItemsPane(varn, m_document, m_selection)),
       m_map(new AtlasMapView(varn, m_document, m_selection)),
-      m_records(new AtlasRecordsPane(varn, m_document, m_selection)),
+      m_records(new AtlasRecordsPane(varn, m_document, m_selection, dialogs)),
       m_localities(new AtlasLocalitiesPane(varn, m_document, m_selection))
 {
     setObjectName(QStringLiteral("frmAtlas"));

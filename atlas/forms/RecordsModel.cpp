@@ -1,0 +1,306 @@
+#include "atlas/forms/RecordsModel.h"
+
+#include "atlas/AtlasDocument.h"
+#include "platform/forms/ThemeColors.h"
+#include "shell/VarnModule.h"
+
+#include <QDataStream>
+#include <QGuiApplication>
+#include <QIODevice>
+#include <QMimeData>
+#include <QPalette>
+
+#include <algorithm>
+#include <array>
+
+namespace {
+
+const QString RecordsFormat = QStringLiteral("application/x-varn-symbol-records");
+
+struct Heading
+{
+    const char* text;
+    const char* explanation;
+};
+
+constexpr std::array<Heading, RecordsModel::ColumnCount> Headings = {{
+    {"Symbol", "The symbol: click to choose design, colours, size and thickness"},
+    {"Kind", "The kind of word form that the record looks for"},
+    {"Caption", "The text in the legend; with a hyphen in it the record is not in the legend"},
+    {"Forms", "How many different word forms the record marks"},
+    {"Places", "At how many localities the record marks a word form"},
+}};
+
+} // namespace
+
+RecordsModel::RecordsModel(VarnModule& varn, AtlasDocument& document, QObject* parent)
+    : QAbstractTableModel(parent), m_varn(varn), m_document(document)
+{
+    connect(&document, &AtlasDocument::pageTurned, this, &RecordsModel::showPage);
+    connect(&document, &AtlasDocument::wordsChanged, this, &RecordsModel::showWords);
+    connect(&document, &AtlasDocument::symbolsChanged, this, &RecordsModel::showSymbols);
+    showPage();
+}
+
+bool RecordsModel::isEditable() const
+{
+    return m_document.hasPage() && m_document.page().symbolTrouble.isEmpty();
+}
+
+bool RecordsModel::hasRoom() const
+{
+    return isEditable() && m_document.page().symbols.NHanrei < MostRecords;
+}
+
+bool RecordsModel::isRecord(const QModelIndex& index) const
+{
+    return index.isValid() && static_cast<std::size_t>(index.row()) < m_counts.records.size();
+}
+
+void RecordsModel::showPage()
+{
+    beginResetModel();
+    m_isTyping = false;
+    m_words = answeredWords(m_document.page().item);
+    m_counts = countRecords(m_words, m_document.shownSymbols(), m_document.wholeWordForms());
+    m_rows = neededRows();
+    endResetModel();
+    Q_EMIT shownChanged();
+}
+
+void RecordsModel::showWords()
+{
+    m_words = answeredWords(m_document.page().item);
+    showSymbols();
+}
+
+void RecordsModel::showSymbols()
+{
+    m_counts = countRecords(m_words, m_document.shownSymbols(), m_document.wholeWordForms());
+    showRows();
+    if (m_rows > 0 && m_isTyping) { // the cell that is typed in is left alone
+        Q_EMIT dataChanged(index(0, Symbol), index(m_rows - 1, Symbol));
+        Q_EMIT dataChanged(index(0, Words), index(m_rows - 1, Localities));
+    } else if (m_rows > 0) {
+        Q_EMIT dataChanged(index(0, 0), index(m_rows - 1, ColumnCount - 1));
+    }
+    Q_EMIT shownChanged();
+}
+
+/// The row for a new record stays the last one while its kind is typed.
+int RecordsModel::neededRows() const
+{
+    return m_document.page().symbols.NHanrei + (hasRoom() ? 1 : 0);
+}
+
+/// Rows come and go at the end, so that an open cell stays open.
+void RecordsModel::showRows()
+{
+    const int needed = neededRows();
+    if (needed > m_rows) {
+        beginInsertRows({}, m_rows, needed - 1);
+        m_rows = needed;
+        endInsertRows();
+    } else if (needed < m_rows) {
+        beginRemoveRows({}, needed, m_rows - 1);
+        m_rows = needed;
+        endRemoveRows();
+    }
+}
+
+SymbolRecords RecordsModel::edited(const QModelIndex& index, const QString& text) const
+{
+    const SymbolRecords& records = m_document.page().symbols;
+    const int k = index.row() + 1;
+    if (k > records.NHanrei) {
+        return text.trimmed().isEmpty() ? records : withRecord(records, text, m_varn.Nsquare);
+    }
+    return index.column() == Kind ? withKind(records, k, text) : withCaption(records, k, text);
+}
+
+void RecordsModel::type(const QModelIndex& index, const QString& text)
+{
+    m_isTyping = true;
+    m_document.previewSymbols(edited(index, text));
+}
+
+void RecordsModel::endTyping()
+{
+    m_isTyping = false;
+    m_document.endPreview();
+}
+
+bool RecordsModel::setData(const QModelIndex& index, const QVariant& value, int role)
+{
+    if (role != Qt::EditRole || !(flags(index) & Qt::ItemIsEditable)) {
+        return false;
+    }
+    m_isTyping = false;
+    const bool isNew = index.row() >= m_document.page().symbols.NHanrei;
+    m_document.setSymbols(edited(index, value.toString()), isNew ? QStringLiteral("New Record")
+                                                           : index.column() == Kind
+                                                               ? QStringLiteral("Change Kind")
+                                                               : QStringLiteral("Change Caption"));
+    return true;
+}
+
+void RecordsModel::move(const RecordNumbers& numbers, int before)
+{
+    if (isEditable() && !numbers.empty()) {
+        m_document.setSymbols(withRecordsMoved(m_document.page().symbols, numbers, before),
+                              QStringLiteral("Move Records"));
+        Q_EMIT moved(numbersMoved(numbers, before));
+    }
+}
+
+int RecordsModel::rowCount(const QModelIndex& parent) const
+{
+    return parent.isValid() ? 0 : m_rows;
+}
+
+int RecordsModel::columnCount(const QModelIndex& parent) const
+{
+    return parent.isValid() ? 0 : static_cast<int>(ColumnCount);
+}
+
+Qt::ItemFlags RecordsModel::flags(const QModelIndex& index) const
+{
+    if (!index.isValid()) {
+        return Qt::ItemIsDropEnabled; // between the rows
+    }
+    Qt::ItemFlags flags = Qt::ItemIsEnabled | Qt::ItemIsSelectable;
+    const bool isNew = !isRecord(index);
+    if (isEditable() && (index.column() == Kind || (index.column() == Caption && !isNew))) {
+        flags |= Qt::ItemIsEditable;
+    }
+    if (isEditable() && !isNew) {
+        flags |= Qt::ItemIsDragEnabled;
+    }
+    return flags;
+}
+
+QVariant RecordsModel::headerData(int section, Qt::Orientation orientation, int role) const
+{
+    if (orientation == Qt::Vertical) {
+        return role == Qt::DisplayRole ? QVariant(section + 1) : QVariant();
+    }
+    const Heading& heading = Headings.at(static_cast<std::size_t>(section));
+    switch (role) {
+    case Qt::DisplayRole:
+        return QLatin1String(heading.text);
+    case Qt::ToolTipRole:
+        return QLatin1String(heading.explanation);
+    default:
+        return {};
+    }
+}
+
+QVariant RecordsModel::data(const QModelIndex& index, int role) const
+{
+    if (!index.isValid()) {
+        return {};
+    }
+    return isRecord(index) ? recordData(index, role) : newRowData(index.column(), role);
+}
+
+QVariant RecordsModel::newRowData(int column, int role) const
+{
+    if (column != Kind) {
+        return {};
+    }
+    switch (role) {
+    case Qt::DisplayRole:
+        return QStringLiteral("Type a kind");
+    case Qt::ForegroundRole:
+        return quietText(QGuiApplication::palette());
+    case Qt::ToolTipRole:
+        return QStringLiteral("While you type, the map shows what the kind would mark; Enter adds a record.");
+    default:
+        return {};
+    }
+}
+
+QString RecordsModel::kindText(int k) const
+{
+    const QString& kind = m_document.shownSymbols().HankoWord(k);
+    if (!kind.isEmpty()) {
+        return kind;
+    }
+    return m_document.wholeWordForms() ? QStringLiteral("(all others)") : QStringLiteral("(every word form)");
+}
+
+QVariant RecordsModel::text(const QModelIndex& index) const
+{
+    const int k = index.row() + 1;
+    const RecordCount& count = m_counts.records[static_cast<std::size_t>(index.row())];
+    switch (index.column()) {
+    case Kind:
+        return kindText(k);
+    case Caption:
+        return m_document.shownSymbols().HankoCaption(k);
+    case Words:
+        return count.words;
+    case Localities:
+        return static_cast<int>(count.localities.size());
+    default:
+        return {};
+    }
+}
+
+QVariant RecordsModel::recordData(const QModelIndex& index, int role) const
+{
+    const int k = index.row() + 1;
+    const bool isCount = index.column() == Words || index.column() == Localities;
+    switch (role) {
+    case Qt::DisplayRole:
+        return text(index);
+    case Qt::EditRole:
+        return index.column() == Kind ? m_document.shownSymbols().HankoWord(k) : text(index);
+    case StyleRole:
+        return QVariant::fromValue(m_document.shownSymbols().Hanko(k));
+    case Qt::ToolTipRole:
+        return isCount ? QVariant() : text(index);
+    case Qt::TextAlignmentRole:
+        return isCount ? QVariant(Qt::AlignRight | Qt::AlignVCenter) : QVariant();
+    case Qt::AccessibleTextRole:
+        return index.column() == Symbol
+                   ? QStringLiteral("Symbol %1").arg(m_document.shownSymbols().Hanko(k).HankoNo)
+                   : text(index);
+    default:
+        return {};
+    }
+}
+
+QStringList RecordsModel::mimeTypes() const
+{
+    return {RecordsFormat};
+}
+
+QMimeData* RecordsModel::mimeData(const QModelIndexList& indexes) const
+{
+    RecordNumbers numbers;
+    for (const QModelIndex& index : indexes) {
+        numbers.insert(index.row() + 1);
+    }
+    QByteArray bytes;
+    QDataStream stream(&bytes, QIODevice::WriteOnly);
+    stream << QList<int>(numbers.begin(), numbers.end());
+    auto* data = new QMimeData; // who drags it owns it
+    data->setData(RecordsFormat, bytes);
+    return data;
+}
+
+bool RecordsModel::dropMimeData(const QMimeData* data, Qt::DropAction action, int row, int /*column*/,
+                                const QModelIndex& /*parent*/)
+{
+    if (action != Qt::MoveAction || !data->hasFormat(RecordsFormat)) {
+        return false;
+    }
+    QList<int> numbers;
+    QDataStream stream(data->data(RecordsFormat));
+    stream >> numbers;
+    const int records = m_document.page().symbols.NHanrei;
+    const int target = row < 0 ? records : std::min(row, records); // -1 is below the rows
+    move({numbers.begin(), numbers.end()}, target + 1);
+    return true;
+}
