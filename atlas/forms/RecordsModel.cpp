@@ -60,7 +60,7 @@ bool RecordsModel::isRecord(const QModelIndex& index) const
 void RecordsModel::showPage()
 {
     beginResetModel();
-    m_isTyping = false;
+    m_typedColumn.reset();
     m_words = answeredWords(m_document.page().item);
     m_counts = countRecords(m_words, m_document.shownSymbols(), m_document.wholeWordForms());
     m_rows = neededRows();
@@ -78,13 +78,18 @@ void RecordsModel::showSymbols()
 {
     m_counts = countRecords(m_words, m_document.shownSymbols(), m_document.wholeWordForms());
     showRows();
-    if (m_rows > 0 && m_isTyping) { // the cell that is typed in is left alone
-        Q_EMIT dataChanged(index(0, Symbol), index(m_rows - 1, Symbol));
-        Q_EMIT dataChanged(index(0, Words), index(m_rows - 1, Localities));
-    } else if (m_rows > 0) {
-        Q_EMIT dataChanged(index(0, 0), index(m_rows - 1, ColumnCount - 1));
-    }
+    showCells();
     Q_EMIT shownChanged();
+}
+
+/// The cell that is typed in is left alone.
+void RecordsModel::showCells()
+{
+    for (int column = 0; column < ColumnCount && m_rows > 0; ++column) {
+        if (column != m_typedColumn) {
+            Q_EMIT dataChanged(index(0, column), index(m_rows - 1, column));
+        }
+    }
 }
 
 /// The row for a new record stays the last one while its kind is typed.
@@ -120,13 +125,13 @@ SymbolRecords RecordsModel::edited(const QModelIndex& index, const QString& text
 
 void RecordsModel::type(const QModelIndex& index, const QString& text)
 {
-    m_isTyping = true;
+    m_typedColumn = index.column();
     m_document.previewSymbols(edited(index, text));
 }
 
 void RecordsModel::endTyping()
 {
-    m_isTyping = false;
+    m_typedColumn.reset();
     m_document.endPreview();
 }
 
@@ -135,7 +140,7 @@ bool RecordsModel::setData(const QModelIndex& index, const QVariant& value, int 
     if (role != Qt::EditRole || !(flags(index) & Qt::ItemIsEditable)) {
         return false;
     }
-    m_isTyping = false;
+    m_typedColumn.reset();
     const bool isNew = index.row() >= m_document.page().symbols.NHanrei;
     m_document.setSymbols(edited(index, value.toString()), isNew ? QStringLiteral("New Record")
                                                            : index.column() == Kind

@@ -5,6 +5,8 @@
 
 #include <QAbstractTableModel>
 
+#include <optional>
+
 class AtlasDocument;
 struct VarnModule;
 
@@ -61,6 +63,7 @@ private:
     void showWords();
     void showSymbols();
     void showRows();
+    void showCells();
     int neededRows() const;
     QString kindText(int k) const;
     QVariant text(const QModelIndex& index) const;
@@ -74,5 +77,6 @@ private:
     std::vector<AnsweredWord> m_words;
     RecordCounts m_counts;
     int m_rows = 0;
-    bool m_isTyping = false;
+    /// The column of the cell that is being typed in.
+    std::optional<int> m_typedColumn;
 };
