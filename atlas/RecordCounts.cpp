@@ -2,8 +2,6 @@
 
 #include "render/SymbolMarks.h"
 
-#include <QHash>
-
 #include <algorithm>
 #include <functional>
 
@@ -21,12 +19,12 @@ public:
         }
     }
 
-    std::set<int> numbers() const
+    std::vector<int> numbers() const
     {
-        std::set<int> numbers;
+        std::vector<int> numbers;
         for (std::size_t i = 0; i < m_isIn.size(); ++i) {
             if (m_isIn[i]) {
-                numbers.insert(numbers.end(), static_cast<int>(i));
+                numbers.push_back(static_cast<int>(i));
             }
         }
         return numbers;
@@ -82,23 +80,38 @@ std::vector<std::size_t> RecordCounts::markedTwice() const
     return wordsWith(marks, [](std::size_t n) { return n > 1; });
 }
 
-RecordCounts countRecords(const std::vector<AnsweredWord>& words, const SymbolRecords& symbols,
-                          bool wholeWordForms)
+RecordCount RecordCounter::countOf(const SymbolMarks& marks, int k) const
+{
+    RecordCount count;
+    LocalityUnion localities;
+    for (std::size_t n = 0; n < m_words.size(); ++n) {
+        if (marks(k, m_words[n].word)) {
+            count.words.push_back(n);
+            localities.add(m_words[n].localities);
+        }
+    }
+    count.localities = localities.numbers();
+    return count;
+}
+
+RecordCounts RecordCounter::count(const SymbolRecords& symbols, bool wholeWordForms)
 {
     const SymbolMarks marks(symbols, wholeWordForms);
+    const QHash<QString, RecordCount> known =
+        m_wholeWordForms == wholeWordForms ? std::exchange(m_known, {}) : QHash<QString, RecordCount>();
+    m_known.clear();
+    m_wholeWordForms = wholeWordForms;
     RecordCounts counts;
-    counts.marks.resize(words.size());
+    counts.marks.resize(m_words.size());
     for (int k = 1; k <= symbols.NHanrei; ++k) {
-        RecordCount& record = counts.records.emplace_back();
-        LocalityUnion localities;
-        for (std::size_t n = 0; n < words.size(); ++n) {
-            if (marks(k, words[n].word)) {
-                ++record.words;
-                localities.add(words[n].localities);
-                counts.marks[n].push_back(k);
-            }
+        const QString& kind = symbols.HankoWord(k);
+        const bool isKnown = !kind.isEmpty() && known.contains(kind); // the empty one is for all others
+        const RecordCount count = isKnown ? known[kind] : countOf(marks, k);
+        for (const std::size_t n : count.words) {
+            counts.marks[n].push_back(k);
         }
-        record.localities = localities.numbers();
+        m_known.insert(kind, count);
+        counts.records.push_back(count);
     }
     return counts;
 }

@@ -3,8 +3,12 @@
 #include "lingdata/LinguisticData.h"
 #include "symbols/SymbolSet.h"
 
-#include <set>
+#include <QHash>
+
+#include <utility>
 #include <vector>
+
+class SymbolMarks;
 
 /// A distinct word form of an item, and the localities that answered it, in ascending order.
 struct AnsweredWord
@@ -17,11 +21,11 @@ struct AnsweredWord
 /// first appearance.
 std::vector<AnsweredWord> answeredWords(const ItemAnswers& item);
 
-/// What a record marks: how many distinct word forms, and at which localities.
+/// What a record marks: numbers of distinct word forms, from 0, and their localities, in ascending order.
 struct RecordCount
 {
-    int words = 0;
-    std::set<int> localities;
+    std::vector<std::size_t> words;
+    std::vector<int> localities;
 };
 
 /// What the records of a symbol set mark of an item's word forms.
@@ -37,6 +41,23 @@ struct RecordCounts
     std::vector<std::size_t> markedTwice() const;
 };
 
-/// Counts what `symbols` mark of `words`, compared as `SymbolMarks` does.
-RecordCounts countRecords(const std::vector<AnsweredWord>& words, const SymbolRecords& symbols,
-                          bool wholeWordForms);
+/// Counts what the records of symbol sets mark of an item's word forms, compared as `SymbolMarks` does. It
+/// looks through the word forms only for kinds that the set before did not have, so that it keeps up with
+/// typing.
+class RecordCounter
+{
+public:
+    explicit RecordCounter(std::vector<AnsweredWord> words = {}) : m_words(std::move(words)) {}
+
+    const std::vector<AnsweredWord>& words() const { return m_words; }
+
+    RecordCounts count(const SymbolRecords& symbols, bool wholeWordForms);
+
+private:
+    RecordCount countOf(const SymbolMarks& marks, int k) const;
+
+    std::vector<AnsweredWord> m_words;
+    /// What the kinds of the last set mark, in that way of comparing.
+    QHash<QString, RecordCount> m_known;
+    bool m_wholeWordForms = false;
+};

@@ -84,12 +84,7 @@ void AtlasRecordsPane::connectWidgets()
 
 void AtlasRecordsPane::showRecords()
 {
-    const SymbolRecords& records = m_document.shownSymbols();
-    QStringList kinds;
-    for (int k = 1; k <= records.NHanrei; ++k) {
-        kinds << m_model->index(k - 1, RecordsModel::Kind).data().toString();
-    }
-    m_words->show(kinds);
+    m_words->showMarks();
     m_note->setText(note());
     m_note->setVisible(!m_note->text().isEmpty());
     m_selection.setRecords(m_table->chosenRecords());

@@ -48,13 +48,17 @@ MarkedWordsPane::MarkedWordsPane(VarnModule& varn, RecordsModel& records, QWidge
     tabBar()->setAccessibleName(QStringLiteral("Word forms that are not marked once"));
     m_unmarked.view->setObjectName(QStringLiteral("tblUnmarked"));
     m_several.view->setObjectName(QStringLiteral("tblMarkedTwice"));
+    connect(&records, &RecordsModel::modelAboutToBeReset, this, [this] { // their word forms go
+        m_unmarked.model->show({});
+        m_several.model->show({});
+    });
     connect(m_unmarked.view, &QTableView::activated, this, &MarkedWordsPane::recordsWanted);
 }
 
-MarkedWordsPane::List MarkedWordsPane::addList(VarnModule& varn, const QString& name, bool withRecords)
+MarkedWordsPane::List MarkedWordsPane::addList(VarnModule& varn, const QString& name, bool showsRecords)
 {
     auto* view = new QTableView(this);
-    auto* model = new WordsModel(withRecords, view);
+    auto* model = new WordsModel(m_records, showsRecords, view);
     view->setModel(model);
     view->setItemDelegate(new WordDelegate(varn, view));
     view->setAccessibleName(name);
@@ -67,25 +71,12 @@ MarkedWordsPane::List MarkedWordsPane::addList(VarnModule& varn, const QString& 
     return list;
 }
 
-std::vector<WordsModel::Row> MarkedWordsPane::rows(const std::vector<std::size_t>& words,
-                                                   const QStringList& kinds) const
-{
-    std::vector<WordsModel::Row> rows;
-    for (const std::size_t n : words) {
-        WordsModel::Row& row = rows.emplace_back(WordsModel::Row{m_records.words()[n], {}});
-        for (const int k : m_records.counts().marks[n]) {
-            row.kinds << kinds.value(k - 1);
-        }
-    }
-    return rows;
-}
-
-void MarkedWordsPane::show(const QStringList& kinds)
+void MarkedWordsPane::showMarks()
 {
     const std::vector<std::size_t> unmarked = m_records.counts().unmarked();
     const std::vector<std::size_t> several = m_records.counts().markedTwice();
-    m_unmarked.model->show(rows(unmarked, kinds));
-    m_several.model->show(rows(several, kinds));
+    m_unmarked.model->show(unmarked);
+    m_several.model->show(several);
     setTabText(0, QStringLiteral("Not marked: ") + wordForms(unmarked.size()));
     setTabText(1, QStringLiteral("More than once: %1").arg(several.size()));
     setTabToolTip(1, QStringLiteral("Marked more than once: ") + wordForms(several.size()));

@@ -4,6 +4,8 @@
 
 #include <QTabWidget>
 
+#include <set>
+
 class QTableView;
 class RecordsModel;
 struct VarnModule;
@@ -16,8 +18,8 @@ class MarkedWordsPane : public QTabWidget
 public:
     MarkedWordsPane(VarnModule& varn, RecordsModel& records, QWidget* parent);
 
-    /// Shows what the records mark now; `kinds` are those of the records, in order.
-    void show(const QStringList& kinds);
+    /// Shows what the records mark now.
+    void showMarks();
     /// The chosen word forms that no record marks.
     QStringList chosenUnmarked() const;
 
@@ -34,9 +36,8 @@ private:
         QTableView* view;
     };
 
-    List addList(VarnModule& varn, const QString& name, bool withRecords);
+    List addList(VarnModule& varn, const QString& name, bool showsRecords);
     std::set<int> localitiesOf(const List& list) const;
-    std::vector<WordsModel::Row> rows(const std::vector<std::size_t>& words, const QStringList& kinds) const;
 
     const RecordsModel& m_records;
     List m_unmarked;

@@ -162,8 +162,8 @@ void RecordCommands::selectLocalities()
 {
     AtlasSelection::Numbers localities;
     for (const int k : m_parts.table.chosenRecords()) {
-        localities.merge(AtlasSelection::Numbers(
-            m_parts.model.counts().records.at(static_cast<std::size_t>(k - 1)).localities));
+        const RecordCount& count = m_parts.model.counts().records.at(static_cast<std::size_t>(k - 1));
+        localities.insert(count.localities.begin(), count.localities.end());
     }
     m_parts.selection.setLocalities(localities);
 }

@@ -61,8 +61,8 @@ void RecordsModel::showPage()
 {
     beginResetModel();
     m_typedColumn.reset();
-    m_words = answeredWords(m_document.page().item);
-    m_counts = countRecords(m_words, m_document.shownSymbols(), m_document.wholeWordForms());
+    m_counter = RecordCounter(answeredWords(m_document.page().item));
+    count();
     m_rows = neededRows();
     endResetModel();
     Q_EMIT shownChanged();
@@ -70,13 +70,18 @@ void RecordsModel::showPage()
 
 void RecordsModel::showWords()
 {
-    m_words = answeredWords(m_document.page().item);
+    m_counter = RecordCounter(answeredWords(m_document.page().item));
     showSymbols();
+}
+
+void RecordsModel::count()
+{
+    m_counts = m_counter.count(m_document.shownSymbols(), m_document.wholeWordForms());
 }
 
 void RecordsModel::showSymbols()
 {
-    m_counts = countRecords(m_words, m_document.shownSymbols(), m_document.wholeWordForms());
+    count();
     showRows();
     showCells();
     Q_EMIT shownChanged();
@@ -237,16 +242,16 @@ QString RecordsModel::kindText(int k) const
 QVariant RecordsModel::text(const QModelIndex& index) const
 {
     const int k = index.row() + 1;
-    const RecordCount& count = m_counts.records[static_cast<std::size_t>(index.row())];
+    const RecordCount& marked = m_counts.records[static_cast<std::size_t>(index.row())];
     switch (index.column()) {
     case Kind:
         return kindText(k);
     case Caption:
         return m_document.shownSymbols().HankoCaption(k);
     case Words:
-        return count.words;
+        return static_cast<int>(marked.words.size());
     case Localities:
-        return static_cast<int>(count.localities.size());
+        return static_cast<int>(marked.localities.size());
     default:
         return {};
     }

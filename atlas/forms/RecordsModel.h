@@ -24,7 +24,7 @@ public:
 
     RecordsModel(VarnModule& varn, AtlasDocument& document, QObject* parent);
 
-    const std::vector<AnsweredWord>& words() const { return m_words; }
+    const std::vector<AnsweredWord>& words() const { return m_counter.words(); }
     const RecordCounts& counts() const { return m_counts; }
     /// Whether the records can be changed: there is a page, and its symbol file can be read.
     bool isEditable() const;
@@ -61,6 +61,7 @@ Q_SIGNALS:
 private:
     void showPage();
     void showWords();
+    void count();
     void showSymbols();
     void showRows();
     void showCells();
@@ -74,7 +75,7 @@ private:
 
     VarnModule& m_varn;
     AtlasDocument& m_document;
-    std::vector<AnsweredWord> m_words;
+    RecordCounter m_counter;
     RecordCounts m_counts;
     int m_rows = 0;
     /// The column of the cell that is being typed in.

@@ -38,13 +38,21 @@ QToolButton* choiceButton(const QString& name, const QString& accessibleName)
     return button;
 }
 
-QIcon swatch(QRgb color)
+QPixmap framed(QRgb color, const QColor& frame, int width)
 {
     constexpr int Side = 16;
     QPixmap picture(Side, Side);
-    picture.fill(Qt::darkGray);
-    QPainter(&picture).fillRect(1, 1, Side - 2, Side - 2, QColor(color));
+    picture.fill(frame);
+    QPainter(&picture).fillRect(width, width, Side - 2 * width, Side - 2 * width, QColor(color));
     return picture;
+}
+
+/// A colour, with a wide frame where it is chosen.
+QIcon swatch(QRgb color, const QPalette& palette)
+{
+    QIcon icon(framed(color, Qt::darkGray, 1));
+    icon.addPixmap(framed(color, palette.color(QPalette::Highlight), 3), QIcon::Normal, QIcon::On);
+    return icon;
 }
 
 /// The top left corner of a popup under `place`, or above it where there is no room, on the screen.
@@ -110,7 +118,7 @@ QButtonGroup& SymbolPopup::addColors(const QString& title, StyleField field)
     int color = 0;
     for (const QString& name : standardColorNames()) {
         QToolButton* button = choiceButton({}, title + QLatin1Char(' ') + name);
-        button->setIcon(swatch(QBColor(color)));
+        button->setIcon(swatch(QBColor(color), palette()));
         button->setToolTip(name);
         group->addButton(button, color);
         grid->addWidget(button, color / InRow, 1 + color % InRow);

@@ -1,22 +1,40 @@
 #include "atlas/forms/WordsModel.h"
 
+#include "atlas/forms/RecordsModel.h"
+
+#include <QStringList>
+
 #include <utility>
 
-void WordsModel::show(std::vector<Row> rows)
+void WordsModel::show(std::vector<std::size_t> words)
 {
     beginResetModel();
-    m_rows = std::move(rows);
+    m_words = std::move(words);
     endResetModel();
+}
+
+const AnsweredWord& WordsModel::word(int row) const
+{
+    return m_records.words().at(m_words.at(static_cast<std::size_t>(row)));
+}
+
+QString WordsModel::kindsOf(int row) const
+{
+    QStringList kinds;
+    for (const int k : m_records.counts().marks.at(m_words.at(static_cast<std::size_t>(row)))) {
+        kinds << m_records.index(k - 1, RecordsModel::Kind).data().toString();
+    }
+    return kinds.join(QStringLiteral(", "));
 }
 
 int WordsModel::rowCount(const QModelIndex& parent) const
 {
-    return parent.isValid() ? 0 : static_cast<int>(m_rows.size());
+    return parent.isValid() ? 0 : static_cast<int>(m_words.size());
 }
 
 int WordsModel::columnCount(const QModelIndex& parent) const
 {
-    return parent.isValid() ? 0 : m_withRecords ? 3 : 2;
+    return parent.isValid() ? 0 : m_showsRecords ? 3 : 2;
 }
 
 QVariant WordsModel::data(const QModelIndex& index, int role) const
@@ -27,14 +45,13 @@ QVariant WordsModel::data(const QModelIndex& index, int role) const
     if (role != Qt::DisplayRole) {
         return {};
     }
-    const Row& row = m_rows.at(static_cast<std::size_t>(index.row()));
     switch (index.column()) {
     case Word:
-        return row.word.word;
+        return word(index.row()).word;
     case Localities:
-        return static_cast<int>(row.word.localities.size());
+        return static_cast<int>(word(index.row()).localities.size());
     default:
-        return row.kinds.join(QStringLiteral(", "));
+        return kindsOf(index.row());
     }
 }
 

@@ -3,10 +3,11 @@
 #include "atlas/RecordCounts.h"
 
 #include <QAbstractTableModel>
-#include <QStringList>
 
-/// Some word forms of the page shown, with the number of their localities and, where several records mark
-/// them, the kinds of these.
+class RecordsModel;
+
+/// Some word forms of the page shown, with the number of their localities and, where it is wanted, the kinds
+/// of the records that mark them.
 class WordsModel : public QAbstractTableModel
 {
     Q_OBJECT
@@ -14,17 +15,13 @@ class WordsModel : public QAbstractTableModel
 public:
     enum Column { Word, Localities, Records };
 
-    /// A word form, its localities, and the records that mark it.
-    struct Row
-    {
-        AnsweredWord word;
-        QStringList kinds;
-    };
+    WordsModel(const RecordsModel& records, bool showsRecords, QObject* parent)
+        : QAbstractTableModel(parent), m_records(records), m_showsRecords(showsRecords)
+    {}
 
-    WordsModel(bool withRecords, QObject* parent) : QAbstractTableModel(parent), m_withRecords(withRecords) {}
-
-    void show(std::vector<Row> rows);
-    const AnsweredWord& word(int row) const { return m_rows.at(static_cast<std::size_t>(row)).word; }
+    /// Shows the word forms of these numbers, from 0.
+    void show(std::vector<std::size_t> words);
+    const AnsweredWord& word(int row) const;
 
     int rowCount(const QModelIndex& parent = {}) const override;
     int columnCount(const QModelIndex& parent = {}) const override;
@@ -32,6 +29,9 @@ public:
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
 private:
-    std::vector<Row> m_rows;
-    bool m_withRecords;
+    QString kindsOf(int row) const;
+
+    const RecordsModel& m_records;
+    bool m_showsRecords;
+    std::vector<std::size_t> m_words;
 };

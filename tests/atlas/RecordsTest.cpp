@@ -45,7 +45,7 @@ QString text(const RecordCounts& counts)
 {
     QStringList parts;
     for (const RecordCount& record : counts.records) {
-        parts << QStringLiteral("%1/%2").arg(record.words).arg(record.localities.size());
+        parts << QStringLiteral("%1/%2").arg(record.words.size()).arg(record.localities.size());
     }
     for (const std::vector<int>& numbers : counts.marks) {
         QString marks;
@@ -96,7 +96,7 @@ TEST(RecordCounts, WordFormsComeByTheirLocalities)
 
 TEST(RecordCounts, RecordsMarkWhatContainsTheirKindOrEqualsIt)
 {
-    const std::vector<AnsweredWord> words = answeredWords(answers({"ame,ame no", "ame", "uyu", "yuki,uyu"}));
+    RecordCounter counter(answeredWords(answers({"ame,ame no", "ame", "uyu", "yuki,uyu"})));
     // the word forms: ame, uyu, ame no, yuki
     struct
     {
@@ -109,11 +109,12 @@ TEST(RecordCounts, RecordsMarkWhatContainsTheirKindOrEqualsIt)
         {{"ame", "no", "yu"}, false, "2/2 1/1 2/2 1 3 12 3", 0, 1},
         {{"ame", "no", "uyu"}, true, "1/2 0/0 1/2 1 3  ", 2, 0},
         {{"", "ame"}, true, "3/3 1/2 2 1 1 1", 0, 0},
+        {{"", "uyu"}, true, "3/3 1/2 1 2 1 1", 0, 0},
         {{"", "ame"}, false, "4/4 2/2 12 1 12 1", 0, 2},
         {{}, false, "   ", 4, 0},
     };
     for (const auto& row : rows) {
-        const RecordCounts counts = countRecords(words, recordsOf(row.kinds), row.whole);
+        const RecordCounts counts = counter.count(recordsOf(row.kinds), row.whole);
         EXPECT_EQ(text(counts), row.counts) << qPrintable(row.kinds.join(','));
         EXPECT_EQ(counts.unmarked().size(), row.unmarked);
         EXPECT_EQ(counts.markedTwice().size(), row.twice);
