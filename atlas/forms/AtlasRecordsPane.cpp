@@ -45,6 +45,7 @@ void AtlasRecordsPane::addWidgets()
     }
     m_note->setObjectName(QStringLiteral("lblRecordsNote"));
     m_note->setWordWrap(true);
+    m_note->setMargin(6);
     m_note->setTextFormat(Qt::PlainText);
     m_table->addActions(actions());
     m_table->setContextMenuPolicy(Qt::ActionsContextMenu);

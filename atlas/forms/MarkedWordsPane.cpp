@@ -40,8 +40,8 @@ QString wordForms(std::size_t number)
 
 MarkedWordsPane::MarkedWordsPane(VarnModule& varn, RecordsModel& records, QWidget* parent)
     : QTabWidget(parent), m_records(records),
-      m_unmarked(addList(varn, QStringLiteral("Word forms that no record marks"), false)),
-      m_several(addList(varn, QStringLiteral("Word forms that several records mark"), true))
+      m_unmarked(addList(varn, QStringLiteral("Word forms that no record marks"))),
+      m_several(addList(varn, QStringLiteral("Word forms that several records mark")))
 {
     setObjectName(QStringLiteral("tabMarkedWords"));
     setDocumentMode(true);
@@ -52,13 +52,18 @@ MarkedWordsPane::MarkedWordsPane(VarnModule& varn, RecordsModel& records, QWidge
         m_unmarked.model->show({});
         m_several.model->show({});
     });
-    connect(m_unmarked.view, &QTableView::activated, this, &MarkedWordsPane::recordsWanted);
+    connect(m_unmarked.view, &QTableView::doubleClicked, this, &MarkedWordsPane::recordsWanted);
+    connect(m_unmarked.view, &QTableView::clicked, this, [this](const QModelIndex& index) {
+        if (index.column() == WordsModel::Records) {
+            Q_EMIT recordsWanted();
+        }
+    });
 }
 
-MarkedWordsPane::List MarkedWordsPane::addList(VarnModule& varn, const QString& name, bool showsRecords)
+MarkedWordsPane::List MarkedWordsPane::addList(VarnModule& varn, const QString& name)
 {
     auto* view = new QTableView(this);
-    auto* model = new WordsModel(m_records, showsRecords, view);
+    auto* model = new WordsModel(m_records, view);
     view->setModel(model);
     view->setItemDelegate(new WordDelegate(varn, view));
     view->setAccessibleName(name);

@@ -36,7 +36,7 @@ private:
         QTableView* view;
     };
 
-    List addList(VarnModule& varn, const QString& name, bool showsRecords);
+    List addList(VarnModule& varn, const QString& name);
     std::set<int> localitiesOf(const List& list) const;
 
     const RecordsModel& m_records;

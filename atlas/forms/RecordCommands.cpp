@@ -104,6 +104,9 @@ void RecordCommands::newRecord()
 
 void RecordCommands::newRecordsOfWords()
 {
+    if (!m_newOfWords->isEnabled()) {
+        return;
+    }
     SymbolRecords more = records();
     RecordNumbers made;
     for (const QString& word : m_parts.words.chosenUnmarked()) {

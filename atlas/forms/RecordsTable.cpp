@@ -53,13 +53,14 @@ void RecordsTable::setUpRows()
 
 void RecordsTable::setUpColumns()
 {
-    constexpr int CountWidth = 56;
+    constexpr int SymbolWidth = 48;
+    constexpr int CountWidth = 52;
 
     QHeaderView& header = *horizontalHeader();
     header.setHighlightSections(false);
     header.setSectionResizeMode(RecordsModel::Kind, QHeaderView::Stretch);
     header.setSectionResizeMode(RecordsModel::Caption, QHeaderView::Stretch);
-    setColumnWidth(RecordsModel::Symbol, CountWidth);
+    setColumnWidth(RecordsModel::Symbol, SymbolWidth);
     setColumnWidth(RecordsModel::Words, CountWidth);
     setColumnWidth(RecordsModel::Localities, CountWidth);
 }

@@ -2,6 +2,8 @@
 
 #include "atlas/forms/RecordsModel.h"
 
+#include <QGuiApplication>
+#include <QPalette>
 #include <QStringList>
 
 #include <utility>
@@ -18,10 +20,20 @@ const AnsweredWord& WordsModel::word(int row) const
     return m_records.words().at(m_words.at(static_cast<std::size_t>(row)));
 }
 
+const std::vector<int>& WordsModel::recordsOf(int row) const
+{
+    return m_records.counts().marks.at(m_words.at(static_cast<std::size_t>(row)));
+}
+
+QString WordsModel::offer() const
+{
+    return m_records.hasRoom() ? QStringLiteral("New record") : QString();
+}
+
 QString WordsModel::kindsOf(int row) const
 {
     QStringList kinds;
-    for (const int k : m_records.counts().marks.at(m_words.at(static_cast<std::size_t>(row)))) {
+    for (const int k : recordsOf(row)) {
         kinds << m_records.index(k - 1, RecordsModel::Kind).data().toString();
     }
     return kinds.join(QStringLiteral(", "));
@@ -34,13 +46,17 @@ int WordsModel::rowCount(const QModelIndex& parent) const
 
 int WordsModel::columnCount(const QModelIndex& parent) const
 {
-    return parent.isValid() ? 0 : m_showsRecords ? 3 : 2;
+    return parent.isValid() ? 0 : 3;
 }
 
 QVariant WordsModel::data(const QModelIndex& index, int role) const
 {
     if (role == Qt::TextAlignmentRole && index.column() == Localities) {
         return QVariant(Qt::AlignRight | Qt::AlignVCenter);
+    }
+    const bool isOffer = index.column() == Records && recordsOf(index.row()).empty();
+    if (role == Qt::ForegroundRole && isOffer) {
+        return QGuiApplication::palette().color(QPalette::Link);
     }
     if (role != Qt::DisplayRole) {
         return {};
@@ -51,7 +67,7 @@ QVariant WordsModel::data(const QModelIndex& index, int role) const
     case Localities:
         return static_cast<int>(word(index.row()).localities.size());
     default:
-        return kindsOf(index.row());
+        return isOffer ? offer() : kindsOf(index.row());
     }
 }
 
@@ -60,6 +76,6 @@ QVariant WordsModel::headerData(int section, Qt::Orientation orientation, int ro
     if (orientation != Qt::Horizontal || role != Qt::DisplayRole) {
         return {};
     }
-    constexpr const char* Headings[] = {"Word form", "Places", "Kinds that mark it"};
+    constexpr const char* Headings[] = {"Word form", "Places", "Marked by"};
     return QLatin1String(Headings[section]);
 }

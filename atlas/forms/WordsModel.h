@@ -6,8 +6,8 @@
 
 class RecordsModel;
 
-/// Some word forms of the page shown, with the number of their localities and, where it is wanted, the kinds
-/// of the records that mark them.
+/// Some word forms of the page shown, with the number of their localities, and the kinds of the records that
+/// mark them or, where none does, the offer of a record.
 class WordsModel : public QAbstractTableModel
 {
     Q_OBJECT
@@ -15,8 +15,7 @@ class WordsModel : public QAbstractTableModel
 public:
     enum Column { Word, Localities, Records };
 
-    WordsModel(const RecordsModel& records, bool showsRecords, QObject* parent)
-        : QAbstractTableModel(parent), m_records(records), m_showsRecords(showsRecords)
+    WordsModel(const RecordsModel& records, QObject* parent) : QAbstractTableModel(parent), m_records(records)
     {}
 
     /// Shows the word forms of these numbers, from 0.
@@ -29,9 +28,10 @@ public:
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
 private:
+    const std::vector<int>& recordsOf(int row) const;
+    QString offer() const;
     QString kindsOf(int row) const;
 
     const RecordsModel& m_records;
-    bool m_showsRecords;
     std::vector<std::size_t> m_words;
 };

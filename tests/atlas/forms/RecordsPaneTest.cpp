@@ -165,7 +165,7 @@ TEST_F(RecordsPane, ShowsWhatEachRecordMarksAndWhatNoneOrSeveralDo)
     EXPECT_EQ(tabs.tabText(1), "More than once: 1");
     auto& unmarked = child<QTableView>(*pane, "tblUnmarked");
     auto& several = child<QTableView>(*pane, "tblMarkedTwice");
-    EXPECT_EQ(row(unmarked, 0), "yuki|1");
+    EXPECT_EQ(row(unmarked, 0), "yuki|1|New record");
     EXPECT_EQ(row(several, 0), "ame no|1|ame, no");
     click(unmarked, 0, 0);
     EXPECT_EQ(selection.localities(), Numbers{3});
@@ -248,7 +248,8 @@ TEST_F(RecordsPane, AKindTypedBehindTheLastRowIsASearchAndThenARecord)
 TEST_F(RecordsPane, AnUnmarkedWordFormGetsARecord)
 {
     click(child<QTableView>(*pane, "tblUnmarked"), 0, 0);
-    command("mnuNewRecordOfWord").trigger();
+    EXPECT_TRUE(command("mnuNewRecordOfWord").isEnabled());
+    click(child<QTableView>(*pane, "tblUnmarked"), 0, 2);
     EXPECT_EQ(kinds(), "ame,uyu,no,yuki");
     EXPECT_EQ(selection.records(), Numbers{4});
     EXPECT_FALSE(command("mnuNewRecordOfWord").isEnabled());
