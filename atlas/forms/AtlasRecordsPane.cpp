@@ -12,7 +12,7 @@
 #include <QAction>
 #include <QLabel>
 #include <QSplitter>
-#include <QToolBar>
+#include <QToolButton>
 #include <QVBoxLayout>
 
 AtlasRecordsPane::AtlasRecordsPane(VarnModule& varn, AtlasDocument& document, AtlasSelection& selection,
@@ -35,14 +35,23 @@ AtlasRecordsPane::~AtlasRecordsPane()
     }
 }
 
+QLayout* AtlasRecordsPane::tools()
+{
+    auto* row = new QHBoxLayout; // the pane's layout owns it
+    row->setSpacing(0);
+    for (const char* name : {"mnuNewRecord", "mnuDeleteRecord", "mnuSameSymbol", "mnuMakeSymbols"}) {
+        auto* button = new QToolButton(this);
+        button->setAutoRaise(true);
+        button->setFocusPolicy(Qt::TabFocus);
+        button->setDefaultAction(findChild<QAction*>(QLatin1String(name)));
+        row->addWidget(button);
+    }
+    row->addStretch();
+    return row;
+}
+
 void AtlasRecordsPane::addWidgets()
 {
-    auto* tools = new QToolBar;
-    tools->setAccessibleName(QStringLiteral("Records"));
-    tools->setToolButtonStyle(Qt::ToolButtonTextOnly);
-    for (const char* name : {"mnuNewRecord", "mnuDeleteRecord", "mnuSameSymbol", "mnuMakeSymbols"}) {
-        tools->addAction(findChild<QAction*>(QLatin1String(name)));
-    }
     m_note->setObjectName(QStringLiteral("lblRecordsNote"));
     m_note->setWordWrap(true);
     m_note->setMargin(6);
@@ -57,7 +66,7 @@ void AtlasRecordsPane::addWidgets()
     lists->setSizes({300, 100});
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(tools);
+    layout->addLayout(tools());
     layout->addWidget(m_note);
     layout->addWidget(lists, 1);
 }

@@ -28,6 +28,7 @@ public:
     ~AtlasRecordsPane() override;
 
 private:
+    QLayout* tools();
     void addWidgets();
     void connectWidgets();
 

@@ -45,6 +45,7 @@ MarkedWordsPane::MarkedWordsPane(VarnModule& varn, RecordsModel& records, QWidge
 {
     setObjectName(QStringLiteral("tabMarkedWords"));
     setDocumentMode(true);
+    setUsesScrollButtons(false); // both are always seen
     tabBar()->setAccessibleName(QStringLiteral("Word forms that are not marked once"));
     m_unmarked.view->setObjectName(QStringLiteral("tblUnmarked"));
     m_several.view->setObjectName(QStringLiteral("tblMarkedTwice"));

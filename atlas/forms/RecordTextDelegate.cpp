@@ -7,6 +7,7 @@ QWidget* RecordTextDelegate::createEditor(QWidget* parent, const QStyleOptionVie
                                           const QModelIndex& index) const
 {
     auto* box = new QLineEdit(parent); // the view's cell owns it
+    box->setObjectName(QStringLiteral("txtRecord"));
     box->setFrame(false);
     box->setAutoFillBackground(true);
     box->setAccessibleName(index.model()->headerData(index.column(), Qt::Horizontal).toString());

@@ -53,7 +53,7 @@ void RecordsTable::setUpRows()
 
 void RecordsTable::setUpColumns()
 {
-    constexpr int SymbolWidth = 48;
+    constexpr int SymbolWidth = 52;
     constexpr int CountWidth = 52;
 
     QHeaderView& header = *horizontalHeader();

@@ -25,7 +25,11 @@ frmAtlas::frmAtlas(VarnModule& varn, Dialogs& dialogs)
     connect(&m_document, &AtlasDocument::savedChanged, this, &frmAtlas::showLoaded);
 }
 
-frmAtlas::~frmAtlas() = default;
+/// The panes go before the document that they show.
+frmAtlas::~frmAtlas()
+{
+    delete takeCentralWidget();
+}
 
 void frmAtlas::addPanes()
 {

@@ -7,6 +7,7 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QKeyEvent>
+#include <QTableView>
 
 namespace {
 
@@ -24,6 +25,12 @@ frmMain: cmdSettingPrinter, lblDisplayPaperSize -> Portrait(
 frmMain: cmdSettingPrinter, cboOrientation=0 -> Portrait(
 frmMain: (yes), cmdMapName -> *picPreview; (yes), cmdMapName, cmdRegMap -> *picPreview
 frmMain: (no), cmdMapName -> Is this a right map name ? 
+frmAtlas: (a record), mnuNewRecord -> <txtRecord>; (a record), mnuDeleteRecord -> <modified>
+frmAtlas: (a record), mnuChangeSymbol -> [SymbolPopup]; (two records), mnuSameSymbol -> <modified>
+frmAtlas: (a record), mnuRecordDown -> <modified>; (a record), mnuRecordDown, mnuRecordUp -> -<modified>
+frmAtlas: (a record), (yes), mnuMakeSymbols -> <modified>; (a record), mnuSelectLocalities -> *
+frmAtlas: (an unmarked word form), mnuNewRecordOfWord -> -No symbols yet
+frmAtlas: (a record), mnuAtlasWholeWordForms -> <mnuAtlasWholeWordForms>
 frmMap: mnuMapBlank, (yes), mnuChiten, mnuMapBlank -> *picMap
 frmMap: (yes), mnuStyle, mnuMapLing -> map: rain.han; (161 symbols), mnuHankoNext, mnuHankoList -> -map: 161
 frmMap: (161 symbols), mnuHankoPrevious, mnuHankoNext -> map: 161
@@ -150,6 +157,22 @@ std::map<QString, std::function<void()>> EveryWayOut::preparations()
         {"(yes)", [&] { dialogs.yesNo = {true}; }},
         {"(cancel)", [&] { dialogs.okCancel = {false}; }},
         {"(frmMap in front)", [] { press<frmMain>("cmdMap"); }},
+        {"(a record)",
+         [] {
+             press<frmMain>("cmdAtlas");
+             control<frmAtlas, QTableView>("tblRecords").selectRow(0);
+         }},
+        {"(two records)",
+         [] {
+             press<frmMain>("cmdAtlas");
+             control<frmAtlas, QTableView>("tblRecords").selectAll();
+         }},
+        {"(an unmarked word form)",
+         [] {
+             press<frmMain>("cmdAtlas");
+             form<frmAtlas>().document().setSymbols({}, "Delete Records");
+             control<frmAtlas, QTableView>("tblUnmarked").selectRow(0);
+         }},
         {"(hail on the clipboard)", [] { QGuiApplication::clipboard()->setText("hail"); }},
         {"(161 symbols)", [&] { varn.Nsquare = 3; }},
         {"(4 localities)",
