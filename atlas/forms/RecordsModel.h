@@ -68,6 +68,8 @@ private:
     int neededRows() const;
     QString kindText(int k) const;
     QVariant text(const QModelIndex& index) const;
+    bool isOutOfLegend(const QModelIndex& index) const;
+    QString hint(const QModelIndex& index) const;
     QVariant newRowData(int column, int role) const;
     QVariant recordData(const QModelIndex& index, int role) const;
     /// The records with `text` in this cell.

@@ -303,6 +303,8 @@ TEST_F(RecordsPane, TwoKindsAreGroupedByThreeClicks)
     command("mnuSameSymbol").trigger();
     EXPECT_EQ(rows(), "ame|Rain|2|2 uyu|-Rain|1|1 no|Of|1|1 Type a kind|||");
     EXPECT_EQ(records().Hanko(2), records().Hanko(1));
+    EXPECT_EQ(table().model()->index(1, Caption).data(Qt::ToolTipRole),
+              "-Rain\nNot in the legend: the caption has a hyphen.");
     document.steps().undo();
     EXPECT_EQ(cell(table(), 1, Caption), "Snow");
 }
