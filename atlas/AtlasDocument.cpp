@@ -314,6 +314,9 @@ void AtlasDocument::followItem()
         page.symbols = shared; // whatever its file; it may be unsaved
         noteSymbolFile(m_varn, page);
     }
+    if (isMadeForWholeWordForms(page.symbols)) { // otherwise it is as the other form has it
+        m_varn.WholeWordForms = true;
+    }
     keepPage();
     show(std::move(page));
 }

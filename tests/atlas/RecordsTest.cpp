@@ -184,6 +184,20 @@ TEST_F(TurnedAtlas, MadeSymbolsAreForWholeWordFormsAndOthersAreNot)
     EXPECT_FALSE(varn.WholeWordForms);
 }
 
+TEST_F(TurnedAtlas, AMadeSetOfAnotherFormIsForWholeWordFormsToo)
+{
+    document.turnTo(ling("own.dbs"));
+    AtlasDocument other(varn);
+    other.turnTo(ling("made.dbs"));
+    varn.WholeWordForms = false;
+    document.followSharedState();
+    EXPECT_TRUE(document.wholeWordForms());
+    other.turnTo(ling("own.dbs"));
+    varn.WholeWordForms = true;
+    document.followSharedState();
+    EXPECT_TRUE(document.wholeWordForms()) << "as the other form has it";
+}
+
 TEST_F(TurnedAtlas, AChoiceOfWholeWordFormsHoldsUntilAnotherPageIsShown)
 {
     int shown = 0;
