@@ -4,6 +4,7 @@
 #include "atlas/AtlasSelection.h"
 #include "atlas/forms/AtlasRecordsPane.h"
 #include "tests/support/Controls.h"
+#include "tests/support/Pixels.h"
 #include "tests/support/ScriptedDialogs.h"
 #include "tests/support/TestDrive.h"
 
@@ -377,4 +378,36 @@ TEST_F(RecordsPane, AFullSetAndOneThatCannotBeReadSayWhy)
     for (const char* name : {"mnuNewRecord", "mnuNewRecordOfWord", "mnuDeleteRecord", "mnuMakeSymbols"}) {
         EXPECT_FALSE(command(name).isEnabled()) << name;
     }
+}
+
+TEST_F(RecordsPane, SymbolsArePaintedInTheirCells)
+{
+    SymbolRecords symbols = records();
+    symbols.Hanko(1) = {50, 12, 12, 1, 1, 1};
+    symbols.Hanko(2) = {25, 12, 12, 1, 2, 2};   // wider than the cell is high
+    symbols.Hanko(3) = {5000, 12, 12, 1, 1, 1}; // there is no such design
+    document.setSymbols(symbols, "Change Symbol");
+    table().clearSelection();
+    const QImage picture = table().viewport()->grab().toImage();
+    const auto isRed = [](const QColor& color) { return color.red() > 200 && color.green() < 60; };
+    for (int row = 0; row < 2; ++row) {
+        const QRect area = table().visualRect(table().model()->index(row, Symbol));
+        const QRect symbol = extent(picture, area, isRed);
+        EXPECT_GT(symbol.height(), 8) << row;
+        EXPECT_LT(symbol.height(), area.height() - 4) << row;
+        EXPECT_NEAR(symbol.center().x(), area.center().x(), 2) << row;
+        EXPECT_NEAR(symbol.center().y(), area.center().y(), 2) << row;
+    }
+    const QRect unknown = table().visualRect(table().model()->index(2, Symbol));
+    EXPECT_TRUE(extent(picture, unknown, isRed).isEmpty());
+    EXPECT_EQ(row(table(), 2), "|no|Of|1|1") << "the record is there all the same";
+}
+
+TEST_F(RecordsPane, WhatIsOpenIsGivenUpWithThePane)
+{
+    click(table(), 0, Symbol);
+    choose("Line L.Red");
+    pane.reset();
+    EXPECT_EQ(records().Hanko(1).LineColor, 0);
+    EXPECT_EQ(document.steps().count(), 0);
 }
