@@ -1,6 +1,7 @@
 #include "atlas/AtlasDocument.h"
 
 #include "atlas/ItemKey.h"
+#include "exchange/MadeSymbols.h"
 #include "platform/Numbers.h"
 #include "shell/VarnModule.h"
 
@@ -57,6 +58,7 @@ void AtlasDocument::turnTo(const QString& itemPath)
     const SymbolSet shared = m_varn;
     AtlasPage page = keptOrRead(itemPath);
     keepPage();
+    m_varn.WholeWordForms = m_wholeWordForms = isMadeForWholeWordForms(page.symbols);
     show(std::move(page));
     if (isFirst && isSymbolSetUnsaved(shared)) {
         static_cast<SymbolSet&>(m_varn) = shared;
@@ -124,6 +126,25 @@ void AtlasDocument::endPreview()
     }
 }
 
+bool AtlasDocument::wholeWordForms() const
+{
+    return m_varn.WholeWordForms;
+}
+
+void AtlasDocument::setWholeWordForms(bool whole)
+{
+    m_varn.WholeWordForms = whole;
+    followWholeWordForms();
+}
+
+void AtlasDocument::followWholeWordForms()
+{
+    if (m_wholeWordForms != m_varn.WholeWordForms) {
+        m_wholeWordForms = m_varn.WholeWordForms;
+        Q_EMIT symbolsChanged();
+    }
+}
+
 void AtlasDocument::setWords(const WordsStep::Words& words, const QString& text)
 {
     ItemAnswers tried = m_page.item;
@@ -151,6 +172,9 @@ void AtlasDocument::putSymbols(const QString& itemPath, const SymbolRecords& rec
 {
     turnTo(itemPath);
     m_preview.reset();
+    if (isMadeForWholeWordForms(records) != isMadeForWholeWordForms(m_page.symbols)) {
+        m_varn.WholeWordForms = m_wholeWordForms = isMadeForWholeWordForms(records);
+    }
     static_cast<SymbolRecords&>(m_page.symbols) = records;
     shareSymbols();
     Q_EMIT symbolsChanged();

@@ -50,6 +50,11 @@ public:
     void previewSymbols(const SymbolRecords& records);
     void endPreview();
 
+    /// Whether the records mark word forms that equal their kinds. A page that is turned to has it as its
+    /// symbols were made.
+    bool wholeWordForms() const;
+    void setWholeWordForms(bool whole);
+
     /// Gives localities of the page their word forms, a step called `text`. Raises what `setLocalityWords`
     /// raises; nothing is changed then.
     void setWords(const WordsStep::Words& words, const QString& text);
@@ -126,6 +131,7 @@ private:
     void followWords();
     void followSymbols();
     void adoptSymbols(const SymbolSet& set);
+    void followWholeWordForms();
 
     VarnModule& m_varn;
     MapPlace m_map;
@@ -133,6 +139,7 @@ private:
     /// Pages that were turned away from and are still needed, by the paths of their items.
     std::map<QString, KeptPage> m_kept;
     std::optional<SymbolRecords> m_preview;
+    bool m_wholeWordForms = false;
     /// The place of the legend as it was shown last, and as its file holds it once it was moved.
     QPointF m_legend;
     std::optional<QPointF> m_savedLegend;

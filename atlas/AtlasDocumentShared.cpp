@@ -2,6 +2,7 @@
 
 #include "atlas/AtlasDocument.h"
 #include "atlas/ItemKey.h"
+#include "exchange/MadeSymbols.h"
 #include "lingdata/ItemLoader.h"
 #include "shell/VarnModule.h"
 
@@ -62,6 +63,7 @@ void AtlasDocument::followSharedState()
     if (hasPage()) {
         followSymbols();
     }
+    followWholeWordForms();
 }
 
 void AtlasDocument::followMap()
@@ -98,10 +100,12 @@ void AtlasDocument::followItem()
         return;
     }
     const SymbolSet shared = m_varn;
+    const bool wholeWordForms = m_varn.WholeWordForms;
     const bool isLeftOver = hasPage() && isOfPage(shared);
     turnTo(m_varn.ItemPath);
     if (!isLeftOver && !isNothing(shared)) {
         static_cast<SymbolSet&>(m_varn) = shared;
+        m_varn.WholeWordForms = wholeWordForms || isMadeForWholeWordForms(shared);
     }
 }
 

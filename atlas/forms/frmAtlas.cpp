@@ -12,7 +12,7 @@ frmAtlas::frmAtlas(VarnModule& varn, Dialogs& dialogs)
     : VarnForm(dialogs), m_varn(varn), m_document(varn),
       m_items(new AtlasItemsPane(varn, m_document, m_selection)),
       m_map(new AtlasMapView(varn, m_document, m_selection)),
-      m_records(new AtlasRecordsPane(varn, m_document, m_selection)),
+      m_records(new AtlasRecordsPane(varn, m_document, m_selection, dialogs)),
       m_localities(new AtlasLocalitiesPane(varn, m_document, m_selection))
 {
     setObjectName(QStringLiteral("frmAtlas"));
@@ -22,7 +22,11 @@ frmAtlas::frmAtlas(VarnModule& varn, Dialogs& dialogs)
     connect(&m_document, &AtlasDocument::savedChanged, this, &frmAtlas::showLoaded);
 }
 
-frmAtlas::~frmAtlas() = default;
+/// The panes go before the document that they show.
+frmAtlas::~frmAtlas()
+{
+    delete takeCentralWidget();
+}
 
 void frmAtlas::addPanes()
 {

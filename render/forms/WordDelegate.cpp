@@ -97,8 +97,10 @@ void WordDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
         paintText(*painter, word, area, Qt::AlignLeft, warningText(cell.palette));
     } else {
         const QRect room = paintDrawnWord(*painter, drawn(word), area);
-        paintText(*painter, word, room.adjusted(2 * Margin, 0, 0, 0), Qt::AlignRight,
-                  quietText(cell.palette));
+        if (m_showsCodes) {
+            paintText(*painter, word, room.adjusted(2 * Margin, 0, 0, 0), Qt::AlignRight,
+                      quietText(cell.palette));
+        }
     }
     painter->restore();
 }

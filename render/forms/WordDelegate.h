@@ -16,6 +16,8 @@ class WordDelegate : public QStyledItemDelegate
 public:
     WordDelegate(VarnModule& varn, QObject* parent);
 
+    /// Shows codes beside their letters, as at first, or the letters alone.
+    void showCodes(bool shown) { m_showsCodes = shown; }
     /// Forgets how words were drawn, for another map font.
     void forget() { m_words.clear(); }
 
@@ -31,4 +33,5 @@ private:
 
     VarnModule& m_varn;
     mutable QHash<QString, DrawnWord> m_words;
+    bool m_showsCodes = true;
 };

@@ -8,6 +8,7 @@
 #include <QPushButton>
 #include <QShortcut>
 #include <QStatusBar>
+#include <QTabBar>
 #include <QToolButton>
 
 #include <gtest/gtest.h>
@@ -35,17 +36,18 @@ QString textOf(const QWidget& widget)
     return rows.join(',');
 }
 
-/// Menus, separators, the parts of other windows and the buttons inside text boxes are none.
+/// Menus, separators, the parts of other windows and the buttons inside text boxes and of tabs are none.
 bool isWayOut(const QObject& object, const VarnForm& form)
 {
-    if (qobject_cast<const QLineEdit*>(object.parent()) != nullptr) {
+    if (qobject_cast<const QLineEdit*>(object.parent()) != nullptr ||
+        qobject_cast<const QTabBar*>(object.parent()) != nullptr) {
         return false;
     }
     if (const auto* action = qobject_cast<const QAction*>(&object)) {
         return action->menu() == nullptr && !action->isSeparator();
     }
-    const bool isButton =
-        qobject_cast<const QPushButton*>(&object) || qobject_cast<const QToolButton*>(&object);
+    const auto* tool = qobject_cast<const QToolButton*>(&object);
+    const bool isButton = qobject_cast<const QPushButton*>(&object) || (tool && !tool->defaultAction());
     const QObject* widget = qobject_cast<const QShortcut*>(&object) ? object.parent()
                             : isButton                              ? &object
                                                                     : nullptr;

@@ -7,6 +7,7 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QKeyEvent>
+#include <QTableView>
 
 namespace {
 
@@ -26,6 +27,12 @@ frmMain: (yes), cmdMapName -> *picPreview; (yes), cmdMapName, cmdRegMap -> *picP
 frmMain: (no), cmdMapName -> Is this a right map name ? 
 frmAtlas: (snow in the atlas), mnuNextItem ->  - Snow
 frmAtlas: (snow in the atlas), mnuNextItem, mnuPreviousItem ->  - Rain
+frmAtlas: (a record), mnuNewRecord -> <txtRecord>; (a record), mnuDeleteRecord -> <modified>
+frmAtlas: (a record), mnuChangeSymbol -> [SymbolPopup]; (two records), mnuSameSymbol -> <modified>
+frmAtlas: (a record), mnuRecordDown -> <modified>; (a record), mnuRecordDown, mnuRecordUp -> -<modified>
+frmAtlas: (a record), (yes), mnuMakeSymbols -> <modified>; (a record), mnuSelectLocalities -> *
+frmAtlas: (an unmarked word form), mnuNewRecordOfWord -> -No symbols yet
+frmAtlas: (a record), mnuAtlasWholeWordForms -> <mnuAtlasWholeWordForms>
 frmMap: mnuMapBlank, (yes), mnuChiten, mnuMapBlank -> *picMap
 frmMap: (yes), mnuStyle, mnuMapLing -> map: rain.han; (161 symbols), mnuHankoNext, mnuHankoList -> -map: 161
 frmMap: (161 symbols), mnuHankoPrevious, mnuHankoNext -> map: 161
@@ -157,6 +164,22 @@ std::map<QString, std::function<void()>> EveryWayOut::preparations()
              survey.write(ling("snow.dbs"), "3,\"\",\"Snow\",\"\"\r\n0\r\n0\r\n0\r\n");
              press<frmMain>("cmdAtlas");
              showOnly(form<frmAtlas>());
+         }},
+        {"(a record)",
+         [] {
+             press<frmMain>("cmdAtlas");
+             control<frmAtlas, QTableView>("tblRecords").selectRow(0);
+         }},
+        {"(two records)",
+         [] {
+             press<frmMain>("cmdAtlas");
+             control<frmAtlas, QTableView>("tblRecords").selectAll();
+         }},
+        {"(an unmarked word form)",
+         [] {
+             press<frmMain>("cmdAtlas");
+             form<frmAtlas>().document().setSymbols({}, "Delete Records");
+             control<frmAtlas, QTableView>("tblUnmarked").selectRow(0);
          }},
         {"(hail on the clipboard)", [] { QGuiApplication::clipboard()->setText("hail"); }},
         {"(161 symbols)", [&] { varn.Nsquare = 3; }},
