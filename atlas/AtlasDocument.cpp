@@ -5,6 +5,9 @@
 #include "platform/Numbers.h"
 #include "shell/VarnModule.h"
 
+#include <algorithm>
+#include <limits>
+#include <tuple>
 #include <utility>
 
 namespace {
@@ -18,6 +21,35 @@ QString key(const QString& itemPath)
 bool isNothing(const SymbolSet& set)
 {
     return set.NHanrei == 0 && set.Explain.isEmpty() && set.SymbolFileName.isEmpty();
+}
+
+/// The place as a map can hold it, whose y is a 16-bit whole number.
+QPointF storable(QPointF place)
+{
+    using Limits = std::numeric_limits<qint16>;
+    return {static_cast<double>(static_cast<float>(place.x())),
+            static_cast<double>(toInteger(std::clamp<double>(place.y(), Limits::min(), Limits::max())))};
+}
+
+/// Whether maps look the same in both styles; the atlas has its own dots.
+bool looksLike(const MapStyle& a, const MapStyle& b)
+{
+    const auto key = [](const MapStyle& style) {
+        return std::tuple(style.WriteFileName, style.HankoPosition, style.WholeWordForms, style.PhoneticBold);
+    };
+    return key(a) == key(b);
+}
+
+/// Gives a map without place names one for the legend, with no text; the scale bar stays behind the last.
+void makeFirstName(PlaceNames& map)
+{
+    if (map.NKanji == 0) {
+        map.NKanji = 1;
+        map.KanjiText(1).clear();
+        for (const int axis : {0, 1}) {
+            map.KanjiXY(2, axis) = map.KanjiXY(1, axis);
+        }
+    }
 }
 
 } // namespace
@@ -163,10 +195,24 @@ QPointF AtlasDocument::legendPlace() const
     return {m_varn.HanreiX, static_cast<double>(m_varn.HanreiY)};
 }
 
-void AtlasDocument::setLegendPlace(QPointF place)
+void AtlasDocument::setLegendPlace(QPointF asked)
 {
+    const QPointF place = storable(asked);
     if (place != legendPlace()) {
         m_steps.push(new LegendPlaceStep(*this, place)); // the stack owns it
+    }
+}
+
+void AtlasDocument::setMapStyle(const MapStyle& style)
+{
+    static_cast<MapStyle&>(m_varn) = style;
+    followStyle();
+}
+
+void AtlasDocument::followStyle()
+{
+    if (!looksLike(std::exchange(m_style, m_varn), m_varn)) {
+        Q_EMIT symbolsChanged();
     }
 }
 
@@ -193,6 +239,7 @@ void AtlasDocument::putWords(const QString& itemPath, const WordsStep::Words& wo
 void AtlasDocument::putLegend(QPointF place)
 {
     m_savedLegend = m_savedLegend.value_or(legendPlace());
+    makeFirstName(m_varn);
     m_varn.KanjiXY(1, 0) = static_cast<float>(place.x());
     m_varn.KanjiXY(1, 1) = static_cast<float>(place.y());
     m_varn.HanreiX = m_varn.KanjiXY(1, 0);
@@ -264,6 +311,7 @@ void AtlasDocument::followSharedState()
         m_savedLegend.reset();
         Q_EMIT baseMapChanged();
     }
+    followStyle();
     if (m_itemReading != m_varn.ItemReading) {
         m_itemReading = m_varn.ItemReading;
         followItem();

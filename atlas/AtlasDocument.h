@@ -3,6 +3,7 @@
 #include "atlas/AtlasPage.h"
 #include "atlas/AtlasSteps.h"
 #include "mapdata/MapSearch.h"
+#include "render/MapStyle.h"
 
 #include <QObject>
 #include <QPointF>
@@ -50,7 +51,11 @@ public:
 
     /// Where title and legend begin, in map units: the place of the first place name.
     QPointF legendPlace() const;
-    void setLegendPlace(QPointF place);
+    /// Moves them there, a step; a map without place names gets one with an empty text then.
+    void setLegendPlace(QPointF asked);
+
+    /// Draws maps in another style from now on, in all forms.
+    void setMapStyle(const MapStyle& style);
 
     QUndoStack& steps() { return m_steps; }
 
@@ -70,7 +75,7 @@ public:
 Q_SIGNALS:
     /// Another page is shown, or the same was read again.
     void pageTurned();
-    /// Other symbols are shown.
+    /// Other symbols are shown, or in another style.
     void symbolsChanged();
     void wordsChanged();
     void baseMapChanged();
@@ -92,6 +97,7 @@ private:
     void show(AtlasPage page);
     void shareItem();
     void shareSymbols();
+    void followStyle();
     void followItem();
     void followWords();
     void followSymbols();
@@ -105,6 +111,8 @@ private:
     /// The place of the legend as it was shown last, and as its file holds it once it was moved.
     QPointF m_legend;
     std::optional<QPointF> m_savedLegend;
+    /// The style that maps were shown in last.
+    MapStyle m_style;
     /// The shared state's item as it was shared or taken over last.
     int m_itemReading = -1;
     QUndoStack m_steps;
