@@ -5,6 +5,7 @@
 #include "render/BlankMap.h"
 #include "render/Legend.h"
 #include "render/MapSize.h"
+#include "render/SymbolShapes.h"
 
 #include <algorithm>
 
@@ -58,15 +59,6 @@ FormArea zoomed(const FormArea& area, double zoom)
 {
     const auto factor = static_cast<float>(zoom);
     return {0, 0, area.Width * factor, area.Height * factor};
-}
-
-/// The smallest rectangle around some operations of a drawing.
-QRectF areaOf(const Drawing& drawing, const OperationRange& range)
-{
-    Drawing part = drawing;
-    part.operations.assign(drawing.operations.begin() + static_cast<std::ptrdiff_t>(range.first),
-                           drawing.operations.begin() + static_cast<std::ptrdiff_t>(range.end));
-    return range.first == range.end ? QRectF() : drawnArea(part);
 }
 
 /// Draws layer after layer and notes where each is.
@@ -156,6 +148,18 @@ private:
             m_map.symbols.push_back({symbol, {first, count()}});
             first = count();
         });
+        drawSamples();
+    }
+
+    void drawSamples()
+    {
+        for (int k = 1; k <= m_parts.symbols.NHanrei; ++k) {
+            DrawSurface sample;
+            SymbolShapes(m_parts.base.map, geometry(), {sample, sample})
+                .DrawHanko(m_parts.symbols.Hanko(k), static_cast<float>(SampleMiddle.x()),
+                           static_cast<float>(SampleMiddle.y()));
+            m_map.samples.push_back(sample.drawing());
+        }
     }
 
     /// The columns of the legend stay as they are on the printed map.
@@ -207,7 +211,7 @@ private:
             drawLabels();
         });
         m_map.drawing = m_surface.drawing();
-        m_map.legendBox = areaOf(m_map.drawing, m_map.legend);
+        m_map.legendBox = drawnArea(m_map.drawing, m_map.legend.first, m_map.legend.end);
         return std::move(m_map);
     }
 

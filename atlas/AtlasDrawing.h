@@ -55,6 +55,8 @@ struct AtlasDrawing
     double scale = 1;
     /// In drawing order.
     std::vector<DrawnSymbol> symbols;
+    /// The symbol of each record by itself, about `SampleMiddle`.
+    std::vector<Drawing> samples;
     OperationRange legend;
     /// What the legend covers; empty without one.
     QRectF legendBox;
@@ -67,6 +69,9 @@ struct AtlasDrawing
 
 /// The corner of the drawing that stays where it is when the drawing is zoomed.
 constexpr QPointF DrawingCorner(MapGeometry::Margin, MapGeometry::Margin);
+
+/// Where the middle of a symbol drawn by itself is; farther from its middle no symbol reaches.
+constexpr QPointF SampleMiddle(900, 900);
 
 /// Draws the linguistic map. A map whose lines have no extent is as large as its localities need. What cannot
 /// be drawn is left out with the reason in `trouble`.

@@ -122,6 +122,35 @@ void turnPages(benchmark::State& state, const Size& size)
     state.counters["symbols"] = static_cast<double>(files.draw(1).symbols.size());
 }
 
+/// Memory of this process that is in use, in kilobytes; 0 where the system does not tell.
+double usedMemory()
+{
+    constexpr double KilobytesAPage = 4;
+    QFile file(QStringLiteral("/proc/self/statm"));
+    return file.open(QIODevice::ReadOnly) ? file.readAll().split(' ').value(1).toDouble() * KilobytesAPage
+                                          : 0;
+}
+
+/// What 500 pages more than the first 50 leave behind.
+void memoryOfTurning(benchmark::State& state)
+{
+    constexpr int Items = 10;
+    const AtlasFiles files(Full, Items);
+    QImage page = blankPage();
+    const auto turn = [&](int times) {
+        for (int n = 0; n < times; ++n) {
+            files.document->turnTo(files.path(n % Items));
+            paint(files.draw(1), page, PixelsPerTwip);
+        }
+    };
+    for ([[maybe_unused]] auto step : state) {
+        turn(50);
+        const double before = usedMemory();
+        turn(500);
+        state.counters["kilobytes"] = usedMemory() - before;
+    }
+}
+
 /// A step of the wheel: the map is drawn and painted anew.
 void zoomStep(benchmark::State& state)
 {
@@ -168,6 +197,7 @@ void hoverAnswer(benchmark::State& state)
 
 BENCHMARK_CAPTURE(turnPages, Usual, Usual)->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(turnPages, Full, Full)->Unit(benchmark::kMillisecond);
+BENCHMARK(memoryOfTurning)->Unit(benchmark::kMillisecond)->Iterations(1);
 BENCHMARK(zoomStep)->Unit(benchmark::kMillisecond);
 BENCHMARK(panStep)->Unit(benchmark::kMillisecond);
 BENCHMARK(hoverAnswer)->Unit(benchmark::kMicrosecond);

@@ -62,7 +62,10 @@ void AtlasMapView::follow()
     connect(m_canvas, &AtlasCanvas::localityClicked, this, &AtlasMapView::click);
     connect(m_canvas, &AtlasCanvas::localitiesBanded, this, &AtlasMapView::selectAll);
     connect(m_canvas, &AtlasCanvas::legendDragged, this, &AtlasMapView::moveLegend);
-    connect(m_canvas, &AtlasCanvas::viewChanged, this, &AtlasMapView::hideAnswer);
+    connect(m_canvas, &AtlasCanvas::viewChanged, this, [this] {
+        hideAnswer();
+        placeMessage();
+    });
     connect(m_findBar, &AtlasFindBar::found, this, [this](int locality) {
         m_selection.setLocalities({locality});
         Q_EMIT m_selection.localitySought(locality);
@@ -122,12 +125,6 @@ void AtlasMapView::changeEvent(QEvent* event)
     if (mayShowOthers && isActiveWindow()) {
         renew(); // the map font may be another one
     }
-}
-
-void AtlasMapView::resizeEvent(QResizeEvent* event)
-{
-    QWidget::resizeEvent(event);
-    showMessage();
 }
 
 void AtlasMapView::showAnswer(int locality)
@@ -220,12 +217,18 @@ QString AtlasMapView::message()
 
 void AtlasMapView::showMessage()
 {
-    constexpr int Rim = 24;
-
     const QString text = message();
     m_message->setText(text);
     m_message->setVisible(!text.isEmpty());
-    const int width = std::max(0, std::min(480, m_canvas->width() - 2 * Rim));
+    placeMessage();
+}
+
+void AtlasMapView::placeMessage()
+{
+    constexpr int MostWidth = 480;
+    constexpr int Rim = 24;
+
+    const int width = std::clamp(m_canvas->width() - 2 * Rim, 0, MostWidth);
     const int height = m_message->heightForWidth(width);
     m_message->setGeometry((m_canvas->width() - width) / 2, m_canvas->height() - height - Rim, width, height);
 }

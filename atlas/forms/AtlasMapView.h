@@ -51,7 +51,6 @@ Q_SIGNALS:
 
 protected:
     void changeEvent(QEvent* event) override;
-    void resizeEvent(QResizeEvent* event) override;
 
 private:
     void addActions();
@@ -74,6 +73,7 @@ private:
     void goTo(int locality);
     QString message();
     void showMessage();
+    void placeMessage();
     void showStyle();
 
     VarnModule& m_varn;

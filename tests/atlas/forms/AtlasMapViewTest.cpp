@@ -170,6 +170,10 @@ TEST_F(AtlasMap, APointedLocalityTellsItsWordForms)
     EXPECT_EQ(hover, "");
     EXPECT_FALSE(card().isVisible());
     point(place(2));
+    wheel(place(2), 1);
+    EXPECT_FALSE(card().isVisible());
+    point(place(2) + QPointF(1, 0));
+    EXPECT_TRUE(card().isVisible()) << "again, the map was zoomed meanwhile";
     QEvent leave(QEvent::Leave);
     QApplication::sendEvent(&canvas, &leave);
     EXPECT_FALSE(card().isVisible());
