@@ -106,7 +106,7 @@ private:
         try {
             draw();
         } catch (const RunTimeError& error) {
-            m_map.trouble = error.where();
+            m_map.trouble = (error.text() + QLatin1Char('\n') + error.where()).trimmed();
         }
     }
 
@@ -139,6 +139,7 @@ private:
         if (base.style.WriteFileName) {
             PlotDate(base.stampedFile, QDateTime::currentDateTime(), surfaces(m_area));
         }
+        m_map.baseMap.end = count();
     }
 
     void drawSymbols()

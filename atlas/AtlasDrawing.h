@@ -53,6 +53,7 @@ struct AtlasDrawing
     double zoom = 1;
     /// Twips a map unit.
     double scale = 1;
+    OperationRange baseMap;
     /// In drawing order.
     std::vector<DrawnSymbol> symbols;
     /// The symbol of each record by itself, about `SampleMiddle`.

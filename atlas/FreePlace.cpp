@@ -1,13 +1,14 @@
 #include "atlas/FreePlace.h"
 
+#include <QLineF>
+
 #include <algorithm>
 #include <cmath>
 #include <limits>
+#include <tuple>
 #include <utility>
 
 namespace {
-
-constexpr int Steps = 40;
 
 /// The rectangle in which the top left corner may lie so that the legend stays on the paper.
 QRectF corners(const QRectF& paper, QSizeF size)
@@ -23,24 +24,81 @@ double fromNearestCorner(const QRectF& area, QPointF place)
     return std::hypot(across, down);
 }
 
+std::ptrdiff_t countIn(const QRectF& area, const std::vector<QPointF>& points)
+{
+    return std::ranges::count_if(points, [&](QPointF point) { return area.contains(point); });
+}
+
+/// The places that are tried, in rows.
+std::vector<QPointF> placesIn(const QRectF& area)
+{
+    constexpr int Steps = 40;
+
+    std::vector<QPointF> places;
+    for (int row = 0; row < Steps; ++row) {
+        for (int column = 0; column < Steps; ++column) {
+            places.emplace_back(area.left() + area.width() * column / (Steps - 1),
+                                area.top() + area.height() * row / (Steps - 1));
+        }
+    }
+    return places;
+}
+
+/// Points along the lines of some operations, and the corners of their texts.
+class PointFinder
+{
+public:
+    explicit PointFinder(const Drawing& drawing) : m_drawing(drawing) {}
+
+    void operator()(const PolylineOperation& line)
+    {
+        constexpr double Apart = 150;
+        constexpr double MostParts = 1000;
+
+        for (std::size_t i = line.firstPoint; i + 1 < line.firstPoint + line.points; ++i) {
+            const QLineF piece(m_drawing.points[i], m_drawing.points[i + 1]);
+            const double parts = std::ceil(std::clamp(piece.length() / Apart, 1.0, MostParts));
+            for (double part = 0; part <= parts; ++part) {
+                points.push_back(piece.pointAt(part / parts));
+            }
+        }
+    }
+    void operator()(const TextOperation& text) { points.emplace_back(text.x, text.y); }
+    void operator()(const auto& /*other*/) {}
+
+    std::vector<QPointF> points;
+
+private:
+    const Drawing& m_drawing;
+};
+
 } // namespace
 
-QPointF freePlace(const QRectF& paper, QSizeF size, const std::vector<QPointF>& spots, double room)
+std::vector<QPointF> pointsOf(const Drawing& drawing, std::size_t first, std::size_t end)
 {
+    PointFinder finder(drawing);
+    for (std::size_t i = first; i < end; ++i) {
+        std::visit(finder, drawing.operations[i]);
+    }
+    return std::move(finder.points);
+}
+
+QPointF freePlace(const QRectF& paper, QSizeF size, const Obstacles& obstacles)
+{
+    constexpr auto Most = std::numeric_limits<std::ptrdiff_t>::max();
+
     const QRectF area = corners(paper, size);
     QPointF best = area.topLeft();
-    auto least = std::pair(std::numeric_limits<std::ptrdiff_t>::max(), 0.0);
-    for (int step = 0; step < Steps * Steps; ++step) {
-        const int row = step / Steps;
-        const QPointF place(area.left() + area.width() * (step % Steps) / (Steps - 1),
-                            area.top() + area.height() * row / (Steps - 1));
-        const QRectF covered = QRectF(place, size).adjusted(-room, -room, room, room);
-        const auto hidden =
-            std::ranges::count_if(spots, [&](QPointF spot) { return covered.contains(spot); });
-        const auto cost = std::pair(hidden, fromNearestCorner(area, place));
-        if (cost < least) {
-            least = cost;
-            best = place;
+    std::tuple least(Most, Most, 0.0);
+    for (const QPointF place : placesIn(area)) {
+        const QRectF covered(place, size);
+        const double room = obstacles.room;
+        const auto localities = countIn(covered.adjusted(-room, -room, room, room), obstacles.localities);
+        if (localities <= std::get<0>(least)) {
+            const std::tuple cost(localities, countIn(covered, obstacles.others),
+                                  fromNearestCorner(area, place));
+            best = cost < least ? place : best;
+            least = std::min(least, cost);
         }
     }
     return best;

@@ -177,8 +177,10 @@ void AtlasMapView::putLegendOnFreePlace()
 
     const AtlasDrawing printed = draw(1);
     if (!printed.legendBox.isEmpty()) {
+        const std::vector<QPointF> baseMap =
+            pointsOf(printed.drawing, printed.baseMap.first, printed.baseMap.end);
         const QPointF place =
-            freePlace(printed.paper, printed.legendBox.size(), printed.localities, SymbolRoom);
+            freePlace(printed.paper, printed.legendBox.size(), {printed.localities, baseMap, SymbolRoom});
         moveLegend((place - printed.legendBox.topLeft()) / printed.scale);
     }
 }
@@ -198,7 +200,8 @@ QString AtlasMapView::message()
         return QStringLiteral("No map is open. Open Map shows all maps; New Survey makes one from a table.");
     }
     if (!m_canvas->map().trouble.isEmpty()) {
-        return QStringLiteral("The map is not complete.\n%1").arg(m_canvas->map().trouble);
+        return QStringLiteral("The map is not complete; mend this, and all of it is shown.\n%1")
+            .arg(m_canvas->map().trouble);
     }
     if (m_drawOther) {
         return {};

@@ -100,20 +100,28 @@ TEST(SpotGrid, FindsWhatAWalkOverAllSpotsFinds)
     EXPECT_EQ(SpotGrid({{{5, 5}, 7}}).nearest({6, 5}, 2), 7) << "one locality";
 }
 
-TEST(FreePlace, HidesAsFewLocalitiesAsCanBe)
+TEST(FreePlace, HidesAsFewLocalitiesAsCanBeAndThenAsLittleOfTheMap)
 {
     const QRectF paper(0, 0, 1000, 800);
     std::vector<QPointF> spots = {{50, 50}, {950, 50}, {500, 400}, {50, 750}};
+    std::vector<QPointF> others;
+    const auto found = [&](QSizeF size) { return freePlace(paper, size, {spots, others, 20}); };
     const auto hidden = [&](QPointF place, QSizeF size) {
         return std::ranges::count_if(spots, [&](QPointF p) { return QRectF(place, size).contains(p); });
     };
-    EXPECT_EQ(freePlace(paper, {200, 100}, spots, 20), QPointF(800, 700)) << "the corner that is free";
+    EXPECT_EQ(found({200, 100}), QPointF(800, 700)) << "the corner that is free";
+    DrawSurface map;
+    map.Line(700, 720, 1000, 720, 0);
+    map.PrintAt(300, 300, QStringLiteral("Town"));
+    others = pointsOf(map.drawing(), 0, 2);
+    EXPECT_TRUE(QRectF(0, 0, 1000, 719).contains(QRectF(found({200, 100}), QSizeF(200, 100))))
+        << "a line is there";
     spots.emplace_back(950, 750);
-    const QPointF place = freePlace(paper, {200, 100}, spots, 20);
+    const QPointF place = found({200, 100});
     EXPECT_EQ(hidden(place, {200, 100}), 0);
     EXPECT_TRUE(paper.contains(QRectF(place, QSizeF(200, 100))));
-    EXPECT_EQ(hidden(freePlace(paper, {900, 500}, spots, 0), {900, 500}), 1);
-    EXPECT_EQ(freePlace(paper, {5000, 5000}, spots, 0), QPointF(0, 0)) << "larger than the paper";
+    EXPECT_EQ(hidden(found({900, 500}), {900, 500}), 1);
+    EXPECT_EQ(found({5000, 5000}), QPointF(0, 0)) << "larger than the paper";
 }
 
 TEST(LocalityAnswer, HasTheWordFormsAndTheRecordsThatMarkThem)
