@@ -57,9 +57,9 @@ public:
 
         for (std::size_t i = line.firstPoint; i + 1 < line.firstPoint + line.points; ++i) {
             const QLineF piece(m_drawing.points[i], m_drawing.points[i + 1]);
-            const double parts = std::ceil(std::clamp(piece.length() / Apart, 1.0, MostParts));
-            for (double part = 0; part <= parts; ++part) {
-                points.push_back(piece.pointAt(part / parts));
+            const int parts = static_cast<int>(std::clamp(piece.length() / Apart + 1, 1.0, MostParts));
+            for (int part = 0; part <= parts; ++part) {
+                points.push_back(piece.pointAt(static_cast<double>(part) / parts));
             }
         }
     }

@@ -23,6 +23,9 @@ public:
     /// Draws the map, so many times larger than it is printed while texts and symbols keep their size.
     using DrawMap = std::function<AtlasDrawing(double zoom)>;
 
+    /// By how much one step zooms.
+    static constexpr double ZoomStep = 1.25;
+
     explicit AtlasCanvas(DrawMap drawMap);
 
     /// Draws the map anew before it is shown next.

@@ -15,8 +15,6 @@
 
 namespace {
 
-constexpr double ZoomStep = 1.25;
-
 bool isOfTouchpad(const QWheelEvent& event)
 {
     return event.device()->type() == QInputDevice::DeviceType::TouchPad || event.phase() != Qt::NoScrollPhase;

@@ -10,9 +10,10 @@
 
 namespace {
 
-QToolButton* arrowButton(Qt::ArrowType arrow, const QString& name)
+QToolButton* arrowButton(Qt::ArrowType arrow, const QString& objectName, const QString& name)
 {
     auto* button = new QToolButton;
+    button->setObjectName(objectName);
     button->setArrowType(arrow);
     button->setAutoRaise(true);
     button->setFocusPolicy(Qt::TabFocus);
@@ -29,12 +30,12 @@ AtlasFindBar::AtlasFindBar(Find find) : m_find(std::move(find)), m_text(new QLin
     m_text->setObjectName(QStringLiteral("txtFind"));
     m_text->setAccessibleName(QStringLiteral("Find on the map"));
     m_text->setPlaceholderText(QStringLiteral("Number or name of a locality, or a word form"));
-    m_text->setClearButtonEnabled(true);
     m_hit->setObjectName(QStringLiteral("lblHit"));
     m_hit->setAccessibleName(QStringLiteral("What was found"));
-    auto* previous = arrowButton(Qt::UpArrow, QStringLiteral("Previous"));
-    auto* next = arrowButton(Qt::DownArrow, QStringLiteral("Next"));
+    auto* previous = arrowButton(Qt::UpArrow, QStringLiteral("cmdPreviousHit"), QStringLiteral("Previous"));
+    auto* next = arrowButton(Qt::DownArrow, QStringLiteral("cmdNextHit"), QStringLiteral("Next"));
     auto* done = new QToolButton;
+    done->setObjectName(QStringLiteral("cmdCloseFind"));
     done->setText(QStringLiteral("Close"));
     done->setAutoRaise(true);
     auto* row = new QHBoxLayout(this);

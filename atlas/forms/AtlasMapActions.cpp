@@ -9,31 +9,26 @@
 #include <QAction>
 #include <QActionGroup>
 
+#include <array>
 #include <utility>
 
-namespace {
-
-constexpr double ZoomStep = 1.25;
-
-} // namespace
-
-QAction* AtlasMapView::makeAction(const QString& text, const char* name)
+QAction* AtlasMapView::makeAction(const QString& text, const QString& name)
 {
     auto* action = new QAction(text, this);
-    action->setObjectName(QLatin1String(name));
+    action->setObjectName(name);
     addAction(action);
     return action;
 }
 
 void AtlasMapView::addActions()
 {
-    m_find = makeAction(QStringLiteral("&Find on the Map..."), "actFind");
+    m_find = makeAction(QStringLiteral("&Find on the Map..."), QStringLiteral("actFind"));
     m_find->setShortcut(QKeySequence::Find);
     connect(m_find, &QAction::triggered, m_findBar, &AtlasFindBar::begin);
-    m_freePlace = makeAction(QStringLiteral("Legend to a Free &Place"), "actFreePlace");
+    m_freePlace = makeAction(QStringLiteral("Legend to a Free &Place"), QStringLiteral("actFreePlace"));
     m_freePlace->setToolTip(QStringLiteral("Put the legend where it hides as few localities as can be"));
     connect(m_freePlace, &QAction::triggered, this, &AtlasMapView::putLegendOnFreePlace);
-    m_wholeWordForms = makeAction(QStringLiteral("Whole Word &Forms"), "actWholeWordForms");
+    m_wholeWordForms = makeAction(QStringLiteral("Whole Word &Forms"), QStringLiteral("actWholeWordForms"));
     m_wholeWordForms->setCheckable(true);
     connect(m_wholeWordForms, &QAction::triggered, this, [this](bool on) {
         MapStyle style = m_varn;
@@ -46,7 +41,7 @@ void AtlasMapView::addActions()
     addZoomActions();
 }
 
-QAction* AtlasMapView::makeLayer(const QString& text, const char* name, bool AtlasLayers::*layer)
+QAction* AtlasMapView::makeLayer(const QString& text, const QString& name, bool AtlasLayers::*layer)
 {
     QAction* action = makeAction(text, name);
     action->setCheckable(true);
@@ -61,10 +56,10 @@ QAction* AtlasMapView::makeLayer(const QString& text, const char* name, bool Atl
 void AtlasMapView::addLayerActions()
 {
     m_layerActions = {
-        makeLayer(QStringLiteral("&Lines"), "actLines", &AtlasLayers::lines),
-        makeLayer(QStringLiteral("&Dots"), "actDots", &AtlasLayers::dots),
-        makeLayer(QStringLiteral("&Place Names"), "actPlaceNames", &AtlasLayers::placeNames),
-        makeLayer(QStringLiteral("Le&gend"), "actLegend", &AtlasLayers::legend),
+        makeLayer(QStringLiteral("&Lines"), QStringLiteral("actLines"), &AtlasLayers::lines),
+        makeLayer(QStringLiteral("&Dots"), QStringLiteral("actDots"), &AtlasLayers::dots),
+        makeLayer(QStringLiteral("&Place Names"), QStringLiteral("actPlaceNames"), &AtlasLayers::placeNames),
+        makeLayer(QStringLiteral("Le&gend"), QStringLiteral("actLegend"), &AtlasLayers::legend),
     };
 }
 
@@ -77,13 +72,13 @@ void AtlasMapView::addLabelActions()
         const char* text;
         Labels labels;
     };
-    constexpr Choice Choices[] = {{"actNoLabels", "Localities &without Labels", Labels::None},
-                                  {"actNumbers", "Locality N&umbers", Labels::Numbers},
-                                  {"actNames", "Locality &Names", Labels::Names}};
+    constexpr std::array Choices = {Choice{"actNoLabels", "Localities &without Labels", Labels::None},
+                                    Choice{"actNumbers", "Locality N&umbers", Labels::Numbers},
+                                    Choice{"actNames", "Locality &Names", Labels::Names}};
 
     auto* group = new QActionGroup(this);
     for (const Choice& choice : Choices) {
-        QAction* action = makeAction(QLatin1String(choice.text), choice.name);
+        QAction* action = makeAction(QLatin1String(choice.text), QLatin1String(choice.name));
         action->setCheckable(true);
         action->setChecked(choice.labels == m_layers.labels);
         group->addAction(action);
@@ -97,16 +92,13 @@ void AtlasMapView::addLabelActions()
 
 void AtlasMapView::addPlaceActions()
 {
-    constexpr std::pair<HankoPlace, const char*> Places[] = {{HankoCenter, "&Center"},
-                                                             {HankoRight, "&Right"},
-                                                             {HankoLeft, "&Left"},
-                                                             {HankoUp, "&Up"},
-                                                             {HankoDown, "&Down"}};
+    constexpr std::array Places = {std::pair(HankoCenter, "&Center"), std::pair(HankoRight, "&Right"),
+                                   std::pair(HankoLeft, "&Left"), std::pair(HankoUp, "&Up"),
+                                   std::pair(HankoDown, "&Down")};
 
     auto* group = new QActionGroup(this);
     for (const auto& [place, text] : Places) {
-        QAction* action = makeAction(QLatin1String(text), "actPlace");
-        action->setObjectName(QStringLiteral("actPlace%1").arg(place));
+        QAction* action = makeAction(QLatin1String(text), QStringLiteral("actPlace%1").arg(place));
         action->setToolTip(QStringLiteral("Where the second and later word forms stand"));
         action->setCheckable(true);
         group->addAction(action);
@@ -121,17 +113,17 @@ void AtlasMapView::addPlaceActions()
 
 void AtlasMapView::addZoomActions()
 {
-    QAction* larger = makeAction(QStringLiteral("Zoom &In"), "actZoomIn");
+    QAction* larger = makeAction(QStringLiteral("Zoom &In"), QStringLiteral("actZoomIn"));
     larger->setShortcuts({QKeySequence(Qt::CTRL | Qt::Key_Plus), QKeySequence(Qt::CTRL | Qt::Key_Equal)});
-    connect(larger, &QAction::triggered, m_canvas, [this] { m_canvas->zoom(ZoomStep); });
-    QAction* smaller = makeAction(QStringLiteral("Zoom &Out"), "actZoomOut");
+    connect(larger, &QAction::triggered, m_canvas, [this] { m_canvas->zoom(AtlasCanvas::ZoomStep); });
+    QAction* smaller = makeAction(QStringLiteral("Zoom &Out"), QStringLiteral("actZoomOut"));
     smaller->setShortcut(QKeySequence::ZoomOut);
-    connect(smaller, &QAction::triggered, m_canvas, [this] { m_canvas->zoom(1 / ZoomStep); });
-    QAction* whole = makeAction(QStringLiteral("&Whole Map"), "actFit");
+    connect(smaller, &QAction::triggered, m_canvas, [this] { m_canvas->zoom(1 / AtlasCanvas::ZoomStep); });
+    QAction* whole = makeAction(QStringLiteral("&Whole Map"), QStringLiteral("actFit"));
     whole->setShortcut(Qt::Key_F);
     whole->setShortcutContext(Qt::WidgetWithChildrenShortcut); // elsewhere it is a letter
     connect(whole, &QAction::triggered, m_canvas, &AtlasCanvas::fit);
-    QAction* keep = makeAction(QStringLiteral("Symbols &Keep Their Size"), "actKeepSize");
+    QAction* keep = makeAction(QStringLiteral("Symbols &Keep Their Size"), QStringLiteral("actKeepSize"));
     keep->setCheckable(true);
     keep->setChecked(true);
     connect(keep, &QAction::toggled, m_canvas, &AtlasCanvas::setSymbolsKeepSize);

@@ -58,8 +58,8 @@ private:
     void addLabelActions();
     void addPlaceActions();
     void addZoomActions();
-    QAction* makeAction(const QString& text, const char* name);
-    QAction* makeLayer(const QString& text, const char* name, bool AtlasLayers::*layer);
+    QAction* makeAction(const QString& text, const QString& name);
+    QAction* makeLayer(const QString& text, const QString& name, bool AtlasLayers::*layer);
     void follow();
 
     AtlasDrawing draw(double zoom) const;
