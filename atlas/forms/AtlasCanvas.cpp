@@ -188,7 +188,7 @@ void AtlasCanvas::paintSelected(QPainter& painter)
          {std::pair(QColor(Qt::white), 5.0), std::pair(palette().color(QPalette::Highlight), 2.5)}) {
         painter.setPen(QPen(color, width));
         for (const int locality : m_selected) {
-            if (locality <= count) {
+            if (locality >= 1 && locality <= count) {
                 painter.drawEllipse(placeOf(locality), Radius, Radius);
             }
         }

@@ -187,11 +187,11 @@ void AtlasMapView::putLegendOnFreePlace()
 
 void AtlasMapView::goTo(int locality)
 {
-    if (locality < 1 || locality > m_varn.NLocality) {
-        return;
+    const auto count = static_cast<int>(m_canvas->map().localities.size());
+    if (locality >= 1 && locality <= count) {
+        m_canvas->bringIntoView(locality);
+        showAnswer(locality);
     }
-    m_canvas->bringIntoView(locality);
-    showAnswer(locality);
 }
 
 QString AtlasMapView::message()

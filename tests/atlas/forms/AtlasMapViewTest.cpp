@@ -233,7 +233,12 @@ TEST_F(AtlasMap, FindGoesFromOneLocalityToTheNext)
     EXPECT_FALSE(box.isVisible());
     Q_EMIT selection.localitySought(1);
     EXPECT_TRUE(canvas.rect().contains(place(1).toPoint()));
-    Q_EMIT selection.localitySought(99);
+    for (const int none : {99, 0}) {
+        selection.setLocalities({none});
+        Q_EMIT selection.localitySought(none);
+        canvas.grab();
+    }
+    EXPECT_EQ(hover, "1 Amele: ame, uyu");
 }
 
 TEST_F(AtlasMap, TheLegendIsDraggedUndoneAndSaved)
