@@ -48,7 +48,7 @@ std::string transcript(const AtlasDrawing& map, const OperationRange& range)
 /// Whether some pixel in a square of the painted map has a colour like `color`.
 bool isPainted(const AtlasDrawing& map, const AtlasView& view, QPointF place, QColor color)
 {
-    QImage page(800, 600, QImage::Format_RGB32);
+    QImage page(1200, 1200, QImage::Format_RGB32);
     page.fill(Qt::white);
     QPainter painter(&page);
     paintAtlasMap(map, painter, view);
@@ -149,6 +149,9 @@ TEST(AtlasDrawing, SymbolsOfOtherRecordsFadeAndThoseOutOfViewAreLeftOut)
     EXPECT_FALSE(isPainted(map, {scale, all, {2}, true}, ring, QBColor(12)));
     EXPECT_TRUE(isPainted(map, {scale, all, {2}, true}, box, QBColor(9)));
     EXPECT_FALSE(isPainted(map, {scale, QRectF(0, 0, 3000, 3000), {}, true}, box, QBColor(9)));
+    const double large = 0.55; // the ring is 110 pixels wide
+    EXPECT_TRUE(isPainted(map, {large, all, {1}, true}, ring, QBColor(12)));
+    EXPECT_FALSE(isPainted(map, {large, all, {2}, true}, ring, QBColor(12)));
     const QPointF caption = printedAt(map.drawing, "AME") + QPointF(200, 150);
     EXPECT_TRUE(isPainted(map, {scale, all, {}, true}, caption, Qt::black) || !anyFont());
     EXPECT_FALSE(isPainted(map, {scale, all, {}, false}, caption, Qt::black));
