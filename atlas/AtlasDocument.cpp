@@ -7,7 +7,43 @@
 
 #include <QSet>
 
+#include <algorithm>
+#include <limits>
+#include <tuple>
 #include <utility>
+
+namespace {
+
+/// The place as a map can hold it, whose y is a 16-bit whole number.
+QPointF storable(QPointF place)
+{
+    using Limits = std::numeric_limits<qint16>;
+    return {static_cast<double>(static_cast<float>(place.x())),
+            static_cast<double>(toInteger(std::clamp<double>(place.y(), Limits::min(), Limits::max())))};
+}
+
+/// Whether maps look the same in both styles; the atlas has its own dots.
+bool looksLike(const MapStyle& a, const MapStyle& b)
+{
+    const auto key = [](const MapStyle& style) {
+        return std::tuple(style.WriteFileName, style.HankoPosition, style.WholeWordForms, style.PhoneticBold);
+    };
+    return key(a) == key(b);
+}
+
+/// Gives a map without place names one for the legend, with no text; the scale bar stays behind the last.
+void makeFirstName(PlaceNames& map)
+{
+    if (map.NKanji == 0) {
+        map.NKanji = 1;
+        map.KanjiText(1).clear();
+        for (const int axis : {0, 1}) {
+            map.KanjiXY(2, axis) = map.KanjiXY(1, axis);
+        }
+    }
+}
+
+} // namespace
 
 AtlasDocument::AtlasDocument(VarnModule& varn) : m_varn(varn)
 {
@@ -58,7 +94,7 @@ void AtlasDocument::turnTo(const QString& itemPath)
     const SymbolSet shared = m_varn;
     AtlasPage page = keptOrRead(itemPath);
     keepPage();
-    m_varn.WholeWordForms = m_wholeWordForms = isMadeForWholeWordForms(page.symbols);
+    m_varn.WholeWordForms = m_style.WholeWordForms = isMadeForWholeWordForms(page.symbols);
     show(std::move(page));
     if (isFirst && isSymbolSetUnsaved(shared)) {
         static_cast<SymbolSet&>(m_varn) = shared;
@@ -126,25 +162,6 @@ void AtlasDocument::endPreview()
     }
 }
 
-bool AtlasDocument::wholeWordForms() const
-{
-    return m_varn.WholeWordForms;
-}
-
-void AtlasDocument::setWholeWordForms(bool whole)
-{
-    m_varn.WholeWordForms = whole;
-    followWholeWordForms();
-}
-
-void AtlasDocument::followWholeWordForms()
-{
-    if (m_wholeWordForms != m_varn.WholeWordForms) {
-        m_wholeWordForms = m_varn.WholeWordForms;
-        Q_EMIT symbolsChanged();
-    }
-}
-
 void AtlasDocument::setWords(const WordsStep::Words& words, const QString& text)
 {
     ItemAnswers tried = m_page.item;
@@ -161,10 +178,24 @@ QPointF AtlasDocument::legendPlace() const
     return {m_varn.HanreiX, static_cast<double>(m_varn.HanreiY)};
 }
 
-void AtlasDocument::setLegendPlace(QPointF place)
+void AtlasDocument::setLegendPlace(QPointF asked)
 {
+    const QPointF place = storable(asked);
     if (place != legendPlace()) {
         m_steps.push(new LegendPlaceStep(*this, place)); // the stack owns it
+    }
+}
+
+void AtlasDocument::setMapStyle(const MapStyle& style)
+{
+    static_cast<MapStyle&>(m_varn) = style;
+    followStyle();
+}
+
+void AtlasDocument::followStyle()
+{
+    if (!looksLike(std::exchange(m_style, m_varn), m_varn)) {
+        Q_EMIT symbolsChanged();
     }
 }
 
@@ -173,7 +204,7 @@ void AtlasDocument::putSymbols(const QString& itemPath, const SymbolRecords& rec
     turnTo(itemPath);
     m_preview.reset();
     if (isMadeForWholeWordForms(records) != isMadeForWholeWordForms(m_page.symbols)) {
-        m_varn.WholeWordForms = m_wholeWordForms = isMadeForWholeWordForms(records);
+        m_varn.WholeWordForms = m_style.WholeWordForms = isMadeForWholeWordForms(records);
     }
     static_cast<SymbolRecords&>(m_page.symbols) = records;
     shareSymbols();
@@ -194,6 +225,7 @@ void AtlasDocument::putWords(const QString& itemPath, const WordsStep::Words& wo
 void AtlasDocument::putLegend(QPointF place)
 {
     m_savedLegend = m_savedLegend.value_or(legendPlace());
+    makeFirstName(m_varn);
     m_varn.KanjiXY(1, 0) = static_cast<float>(place.x());
     m_varn.KanjiXY(1, 1) = static_cast<float>(place.y());
     m_varn.HanreiX = m_varn.KanjiXY(1, 0);

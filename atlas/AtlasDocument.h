@@ -3,6 +3,7 @@
 #include "atlas/AtlasPage.h"
 #include "atlas/AtlasSteps.h"
 #include "mapdata/MapSearch.h"
+#include "render/MapStyle.h"
 
 #include <QObject>
 #include <QPointF>
@@ -50,18 +51,17 @@ public:
     void previewSymbols(const SymbolRecords& records);
     void endPreview();
 
-    /// Whether the records mark word forms that equal their kinds. A page that is turned to has it as its
-    /// symbols were made.
-    bool wholeWordForms() const;
-    void setWholeWordForms(bool whole);
-
     /// Gives localities of the page their word forms, a step called `text`. Raises what `setLocalityWords`
     /// raises; nothing is changed then.
     void setWords(const WordsStep::Words& words, const QString& text);
 
     /// Where title and legend begin, in map units: the place of the first place name.
     QPointF legendPlace() const;
-    void setLegendPlace(QPointF place);
+    /// Moves them there, a step; a map without place names gets one with an empty text then.
+    void setLegendPlace(QPointF asked);
+
+    /// Draws maps in another style from now on, in all forms.
+    void setMapStyle(const MapStyle& style);
 
     QUndoStack& steps() { return m_steps; }
 
@@ -95,7 +95,7 @@ public:
 Q_SIGNALS:
     /// Another page is shown, or the same was read again.
     void pageTurned();
-    /// Other symbols are shown.
+    /// Other symbols are shown, or in another style.
     void symbolsChanged();
     void wordsChanged();
     void baseMapChanged();
@@ -127,11 +127,11 @@ private:
     void shareItem();
     void shareSymbols();
     void followMap();
+    void followStyle();
     void followItem();
     void followWords();
     void followSymbols();
     void adoptSymbols(const SymbolSet& set);
-    void followWholeWordForms();
 
     VarnModule& m_varn;
     MapPlace m_map;
@@ -139,10 +139,11 @@ private:
     /// Pages that were turned away from and are still needed, by the paths of their items.
     std::map<QString, KeptPage> m_kept;
     std::optional<SymbolRecords> m_preview;
-    bool m_wholeWordForms = false;
     /// The place of the legend as it was shown last, and as its file holds it once it was moved.
     QPointF m_legend;
     std::optional<QPointF> m_savedLegend;
+    /// The style that maps were shown in last.
+    MapStyle m_style;
     /// The shared state's item and symbol set as they were shared or taken over last.
     int m_itemReading = -1;
     int m_symbolsReading = -1;

@@ -54,6 +54,7 @@ void AtlasDocument::shareSymbols()
 void AtlasDocument::followSharedState()
 {
     followMap();
+    followStyle();
     if (m_itemReading != m_varn.ItemReading) {
         if (hasPage() && isOfPage(m_varn)) {
             followSymbols(); // before another page is turned to
@@ -63,7 +64,6 @@ void AtlasDocument::followSharedState()
     if (hasPage()) {
         followSymbols();
     }
-    followWholeWordForms();
 }
 
 void AtlasDocument::followMap()

@@ -273,12 +273,23 @@ private:
 
 void paintDrawing(const Drawing& drawing, QPainter& painter, double scale)
 {
+    const PaintedOperations all{0, drawing.operations.size()};
+    paintDrawing(drawing, painter, scale, {&all, 1});
+}
+
+void paintDrawing(const Drawing& drawing, QPainter& painter, double scale,
+                  std::span<const PaintedOperations> parts)
+{
     painter.save();
     painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing |
                            QPainter::SmoothPixmapTransform);
+    const double opacity = painter.opacity();
     DrawingPainter paint(drawing, painter, scale);
-    for (const DrawingOperation& operation : drawing.operations) {
-        std::visit(paint, operation);
+    for (const PaintedOperations& part : parts) {
+        painter.setOpacity(opacity * part.opacity);
+        for (std::size_t i = part.first; i < part.end; ++i) {
+            std::visit(paint, drawing.operations[i]);
+        }
     }
     painter.restore();
 }

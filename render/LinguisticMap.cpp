@@ -26,8 +26,11 @@ QPointF wordStep(qint16 hankoPosition)
     }
 }
 
+using SymbolNote = std::function<void(const PlacedSymbol&)>;
+
 /// Draws the symbol of record k at every word form that it marks.
-void plotRecord(const LinguisticMapParts& parts, int k, const SymbolMarks& marks, SymbolShapes& shapes)
+void plotRecord(const LinguisticMapParts& parts, int k, const SymbolMarks& marks, SymbolShapes& shapes,
+                const SymbolNote& note)
 {
     const BaseMap& map = parts.base.map;
     MapGeometry& geometry = parts.base.geometry;
@@ -43,7 +46,11 @@ void plotRecord(const LinguisticMapParts& parts, int k, const SymbolMarks& marks
             if (marks(k, parts.item.WordData(i, j))) {
                 // A word form has its place by its number, also where those before it have no symbol.
                 const auto steps = static_cast<float>(j - 1);
-                shapes.DrawHanko(parts.symbols.Hanko(k), x + steps * dx, y + steps * dy);
+                const PlacedSymbol symbol{k, i, j, x + steps * dx, y + steps * dy};
+                shapes.DrawHanko(parts.symbols.Hanko(k), symbol.x, symbol.y);
+                if (note) {
+                    note(symbol);
+                }
             }
         }
     }
@@ -51,13 +58,13 @@ void plotRecord(const LinguisticMapParts& parts, int k, const SymbolMarks& marks
 
 } // namespace
 
-void PlotLinguisticData(const LinguisticMapParts& parts, MapSurfaces surfaces)
+void PlotLinguisticData(const LinguisticMapParts& parts, MapSurfaces surfaces, const SymbolNote& note)
 {
     const SymbolMarks marks(parts.symbols, parts.base.style.WholeWordForms);
     SymbolShapes shapes(parts.base.map, parts.base.geometry, surfaces);
     for (int k = 1; k <= parts.symbols.NHanrei; ++k) {
         try {
-            plotRecord(parts, k, marks, shapes);
+            plotRecord(parts, k, marks, shapes, note);
         } catch (const RunTimeError& error) {
             throw ofRecord(error, parts.symbols, k);
         }

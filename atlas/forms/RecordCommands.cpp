@@ -60,9 +60,6 @@ void RecordCommands::addRecordActions()
 void RecordCommands::addSetActions()
 {
     m_makeSymbols = add("mnuMakeSymbols", QStringLiteral("&Make Symbols"), {}, &RecordCommands::makeSymbols);
-    m_wholeWordForms = add("mnuAtlasWholeWordForms", QStringLiteral("Whole Word &Forms"), {},
-                           &RecordCommands::changeWholeWordForms);
-    m_wholeWordForms->setCheckable(true);
     m_new->setIconText(QStringLiteral("New"));
     m_delete->setIconText(QStringLiteral("Delete"));
     m_symbol->setIconText(QStringLiteral("Symbol"));
@@ -70,8 +67,6 @@ void RecordCommands::addSetActions()
     m_sameSymbol->setToolTip(
         QStringLiteral("Put the selected kinds under one symbol and one row of the legend"));
     m_makeSymbols->setToolTip(QStringLiteral("Give each word form of the item a symbol of its own"));
-    m_wholeWordForms->setToolTip(
-        QStringLiteral("A kind marks the word forms that equal it, not those that contain it"));
 }
 
 const SymbolRecords& RecordCommands::records() const
@@ -93,8 +88,6 @@ void RecordCommands::refresh()
     m_down->setEnabled(hasChosen && *chosen.rbegin() < records().NHanrei);
     m_localities->setEnabled(!chosen.empty());
     m_makeSymbols->setEnabled(isEditable && !m_parts.model.words().empty());
-    m_wholeWordForms->setEnabled(m_parts.document.hasPage());
-    m_wholeWordForms->setChecked(m_parts.document.wholeWordForms());
 }
 
 void RecordCommands::newRecord()
@@ -169,9 +162,4 @@ void RecordCommands::selectLocalities()
         localities.insert(count.localities.begin(), count.localities.end());
     }
     m_parts.selection.setLocalities(localities);
-}
-
-void RecordCommands::changeWholeWordForms()
-{
-    m_parts.document.setWholeWordForms(m_wholeWordForms->isChecked());
 }

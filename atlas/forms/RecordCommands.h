@@ -57,7 +57,6 @@ private:
     void sameSymbol();
     void makeSymbols();
     void selectLocalities();
-    void changeWholeWordForms();
 
     const SymbolRecords& records() const;
 
@@ -72,5 +71,4 @@ private:
     QAction* m_down = nullptr;
     QAction* m_localities = nullptr;
     QAction* m_makeSymbols = nullptr;
-    QAction* m_wholeWordForms = nullptr;
 };

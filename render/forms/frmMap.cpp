@@ -110,6 +110,7 @@ void frmMap::refresh()
 {
     m_ui->picMap->refresh();
     m_ui->mnuWholeWordForms->setChecked(m_varn.WholeWordForms);
+    m_places->button(m_varn.HankoPosition)->setChecked(true);
     showLoaded();
     DisplayInsatsu();
     enableMapLing();

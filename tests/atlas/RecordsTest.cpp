@@ -191,11 +191,11 @@ TEST_F(TurnedAtlas, AMadeSetOfAnotherFormIsForWholeWordFormsToo)
     other.turnTo(ling("made.dbs"));
     varn.WholeWordForms = false;
     document.followSharedState();
-    EXPECT_TRUE(document.wholeWordForms());
+    EXPECT_TRUE(varn.WholeWordForms);
     other.turnTo(ling("own.dbs"));
     varn.WholeWordForms = true;
     document.followSharedState();
-    EXPECT_TRUE(document.wholeWordForms()) << "as the other form has it";
+    EXPECT_TRUE(varn.WholeWordForms) << "as the other form has it";
 }
 
 TEST_F(TurnedAtlas, AChoiceOfWholeWordFormsHoldsUntilAnotherPageIsShown)
@@ -203,12 +203,14 @@ TEST_F(TurnedAtlas, AChoiceOfWholeWordFormsHoldsUntilAnotherPageIsShown)
     int shown = 0;
     document.turnTo(ling("own.dbs"));
     QObject::connect(&document, &AtlasDocument::symbolsChanged, &document, [&shown] { ++shown; });
-    document.setWholeWordForms(true);
+    MapStyle whole = varn;
+    whole.WholeWordForms = true;
+    document.setMapStyle(whole);
     EXPECT_EQ(shown, 1);
     varn.WholeWordForms = false; // by the map form
     document.followSharedState();
     EXPECT_EQ(shown, 2);
-    document.setWholeWordForms(true);
+    document.setMapStyle(whole);
     document.setSymbols(withCaption(document.page().symbols, 1, "Rain"), "Change Caption");
     EXPECT_TRUE(varn.WholeWordForms);
     document.turnTo(ling("made.dbs"));

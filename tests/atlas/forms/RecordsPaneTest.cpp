@@ -175,8 +175,9 @@ TEST_F(RecordsPane, ShowsWhatEachRecordMarksAndWhatNoneOrSeveralDo)
     EXPECT_EQ(selection.localities(), Numbers{1});
     document.setWords({{3, {"ame"}}}, "Change Words");
     EXPECT_EQ(tabs.tabText(0), "Not marked: 0 word forms");
-    child<QAction>(*pane, "mnuAtlasWholeWordForms").trigger();
-    EXPECT_TRUE(varn.WholeWordForms);
+    MapStyle style = varn;
+    style.WholeWordForms = true;
+    document.setMapStyle(style);
     EXPECT_EQ(rows(), "ame|Rain|1|2 uyu|Snow|1|1 no|Of|0|0 Type a kind|||");
 }
 
@@ -340,10 +341,10 @@ TEST_F(RecordsPane, EditsOfTwoItemsAreUndoneInTheirOrder)
     EXPECT_EQ(note(), "No symbols yet. Type a kind, or let Make Symbols give each word form one.");
     command("mnuMakeSymbols").trigger();
     EXPECT_EQ(rows(), "hi|hi|1|2 taiyo|taiyo|1|1 Type a kind|||");
-    EXPECT_TRUE(command("mnuAtlasWholeWordForms").isChecked());
+    EXPECT_TRUE(varn.WholeWordForms);
     document.steps().undo();
     EXPECT_EQ(rows(), "Type a kind|||");
-    EXPECT_FALSE(command("mnuAtlasWholeWordForms").isChecked());
+    EXPECT_FALSE(varn.WholeWordForms);
     document.steps().undo();
     EXPECT_EQ(document.page().item.Hanrei, "Rain");
     EXPECT_EQ(kinds(), "ame,uyu,no");

@@ -32,7 +32,15 @@ frmAtlas: (a record), mnuChangeSymbol -> [SymbolPopup]; (two records), mnuSameSy
 frmAtlas: (a record), mnuRecordDown -> <modified>; (a record), mnuRecordDown, mnuRecordUp -> -<modified>
 frmAtlas: (a record), (yes), mnuMakeSymbols -> <modified>; (a record), mnuSelectLocalities -> *
 frmAtlas: (an unmarked word form), mnuNewRecordOfWord -> -No symbols yet
-frmAtlas: (a record), mnuAtlasWholeWordForms -> <mnuAtlasWholeWordForms>
+frmAtlas: (atlas), actDots -> *map; (atlas), actLines -> *map; (atlas), actPlaceNames -> *map
+frmAtlas: (atlas), actLegend -> *map; (atlas), actFreePlace -> *map; (atlas), actZoomOut -> *map
+frmAtlas: (atlas), actZoomIn -> *map; (atlas), actZoomIn, actFit -> *map; actKeepSize -> -<actKeepSize>
+frmAtlas: (atlas), actNumbers -> *map; (atlas), actNumbers, actNoLabels -> *map; actNames -> <actNames>
+frmAtlas: actWholeWordForms -> <actWholeWordForms>; actPlace1, actPlace0 -> <actPlace0>
+frmAtlas: actPlace1 -> <actPlace1>; actPlace2 -> <actPlace2>; actPlace3 -> <actPlace3>
+frmAtlas: actPlace4 -> <actPlace4>; (atlas), actFind -> focus: txtFind
+frmAtlas: (atlas), actFind, txtFind=uyu, cmdNextHit -> lblHit=2 of 2; actFind, cmdCloseFind -> focus: map
+frmAtlas: (atlas), actFind, txtFind=uyu, cmdPreviousHit -> lblHit=2 of 2
 frmMap: mnuMapBlank, (yes), mnuChiten, mnuMapBlank -> *picMap
 frmMap: (yes), mnuStyle, mnuMapLing -> map: rain.han; (161 symbols), mnuHankoNext, mnuHankoList -> -map: 161
 frmMap: (161 symbols), mnuHankoPrevious, mnuHankoNext -> map: 161
@@ -158,6 +166,7 @@ std::map<QString, std::function<void()>> EveryWayOut::preparations()
         {"(no)", [&] { dialogs.yesNo = {false}; }},
         {"(yes)", [&] { dialogs.yesNo = {true}; }},
         {"(cancel)", [&] { dialogs.okCancel = {false}; }},
+        {"(atlas)", [] { press<frmMain>("cmdAtlas"); }},
         {"(frmMap in front)", [] { press<frmMain>("cmdMap"); }},
         {"(snow in the atlas)",
          [&] {
