@@ -58,7 +58,7 @@ void RecordsModel::showWords()
 
 void RecordsModel::count()
 {
-    m_counts = m_counter.count(m_document.shownSymbols(), m_document.wholeWordForms());
+    m_counts = m_counter.count(m_document.shownSymbols(), m_varn.WholeWordForms);
 }
 
 void RecordsModel::showSymbols()

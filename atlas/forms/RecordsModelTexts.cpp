@@ -74,7 +74,7 @@ QString RecordsModel::kindText(int k) const
     if (!kind.isEmpty()) {
         return kind;
     }
-    return m_document.wholeWordForms() ? QStringLiteral("(all others)") : QStringLiteral("(every word form)");
+    return m_varn.WholeWordForms ? QStringLiteral("(all others)") : QStringLiteral("(every word form)");
 }
 
 QVariant RecordsModel::text(const QModelIndex& index) const
