@@ -26,6 +26,7 @@ public:
     AtlasDocument& document() { return m_document; }
 
     void refresh() override;
+    QString helpSection() const override { return QStringLiteral("The atlas window"); }
     void followSharedState() override;
 
 Q_SIGNALS:

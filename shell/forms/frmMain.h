@@ -33,6 +33,7 @@ public:
     void Form_Load(const QString& installation);
 
     void refresh() override;
+    QString helpSection() const override { return QStringLiteral("The first start"); }
 
 protected:
     void closeEvent(QCloseEvent* event) override;

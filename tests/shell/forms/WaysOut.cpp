@@ -3,6 +3,7 @@
 #include <QAbstractItemView>
 #include <QAction>
 #include <QApplication>
+#include <QDialog>
 #include <QMenu>
 #include <QPushButton>
 #include <QShortcut>
@@ -34,14 +35,15 @@ QString textOf(const QWidget& widget)
     return rows.join(',');
 }
 
-/// Menus, separators and the parts of other windows are none.
+/// Menus, separators, the parts of other windows and the buttons of entries are none.
 bool isWayOut(const QObject& object, const VarnForm& form)
 {
     if (const auto* action = qobject_cast<const QAction*>(&object)) {
-        return action->menu() == nullptr && !action->isSeparator();
+        return action->menu() == nullptr && !action->isSeparator() &&
+               qobject_cast<const QDialog*>(action->parent()) == nullptr;
     }
-    const bool isButton =
-        qobject_cast<const QPushButton*>(&object) || qobject_cast<const QToolButton*>(&object);
+    const auto* tool = qobject_cast<const QToolButton*>(&object);
+    const bool isButton = qobject_cast<const QPushButton*>(&object) || (tool && !tool->defaultAction());
     const QObject* widget = qobject_cast<const QShortcut*>(&object) ? object.parent()
                             : isButton                              ? &object
                                                                     : nullptr;
