@@ -14,8 +14,14 @@ class AtlasItemsPane : public QWidget
 public:
     AtlasItemsPane(VarnModule& varn, AtlasDocument& document, AtlasSelection& selection);
 
+    /// Turn to the item below, and above, in the list.
+    QAction* nextItem() { return m_next; }
+    QAction* previousItem() { return m_previous; }
+
 private:
     VarnModule& m_varn;
     AtlasDocument& m_document;
     AtlasSelection& m_selection;
+    QAction* m_next;
+    QAction* m_previous;
 };

@@ -46,26 +46,41 @@ void frmMain::openNewSurvey(const QString& path)
     m_newSurvey->begin(path);
 }
 
-bool frmMain::mayLoseSymbols()
+bool frmMain::mayLoseSymbols(const QString& title)
 {
     return !isSymbolSetUnsaved(m_varn) ||
            dialogs().confirmLoss(QStringLiteral("The symbol set is not saved and will be lost. Go on ?"),
-                                 QStringLiteral("New Survey"));
+                                 title);
+}
+
+bool frmMain::takeMap(const QString& mapName, const QString& title)
+{
+    if (!m_keeper->mayChangeMap() || !mayLoseSymbols(title)) {
+        return false;
+    }
+    changeMap({m_varn.VarnPath, QLatin1Char('\\') + mapName}, m_varn);
+    run([this] { loadLocalityNames(m_varn, m_varn); });
+    saveMapChoice(m_varn, currentMapChoice(m_varn));
+    showNewMap();
+    return true;
 }
 
 void frmMain::showSurvey(const QString& mapName, const QString& item)
 {
-    if (!m_keeper->mayChangeMap() || !mayLoseSymbols()) {
+    if (!takeMap(mapName, QStringLiteral("New Survey"))) {
         return;
     }
-    changeMap({m_varn.VarnPath, QLatin1Char('\\') + mapName}, m_varn);
-    loadLocalityNames(m_varn, m_varn);
-    saveMapChoice(m_varn, currentMapChoice(m_varn));
-    showNewMap();
     openMap();
     if (!item.isEmpty()) {
         const QString files = m_varn.dataFolder() + QLatin1Char('\\') + item;
         m_map.showItem(files + QStringLiteral(".dbs"), files + QStringLiteral(".han"));
+    }
+}
+
+void frmMain::openAtlas(const QString& mapName)
+{
+    if (takeMap(mapName, QStringLiteral("Open Map"))) {
+        open(m_atlas);
     }
 }
 

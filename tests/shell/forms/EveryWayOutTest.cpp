@@ -22,9 +22,9 @@ TEST_P(WaysOutOf, DoWhatTheySay)
 }
 
 INSTANTIATE_TEST_SUITE_P(Forms, WaysOutOf,
-                         testing::Values("frmMain", "frmMap", "frmChizu", "frmData", "frmDataInput",
-                                         "frmSetHanko", "frmCalc", "frmCalExec", "frmRankData",
-                                         "frmTotalHanko"),
+                         testing::Values("frmMain", "frmAtlas", "frmMap", "frmChizu", "frmData",
+                                         "frmDataInput", "frmSetHanko", "frmCalc", "frmCalExec",
+                                         "frmRankData", "frmTotalHanko"),
                          [](const auto& form) { return std::string(form.param); });
 
 TEST_F(EveryWayOut, HasARow)
