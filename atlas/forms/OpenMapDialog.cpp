@@ -70,7 +70,7 @@ OpenMapDialog::OpenMapDialog(const std::vector<InstalledMap>& maps, const QStrin
     const auto isBroken = [](const InstalledMap& map) { return !map.trouble.isEmpty(); };
     m_maps->setColumnHidden(3, std::ranges::none_of(maps, isBroken));
     goTo(here);
-    resize(560, 420);
+    resize(640, 440);
 }
 
 void OpenMapDialog::addControls()
@@ -87,7 +87,9 @@ void OpenMapDialog::addControls()
     m_maps->setUniformRowHeights(true);
     m_maps->setSortingEnabled(true);
     m_maps->sortByColumn(0, Qt::AscendingOrder);
-    m_maps->setColumnWidth(0, 240);
+    m_maps->setColumnWidth(0, 220);
+    m_maps->resizeColumnToContents(1);
+    m_maps->resizeColumnToContents(2);
     auto* answers = new QDialogButtonBox(QDialogButtonBox::Open | QDialogButtonBox::Cancel);
     m_open = answers->button(QDialogButtonBox::Open);
     auto* rows = new QVBoxLayout(this);

@@ -79,6 +79,7 @@ void frmAtlas::addPanes()
     m_panes->addWidget(m_map);
     m_panes->addWidget(m_details);
     m_panes->setStretchFactor(1, 1);
+    m_map->setMinimumWidth(320); // in a small window the lists are the narrower ones
     m_panes->setSizes({260, 700, 340});
     auto* rows = new QVBoxLayout;
     rows->setContentsMargins(0, 0, 0, 0);

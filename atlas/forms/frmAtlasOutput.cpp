@@ -48,6 +48,9 @@ void frmAtlas::mnuPrint_Click()
     printer.setPageSize(QPageSize(QPageSize::A4));
     printer.setPageOrientation(m_varn.PaperOrientation == PageOrientation::Landscape ? QPageLayout::Landscape
                                                                                      : QPageLayout::Portrait);
+    printer.setPageMargins(
+        QMarginsF(m_varn.LeftMargin, m_varn.TopMargin, m_varn.RightMargin, m_varn.BottomMargin),
+        QPageLayout::Millimeter); // a printer may refuse them
     printer.setDocName(QStringLiteral("%1 - %2").arg(m_varn.VarnMapName.mid(1), mapName()));
     printer.setCreator(QStringLiteral("varn"));
     connect(preview, &QPrintPreviewDialog::paintRequested, this,
@@ -55,6 +58,7 @@ void frmAtlas::mnuPrint_Click()
                 QPainter painter(page);
                 paintOnPage(drawing, size, painter, *page);
             });
+    preview->resize(900, 680);
     preview->open();
 }
 

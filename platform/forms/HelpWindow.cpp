@@ -8,8 +8,10 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QScreen>
 #include <QSignalBlocker>
 #include <QSplitter>
+#include <QStyle>
 #include <QToolBar>
 
 #include <algorithm>
@@ -48,7 +50,8 @@ HelpWindow::HelpWindow(QWidget* parent)
     addTools();
     connect(m_manual, &Manual::sourceChanged, this, &HelpWindow::showPlace);
     connect(m_contents, &QListWidget::currentRowChanged, this, &HelpWindow::goToChapter);
-    resize(950, 680);
+    const int title = style()->pixelMetric(QStyle::PM_TitleBarHeight);
+    resize(QSize(950, 680).boundedTo(screen()->availableSize() - QSize(0, title)));
 }
 
 void HelpWindow::showFor(QWidget& window, const QString& section)
