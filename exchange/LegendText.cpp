@@ -14,3 +14,9 @@ QString cutToWidth(const QString& text, double width)
     const QFontMetricsF metrics(twipFont({font.MapFontName, font.MapFontSize}));
     return metrics.elidedText(text, Qt::ElideRight, width);
 }
+
+QString withoutHyphens(QString text)
+{
+    const QChar hyphen(0x2010);
+    return text.replace(QLatin1Char('-'), hyphen);
+}

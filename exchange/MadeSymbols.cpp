@@ -10,6 +10,11 @@
 
 namespace {
 
+QString madeForWholeWordForms()
+{
+    return QStringLiteral("Made for whole word forms: choose \"Whole Word Forms\" before drawing.");
+}
+
 constexpr size_t MostRecords = decltype(SymbolRecords::HankoWord)::last();
 
 /// For each kind of an item that has a record of its own, the number of its symbol in the palette.
@@ -30,13 +35,6 @@ double captionWidth(size_t records)
     return WidestLegendText / static_cast<double>(records / Rows + 1) - ColumnGap;
 }
 
-/// The hyphen would keep the caption out of the legend.
-QString captionOf(const QString& kind, double width)
-{
-    const QChar hyphen(0x2010);
-    return cutToWidth(kind, width).replace(QLatin1Char('-'), hyphen);
-}
-
 void addRecord(SymbolSet& set, const QString& kind, const QString& caption, const HankoStyle& symbol)
 {
     const int k = ++set.NHanrei;
@@ -49,14 +47,15 @@ SymbolSet symbolSet(const std::vector<KindFrequency>& kinds, const Symbols& symb
                     const SymbolPalette& palette)
 {
     SymbolSet set;
-    set.Explain = QStringLiteral("Made for whole word forms: choose \"Whole Word Forms\" before drawing.");
+    set.Explain = madeForWholeWordForms();
     if (symbols.size() < kinds.size()) {
         addRecord(set, {}, QStringLiteral("other (%1)").arg(kinds.size() - symbols.size()),
                   SymbolPalette::dot());
     }
     const double width = captionWidth(std::min(kinds.size(), MostRecords));
     for (size_t i = 0; i < symbols.size(); ++i) {
-        addRecord(set, kinds[i].kind, captionOf(kinds[i].kind, width), palette.symbol(symbols[i]));
+        addRecord(set, kinds[i].kind, withoutHyphens(cutToWidth(kinds[i].kind, width)),
+                  palette.symbol(symbols[i]));
     }
     return set;
 }
@@ -173,4 +172,9 @@ std::vector<SymbolSet> makeSymbols(const std::vector<std::vector<KindFrequency>>
         sets.push_back(symbolSet(items[item], symbols[item], palette));
     }
     return sets;
+}
+
+bool isMadeForWholeWordForms(const SymbolRecords& symbols)
+{
+    return symbols.Explain == madeForWholeWordForms();
 }

@@ -23,3 +23,6 @@ std::vector<KindFrequency> kindsByFrequency(const std::vector<QStringList>& answ
 /// designs the installation has.
 std::vector<SymbolSet> makeSymbols(const std::vector<std::vector<KindFrequency>>& items, bool categorical,
                                    int polygons);
+
+/// Whether the comment of `symbols` says that `makeSymbols` made them, for word forms that equal their kinds.
+bool isMadeForWholeWordForms(const SymbolRecords& symbols);
