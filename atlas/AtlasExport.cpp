@@ -1,11 +1,11 @@
 #include "atlas/AtlasExport.h"
 
 #include "atlas/AtlasItem.h"
+#include "exchange/MadeSymbols.h"
 #include "platform/FileName.h"
 #include "platform/WholeFile.h"
 #include "plot/DrawingFile.h"
 #include "render/LinguisticMap.h"
-#include "shell/MapParts.h"
 #include "shell/VarnModule.h"
 
 #include <QFileInfo>
@@ -50,12 +50,22 @@ private:
     bool draws(const QString& path)
     {
         try {
-            drawAtlasPage(m_varn, m_pageOf(path), {{m_surface, m_surface}, m_area});
+            const AtlasPage page = m_pageOf(path);
+            if (!page.symbolTrouble.isEmpty()) {
+                leaveOut(path, page.symbolTrouble);
+                return false;
+            }
+            drawAtlasPage(m_varn, page, {{m_surface, m_surface}, m_area});
             return true;
         } catch (const RunTimeError& error) {
-            result.leftOut << QStringLiteral("%1: %2").arg(stemOf(path), error.text());
+            leaveOut(path, error.text());
             return false;
         }
+    }
+
+    void leaveOut(const QString& path, const QString& reason)
+    {
+        result.leftOut << QStringLiteral("%1: %2").arg(stemOf(path), reason);
     }
 
     const VarnModule& m_varn;
@@ -73,9 +83,11 @@ private:
 void drawAtlasPage(const VarnModule& varn, const AtlasPage& page, MapSurfaces surfaces)
 {
     MapGeometry geometry; // that of the map form stays as it is
-    drawLinguisticMap(
-        {{varn, varn, page.symbols.SymbolFileName, geometry}, textParts(varn), page.item, page.symbols},
-        surfaces);
+    MapStyle style = varn;
+    style.WholeWordForms = isMadeForWholeWordForms(page.symbols);
+    const TextParts text{varn, varn, style, varn.Pictures};
+    drawLinguisticMap({{varn, style, page.symbols.SymbolFileName, geometry}, text, page.item, page.symbols},
+                      surfaces);
 }
 
 AtlasExport exportAtlas(const VarnModule& varn, const QStringList& itemPaths, const PageOfItem& pageOf,

@@ -9,7 +9,8 @@
 
 struct VarnModule;
 
-/// Draws the linguistic map of `page` as it is now. Raises what drawing raises.
+/// Draws the linguistic map of `page` as it is now; symbols that were made for whole word forms mark these.
+/// Raises what drawing raises.
 void drawAtlasPage(const VarnModule& varn, const AtlasPage& page, MapSurfaces surfaces);
 
 /// What becomes of the items that an atlas is made of.

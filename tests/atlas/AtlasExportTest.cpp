@@ -8,6 +8,7 @@
 #include "atlas/AtlasItem.h"
 #include "atlas/AtlasMapKind.h"
 #include "atlas/InstalledMaps.h"
+#include "exchange/MadeSymbols.h"
 #include "plot/DrawingOut.h"
 #include "shell/MapParts.h"
 #include "tests/support/TestDrive.h"
@@ -72,6 +73,8 @@ TEST_F(ExportedAtlas, HasAPageForEachItemThatCanBeRead)
     ASSERT_EQ(done.leftOut.size(), 1);
     EXPECT_TRUE(done.leftOut[0].startsWith("b: ")) << qPrintable(done.leftOut[0]);
     EXPECT_EQ(written().count("/Type /Page\n"), 2);
+    survey.write(ling("c.han"), "many");
+    EXPECT_EQ(save(fromFiles).leftOut.size(), 2) << "a map without its symbols would look like a whole one";
 }
 
 TEST_F(ExportedAtlas, StoppedOrFailedLeavesTheFileAsItWas)
@@ -99,6 +102,22 @@ TEST_F(ExportedAtlas, APageIsThatOfTheMapFormAndLeavesItsGeometryAlone)
     EXPECT_TRUE(wasPrinted(surface.drawing(), "Rain"));
     EXPECT_TRUE(wasPrinted(surface.drawing(), "unsaved"));
     EXPECT_EQ(varn.Scale, 7);
+}
+
+TEST_F(ExportedAtlas, MadeSymbolsMarkWholeWordForms)
+{
+    survey.write(ling("a.dbs"), "3,\"\",\"Rain\",\"\"\r\n1\r\n\"ame\"\r\n1\r\n\"amer\"\r\n0\r\n");
+    AtlasPage page = read(ling("a.dbs"));
+    const auto operations = [&] {
+        DrawSurface surface;
+        drawAtlasPage(varn, page, {{surface, surface}, firstArea()});
+        return surface.drawing().operations.size();
+    };
+    const std::size_t parts = operations();
+    const auto made = makeSymbols({{{"ame", 1}}}, false, 0);
+    ASSERT_EQ(made.size(), 1U);
+    page.symbols.Explain = made[0].Explain;
+    EXPECT_LT(operations(), parts) << "\"ame\" is a part of \"amer\"";
 }
 
 TEST_F(ExportedAtlas, MapsOfTheTableAreThoseOfTheMapForm)
