@@ -50,7 +50,7 @@ void frmAtlas::showMapKinds()
     for (QAction* entry : m_kinds->actions()) {
         const auto kind = static_cast<AtlasMapKind>(entry->data().toInt());
         entry->setEnabled(canDraw(kind, m_varn));
-        entry->setStatusTip(howToHave(kind, m_varn));
+        entry->setToolTip(howToHave(kind, m_varn));
         entry->setChecked(kind == m_kind);
     }
     m_wordForms->setEnabled(showsOneWordForm(m_kind));

@@ -81,6 +81,7 @@ void frmAtlas::addEditMenu()
 void frmAtlas::addMapMenu()
 {
     m_kindMenu = menuBar()->addMenu(QStringLiteral("&Map"));
+    m_kindMenu->setToolTipsVisible(true); // they say what a map needs
     for (const AtlasMapKind kind : AtlasMapKinds) {
         QAction* entry = m_kindMenu->addAction(nameOf(kind));
         entry->setObjectName(QStringLiteral("mnuKind") + nameOf(kind).remove(QLatin1Char(' ')));

@@ -82,6 +82,20 @@ TEST_F(Help, F1OnEveryFormShowsItsChapter)
     EXPECT_EQ(std::ranges::count_if(QApplication::topLevelWidgets(), isHelp), 1) << "one window for all";
 }
 
+TEST_F(Help, BesideAModalWindowItCanBeUsed)
+{
+    trigger<frmMain>("mnuNewSurvey");
+    QApplication::processEvents();
+    QWidget& wizard = *QApplication::activeModalWidget();
+    pressKey(wizard, Qt::Key_F1);
+    EXPECT_EQ(chosenChapter(openHelp()), "Your own survey in five minutes");
+    EXPECT_EQ(openHelp().parentWidget(), &wizard) << "another window would be blocked";
+    QApplication::processEvents();
+    pressKey(openHelp(), Qt::Key_Escape);
+    EXPECT_TRUE(wizard.isVisible());
+    EXPECT_THROW(openHelp(), std::logic_error);
+}
+
 TEST_F(Help, EveryLinkAndEveryPictureOfTheManualIsThere)
 {
     HelpWindow window;
