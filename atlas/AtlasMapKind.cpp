@@ -68,10 +68,10 @@ QString howToHave(AtlasMapKind kind, const VarnModule& varn)
         return {};
     }
     if (kind == AtlasMapKind::Contrast) {
-        return QStringLiteral("Execute a contrast analysis first: Accumulate Data on the main form.");
+        return QStringLiteral("Execute a contrast analysis first: Accumulate Data.");
     }
     return varn.NumWordforms == 0
-               ? QStringLiteral("Open a table of counts first: Accumulate Data on the main form.")
+               ? QStringLiteral("Open a table of counts first: Accumulate Data.")
                : QStringLiteral("Open or make diffusion symbols first: Symbols on the execution form.");
 }
 

@@ -44,6 +44,8 @@ Q_SIGNALS:
     void toNewSurvey();
     /// The user wants to enter an item.
     void toInputData();
+    /// The user wants to open or edit the table of counts.
+    void toAccumulateData();
     /// The user wants the map of that name to be the current one.
     void mapWanted(const QString& mapName);
 

@@ -95,6 +95,9 @@ void frmAtlas::addMapMenu()
     m_kindMenu->addSeparator();
     m_wordForms = m_kindMenu->addMenu(QStringLiteral("&Word Form"));
     connect(m_wordForms, &QMenu::aboutToShow, this, &frmAtlas::showWordForms);
+    m_kindMenu->addSeparator();
+    addEntry(*m_kindMenu, "mnuSumUp", QStringLiteral("&Accumulate Data"), nullptr, {},
+             &frmAtlas::toAccumulateData);
 }
 
 /// What the panes offer.

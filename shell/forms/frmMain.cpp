@@ -77,6 +77,7 @@ void frmMain::connectForms()
     connect(&m_atlas, &frmAtlas::toMain, this, &frmMain::bringToFront);
     handle(&m_atlas, &frmAtlas::toNewSurvey, &frmMain::mnuNewSurvey_Click);
     handle(&m_atlas, &frmAtlas::toInputData, &frmMain::cmdInputData_Click);
+    handle(&m_atlas, &frmAtlas::toAccumulateData, &frmMain::cmdSumUp_Click);
     connect(&m_atlas, &frmAtlas::mapWanted, this,
             [this](const QString& mapName) { run([&] { openAtlas(mapName); }); });
     connect(m_newSurvey, &frmNewSurvey::surveyMade, this,

@@ -19,7 +19,7 @@ frmMain: (no file), mnuImportLocalities -> Import Localities; (no file), mnuImpo
 frmMain: (no file), mnuImportPlaceNames -> Import Place Names; (no file), mnuImportPolygons -> Import Polygon
 frmAtlas: mnuNewSurvey -> [frmNewSurvey]; mnuInputData -> [frmDataInput]; mnuToMain -> [frmMain]
 frmAtlas: (atlas), mnuToolBar -> -<tools>
-frmAtlas: mnuOpenMap -> [OpenMapDialog]; (atlas), mnuExportAtlas -> [ExportAtlasDialog]
+frmAtlas: mnuSumUp -> [frmCalc]; mnuOpenMap -> [OpenMapDialog]; (atlas), mnuExportAtlas -> [ExportAtlasDialog]
 frmAtlas: (no name), mnuExportMap -> Export Map; (atlas), mnuPrint -> [QPrintPreviewDialog]
 frmAtlas: (atlas), mnuCopyMap -> clipboard: picture; mnuClose -> -[frmAtlas]; mnuAbout -> [AboutDialog]
 frmAtlas: (atlas), (a new caption), mnuSave -> -<modified>; (atlas), (a new caption), mnuUndo -> -<modified>
