@@ -145,6 +145,12 @@ void frmAtlas::showLoaded()
 QStringList frmAtlas::loaded() const
 {
     const QString map = m_varn.hasMap() ? QStringLiteral("Map: ") + m_varn.VarnMapName.mid(1) : QString();
+    if (m_kind != AtlasMapKind::Linguistic) {
+        return {map, QStringLiteral("%1: %2 word forms over %3 items")
+                         .arg(nameOf(m_kind))
+                         .arg(m_varn.NumWordforms)
+                         .arg(m_varn.NumItemsAccumulated)};
+    }
     if (!m_document.hasPage()) {
         return {map, QStringLiteral("No item shown")};
     }

@@ -24,6 +24,7 @@ void frmAtlas::showMapOf(AtlasMapKind kind)
     m_kind = kind;
     drawKind();
     showMapKinds();
+    showLoaded();
 }
 
 /// The table may be another one meanwhile. Without what the map needs the linguistic map takes its place.

@@ -214,6 +214,7 @@ TEST_F(AtlasWindow, MapsOfTheTableTakeThePlaceOfTheItemsUntilAPageIsTurned)
     entry("mnuKindBarsofOneWordForm").trigger();
     EXPECT_TRUE(wasPrinted(map().drawing(), "one")) << "the first word form";
     EXPECT_FALSE(wasPrinted(map().drawing(), "AME"));
+    EXPECT_TRUE(said().contains("Bars of One Word Form: 2 word forms over 5 items")) << qPrintable(said());
     for (auto* menu : form<frmAtlas>().findChildren<QMenu*>()) {
         if (menu->title() == "&Word Form") {
             Q_EMIT menu->aboutToShow();
