@@ -106,26 +106,34 @@ void saveDrawing(const Drawing& drawing, QSizeF size, const QString& hostPath, d
     }
 }
 
-void savePdfPages(int pages, const std::function<const Drawing&(int)>& drawPage, QSizeF size,
-                  const QString& hostPath)
+QByteArray drawingPdf(const std::function<const Drawing*()>& nextPage, QSizeF size, const QString& title)
 {
     QBuffer buffer;
     buffer.open(QIODevice::WriteOnly);
     {
         QPdfWriter pdf(&buffer);
         pdf.setCreator(QStringLiteral("varn"));
-        pdf.setTitle(QFileInfo(hostPath).completeBaseName());
+        pdf.setTitle(title);
         pdf.setResolution(static_cast<int>(TwipsPerInch));
         pdf.setPageSize(QPageSize(size / TwipsPerPoint, QPageSize::Point, {}, QPageSize::ExactMatch));
         pdf.setPageMargins(QMarginsF());
         QPainter painter(&pdf);
-        for (int page = 0; page < pages; ++page) {
-            const Drawing& drawing = drawPage(page);
-            if (page > 0) {
+        bool isFirst = true;
+        while (const Drawing* drawing = nextPage()) {
+            if (!isFirst) {
                 pdf.newPage();
             }
-            paintDrawing(drawing, painter, 1);
+            isFirst = false;
+            paintDrawing(*drawing, painter, 1);
         }
     }
-    replaceHostFile(hostPath, hostPath, buffer.data());
+    return buffer.data();
+}
+
+void savePdfPages(int pages, const std::function<const Drawing&(int)>& drawPage, QSizeF size,
+                  const QString& hostPath)
+{
+    int page = 0;
+    const auto nextPage = [&] { return page < pages ? &drawPage(page++) : nullptr; };
+    replaceHostFile(hostPath, hostPath, drawingPdf(nextPage, size, QFileInfo(hostPath).completeBaseName()));
 }

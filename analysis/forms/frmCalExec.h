@@ -26,6 +26,7 @@ public:
     /// Prepares the form to be shown: draws what it shows with the counts as they are now.
     void Form_Load();
     void refresh() override;
+    QString helpSection() const override { return QStringLiteral("Counting over many items"); }
     void followSharedState() override;
     /// What is drawn.
     const DrawSurface& surface() const { return m_paper; }

@@ -26,6 +26,7 @@ public:
     /// Prepares the form to be shown: shows the table, the strings and the item that are loaded.
     void Form_Load();
     void refresh() override;
+    QString helpSection() const override { return QStringLiteral("Counting over many items"); }
     void followSharedState() override;
     void showNewState() override;
 

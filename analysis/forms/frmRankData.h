@@ -29,6 +29,7 @@ public:
     /// Prepares the form to be shown: lists the word forms of the table and the groups.
     void Form_Load();
     void refresh() override;
+    QString helpSection() const override { return QStringLiteral("Contrast maps"); }
     void followSharedState() override;
 
 Q_SIGNALS:

@@ -31,6 +31,7 @@ public:
     /// Prepares the form to be shown: lists the word forms of the table and shows their symbols.
     void Form_Load();
     void refresh() override;
+    QString helpSection() const override { return QStringLiteral("Diffusion maps"); }
     void followSharedState() override;
 
 Q_SIGNALS:

@@ -98,7 +98,7 @@ Drawing AtlasMapView::drawing() const
     return draw(1).drawing;
 }
 
-QSizeF AtlasMapView::size() const
+QSizeF AtlasMapView::paperSize() const
 {
     const QRectF paper = draw(1).paper;
     return {paper.right(), paper.bottom()};

@@ -29,7 +29,7 @@ public:
 
     /// The map as it is printed, with the layers that are shown, and the size of its paper in twips.
     Drawing drawing() const;
-    QSizeF size() const;
+    QSizeF paperSize() const;
     /// Why the map is not complete; empty where it is.
     QString trouble() const;
 

@@ -4,48 +4,114 @@
 #include "atlas/forms/AtlasLocalitiesPane.h"
 #include "atlas/forms/AtlasMapView.h"
 #include "atlas/forms/AtlasRecordsPane.h"
+#include "atlas/forms/NoticeBar.h"
+#include "lingdata/LocalityMismatch.h"
+#include "platform/FileName.h"
 #include "shell/VarnModule.h"
 
+#include <QActionGroup>
+#include <QLabel>
+#include <QSettings>
 #include <QSplitter>
+#include <QStatusBar>
+#include <QVBoxLayout>
+
+namespace {
+
+/// Where the window keeps its size and that of its panes, beside the settings of other programs.
+QSettings layoutSettings()
+{
+    return {QSettings::IniFormat, QSettings::UserScope, QStringLiteral("varn"), QStringLiteral("atlas")};
+}
+
+QString counted(std::size_t count, const QString& name, const QString& names)
+{
+    return count == 0 ? QString() : QStringLiteral("%1 %2").arg(count).arg(count == 1 ? name : names);
+}
+
+} // namespace
 
 frmAtlas::frmAtlas(VarnModule& varn, Dialogs& dialogs)
     : VarnForm(dialogs), m_varn(varn), m_document(varn),
       m_items(new AtlasItemsPane(varn, m_document, m_selection)),
       m_map(new AtlasMapView(varn, m_document, m_selection)),
       m_records(new AtlasRecordsPane(varn, m_document, m_selection, dialogs)),
-      m_localities(new AtlasLocalitiesPane(varn, m_document, m_selection))
+      m_localities(new AtlasLocalitiesPane(varn, m_document, m_selection)), m_notice(new NoticeBar),
+      m_panes(new QSplitter(Qt::Horizontal)), m_details(new QSplitter(Qt::Vertical)), m_selected(new QLabel),
+      m_kinds(new QActionGroup(this))
 {
     setObjectName(QStringLiteral("frmAtlas"));
     addPanes();
-    resize(1280, 720);
-    connect(&m_document, &AtlasDocument::pageTurned, this, &frmAtlas::showLoaded);
+    addMenus();
+    addToolBar();
+    statusBar()->addPermanentWidget(m_selected);
+    m_selected->setObjectName(QStringLiteral("lblSelected"));
+    m_selected->setTextFormat(Qt::PlainText);
+    m_selected->setContentsMargins(8, 0, 8, 0);
+    m_selected->setAccessibleName(QStringLiteral("Selected"));
+    statusLine().setAccessibleName(QStringLiteral("Loaded"));
+    restoreLayout();
+    connect(&m_document, &AtlasDocument::pageTurned, this, &frmAtlas::showPage);
     connect(&m_document, &AtlasDocument::savedChanged, this, &frmAtlas::showLoaded);
+    connect(&m_document.steps(), &QUndoStack::indexChanged, this, &frmAtlas::showSteps);
+    connect(&m_selection, &AtlasSelection::localitiesChanged, this, &frmAtlas::showSelected);
+    connect(&m_selection, &AtlasSelection::recordsChanged, this, &frmAtlas::showSelected);
+    connect(m_map, &AtlasMapView::localityHovered, this, &frmAtlas::showHovered);
 }
 
-/// The panes go before the document that they show.
 frmAtlas::~frmAtlas()
 {
-    delete takeCentralWidget();
+    if (isVisible()) {
+        keepLayout();
+    }
+    // The document tells of its end, too; whoever shows it goes first.
+    m_document.steps().disconnect(this);
+    m_document.disconnect(this);
+    delete centralWidget();
 }
 
 void frmAtlas::addPanes()
 {
-    auto* details = new QSplitter(Qt::Vertical);
-    details->addWidget(m_records);
-    details->addWidget(m_localities);
-    auto* panes = new QSplitter(Qt::Horizontal);
-    panes->addWidget(m_items);
-    panes->addWidget(m_map);
-    panes->addWidget(details);
-    panes->setStretchFactor(1, 1);
-    panes->setSizes({260, 700, 340});
-    setCentralWidget(panes);
+    m_details->addWidget(m_records);
+    m_details->addWidget(m_localities);
+    m_panes->addWidget(m_items);
+    m_panes->addWidget(m_map);
+    m_panes->addWidget(m_details);
+    m_panes->setStretchFactor(1, 1);
+    m_map->setMinimumWidth(320); // in a small window the lists are the narrower ones
+    m_panes->setSizes({260, 700, 340});
+    auto* rows = new QVBoxLayout;
+    rows->setContentsMargins(0, 0, 0, 0);
+    rows->setSpacing(0);
+    rows->addWidget(m_notice);
+    rows->addWidget(m_panes, 1);
+    auto* all = new QWidget;
+    all->setLayout(rows);
+    setCentralWidget(all);
+}
+
+void frmAtlas::restoreLayout()
+{
+    resize(1280, 720);
+    const QSettings settings = layoutSettings();
+    restoreGeometry(settings.value(QStringLiteral("window")).toByteArray());
+    m_panes->restoreState(settings.value(QStringLiteral("panes")).toByteArray());
+    m_details->restoreState(settings.value(QStringLiteral("details")).toByteArray());
+}
+
+void frmAtlas::keepLayout() const
+{
+    QSettings settings = layoutSettings();
+    settings.setValue(QStringLiteral("window"), saveGeometry());
+    settings.setValue(QStringLiteral("panes"), m_panes->saveState());
+    settings.setValue(QStringLiteral("details"), m_details->saveState());
 }
 
 void frmAtlas::Form_Load()
 {
     m_isPrepared = true;
     m_document.followSharedState();
+    followTable();
     turnToFirst();
     refresh();
 }
@@ -55,12 +121,17 @@ void frmAtlas::followSharedState()
 {
     if (m_isPrepared && isVisible()) {
         m_document.followSharedState();
+        followTable();
     }
 }
 
 void frmAtlas::refresh()
 {
     showLoaded();
+    showSelected();
+    showSteps();
+    showMapKinds();
+    showNotice();
 }
 
 void frmAtlas::showLoaded()
@@ -68,4 +139,82 @@ void frmAtlas::showLoaded()
     const AtlasPage& page = m_document.page();
     showTitle({QStringLiteral("VARN Atlas"), m_varn.VarnMapName.mid(1), page.item.Hanrei},
               m_document.isUnsaved());
+    showStatus(m_hovered.isEmpty() ? loaded() : QStringList{m_hovered});
+    m_entries.at(QStringLiteral("mnuSave"))->setEnabled(m_document.isUnsaved());
+}
+
+QStringList frmAtlas::loaded() const
+{
+    const QString map = m_varn.hasMap() ? QStringLiteral("Map: ") + m_varn.VarnMapName.mid(1) : QString();
+    if (m_kind != AtlasMapKind::Linguistic) {
+        return {map, QStringLiteral("%1: %2 word forms over %3 items")
+                         .arg(nameOf(m_kind))
+                         .arg(m_varn.NumWordforms)
+                         .arg(m_varn.NumItemsAccumulated)};
+    }
+    if (!m_document.hasPage()) {
+        return {map, QStringLiteral("No item shown")};
+    }
+    const AtlasPage& page = m_document.page();
+    const QString symbols =
+        page.symbols.NHanrei == 0
+            ? QStringLiteral("No symbols")
+            : QStringLiteral("Symbols: %1 (%2)").arg(page.symbols.SymbolFileName).arg(page.symbols.NHanrei);
+    return {localityMismatch(page.item.NLocate, m_varn.NLocality),
+            map,
+            QStringLiteral("Item: %1 (%2 localities)").arg(stemOf(page.item.ItemPath)).arg(page.item.NLocate),
+            symbols,
+            m_varn.WholeWordForms ? QStringLiteral("Symbols mark whole word forms")
+                                  : QStringLiteral("Symbols mark parts of word forms"),
+            counted(m_document.unsavedPages().size(), QStringLiteral("item not saved"),
+                    QStringLiteral("items not saved"))};
+}
+
+void frmAtlas::showSelected()
+{
+    const QStringList parts = {
+        counted(m_selection.localities().size(), QStringLiteral("locality"), QStringLiteral("localities")),
+        counted(m_selection.records().size(), QStringLiteral("symbol"), QStringLiteral("symbols"))};
+    QStringList chosen = parts;
+    chosen.removeAll(QString());
+    m_selected->setText(chosen.isEmpty()
+                            ? QStringLiteral("Nothing selected")
+                            : chosen.join(QStringLiteral(" and ")) + QStringLiteral(" selected"));
+}
+
+void frmAtlas::showPage()
+{
+    if (m_kind != AtlasMapKind::Linguistic) {
+        showMapOf(AtlasMapKind::Linguistic);
+    }
+    showLoaded();
+}
+
+/// In the place of what is loaded, as long as the pointer is at a locality.
+void frmAtlas::showHovered(const QString& answer)
+{
+    m_hovered = answer;
+    showLoaded();
+}
+
+void frmAtlas::showNotice()
+{
+    QAction* newSurvey = m_entries.at(QStringLiteral("mnuNewSurvey"));
+    if (!m_varn.hasMap()) {
+        m_notice->showNotice(QStringLiteral("No map is open. Open one, or make one of a table of answers."),
+                             {m_entries.at(QStringLiteral("mnuOpenMap")), newSurvey});
+    } else if (!m_document.hasPage() && atlasItemPaths(m_varn).isEmpty()) {
+        m_notice->showNotice(QStringLiteral("The map %1 has no items yet. Enter the word forms of one, or "
+                                            "make a whole survey of a table of answers.")
+                                 .arg(m_varn.VarnMapName.mid(1)),
+                             {m_entries.at(QStringLiteral("mnuInputData")), newSurvey});
+    } else {
+        m_notice->hideNotice();
+    }
+}
+
+void frmAtlas::hideEvent(QHideEvent* event)
+{
+    keepLayout();
+    VarnForm::hideEvent(event);
 }

@@ -1,14 +1,20 @@
 #pragma once
 
 #include "atlas/AtlasDocument.h"
+#include "atlas/AtlasMapKind.h"
 #include "atlas/AtlasSelection.h"
 #include "platform/forms/VarnForm.h"
+
+#include <map>
 
 class AtlasItemsPane;
 class AtlasLocalitiesPane;
 class AtlasMapView;
 class AtlasRecordsPane;
+class NoticeBar;
+class QActionGroup;
 class QSplitter;
+class QToolBar;
 struct VarnModule;
 
 /// The atlas window: the items of the current map, the map of one of them, its symbols and its localities, in
@@ -27,6 +33,7 @@ public:
     AtlasSelection& selection() { return m_selection; }
 
     void refresh() override;
+    QString helpSection() const override { return QStringLiteral("The atlas window"); }
     void followSharedState() override;
     void showNewState() override;
 
@@ -42,14 +49,62 @@ Q_SIGNALS:
     void toMain();
     /// The user wants to make a survey from a table.
     void toNewSurvey();
+    /// The user wants to enter an item.
+    void toInputData();
+    /// The user wants to open or edit the table of counts.
+    void toAccumulateData();
+    /// The user wants the map of that name to be the current one.
+    void mapWanted(const QString& mapName);
 
 protected:
     bool event(QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
 
 private:
     void addPanes();
+    void restoreLayout();
+    void keepLayout() const;
+
+    void addMenus();
+    void addFileMenu();
+    void addEditMenu();
+    void addMapMenu();
+    void addPaneMenus();
+    void addHelpMenu();
+    void nameForTools();
+    void addToolBar();
+    /// An entry of `menu`; its icon has the name `icon`, if any.
+    QAction* addEntry(QMenu& menu, const char* name, const QString& text, const char* icon,
+                      const QKeySequence& key, void (frmAtlas::*handler)());
+
+    void showPage();
     void showLoaded();
+    /// What is loaded, for the status bar.
+    QStringList loaded() const;
+    void showSelected();
+    void showHovered(const QString& answer);
+    void showNotice();
+    void showSteps();
+    void showMapKinds();
+    void showWordForms();
+
+    void mnuOpenMap_Click();
+    void mnuPrint_Click();
+    void mnuExportMap_Click();
+    void mnuExportAtlas_Click();
+    void mnuUndo_Click();
+    void mnuRedo_Click();
+    void mnuCopyMap_Click();
+    void mnuAbout_Click();
+
+    void showMapOf(AtlasMapKind kind);
+    void drawKind();
+    void followTable();
+    void exportItems(const QStringList& itemPaths);
+    AtlasPage pageOf(const QString& itemPath) const;
+    /// What a file or a document of the map shown is called.
+    QString mapName() const;
     void turnToFirst();
     bool mayClose();
     /// Asks about files that another program changed, once for each change.
@@ -63,5 +118,22 @@ private:
     AtlasMapView* m_map;
     AtlasRecordsPane* m_records;
     AtlasLocalitiesPane* m_localities;
+    NoticeBar* m_notice;
+    QSplitter* m_panes;
+    QSplitter* m_details;
+    QLabel* m_selected;
+
+    /// The entries by name.
+    std::map<QString, QAction*> m_entries;
+    QActionGroup* m_kinds;
+    QMenu* m_editMenu = nullptr;
+    QMenu* m_viewMenu = nullptr;
+    QMenu* m_kindMenu = nullptr;
+    QMenu* m_wordForms = nullptr;
+    AtlasMapKind m_kind = AtlasMapKind::Linguistic;
+    /// The word form that maps of one word form show.
+    int m_wordForm = 1;
+    /// What is at the pointer on the map; empty where nothing is.
+    QString m_hovered;
     bool m_isPrepared = false;
 };

@@ -5,6 +5,7 @@
 #include "exchange/forms/ItemsPage.h"
 #include "exchange/forms/MapPage.h"
 #include "exchange/forms/SourcePage.h"
+#include "platform/forms/HelpWindow.h"
 
 #include <QAbstractButton>
 #include <QScreen>
@@ -35,6 +36,7 @@ frmNewSurvey::frmNewSurvey(const Folders& folders, Dialogs& dialogs, QWidget* pa
     addPage(new MapPage(m_draft, dialogs, this));
     addPage(new ItemsPage(m_draft, this));
     addPage(m_create);
+    manualAction(*this, [] { return QStringLiteral("Your own survey in five minutes"); });
     resize(FirstSize.boundedTo(roomOnScreen(*this)));
     connect(m_create, &CreatePage::stateChanged, this, &frmNewSurvey::showCreation);
     connect(this, &QDialog::accepted, this,

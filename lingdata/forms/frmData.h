@@ -23,6 +23,7 @@ public:
     /// Shows the word forms of the loaded item, if there is one.
     void Form_Load();
     void refresh() override;
+    QString helpSection() const override { return QStringLiteral("Looking at the data"); }
     /// Shows the item that is loaded now, where it was loaded or dropped since it was shown.
     void followSharedState() override;
     void showNewState() override;

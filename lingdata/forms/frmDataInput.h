@@ -30,6 +30,7 @@ public:
     /// which makes way for a new one; that is asked about where it is unsaved.
     void Form_Load();
     void refresh() override;
+    QString helpSection() const override { return QStringLiteral("Entering an item"); }
 
     /// Begins a new item where another map is the current one now.
     void showNewState() override;

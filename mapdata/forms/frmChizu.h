@@ -29,6 +29,7 @@ public:
     /// The form's own drawing.
     const DrawSurface& surface() const { return m_surface; }
     void refresh() override;
+    QString helpSection() const override { return QStringLiteral("Choosing a map"); }
 
 Q_SIGNALS:
     /// The user wants to go back to the main form.

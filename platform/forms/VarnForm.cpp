@@ -3,6 +3,7 @@
 #include "platform/Drawing.h"
 #include "platform/DriveC.h"
 #include "platform/RunTimeError.h"
+#include "platform/forms/HelpWindow.h"
 
 #include <QEvent>
 #include <QGuiApplication>
@@ -50,7 +51,9 @@ QString detailOf(const RunTimeError& error)
 
 } // namespace
 
-VarnForm::VarnForm(Dialogs& dialogs) : m_dialogs(dialogs) {}
+VarnForm::VarnForm(Dialogs& dialogs)
+    : m_dialogs(dialogs), m_manual(manualAction(*this, [this] { return helpSection(); }))
+{}
 
 void VarnForm::bringToFront()
 {

@@ -37,6 +37,9 @@ public:
     /// ended without one.
     bool run(const std::function<void()>& handler);
 
+    /// The chapter of the manual that the form's work is described in.
+    virtual QString helpSection() const = 0;
+
     /// Frames `flat`, a flat button, while it has the keyboard focus; no style does.
     static void frameFocus(QPushButton& flat);
 
@@ -68,11 +71,14 @@ protected:
     }
 
     Dialogs& dialogs() const { return m_dialogs; }
+    /// The entry that opens the manual, by F1 too.
+    QAction& manualEntry() const { return *m_manual; }
 
 private:
     void fitScreen();
 
     Dialogs& m_dialogs;
+    QAction* m_manual;
     /// Null before it is used first.
     QLabel* m_status = nullptr;
 };

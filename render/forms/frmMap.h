@@ -34,6 +34,7 @@ public:
     /// The surfaces of a drawing command, with the form's place and size as they are now.
     MapSurfaces surfaces();
     void refresh() override;
+    QString helpSection() const override { return QStringLiteral("Drawing the map"); }
     void showNewState() override;
 
 Q_SIGNALS:

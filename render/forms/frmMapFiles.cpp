@@ -3,8 +3,8 @@
 #include "lingdata/ItemLoader.h"
 #include "lingdata/LinguisticFile.h"
 #include "platform/FileKind.h"
-#include "platform/Numbers.h"
 #include "plot/DrawingFile.h"
+#include "plot/DrawingOut.h"
 #include "render/forms/frmMap.h"
 #include "shell/VarnModule.h"
 #include "symbols/SymbolFile.h"
@@ -12,39 +12,23 @@
 #include <QClipboard>
 #include <QFileInfo>
 #include <QGuiApplication>
-#include <QMimeData>
-
-#include <memory>
 
 void frmMap::mnuSaveMapAs_Click()
 {
-    const auto file = dialogs().saveFile(
-        QStringLiteral("Save Map As"), m_varn.Drive.hostPath(m_varn.dataFolder()),
-        QStringLiteral("PDF Files (*.pdf)|*.pdf|SVG Files (*.svg)|*.svg|PNG Files (*.png)|*.png"),
-        QFileInfo(m_varn.ItemFileName).completeBaseName());
-    if (!file) {
-        return;
+    const auto target = askForDrawingFile(dialogs(), QStringLiteral("Save Map As"),
+                                          m_varn.Drive.hostPath(m_varn.dataFolder()),
+                                          QFileInfo(m_varn.ItemFileName).completeBaseName());
+    if (target) {
+        const WaitCursor wait;
+        saveDrawing(m_surface.drawing(), {m_surface.Width, m_surface.Height}, target->file,
+                    target->dotsPerInch);
     }
-    double dotsPerInch = DefaultResolution;
-    if (drawingFormat(*file) == DrawingFormat::Png) {
-        const auto answer = dialogs().input(QStringLiteral("Resolution of the picture in dots per inch"),
-                                            QStringLiteral("Save Map As"), QString::number(dotsPerInch));
-        if (!answer) {
-            return;
-        }
-        dotsPerInch = Val(*answer);
-    }
-    const WaitCursor wait;
-    saveDrawing(m_surface.drawing(), {m_surface.Width, m_surface.Height}, *file, dotsPerInch);
 }
 
 void frmMap::mnuCopyMap_Click()
 {
     const WaitCursor wait;
-    const QSizeF size(m_surface.Width, m_surface.Height);
-    auto copied = std::make_unique<QMimeData>();
-    copied->setImageData(drawingImage(m_surface.drawing(), size, DefaultResolution));
-    copied->setData(QStringLiteral("image/svg+xml"), drawingSvg(m_surface.drawing(), size));
+    auto copied = copiedDrawing(m_surface.drawing(), {m_surface.Width, m_surface.Height});
     QGuiApplication::clipboard()->setMimeData(copied.release()); // the clipboard owns it
 }
 

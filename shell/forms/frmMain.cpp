@@ -76,6 +76,10 @@ void frmMain::connectForms()
     handle(&m_dataInput, &frmDataInput::itemReloaded, &frmMain::showReloadedItem);
     connect(&m_atlas, &frmAtlas::toMain, this, &frmMain::bringToFront);
     handle(&m_atlas, &frmAtlas::toNewSurvey, &frmMain::mnuNewSurvey_Click);
+    handle(&m_atlas, &frmAtlas::toInputData, &frmMain::cmdInputData_Click);
+    handle(&m_atlas, &frmAtlas::toAccumulateData, &frmMain::cmdSumUp_Click);
+    connect(&m_atlas, &frmAtlas::mapWanted, this,
+            [this](const QString& mapName) { run([&] { openAtlas(mapName); }); });
     connect(m_newSurvey, &frmNewSurvey::surveyMade, this,
             [this](const QString& mapName, const QString& item) { run([&] { showSurvey(mapName, item); }); });
 }

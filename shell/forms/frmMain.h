@@ -34,6 +34,7 @@ public:
     void Form_Load(const QString& installation);
 
     void refresh() override;
+    QString helpSection() const override { return QStringLiteral("The first start"); }
 
 protected:
     void closeEvent(QCloseEvent* event) override;
@@ -90,7 +91,12 @@ private:
     void openNewSurvey(const QString& path);
     /// Makes a new map the current one, for the next start too, and shows an item of it.
     void showSurvey(const QString& mapName, const QString& item);
-    bool mayLoseSymbols();
+    /// Makes the map of that name the current one, for the next start too, and shows it in the atlas window.
+    void openAtlas(const QString& mapName);
+    /// Makes the map of that name the current one where no unsaved work is in the way; returns whether it is.
+    /// Questions have the title `title`.
+    bool takeMap(const QString& mapName, const QString& title);
+    bool mayLoseSymbols(const QString& title);
 
     std::unique_ptr<Ui::frmMain> m_ui;
     VarnModule& m_varn;

@@ -47,28 +47,43 @@ void frmMain::openNewSurvey(const QString& path)
     m_newSurvey->begin(path);
 }
 
-bool frmMain::mayLoseSymbols()
+bool frmMain::mayLoseSymbols(const QString& title)
 {
     return !isSymbolSetUnsaved(m_varn) ||
            dialogs().confirmLoss(QStringLiteral("The symbol set is not saved and will be lost. Go on ?"),
-                                 QStringLiteral("New Survey"));
+                                 title);
+}
+
+bool frmMain::takeMap(const QString& mapName, const QString& title)
+{
+    if (!m_keeper->mayChangeMap() || !mayLoseSymbols(title)) {
+        return false;
+    }
+    changeMap({m_varn.VarnPath, QLatin1Char('\\') + mapName}, m_varn);
+    run([this] { loadLocalityNames(m_varn, m_varn); });
+    saveMapChoice(m_varn, currentMapChoice(m_varn));
+    m_varn.SavedRecords.keep(m_varn); // those that were given up do not come along
+    showNewMap();
+    return true;
 }
 
 void frmMain::showSurvey(const QString& mapName, const QString& item)
 {
-    if (!m_keeper->mayChangeMap() || !mayLoseSymbols()) {
+    if (!takeMap(mapName, QStringLiteral("New Survey"))) {
         return;
     }
-    changeMap({m_varn.VarnPath, QLatin1Char('\\') + mapName}, m_varn);
-    loadLocalityNames(m_varn, m_varn);
-    saveMapChoice(m_varn, currentMapChoice(m_varn));
-    m_varn.SavedRecords.keep(m_varn); // those that were given up do not come along
-    showNewMap();
     if (!item.isEmpty()) {
         m_varn.WholeWordForms = true;
         m_atlas.showItem(m_varn.dataFolder() + QLatin1Char('\\') + item + ItemFiles.ending);
     }
     open(m_atlas);
+}
+
+void frmMain::openAtlas(const QString& mapName)
+{
+    if (takeMap(mapName, QStringLiteral("Open Map"))) {
+        open(m_atlas);
+    }
 }
 
 void frmMain::mnuExportSurvey_Click()

@@ -30,6 +30,7 @@ public:
     /// loaded.
     void Form_Load();
     void refresh() override;
+    QString helpSection() const override { return QStringLiteral("Giving the kinds their symbols"); }
     void followSharedState() override;
     void showNewState() override;
 

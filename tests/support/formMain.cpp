@@ -1,4 +1,6 @@
 #include <QApplication>
+#include <QSettings>
+#include <QTemporaryDir>
 #include <QTemporaryFile>
 
 #include <gtest/gtest.h>
@@ -15,6 +17,8 @@ int main(int argc, char* argv[])
     qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + screen.fileName().toUtf8());
     testing::InitGoogleTest(&argc, argv);
     const QApplication application(argc, argv);
+    const QTemporaryDir settings; // those of whoever runs the tests stay as they are
+    QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, settings.path());
     QApplication::setQuitOnLastWindowClosed(false); // the next test may wait for a dialog
     return RUN_ALL_TESTS();
 }

@@ -3,6 +3,7 @@
 #include <QAbstractItemView>
 #include <QAction>
 #include <QApplication>
+#include <QDialog>
 #include <QLineEdit>
 #include <QMenu>
 #include <QPushButton>
@@ -44,7 +45,8 @@ bool isWayOut(const QObject& object, const VarnForm& form)
         return false;
     }
     if (const auto* action = qobject_cast<const QAction*>(&object)) {
-        return action->menu() == nullptr && !action->isSeparator();
+        return action->menu() == nullptr && !action->isSeparator() &&
+               qobject_cast<const QDialog*>(action->parent()) == nullptr;
     }
     const auto* tool = qobject_cast<const QToolButton*>(&object);
     const bool isButton = qobject_cast<const QPushButton*>(&object) || (tool && !tool->defaultAction());

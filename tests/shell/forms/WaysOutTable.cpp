@@ -18,6 +18,31 @@ frmMain: cmdAtlas -> [frmAtlas]
 frmMain: cmdHanko -> [frmSetHanko]; cmdSumUp -> [frmCalc]; cmdSettingPrinter -> <fraSetMergin>
 frmMain: (no file), mnuImportLocalities -> Import Localities; (no file), mnuImportLines -> Import Lines
 frmMain: (no file), mnuImportPlaceNames -> Import Place Names; (no file), mnuImportPolygons -> Import Polygon
+frmAtlas: mnuNewSurvey -> [frmNewSurvey]; mnuInputData -> [frmDataInput]; mnuToMain -> [frmMain]
+frmAtlas: (atlas), mnuToolBar -> -<tools>
+frmAtlas: mnuSumUp -> [frmCalc]; mnuOpenMap -> [OpenMapDialog]; (atlas), mnuExportAtlas -> [ExportAtlasDialog]
+frmAtlas: (no name), mnuExportMap -> Export Map; (atlas), mnuPrint -> [QPrintPreviewDialog]
+frmAtlas: (atlas), mnuCopyMap -> clipboard: picture; mnuClose -> -[frmAtlas]; mnuAbout -> [AboutDialog]
+frmAtlas: (atlas), (a new caption), mnuSave -> -<modified>; (atlas), (a new caption), mnuUndo -> -<modified>
+frmAtlas: (atlas), (a new caption), mnuUndo, mnuRedo -> <modified>
+frmAtlas: (atlas), mnuKindBarsofOneWordForm -> <mnuKindBarsofOneWordForm>
+frmAtlas: (atlas), mnuKindBarsofAllWordForms -> <mnuKindBarsofAllWordForms>
+frmAtlas: (atlas), mnuKindCirclesofOneWordForm -> <mnuKindCirclesofOneWordForm>
+frmAtlas: (atlas), mnuKindCirclesofAllWordForms -> <mnuKindCirclesofAllWordForms>
+frmAtlas: (atlas), mnuKindSymbolsofAllWordForms -> <mnuKindSymbolsofAllWordForms>
+frmAtlas: (atlas), mnuKindContrastMap -> <mnuKindContrastMap>
+frmAtlas: (atlas), mnuKindContrastMap, mnuKindLinguisticMap -> -<mnuKindContrastMap>
+frmMain: mnuManual -> [HelpWindow]
+frmAtlas: mnuManual -> [HelpWindow]
+frmMap: mnuManual -> [HelpWindow]
+frmChizu: mnuManual -> [HelpWindow]
+frmData: mnuManual -> [HelpWindow]
+frmDataInput: mnuManual -> [HelpWindow]
+frmSetHanko: mnuManual -> [HelpWindow]
+frmCalc: mnuManual -> [HelpWindow]
+frmCalExec: mnuManual -> [HelpWindow]
+frmRankData: mnuManual -> [HelpWindow]
+frmTotalHanko: mnuManual -> [HelpWindow]
 frmMain: mnuNewSurvey -> [frmNewSurvey]; (no name), mnuExportSurvey -> Export Survey
 frmMain: (no), cmdMapName -> [frmChizu]; cmdSettingPrinter, cmdExitSetMergin -> -<fraSetMergin>
 frmMain: cmdSettingPrinter, cmdPrinter -> Printer is not connected.
@@ -167,6 +192,13 @@ std::map<QString, std::function<void()>> EveryWayOut::preparations()
         {"(yes)", [&] { dialogs.yesNo = {true}; }},
         {"(cancel)", [&] { dialogs.okCancel = {false}; }},
         {"(atlas)", [] { press<frmMain>("cmdAtlas"); }},
+        {"(a new caption)",
+         [] {
+             AtlasDocument& atlas = form<frmAtlas>().document();
+             SymbolRecords records = atlas.page().symbols;
+             records.HankoCaption(1) += "!";
+             atlas.setSymbols(records, "New Caption");
+         }},
         {"(frmMap in front)", [] { press<frmMain>("cmdMap"); }},
         {"(snow in the atlas)",
          [&] {

@@ -1,0 +1,76 @@
+// Which map the atlas window shows: that of the item, one of the open table, and another map altogether.
+
+#include "atlas/InstalledMaps.h"
+#include "atlas/forms/AtlasMapView.h"
+#include "atlas/forms/OpenMapDialog.h"
+#include "atlas/forms/frmAtlas.h"
+#include "shell/VarnModule.h"
+
+#include <QActionGroup>
+#include <QMenu>
+
+#include <algorithm>
+
+void frmAtlas::mnuOpenMap_Click()
+{
+    auto* maps = new OpenMapDialog(installedMaps(m_varn), m_varn.VarnMapName.mid(1), this);
+    maps->setAttribute(Qt::WA_DeleteOnClose);
+    connect(maps, &OpenMapDialog::chosen, this, &frmAtlas::mapWanted);
+    maps->open();
+}
+
+void frmAtlas::showMapOf(AtlasMapKind kind)
+{
+    m_kind = kind;
+    drawKind();
+    showMapKinds();
+    showLoaded();
+}
+
+/// The table may be another one meanwhile. Without what the map needs the linguistic map takes its place.
+void frmAtlas::followTable()
+{
+    if (m_kind != AtlasMapKind::Linguistic) {
+        showMapOf(canDraw(m_kind, m_varn) ? m_kind : AtlasMapKind::Linguistic);
+    }
+}
+
+void frmAtlas::drawKind()
+{
+    m_wordForm = std::clamp(m_wordForm, 1, std::max(1, m_varn.NumWordforms));
+    if (m_kind == AtlasMapKind::Linguistic) {
+        m_map->setMapKind({});
+    } else {
+        m_map->setMapKind(
+            [this](MapSurfaces surfaces) { drawTableMap(m_kind, m_wordForm, m_varn, surfaces); });
+    }
+}
+
+void frmAtlas::showMapKinds()
+{
+    for (QAction* entry : m_kinds->actions()) {
+        const auto kind = static_cast<AtlasMapKind>(entry->data().toInt());
+        entry->setEnabled(canDraw(kind, m_varn));
+        entry->setToolTip(howToHave(kind, m_varn));
+        entry->setChecked(kind == m_kind);
+    }
+    m_wordForms->setEnabled(showsOneWordForm(m_kind));
+}
+
+/// Lists them before they are shown.
+void frmAtlas::showWordForms()
+{
+    m_wordForms->clear();
+    auto* group = new QActionGroup(m_wordForms);
+    for (int k = 1; k <= m_varn.NumWordforms; ++k) {
+        QAction* entry =
+            m_wordForms->addAction(QString(m_varn.WordformName(k)).replace(u'&', QStringLiteral("&&")));
+        entry->setCheckable(true);
+        entry->setChecked(k == m_wordForm);
+        group->addAction(entry);
+        connect(entry, &QAction::triggered, this, [this, k] {
+            m_wordForm = k;
+            run([this] { drawKind(); });
+        });
+    }
+}

@@ -1,0 +1,91 @@
+#include "exchange/Credits.h"
+
+#include <QRegularExpression>
+#include <QtGlobal>
+
+#include <gdal.h>
+#include <ogr_srs_api.h>
+
+namespace {
+
+QString projVersion()
+{
+    int major = 0;
+    int minor = 0;
+    int patch = 0;
+    OSRGetPROJVersion(&major, &minor, &patch);
+    return QStringLiteral("%1.%2.%3").arg(major).arg(minor).arg(patch);
+}
+
+/// GDAL says with which GEOS it was built; empty where it was built without.
+QString geosVersion()
+{
+    static const QRegularExpression Line(QStringLiteral("GEOS_VERSION=([\\d.]+)"));
+    return Line.match(QString::fromUtf8(GDALVersionInfo("BUILD_INFO"))).captured(1);
+}
+
+std::vector<Credit> libraries()
+{
+    return {{QStringLiteral("Qt"), QString::fromLatin1(qVersion()),
+             QStringLiteral("The Qt Company Ltd. and other contributors"), QStringLiteral("GNU LGPL 3"),
+             QStringLiteral("https://www.qt.io"), QStringLiteral("windows, drawing and printing")},
+            {QStringLiteral("GDAL"), QString::fromUtf8(GDALVersionInfo("RELEASE_NAME")),
+             QStringLiteral("Frank Warmerdam, Even Rouault and other contributors"), QStringLiteral("MIT"),
+             QStringLiteral("https://gdal.org"), QStringLiteral("tables and layers in and out")},
+            {QStringLiteral("PROJ"), projVersion(),
+             QStringLiteral("Gerald Evenden, Frank Warmerdam and other contributors"), QStringLiteral("MIT"),
+             QStringLiteral("https://proj.org"), QStringLiteral("map projections, through GDAL")}};
+}
+
+std::vector<Credit> data()
+{
+    return {{QStringLiteral("Natural Earth, 1:50 million"), QString(), QString(),
+             QStringLiteral("public domain"), QStringLiteral("https://www.naturalearthdata.com"),
+             QStringLiteral("coasts, rivers, lakes and borders of new maps")},
+            {QStringLiteral("Charis SIL"), QStringLiteral("6.101"),
+             QStringLiteral("1997-2022 SIL International"), QStringLiteral("SIL Open Font License 1.1"),
+             QStringLiteral("https://openfontlicense.org"),
+             QStringLiteral("the pictures of phonetic letters were drawn from it; the font itself is not "
+                            "included. \"Charis\" and \"SIL\" are reserved font names")}};
+}
+
+QString lineOf(const Credit& credit)
+{
+    const QString name = credit.version.isEmpty() ? credit.name : credit.name + u' ' + credit.version;
+    const QString holder = credit.holder.isEmpty() ? QString() : QStringLiteral(" © %1.").arg(credit.holder);
+    return QStringLiteral("- **%1**: %2.%3 Licence: %4. <%5>\n")
+        .arg(name, credit.use, holder, credit.licence, credit.home);
+}
+
+} // namespace
+
+std::vector<Credit> credits()
+{
+    std::vector<Credit> all = libraries();
+    if (const QString version = geosVersion(); !version.isEmpty()) {
+        all.push_back({QStringLiteral("GEOS"), version, QStringLiteral("GEOS contributors"),
+                       QStringLiteral("GNU LGPL 2.1"), QStringLiteral("https://libgeos.org"),
+                       QStringLiteral("geometry, through GDAL")});
+    }
+    for (Credit& credit : data()) {
+        all.push_back(std::move(credit));
+    }
+    return all;
+}
+
+QString programVersion()
+{
+    return QStringLiteral(VARN_VERSION);
+}
+
+QString creditsText()
+{
+    QString text = QStringLiteral("# VARN %1\n\nDialect maps: surveys, symbols, linguistic maps and their "
+                                  "statistics.\n\nThe sample survey is invented, all of it.\n\n"
+                                  "## Made with\n\n")
+                       .arg(programVersion());
+    for (const Credit& credit : credits()) {
+        text += lineOf(credit);
+    }
+    return text;
+}

@@ -1,0 +1,24 @@
+#include "exchange/Credits.h"
+
+#include "tests/support/TestDrive.h"
+
+#include <QRegularExpression>
+
+TEST(Credits, NameWhatRunsWithItsVersionAndLicence)
+{
+    const QRegularExpression version(QStringLiteral("^\\d+\\.\\d+"));
+    QStringList names;
+    const QString text = creditsText();
+    for (const Credit& credit : credits()) {
+        names << credit.name;
+        const bool isData = credit.name.startsWith("Natural Earth");
+        EXPECT_EQ(version.match(credit.version).hasMatch(), !isData) << qPrintable(credit.name);
+        EXPECT_FALSE(credit.licence.isEmpty()) << qPrintable(credit.name);
+        EXPECT_TRUE(text.contains(credit.name) && text.contains(credit.licence)) << qPrintable(credit.name);
+    }
+    for (const char* name : {"Qt", "GDAL", "PROJ", "Charis SIL"}) {
+        EXPECT_TRUE(names.contains(name)) << name;
+    }
+    EXPECT_TRUE(version.match(programVersion()).hasMatch());
+    EXPECT_TRUE(text.contains(programVersion()));
+}
