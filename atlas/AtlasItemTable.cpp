@@ -10,13 +10,19 @@
 
 namespace {
 
+QString counted(qsizetype kinds)
+{
+    return kinds == 1 ? QStringLiteral("1 kind") : QStringLiteral("%1 kinds").arg(kinds);
+}
+
+/// The name of the file, which may be long, comes last.
 QString figures(const AtlasItem& item)
 {
-    return QStringLiteral("%1  ·  %2 kinds  ·  %3 of %4")
-        .arg(item.name())
-        .arg(item.wordForms.size())
+    return QStringLiteral("%1  ·  %2 of %3  ·  %4")
+        .arg(counted(item.wordForms.size()))
         .arg(item.answered)
-        .arg(item.localities);
+        .arg(item.localities)
+        .arg(item.name());
 }
 
 QString captionOf(const AtlasItem& item)
@@ -165,7 +171,7 @@ QString AtlasItemTable::wholeText(const Row& row) const
     const AtlasItem& item = row.item;
     QStringList parts{captionOf(item).left(200), item.name() + QStringLiteral(".dbs")};
     if (row.isRead && item.localities > 0) {
-        parts << QStringLiteral("%1 kinds of word forms").arg(item.wordForms.size())
+        parts << counted(item.wordForms.size()) + QStringLiteral(" of word forms")
               << QStringLiteral("%1 of %2 localities answered").arg(item.answered).arg(item.localities);
     }
     parts << (item.hasSymbols ? QStringLiteral("with a symbol file") : QStringLiteral("no symbol file"));

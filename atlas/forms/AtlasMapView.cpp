@@ -210,6 +210,9 @@ QString AtlasMapView::message()
         return QStringLiteral("No item is shown. Choose one in the list of items; New Survey makes a map "
                               "with items from a table.");
     }
+    if (!m_document.trouble().isEmpty()) {
+        return QStringLiteral("This item cannot be drawn.\n%1").arg(m_document.trouble());
+    }
     if (!m_document.page().symbolTrouble.isEmpty()) {
         return QStringLiteral("The symbol file cannot be read.\n%1").arg(m_document.page().symbolTrouble);
     }

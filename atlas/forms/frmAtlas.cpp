@@ -5,7 +5,6 @@
 #include "atlas/forms/AtlasMapView.h"
 #include "atlas/forms/AtlasRecordsPane.h"
 #include "atlas/forms/NoticeBar.h"
-#include "lingdata/LocalityMismatch.h"
 #include "platform/FileName.h"
 #include "shell/VarnModule.h"
 

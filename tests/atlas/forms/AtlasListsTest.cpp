@@ -98,7 +98,7 @@ protected:
 TEST_F(AtlasLists, ItemsAreTurnedByKeysAndFiltered)
 {
     open();
-    EXPECT_EQ(items(), QStringList({"Rain|rain · 2 kinds · 2 of 3", "Snow|snow · 1 kinds · 2 of 3"}));
+    EXPECT_EQ(items(), QStringList({"Rain|2 kinds · 2 of 3 · rain", "Snow|1 kind · 2 of 3 · snow"}));
     EXPECT_EQ(item(), "rain.dbs");
     press(list(), Qt::Key_Down);
     EXPECT_EQ(item() + varn.Hanrei, "snow.dbsSnow");
@@ -108,7 +108,7 @@ TEST_F(AtlasLists, ItemsAreTurnedByKeysAndFiltered)
 
     auto& box = control<QLineEdit>("txtItemFilter");
     box.setText("YUKI");
-    EXPECT_EQ(items(), QStringList("Snow|snow · 1 kinds · 2 of 3"));
+    EXPECT_EQ(items(), QStringList("Snow|1 kind · 2 of 3 · snow"));
     EXPECT_EQ(item(), "rain.dbs") << "the page stays while a text is typed";
     EXPECT_FALSE(list().currentIndex().isValid());
     press(box, Qt::Key_Down);
@@ -130,7 +130,7 @@ TEST_F(AtlasLists, BrokenItemsStandInTheListWithTheirReason)
     survey.write(ling("aaa.dbs"), "3,\"\",\"Broken\",\"\"\r\n1\r\n");
     survey.write(ling("snow.han"), "\"\"\r\n5\r\n");
     open();
-    EXPECT_EQ(items(), QStringList({"aaa|trouble", "Rain|rain · 2 kinds · 2 of 3", "Snow|trouble"}));
+    EXPECT_EQ(items(), QStringList({"aaa|trouble", "Rain|2 kinds · 2 of 3 · rain", "Snow|trouble"}));
     const QString told = list().model()->index(0, 0).data(Qt::AccessibleTextRole).toString();
     EXPECT_TRUE(told.contains("aaa.dbs") && told.contains("Input past end of file")) << qPrintable(told);
     EXPECT_TRUE(form.document().trouble().contains("Input past end of file")) << "it is the first page";
@@ -140,7 +140,7 @@ TEST_F(AtlasLists, BrokenItemsStandInTheListWithTheirReason)
 
     survey.write(ling("aaa.dbs"), SnowItem);
     bringToFront();
-    EXPECT_EQ(items()[0], "Snow|aaa · 1 kinds · 2 of 3");
+    EXPECT_EQ(items()[0], "Snow|1 kind · 2 of 3 · aaa");
 }
 
 TEST_F(AtlasLists, ItemsComeAndGoAndFiguresFollowEdits)
@@ -149,15 +149,15 @@ TEST_F(AtlasLists, ItemsComeAndGoAndFiguresFollowEdits)
     survey.write(ling("fog.dbs"), SnowItem);
     QFile::remove(survey.drive().hostPath(ling("snow.dbs")));
     QElapsedTimer time;
-    for (time.start(); items().size() != 2 || items()[0] != "Snow|fog · 1 kinds · 2 of 3";) {
+    for (time.start(); items().size() != 2 || items()[0] != "Snow|1 kind · 2 of 3 · fog";) {
         ASSERT_LT(time.elapsed(), 5000) << "nobody noticed";
         QApplication::processEvents(QEventLoop::WaitForMoreEvents | QEventLoop::AllEvents, 50);
     }
     EXPECT_EQ(list().currentIndex().row(), 1) << "the page stays the chosen row";
     form.document().setWords({{2, {"new", "newer"}}}, "Words");
-    EXPECT_EQ(items()[1], "*Rain|rain · 4 kinds · 3 of 3");
+    EXPECT_EQ(items()[1], "*Rain|4 kinds · 3 of 3 · rain");
     form.document().steps().undo();
-    EXPECT_EQ(items()[1], "Rain|rain · 2 kinds · 2 of 3");
+    EXPECT_EQ(items()[1], "Rain|2 kinds · 2 of 3 · rain");
 }
 
 TEST_F(AtlasLists, AMapWithoutItemsSaysWhatToDo)

@@ -151,7 +151,7 @@ TEST_F(AtlasMap, SymbolsKeepTheirSizeOrGrow)
     EXPECT_NEAR(radius() * canvas.viewport().scale(), shownRadius * canvas.viewport().zoom(), 1e-6);
     expectNear(place(1), first);
     EXPECT_EQ(view.drawing().operations.size(), canvas.map().drawing.operations.size());
-    EXPECT_EQ(view.size(), QSizeF(12000, 9000));
+    EXPECT_EQ(view.paperSize(), QSizeF(12000, 9000));
 }
 
 TEST_F(AtlasMap, APointedLocalityTellsItsWordForms)
