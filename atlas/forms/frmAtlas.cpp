@@ -159,7 +159,7 @@ QStringList frmAtlas::loaded() const
         page.symbols.NHanrei == 0
             ? QStringLiteral("No symbols")
             : QStringLiteral("Symbols: %1 (%2)").arg(page.symbols.SymbolFileName).arg(page.symbols.NHanrei);
-    return {localityMismatch(page.item.NLocate, m_varn.NLocality),
+    return {m_document.warnings().value(0),
             map,
             QStringLiteral("Item: %1 (%2 localities)").arg(stemOf(page.item.ItemPath)).arg(page.item.NLocate),
             symbols,
