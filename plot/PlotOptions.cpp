@@ -2,56 +2,12 @@
 
 #include "analysis/CumulativeTable.h"
 #include "plot/ImportOptions.h"
+#include "plot/PlotForms.h"
 
 #include <QCommandLineParser>
 #include <QFileInfo>
 
-#include <vector>
-
 namespace {
-
-struct CommandForm
-{
-    const char* name;
-    PlotOptions::Command command;
-    QStringList required;
-    QStringList allowed;
-};
-
-QStringList list(std::initializer_list<const char*> names)
-{
-    QStringList result;
-    for (const char* name : names) {
-        result << QLatin1String(name);
-    }
-    return result;
-}
-
-std::vector<CommandForm> commandForms()
-{
-    using Command = PlotOptions::Command;
-    const QStringList map = list({"installation", "map", "output"});
-    const QStringList size = list({"locality-dots", "height"});
-    const QStringList picture = size + list({"dpi"});
-    return {
-        {"linguistic-map", Command::LinguisticMap, map + list({"data", "symbols"}),
-         picture + list({"location", "whole-word-forms"})},
-        {"blank-map", Command::BlankMap, map, picture},
-        {"symbols", Command::Symbols, map, {}},
-        {"atlas", Command::Atlas, map, size + list({"location", "whole-word-forms"})},
-        {"accumulate", Command::Accumulate, list({"installation", "map", "counts", "characters", "data"}),
-         list({"count-again"})},
-        {"statistics", Command::Statistics, map + list({"counts"}), {}},
-        {"diffusion-map", Command::DiffusionMap, map + list({"counts", "graph"}),
-         picture + list({"word-form"})},
-        {"symbol-diffusion-map", Command::SymbolDiffusionMap, map + list({"counts", "symbols"}),
-         picture + list({"word-form"})},
-        {"contrast-map", Command::ContrastMap, map + list({"counts", "contrast"}), picture},
-        {"import", Command::Import, list({"installation", "map", "source"}),
-         list({"localities", "base-map", "projection", "answers", "use", "column"})},
-        {"export", Command::Export, map, {}},
-    };
-}
 
 CommandForm commandForm(const QString& name)
 {
@@ -66,16 +22,11 @@ CommandForm commandForm(const QString& name)
 
 void addOptions(QCommandLineParser& parser)
 {
-    for (const char* name :
-         {"installation", "map",      "data",       "symbols",  "output", "location",  "height",
-          "dpi",          "counts",   "characters", "contrast", "graph",  "word-form", "source",
-          "localities",   "base-map", "projection", "answers",  "use",    "column"}) {
-        parser.addOption({QLatin1String(name), {}, QStringLiteral("value")});
-    }
-    for (const char* name : {"locality-dots", "whole-word-forms", "count-again"}) {
-        parser.addOption(QCommandLineOption(QLatin1String(name)));
+    for (const OptionForm& form : optionForms()) {
+        parser.addOption({QLatin1String(form.name), {}, QLatin1String(form.value)});
     }
     parser.addOption(QCommandLineOption(QStringList{QStringLiteral("h"), QStringLiteral("help")}));
+    parser.addOption(QCommandLineOption(QStringLiteral("version")));
 }
 
 void checkOptions(const QCommandLineParser& parser, const CommandForm& form)
@@ -92,14 +43,15 @@ void checkOptions(const QCommandLineParser& parser, const CommandForm& form)
     }
 }
 
-qint16 readLocation(const QString& name)
+/// The number, from 0, of the value among the choices of the option.
+qsizetype readChoice(const QCommandLineParser& parser, const QString& name)
 {
-    const QStringList places = list({"center", "right", "left", "top", "bottom"});
-    const qsizetype place = places.indexOf(name);
-    if (place < 0) {
-        throw UsageError(QStringLiteral("--location is one of %1").arg(places.join(QStringLiteral(", "))));
+    const QStringList& choices = optionForm(name).choices;
+    const qsizetype choice = choices.indexOf(parser.value(name));
+    if (choice < 0) {
+        throw UsageError(QStringLiteral("--%1 is one of %2").arg(name, choices.join(QStringLiteral(", "))));
     }
-    return static_cast<qint16>(place);
+    return choice;
 }
 
 double readPositive(const QCommandLineParser& parser, const QString& name, double largest)
@@ -110,42 +62,6 @@ double readPositive(const QCommandLineParser& parser, const QString& name, doubl
         throw UsageError(QStringLiteral("--%1 is a number above 0, at most %2").arg(name).arg(largest));
     }
     return value;
-}
-
-/// The endings that the file of an option may have in a command; an empty one stands for a folder.
-struct FileEndings
-{
-    PlotOptions::Command command;
-    const char* option;
-    QStringList endings;
-};
-
-std::vector<FileEndings> fileEndings()
-{
-    using Command = PlotOptions::Command;
-    const QStringList picture = list({"svg", "pdf", "png"});
-    return {
-        {Command::LinguisticMap, "data", list({"dbs"})},
-        {Command::LinguisticMap, "symbols", list({"han"})},
-        {Command::LinguisticMap, "output", picture},
-        {Command::BlankMap, "output", picture},
-        {Command::Symbols, "output", list({"pdf"})},
-        {Command::Atlas, "output", list({"pdf"})},
-        {Command::Accumulate, "counts", list({"ttl"})},
-        {Command::Accumulate, "characters", list({"sum"})},
-        {Command::Accumulate, "data", list({"dbs"})},
-        {Command::Statistics, "counts", list({"ttl"})},
-        {Command::Statistics, "output", list({"stt"})},
-        {Command::DiffusionMap, "counts", list({"ttl"})},
-        {Command::DiffusionMap, "output", picture},
-        {Command::SymbolDiffusionMap, "counts", list({"ttl"})},
-        {Command::SymbolDiffusionMap, "symbols", list({"htl"})},
-        {Command::SymbolDiffusionMap, "output", picture},
-        {Command::ContrastMap, "counts", list({"ttl"})},
-        {Command::ContrastMap, "contrast", list({"rnk"})},
-        {Command::ContrastMap, "output", picture},
-        {Command::Export, "output", list({"csv", "geojson", "gpkg", ""})},
-    };
 }
 
 void checkEndings(const FileEndings& rule, const QStringList& files)
@@ -162,23 +78,20 @@ void checkEndings(const FileEndings& rule, const QStringList& files)
     }
 }
 
-void readGraph(const QString& name, PlotOptions& options)
+void readGraph(const QCommandLineParser& parser, PlotOptions& options)
 {
-    const QStringList graphs = list({"bar", "layered-bar", "circle", "layered-circle"});
-    const qsizetype graph = graphs.indexOf(name);
-    if (graph < 0) {
-        throw UsageError(QStringLiteral("--graph is one of %1").arg(graphs.join(QStringLiteral(", "))));
-    }
+    const qsizetype graph = readChoice(parser, QStringLiteral("graph"));
     options.graph = graph < 2 ? DiffusionGraph::Bar : DiffusionGraph::Circle;
     options.layered = graph % 2 == 1;
 }
 
 } // namespace
 
-std::optional<PlotOptions> readPlotOptions(const QStringList& arguments)
+PlotOptions readPlotOptions(const QStringList& arguments)
 {
     constexpr double LargestHeight = 2000;
     constexpr double LargestResolution = 2400;
+    constexpr double MostJobs = 256;
     constexpr double MostWordForms = decltype(CumulativeTable::WordformName)::last();
 
     QCommandLineParser parser;
@@ -186,21 +99,27 @@ std::optional<PlotOptions> readPlotOptions(const QStringList& arguments)
     if (!parser.parse(QStringList(QStringLiteral("varnplot")) + arguments)) {
         throw UsageError(parser.errorText());
     }
-    if (parser.isSet(QStringLiteral("help"))) {
-        return std::nullopt;
+    PlotOptions options;
+    if (parser.isSet(QStringLiteral("help")) || parser.isSet(QStringLiteral("version"))) {
+        options.command =
+            parser.isSet(QStringLiteral("help")) ? PlotOptions::Command::Help : PlotOptions::Command::Version;
+        return options;
     }
     const QStringList words = parser.positionalArguments();
     const CommandForm form = commandForm(words.value(0));
-    if (words.size() > 1 && form.command != PlotOptions::Command::Accumulate) {
+    const bool takesItems =
+        form.command == PlotOptions::Command::Accumulate || parser.isSet(QStringLiteral("items"));
+    if (words.size() > 1 && !takesItems) {
         throw UsageError(QStringLiteral("unexpected '%1'").arg(words[1]));
     }
     checkOptions(parser, form);
 
-    PlotOptions options;
     options.command = form.command;
     options.installation = parser.value(QStringLiteral("installation"));
     options.map = parser.value(QStringLiteral("map"));
-    options.data = parser.values(QStringLiteral("data")) + words.mid(1);
+    (parser.isSet(QStringLiteral("items")) ? options.items : options.data) = words.mid(1);
+    options.data = parser.values(QStringLiteral("data")) + options.data;
+    options.items = parser.values(QStringLiteral("items")) + options.items;
     options.symbols = parser.value(QStringLiteral("symbols"));
     options.output = parser.value(QStringLiteral("output"));
     options.counts = parser.value(QStringLiteral("counts"));
@@ -208,9 +127,10 @@ std::optional<PlotOptions> readPlotOptions(const QStringList& arguments)
     options.contrast = parser.value(QStringLiteral("contrast"));
     options.localityDots = parser.isSet(QStringLiteral("locality-dots"));
     options.wholeWordForms = parser.isSet(QStringLiteral("whole-word-forms"));
+    options.keepGoing = parser.isSet(QStringLiteral("keep-going"));
     options.countAgain = parser.isSet(QStringLiteral("count-again"));
     if (parser.isSet(QStringLiteral("location"))) {
-        options.location = readLocation(parser.value(QStringLiteral("location")));
+        options.location = static_cast<qint16>(readChoice(parser, QStringLiteral("location")));
     }
     if (parser.isSet(QStringLiteral("height"))) {
         options.height = readPositive(parser, QStringLiteral("height"), LargestHeight);
@@ -218,8 +138,11 @@ std::optional<PlotOptions> readPlotOptions(const QStringList& arguments)
     if (parser.isSet(QStringLiteral("dpi"))) {
         options.dotsPerInch = readPositive(parser, QStringLiteral("dpi"), LargestResolution);
     }
+    if (parser.isSet(QStringLiteral("jobs"))) {
+        options.jobs = static_cast<int>(readPositive(parser, QStringLiteral("jobs"), MostJobs));
+    }
     if (parser.isSet(QStringLiteral("graph"))) {
-        readGraph(parser.value(QStringLiteral("graph")), options);
+        readGraph(parser, options);
     }
     if (parser.isSet(QStringLiteral("word-form"))) {
         options.wordForm = static_cast<int>(readPositive(parser, QStringLiteral("word-form"), MostWordForms));
@@ -230,51 +153,10 @@ std::optional<PlotOptions> readPlotOptions(const QStringList& arguments)
     for (const FileEndings& rule : fileEndings()) {
         if (rule.command == options.command) {
             const QString name = QLatin1String(rule.option);
-            checkEndings(rule, name == QLatin1String("data") ? options.data : parser.values(name));
+            checkEndings(rule, name == QLatin1String("data")    ? options.data
+                               : name == QLatin1String("items") ? options.items
+                                                                : parser.values(name));
         }
     }
     return options;
-}
-
-QString plotUsage()
-{
-    return QStringLiteral(R"(usage:
-  varnplot linguistic-map --installation DIR --map NAME --data FILE.dbs --symbols FILE.han --output FILE
-           [--location center|right|left|top|bottom] [--whole-word-forms] [--locality-dots]
-           [--height MM] [--dpi N]
-  varnplot blank-map --installation DIR --map NAME --output FILE [--locality-dots] [--height MM] [--dpi N]
-  varnplot symbols   --installation DIR --map NAME --output FILE.pdf
-  varnplot atlas     --installation DIR --map NAME --output FILE.pdf
-           [--location center|right|left|top|bottom] [--whole-word-forms] [--locality-dots]
-           [--height MM]
-  varnplot accumulate --installation DIR --map NAME --counts FILE.ttl --characters FILE.sum --data FILE.dbs ...
-           [--count-again]
-  varnplot statistics --installation DIR --map NAME --counts FILE.ttl --output FILE.stt
-  varnplot diffusion-map --installation DIR --map NAME --counts FILE.ttl
-           --graph bar|layered-bar|circle|layered-circle --output FILE
-           [--word-form K] [--locality-dots] [--height MM] [--dpi N]
-  varnplot symbol-diffusion-map --installation DIR --map NAME --counts FILE.ttl --symbols FILE.htL --output FILE
-           [--word-form K] [--locality-dots] [--height MM] [--dpi N]
-  varnplot contrast-map --installation DIR --map NAME --counts FILE.ttl --contrast FILE.rnk --output FILE
-           [--locality-dots] [--height MM] [--dpi N]
-  varnplot import    --installation DIR --map NAME --source PATH [--localities FILE] [--base-map FILE ...]
-           [--projection laea|tmerc|EPSG:N] [--answers SEPARATOR] [--use forms|cognates|codes]
-           [--column ROLE=NAME ...]
-  varnplot export --installation DIR --map NAME --output FILE.csv|FILE.geojson|FILE.gpkg|FOLDER
-
-DIR is the folder with VarnData and VarnSymbol. FILE ends in .svg, .pdf or .png.
-accumulate adds the items to the table in FILE.ttl and saves it after each. Items are left out and named that
-cannot be read, whose number of localities is not the map's, or that the table holds already; --count-again counts
-the last once more. A map of an item with another number of localities is drawn with a warning.
-With --whole-word-forms a symbol marks only the word forms that equal its kind, not those that contain it.
-import makes the new map NAME of a whole survey: a table (CSV, TSV, XLSX, ODS), a CLDF data set, or a layer of
-points. What is not said is found out; ROLE is id, name, longitude, latitude, x, y, item, answer or left (out).
-Several answers in a cell are parted by SEPARATOR. --base-map and --column can stand several times. A report tells
-what came in and what was left out.
-export writes the localities with a column an item, or a new folder with a CLDF Wordlist. Left out and named are
-empty word forms, and items that cannot be read or whose number of localities is not the map's.
---height is the height of the drawing area in millimetres, --dpi the resolution of a PNG (192).
-
-Exit code: 0 all is done, 1 an error or something left out, 2 the command line is not understood.
-)");
 }

@@ -8,7 +8,6 @@
 #include <QString>
 #include <QStringList>
 
-#include <optional>
 #include <stdexcept>
 
 /// What one call of `varnplot` asks for.
@@ -26,6 +25,9 @@ struct PlotOptions
         ContrastMap,
         Import,
         Export,
+        /// Tells how the program is called.
+        Help,
+        Version,
     };
 
     Command command = Command::BlankMap;
@@ -34,6 +36,12 @@ struct PlotOptions
     /// Items; more than one only to accumulate.
     QStringList data;
     QString symbols;
+    /// The items of an atlas; all that have symbols where there are none.
+    QStringList items;
+    /// How many threads draw an atlas; 0 for as many as the machine has cores.
+    int jobs = 0;
+    /// Whether an item of an atlas that cannot be drawn is left out.
+    bool keepGoing = false;
     /// Cumulative file, identifying strings, and contrast file.
     QString counts;
     QString characters;
@@ -64,8 +72,5 @@ public:
     explicit UsageError(const QString& why) : std::runtime_error(why.toStdString()) {}
 };
 
-/// Reads the command line without the program's name. Nothing where help is asked for. Raises `UsageError`.
-std::optional<PlotOptions> readPlotOptions(const QStringList& arguments);
-
-/// How the program is called.
-QString plotUsage();
+/// Reads the command line without the program's name. Raises `UsageError`.
+PlotOptions readPlotOptions(const QStringList& arguments);

@@ -1,9 +1,11 @@
 #include "platform/DriveC.h"
 #include "platform/RunTimeError.h"
 #include "plot/PlotCommands.h"
+#include "plot/PlotHelp.h"
 #include "plot/PlotOptions.h"
 
 #include <QGuiApplication>
+#include <QHashFunctions>
 #include <QLoggingCategory>
 
 #include <csignal>
@@ -68,13 +70,17 @@ int failed(const RunTimeError& error)
 int run(const QStringList& arguments)
 {
     try {
-        const auto options = readPlotOptions(arguments);
-        if (!options) {
+        const PlotOptions options = readPlotOptions(arguments);
+        if (options.command == PlotOptions::Command::Help) {
             std::fputs(qPrintable(plotUsage()), stdout);
             return Done;
         }
+        if (options.command == PlotOptions::Command::Version) {
+            std::puts(qPrintable(plotVersion()));
+            return Done;
+        }
         StderrListener listener;
-        return plot(*options, listener) ? Done : Failed;
+        return plot(options, listener) ? Done : Failed;
     } catch (const UsageError& error) {
         std::fprintf(stderr, "varnplot: %s\n%s", error.what(), qPrintable(plotUsage()));
         return WrongUsage;
@@ -94,6 +100,7 @@ int run(const QStringList& arguments)
 
 int main(int argc, char* argv[])
 {
+    QHashSeed::setDeterministicGlobalSeed(); // the same map is the same file
     qputenv("QT_QPA_PLATFORM", "offscreen"); // texts need fonts, but no screen
     // The toolkit's remarks on its surroundings would stand among the errors of the maps.
     QLoggingCategory::setFilterRules(QStringLiteral("default.warning=false"));

@@ -3,9 +3,12 @@
 #include "plot/PlotCommands.h"
 #include "tests/support/TestDrive.h"
 
+#include <QDir>
 #include <QFile>
 #include <QImage>
 #include <QProcess>
+#include <qpdf/QPDF.hh>
+#include <qpdf/QPDFWriter.hh>
 
 namespace {
 
@@ -19,6 +22,26 @@ QByteArray firstStream(const QByteArray& pdf)
     const QByteArray begin = "stream\n";
     const QByteArray anyLength(4, '\1');
     return qUncompress(anyLength + pdf.mid(pdf.indexOf(begin) + begin.size()));
+}
+
+/// A PDF with nothing compressed.
+QByteArray plain(const QByteArray& bytes)
+{
+    QPDF pdf;
+    pdf.processMemoryFile("pdf", bytes.constData(), static_cast<std::size_t>(bytes.size()));
+    QPDFWriter writer(pdf);
+    writer.setOutputMemory();
+    writer.setQDFMode(true);
+    writer.write();
+    const auto buffer = writer.getBufferSharedPointer();
+    return {reinterpret_cast<const char*>(buffer->getBuffer()), static_cast<qsizetype>(buffer->getSize())};
+}
+
+/// How many shapes and texts are painted in it.
+qsizetype painted(const QByteArray& plainPdf)
+{
+    return plainPdf.count("\nB\n") + plainPdf.count("\nS\n") + plainPdf.count("\nf\n") +
+           plainPdf.count("\nBT\n");
 }
 
 /// A survey with an item, its symbols, and the files of an analysis.
@@ -41,9 +64,9 @@ protected:
     {
         return survey.hostPath(QStringLiteral("Varn62E/Varn/VarnData/Test/") + name);
     }
-    void write(const char* name, const QByteArray& text) const
+    void write(const QByteArray& name, const QByteArray& text) const
     {
-        survey.write(survey.drive().varnPath(file(QLatin1String(name))), text);
+        survey.write(survey.drive().varnPath(file(QString::fromLatin1(name))), text);
     }
     QByteArray read(const char* name) const
     {
@@ -93,7 +116,7 @@ TEST_F(PlotProcess, EveryCommandWritesItsFile)
         {"blank-map --height 100 --locality-dots", "dots.svg", "viewBox=\"0 0 7560 5670\""},
         {"blank-map --dpi 48", "small.png", "PNG"},
         {"symbols", "symbols.pdf", "%PDF-"},
-        {"atlas --location left --locality-dots --height 90", "atlas.PDF", "/Type /Page\n"},
+        {"atlas --location left --locality-dots --height 90", "atlas.PDF", "%PDF-"},
         {"statistics --counts all.ttl", "all.stt", "1,2\r\n1\r\n0,2,2,0\r\n"},
         {"diffusion-map --counts all.ttl --graph bar", "bar.svg", ">No. of Items =2<"},
         {"diffusion-map --counts all.ttl --graph layered-bar --word-form 1", "bars.svg", ">All<"},
@@ -124,7 +147,9 @@ TEST_F(PlotProcess, HelpAndWrongUsage)
 {
     const auto [help, error] = run("--help", 0);
     EXPECT_TRUE(help.contains("usage:") && error.isEmpty());
-    EXPECT_TRUE(help.contains("0 all is done, 1 an error or something left out, 2 the command line is not"));
+    EXPECT_TRUE(help.contains("--location center|right|left|top|bottom") &&
+                help.contains("0     all is done"));
+    EXPECT_TRUE(run("--version", 0).first.startsWith("varnplot 6."));
     expectTold("", 2, {"a command is missing", "usage:"});
     expectTold("statistics --counts all.ttl --output all.ttl", 2, {"--output must end in .stt"});
     EXPECT_EQ(read("all.ttl"), Table);
@@ -179,11 +204,45 @@ TEST_F(PlotProcess, AnAtlasHasAPageForEachItemWithSymbols)
     options.output = file("atlas.pdf");
     ToldPages told;
     EXPECT_TRUE(plot(options, told));
-    EXPECT_EQ(told.names, QStringList({"1/2 Able", "2/2 rain"}));
+    EXPECT_EQ(told.names.last(), "2/2 Rain") << "captions";
+    const QByteArray atlas = plain(read("atlas.pdf"));
+    EXPECT_EQ(atlas.count("/Type /Page\n"), 2);
+    EXPECT_EQ(atlas.count("/Title (Rain)"), 2) << "bookmarks";
+    EXPECT_TRUE(atlas.contains("/Title (Test)") && atlas.contains("/MediaBox"));
+
     expectDone(MapOfRain + " --output map.pdf");
-    EXPECT_EQ(read("atlas.pdf").count("/Type /Page\n"), 2);
-    EXPECT_EQ(firstStream(read("atlas.pdf")), firstStream(read("map.pdf")))
-        << "the first map is on the first page";
+    expectDone("atlas --items Ling/rain.dbs --output one.pdf");
+    EXPECT_EQ(painted(plain(read("one.pdf"))), painted(plain(read("map.pdf")))) << "base map and item";
+    EXPECT_EQ(plain(read("one.pdf")).count("/FontFile2"), plain(read("map.pdf")).count("/FontFile2"));
+}
+
+TEST_F(PlotProcess, AnAtlasIsTheSameForAnyNumberOfJobs)
+{
+    const QString glyphs = survey.hostPath("Varn62E/Varn/VarnSymbol/Standard16");
+    QImage glyph(12, 16, QImage::Format_Grayscale8);
+    glyph.fill(Qt::black);
+    ASSERT_TRUE(QDir().mkpath(glyphs) && glyph.save(glyphs + "/SymbolS15.bmp"));
+    for (int item = 10; item < 40; ++item) { // phonetic letters, several parts, letters that others have not
+        const QByteArray name = "Ling/i" + QByteArray::number(item);
+        write(name + ".dbs",
+              read("Ling/rain.dbs").replace("Rain", "Rain " + QByteArray(1, char('A' + item % 26))));
+        write(name + ".han", read("Ling/rain.han").replace("the word", item % 3 == 0 ? "ffi" : "the \\?"));
+    }
+    for (const char* jobs : {"1", "3", "64"}) {
+        expectDone(QByteArray("atlas --output ") + jobs + ".pdf --jobs " + jobs);
+        EXPECT_EQ(read((QByteArray(jobs) + ".pdf").constData()), read("1.pdf")) << jobs;
+    }
+    EXPECT_EQ(plain(read("3.pdf")).count("/Type /Page\n"), 31);
+    EXPECT_LE(plain(read("3.pdf")).count("/Subtype /Image"), 2) << "the letter once, or with its mask";
+    EXPECT_TRUE(plain(read("3.pdf")).contains("/Subtype /Image"));
+
+    write("Ling/i20.dbs", "broken");
+    write("Ling/i30.han", "broken");
+    expectTold("atlas --output 1.pdf --keep-going", 1, {"i20.dbs is left out: ", "i30.dbs is left out: "});
+    EXPECT_EQ(plain(read("1.pdf")).count("/Type /Page\n"), 29);
+    expectTold("atlas --output none.pdf --keep-going --items Ling/i20.dbs Ling/none.dbs", 1,
+               {"No item can be drawn."});
+    EXPECT_FALSE(QFile::exists(file("none.pdf")));
 }
 
 TEST_F(PlotProcess, AFailedPlotLeavesTheOldFile)

@@ -1,0 +1,158 @@
+#include "plot/AtlasCommand.h"
+
+#include "lingdata/LinguisticFile.h"
+#include "platform/FileName.h"
+#include "platform/WholeFile.h"
+#include "plot/AtlasPdf.h"
+#include "plot/MapPlot.h"
+#include "symbols/SymbolFile.h"
+
+#include <QDir>
+
+#include <algorithm>
+#include <future>
+#include <optional>
+#include <thread>
+
+namespace {
+
+/// Keeps what a thread has to say, for the others not to be interrupted.
+class QuietListener : public PlotListener
+{
+public:
+    void page(int /*page*/, int /*pages*/, const QString& /*name*/) override {}
+    void report(const QString& /*text*/) override {}
+    void warning(const QString& text) override { m_warnings << text; }
+
+    QStringList takeWarnings() { return std::exchange(m_warnings, {}); }
+
+private:
+    QStringList m_warnings;
+};
+
+/// What became of an item.
+struct RecordedItem
+{
+    AtlasSheet sheet;
+    QStringList warnings;
+    std::optional<RunTimeError> error;
+};
+
+using RecordedItems = std::vector<RecordedItem>;
+
+/// The items of a map that have a symbol file of the same name, in name order.
+QStringList itemsWithSymbols(const Folders& folders)
+{
+    const QDir folder(folders.Drive.hostPath(folders.dataFolder()));
+    if (!folder.exists()) {
+        throw RunTimeError(ErrorNumber::PathNotFound).at({folders.dataFolder()});
+    }
+    QStringList paths;
+    for (const QString& file : folder.entryList({ItemFiles.pattern()}, QDir::Files, QDir::Name)) {
+        const QString path = folders.dataFolder() + QLatin1Char('\\') + file;
+        if (fileExists(folders.Drive, withEnding(path, SymbolFiles.ending))) {
+            paths << path;
+        }
+    }
+    if (paths.isEmpty()) {
+        throw RunTimeError(ErrorNumber::FileNotFound,
+                           QStringLiteral("No item there has a symbol file of its name."))
+            .at({folders.dataFolder()});
+    }
+    return paths;
+}
+
+QStringList chosenItems(const PlotOptions& options, const Folders& folders)
+{
+    QStringList paths;
+    for (const QString& item : options.items) {
+        paths << folders.Drive.varnPath(item);
+    }
+    return paths.isEmpty() ? itemsWithSymbols(folders) : paths;
+}
+
+RecordedItem recordItem(MapPlot& map, const QString& path, QuietListener& listener)
+{
+    RecordedItem item;
+    try {
+        item.sheet.drawing = map.itemOfMap(path, withEnding(path, SymbolFiles.ending));
+        const QString& caption = map.varn().Hanrei;
+        item.sheet.caption = caption.isEmpty() ? stemOf(path) : caption;
+    } catch (const RunTimeError& error) {
+        item.error = error;
+    }
+    item.warnings = listener.takeWarnings();
+    return item;
+}
+
+RecordedItems recordPart(const PlotOptions& options, const QStringList& paths)
+{
+    QuietListener listener;
+    MapPlot map(options, listener);
+    RecordedItems items;
+    for (const QString& path : paths) {
+        items.push_back(recordItem(map, path, listener));
+    }
+    return items;
+}
+
+/// Records the maps of all items, an even share a thread.
+RecordedItems recordItems(const PlotOptions& options, const QStringList& paths, int jobs)
+{
+    const qsizetype parts = std::clamp<qsizetype>(jobs, 1, paths.size());
+    std::vector<std::future<RecordedItems>> recording;
+    for (qsizetype part = 0; part < parts; ++part) {
+        const qsizetype first = paths.size() * part / parts;
+        const QStringList own = paths.mid(first, paths.size() * (part + 1) / parts - first);
+        recording.push_back(std::async(std::launch::async, recordPart, std::cref(options), own));
+    }
+    RecordedItems items;
+    for (auto& part : recording) {
+        std::ranges::move(part.get(), std::back_inserter(items));
+    }
+    return items;
+}
+
+/// Takes the sheets of the items that could be drawn; returns whether these were all.
+bool takeSheets(RecordedItems& items, const QStringList& paths, const PlotOptions& options,
+                PlotListener& listener, AtlasSheets& atlas)
+{
+    bool areAll = true;
+    for (std::size_t i = 0; i < items.size(); ++i) {
+        RecordedItem& item = items[i];
+        for (const QString& warning : item.warnings) {
+            listener.warning(warning);
+        }
+        if (!item.error) {
+            atlas.sheets.push_back(std::move(item.sheet));
+        } else if (!options.keepGoing) {
+            throw *item.error;
+        } else {
+            listener.warning(QStringLiteral("%1 is left out: %2")
+                                 .arg(fileNameOf(paths[static_cast<qsizetype>(i)]), item.error->message()));
+            areAll = false;
+        }
+    }
+    return areAll;
+}
+
+} // namespace
+
+bool plotAtlas(const PlotOptions& options, PlotListener& listener)
+{
+    MapPlot map(options, listener);
+    const QStringList paths = chosenItems(options, map.varn());
+    const int jobs = options.jobs > 0 ? options.jobs : static_cast<int>(std::thread::hardware_concurrency());
+    RecordedItems items = recordItems(options, paths, jobs);
+    AtlasSheets atlas{options.map, map.size(), map.blankMap(), {}};
+    const bool areAll = takeSheets(items, paths, options, listener, atlas);
+    if (atlas.sheets.empty()) {
+        throw RunTimeError(ErrorNumber::FileNotFound, QStringLiteral("No item can be drawn."))
+            .at({map.varn().dataFolder()});
+    }
+    const auto pages = static_cast<int>(atlas.sheets.size());
+    const auto progress = [&](int page, const QString& caption) { listener.page(page, pages, caption); };
+    const QByteArray pdf = atlasPdf(std::move(atlas), jobs, progress);
+    replaceHostFile(options.output, options.output, pdf);
+    return areAll;
+}

@@ -1,0 +1,38 @@
+#pragma once
+
+#include "plot/PlotListener.h"
+#include "plot/PlotOptions.h"
+#include "shell/VarnModule.h"
+
+/// A map, and the surface and the area that play the map form. Each function draws a map anew and returns its
+/// drawing; they raise the run-time's errors.
+class MapPlot
+{
+public:
+    /// Loads the base map that `options` name.
+    MapPlot(const PlotOptions& options, PlotListener& listener);
+
+    /// Paths of the program.
+    const Drawing& linguisticMap(const QString& dataPath, const QString& symbolPath);
+    /// Of the linguistic map only what it draws over the base map.
+    const Drawing& itemOfMap(const QString& dataPath, const QString& symbolPath);
+    const Drawing& diffusionMap(DiffusionGraph graph, bool layered, int wordForm);
+    const Drawing& symbolDiffusionMap(const QString& symbolPath, int wordForm);
+    const Drawing& contrastMap(const QString& contrastPath);
+    const Drawing& blankMap();
+    const Drawing& symbolPage(int page);
+    int symbolPages() const;
+
+    /// Of the drawings, in twips.
+    QSizeF size() const { return {m_area.Width, m_area.Height}; }
+    VarnModule& varn() { return m_varn; }
+
+private:
+    void load(const QString& dataPath, const QString& symbolPath);
+    MapSurfaces surfaces() { return {{m_frmMap, m_frmMap}, m_area}; }
+
+    VarnModule m_varn;
+    DrawSurface m_frmMap;
+    FormArea m_area;
+    PlotListener& m_listener;
+};

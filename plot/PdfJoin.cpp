@@ -1,0 +1,223 @@
+#include "plot/PdfJoin.h"
+
+#include "platform/RunTimeError.h"
+
+#include <qpdf/QPDF.hh>
+#include <qpdf/QPDFPageDocumentHelper.hh>
+#include <qpdf/QPDFPageObjectHelper.hh>
+#include <qpdf/QPDFWriter.hh>
+
+#include <algorithm>
+#include <map>
+#include <memory>
+#include <set>
+#include <string>
+
+namespace {
+
+using Pages = std::vector<QPDFPageObjectHelper>;
+
+struct Part
+{
+    std::unique_ptr<QPDF> pdf = std::make_unique<QPDF>();
+    Pages pages;
+};
+
+Part openPart(const QByteArray& bytes)
+{
+    Part part;
+    part.pdf->processMemoryFile("part", bytes.constData(), static_cast<std::size_t>(bytes.size()));
+    part.pages = QPDFPageDocumentHelper(*part.pdf).getAllPages();
+    return part;
+}
+
+std::string bytesOf(QPDFObjectHandle stream)
+{
+    const auto data = stream.getStreamData();
+    return {reinterpret_cast<const char*>(data->getBuffer()), data->getSize()};
+}
+
+/// The letters of a font: those that were written of it, in the order of their numbers.
+std::string lettersOf(QPDFObjectHandle font)
+{
+    std::string letters = font.getKey("/ToUnicode").isStream() ? bytesOf(font.getKey("/ToUnicode")) : "";
+    for (QPDFObjectHandle part : font.getKey("/DescendantFonts").getArrayAsVector()) {
+        letters += part.getKey("/W").unparseResolved();
+        letters += bytesOf(part.getKey("/FontDescriptor").getKey("/FontFile2"));
+    }
+    return letters;
+}
+
+/// The fonts of a part, which its first page shows all of.
+QPDFObjectHandle fontsOf(Part& part)
+{
+    return part.pages.front().getAttribute("/Resources", false).getKey("/Font");
+}
+
+/// The names of the fonts with their letters.
+std::map<std::string, std::string> describedFonts(Part& part)
+{
+    std::map<std::string, std::string> described;
+    QPDFObjectHandle fonts = fontsOf(part);
+    for (const std::string& name : fonts.isDictionary() ? fonts.getKeys() : std::set<std::string>()) {
+        described[name] = lettersOf(fonts.getKey(name));
+    }
+    return described;
+}
+
+bool haveSameFonts(std::vector<Part>& parts)
+{
+    const auto fonts = describedFonts(parts.front());
+    return std::ranges::all_of(parts, [&](Part& part) { return describedFonts(part) == fonts; });
+}
+
+QPDFObjectHandle textObject(const QString& text)
+{
+    return QPDFObjectHandle::newUnicodeString(text.toStdString());
+}
+
+/// Puts the pages of all parts together in the first one.
+class Joiner
+{
+public:
+    explicit Joiner(std::vector<Part>& parts) : m_parts(parts), m_pdf(*parts.front().pdf), m_helper(m_pdf)
+    {
+        Pages& pages = parts.front().pages;
+        m_mediaBox = pages[0].getAttribute("/MediaBox", false);
+        QPDFObjectHandle common = pages[0].getAttribute("/Resources", false);
+        QPDFObjectHandle base = pages[1].getFormXObjectForPage();
+        base.getDict().replaceKey("/Resources", common);
+        m_resources = common.shallowCopy();
+        QPDFObjectHandle objects = m_resources.getKey("/XObject");
+        objects = objects.isDictionary() ? objects.shallowCopy() : QPDFObjectHandle::newDictionary();
+        objects.replaceKey("/Base", base);
+        m_resources.replaceKey("/XObject", objects);
+        m_resources = m_pdf.makeIndirectObject(m_resources);
+        m_underneath = m_pdf.newStream("q /Base Do Q\n");
+        nameFonts(fontsOf(parts.front()));
+    }
+
+    void join()
+    {
+        Pages& first = m_parts.front().pages;
+        for (Part& part : m_parts) {
+            const bool isFirst = &part == &m_parts.front();
+            for (std::size_t page = isFirst ? 2 : 1; page < part.pages.size(); ++page) {
+                const QPDFObjectHandle content = part.pages[page].getObjectHandle().getKey("/Contents");
+                add(isFirst ? content : m_pdf.copyForeignObject(content));
+            }
+        }
+        for (QPDFPageObjectHelper& page : first) {
+            m_helper.removePage(page);
+        }
+    }
+
+    void addOutline(const PdfOutline& outline)
+    {
+        QPDFObjectHandle root = m_pdf.getRoot();
+        root.removeKey("/Metadata"); // it tells when the first part was made
+        root.replaceKey("/Outlines", bookmarks(outline.captions));
+        root.replaceKey("/PageMode", QPDFObjectHandle::newName("/UseOutlines"));
+        root.replaceKey("/PageLabels", QPDFObjectHandle::parse("<< /Nums [ 0 << /S /D >> ] >>"));
+        QPDFObjectHandle info = QPDFObjectHandle::newDictionary();
+        info.replaceKey("/Title", textObject(outline.title));
+        info.replaceKey("/Creator", textObject(QStringLiteral("varn")));
+        m_pdf.getTrailer().replaceKey("/Info", m_pdf.makeIndirectObject(info));
+    }
+
+    QByteArray bytes()
+    {
+        QPDFWriter writer(m_pdf);
+        writer.setOutputMemory();
+        writer.setObjectStreamMode(qpdf_o_generate);
+        writer.setDeterministicID(true);
+        writer.write();
+        const auto buffer = writer.getBufferSharedPointer();
+        return {reinterpret_cast<const char*>(buffer->getBuffer()),
+                static_cast<qsizetype>(buffer->getSize())};
+    }
+
+private:
+    /// Tags the fonts by their order; the toolkit tags them by what else is in the part.
+    static void nameFonts(QPDFObjectHandle fonts)
+    {
+        char tag = 'A';
+        for (const std::string& key : fonts.isDictionary() ? fonts.getKeys() : std::set<std::string>()) {
+            for (QPDFObjectHandle part : fonts.getKey(key).getKey("/DescendantFonts").getArrayAsVector()) {
+                QPDFObjectHandle descriptor = part.getKey("/FontDescriptor");
+                const std::string old = descriptor.getKey("/FontName").getName().substr(1);
+                const std::string untagged = old.substr(old.find('+') + 1);
+                descriptor.replaceKey("/FontName",
+                                      QPDFObjectHandle::newName("/AAAAA" + (tag++ + ("+" + untagged))));
+            }
+        }
+    }
+
+    void add(const QPDFObjectHandle& content)
+    {
+        QPDFObjectHandle page = QPDFObjectHandle::newDictionary();
+        page.replaceKey("/Type", QPDFObjectHandle::newName("/Page"));
+        page.replaceKey("/MediaBox", m_mediaBox);
+        page.replaceKey("/Contents", QPDFObjectHandle::newArray({m_underneath, content}));
+        page.replaceKey("/Resources", m_resources);
+        m_joined.push_back(m_pdf.makeIndirectObject(page));
+        m_helper.addPage(QPDFPageObjectHelper(m_joined.back()), false);
+    }
+
+    QPDFObjectHandle bookmarks(const QStringList& captions)
+    {
+        QPDFObjectHandle all = m_pdf.makeIndirectObject(QPDFObjectHandle::newDictionary());
+        QPDFObjectHandle last;
+        for (std::size_t page = 0; page < m_joined.size(); ++page) {
+            QPDFObjectHandle bookmark = m_pdf.makeIndirectObject(QPDFObjectHandle::newDictionary());
+            bookmark.replaceKey("/Title", textObject(captions[static_cast<qsizetype>(page)]));
+            bookmark.replaceKey("/Parent", all);
+            bookmark.replaceKey(
+                "/Dest", QPDFObjectHandle::newArray({m_joined[page], QPDFObjectHandle::newName("/Fit")}));
+            if (page == 0) {
+                all.replaceKey("/First", bookmark);
+            } else {
+                bookmark.replaceKey("/Prev", last);
+                last.replaceKey("/Next", bookmark);
+            }
+            last = bookmark;
+        }
+        all.replaceKey("/Last", last);
+        all.replaceKey("/Count", QPDFObjectHandle::newInteger(static_cast<long long>(m_joined.size())));
+        return all;
+    }
+
+    std::vector<Part>& m_parts;
+    QPDF& m_pdf;
+    QPDFPageDocumentHelper m_helper;
+    QPDFObjectHandle m_mediaBox;
+    QPDFObjectHandle m_resources;
+    QPDFObjectHandle m_underneath;
+    std::vector<QPDFObjectHandle> m_joined;
+};
+
+std::optional<QByteArray> join(const std::vector<QByteArray>& parts, const PdfOutline& outline)
+{
+    std::vector<Part> opened;
+    for (const QByteArray& part : parts) {
+        opened.push_back(openPart(part));
+    }
+    if (!haveSameFonts(opened)) {
+        return std::nullopt;
+    }
+    Joiner joiner(opened);
+    joiner.join();
+    joiner.addOutline(outline);
+    return joiner.bytes();
+}
+
+} // namespace
+
+std::optional<QByteArray> joinedPdf(const std::vector<QByteArray>& parts, const PdfOutline& outline)
+{
+    try {
+        return join(parts, outline);
+    } catch (const QPDFExc& error) {
+        throw RunTimeError(ErrorNumber::DeviceIOError, QString::fromUtf8(error.what()));
+    }
+}
