@@ -3,6 +3,7 @@
 #include "atlas/AtlasDocument.h"
 #include "atlas/forms/RecordsModel.h"
 #include "platform/forms/ThemeColors.h"
+#include "shell/VarnModule.h"
 
 #include <QGuiApplication>
 #include <QPalette>

@@ -1,5 +1,6 @@
 // The atlas window around its panes: menus and keys, output, other maps, what it says of itself.
 
+#include "atlas/forms/AtlasCanvas.h"
 #include "atlas/forms/AtlasMapView.h"
 #include "atlas/forms/ExportAtlasDialog.h"
 #include "atlas/forms/OpenMapDialog.h"
@@ -121,7 +122,10 @@ TEST_F(AtlasWindow, TheMapGoesToFilesAndToTheClipboard)
     program.dialogs.errors.clear();
 
     QGuiApplication::clipboard()->clear();
-    QTest::keyClick(&map(), Qt::Key_C, Qt::ControlModifier);
+    auto* canvas = map().findChild<AtlasCanvas*>();
+    canvas->setFocus();
+    QTest::keyClick(canvas, Qt::Key_C, Qt::ControlModifier);
+    ASSERT_NE(QGuiApplication::clipboard()->mimeData(), nullptr);
     EXPECT_TRUE(QGuiApplication::clipboard()->mimeData()->hasImage());
     EXPECT_TRUE(QGuiApplication::clipboard()->mimeData()->data("image/svg+xml").contains("drizzle"));
 }
