@@ -100,7 +100,7 @@ QVariant AtlasLocalityTable::data(const QModelIndex& index, int role) const
         return word(locality, index.column() - FirstWord + 1, role);
     }
     if (role == Qt::TextAlignmentRole && index.column() == Number) {
-        return QVariant(Qt::AlignRight | Qt::AlignVCenter);
+        return (Qt::AlignRight | Qt::AlignVCenter).toInt();
     }
     if (role != Qt::DisplayRole) {
         return {};

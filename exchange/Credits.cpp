@@ -34,7 +34,10 @@ std::vector<Credit> libraries()
              QStringLiteral("https://gdal.org"), QStringLiteral("tables and layers in and out")},
             {QStringLiteral("PROJ"), projVersion(),
              QStringLiteral("Gerald Evenden, Frank Warmerdam and other contributors"), QStringLiteral("MIT"),
-             QStringLiteral("https://proj.org"), QStringLiteral("map projections, through GDAL")}};
+             QStringLiteral("https://proj.org"), QStringLiteral("map projections, through GDAL")},
+            {QStringLiteral("qpdf"), QString(), QStringLiteral("Jay Berkenbilt and other contributors"),
+             QStringLiteral("Apache License 2.0"), QStringLiteral("https://qpdf.org"),
+             QStringLiteral("atlases of many pages")}};
 }
 
 std::vector<Credit> data()

@@ -129,8 +129,10 @@ void AtlasLocalitiesPane::takeSelected()
     }
     const QScopedValueRollback following(m_isFollowing, true);
     AtlasSelection::Numbers localities;
-    for (const QModelIndex& row : m_list->selectionModel()->selectedRows()) {
-        localities.insert(m_filter->mapToSource(row).row() + 1);
+    for (const QItemSelectionRange& rows : m_list->selectionModel()->selection()) {
+        for (int row = rows.top(); row <= rows.bottom(); ++row) { // a column may come or go meanwhile
+            localities.insert(m_filter->mapToSource(m_filter->index(row, 0)).row() + 1);
+        }
     }
     m_selection.setLocalities(localities);
 }

@@ -22,3 +22,16 @@ TEST(Credits, NameWhatRunsWithItsVersionAndLicence)
     EXPECT_TRUE(version.match(programVersion()).hasMatch());
     EXPECT_TRUE(text.contains(programVersion()));
 }
+
+TEST(Credits, StandInTheNoticeToo)
+{
+    QFile file(QStringLiteral(INSTALLATION_FOLDER "/../NOTICE"));
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    const QString notice = QString::fromUtf8(file.readAll()).simplified();
+    for (const Credit& credit : credits()) {
+        for (const QString& text : {credit.name, credit.use, credit.licence}) {
+            const QString said = text.section(';', 0, 0);
+            EXPECT_TRUE(notice.contains(said, Qt::CaseInsensitive)) << said.toStdString();
+        }
+    }
+}

@@ -242,6 +242,12 @@ TEST_F(AtlasLists, LocalitiesAreSortedFilteredAndSelectedWithTheMap)
         EXPECT_LT(cells().size(), 3) << text;
     }
     EXPECT_EQ(selected(), AtlasSelection::Numbers({1})) << "a filter selects nothing else";
+    type("txtLocalityFilter", "");
+    for (const char* item : {"snow.dbs", "rain.dbs"}) { // which have fewer and more word forms
+        form.document().turnTo(ling(item));
+        EXPECT_EQ(selected(), AtlasSelection::Numbers({1})) << item;
+        EXPECT_EQ(localities().selectionModel()->selectedRows().size(), 1) << item;
+    }
 }
 
 TEST_F(AtlasLists, ManyItemsAreListedAtOnceAndReadWhileTheWindowAnswers)
