@@ -46,6 +46,7 @@ public:
             writeItem(size, n);
         }
         varn->NLocate = 0;
+        static_cast<SymbolSet&>(*varn) = {}; // unsaved ones would become those of the first page
         document = std::make_unique<AtlasDocument>(*varn);
         document->restart();
     }

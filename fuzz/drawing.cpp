@@ -1,0 +1,58 @@
+// A whole small survey of any text: drawn, and painted on a picture.
+
+#include "fuzz/FuzzInput.h"
+#include "lingdata/LinguisticFile.h"
+#include "mapdata/MapFiles.h"
+#include "platform/DrawingPainter.h"
+#include "render/LinguisticMap.h"
+#include "render/MapSize.h"
+#include "shell/MapParts.h"
+#include "shell/VarnModule.h"
+#include "symbols/SymbolFile.h"
+
+#include <QGuiApplication>
+#include <QImage>
+#include <QList>
+
+namespace {
+
+template <typename Value>
+void take(const QString& text, Value (*read)(SequentialReader&), Value& value)
+{
+    SequentialReader reader(text);
+    value = read(reader);
+}
+
+/// The parts of the survey stand behind each other, parted by a sign that no file has.
+void drawSurvey(const QStringList& parts)
+{
+    VarnModule varn;
+    take<Localities>(parts.value(0), readLocalities, varn);
+    take<MapLines>(parts.value(1), readLines, varn);
+    take<PlaceNames>(parts.value(2), readPlaceNames, varn);
+    take<ItemAnswers>(parts.value(3), readItem, varn);
+    take<SymbolSet>(parts.value(4), readSymbolSet, varn);
+    take<PolygonTable>(parts.value(5), readPolygons, varn);
+    varn.PlotDots = true;
+    DrawSurface surface;
+    drawLinguisticMap(linguisticMapParts(varn), {{surface, surface}, firstArea()});
+    QImage picture(80, 60, QImage::Format_RGB32);
+    QPainter painter(&picture);
+    paintDrawing(surface.drawing(), painter, 0.1 / TwipsPerPixel);
+}
+
+} // namespace
+
+extern "C" int LLVMFuzzerInitialize(int* argc, char*** argv)
+{
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    static QGuiApplication application(*argc, *argv);
+    return 0;
+}
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
+{
+    const QString text = QString::fromUtf8(inputOf(data, size));
+    expectAnswer([&] { drawSurvey(text.split(QLatin1Char('\x1F'))); });
+    return 0;
+}
