@@ -4,108 +4,128 @@
 #include "exchange/MadeSymbols.h"
 #include "platform/FileName.h"
 #include "platform/WholeFile.h"
-#include "plot/DrawingFile.h"
+#include "plot/AtlasPdf.h"
+#include "render/BlankMap.h"
 #include "render/LinguisticMap.h"
 #include "shell/VarnModule.h"
 
 #include <QFileInfo>
 
+#include <thread>
+
 namespace {
 
-/// The pages of an atlas, one after the other.
-class AtlasPages
+/// Ends the painting.
+struct Stopped
+{
+};
+
+/// Draws the pages of an atlas.
+class AtlasDrawer
 {
 public:
-    AtlasPages(const VarnModule& varn, const QStringList& itemPaths, const PageOfItem& pageOf,
-               const FormArea& area, const ExportProgress& progress)
-        : m_varn(varn), m_paths(itemPaths), m_pageOf(pageOf), m_area(area), m_progress(progress)
+    AtlasDrawer(const VarnModule& varn, const PageOfItem& pageOf, const FormArea& area)
+        : m_varn(varn), m_pageOf(pageOf), m_area(area)
     {
         m_surface.setFont(textFont(varn));
     }
 
-    /// The drawing of the next item that can be drawn; null after the last one and where it is stopped.
-    const Drawing* next()
+    Drawing base()
     {
-        while (m_done < m_paths.size()) {
-            const QString& path = m_paths[m_done];
-            m_isStopped =
-                !m_progress(static_cast<int>(m_done), static_cast<int>(m_paths.size()), stemOf(path));
-            if (m_isStopped) {
-                return nullptr;
-            }
-            ++m_done;
-            if (draws(path)) {
-                ++result.pages;
-                return &m_surface.drawing();
-            }
-        }
-        return nullptr;
+        const QString noStamp;
+        MapGeometry geometry; // that of the map form stays as it is
+        DrawBlankMap({m_varn, m_varn, noStamp, geometry}, surfaces());
+        return m_surface.drawing();
     }
 
-    bool isStopped() const { return m_isStopped; }
-
-    AtlasExport result;
+    /// Raises what reading the page and drawing it raise.
+    AtlasSheet sheet(const QString& path)
+    {
+        const AtlasPage page = m_pageOf(path);
+        const QString trouble = page.trouble.isEmpty() ? page.symbolTrouble : page.trouble;
+        if (!trouble.isEmpty()) {
+            throw RunTimeError(ErrorNumber::TypeMismatch, trouble);
+        }
+        MapGeometry geometry;
+        MapStyle style = m_varn;
+        style.WholeWordForms = isMadeForWholeWordForms(page.symbols);
+        drawItemOfMap({{m_varn, style, page.symbols.SymbolFileName, geometry},
+                       {m_varn, m_varn, style, m_varn.Pictures},
+                       page.item,
+                       page.symbols},
+                      surfaces());
+        return {page.item.Hanrei.isEmpty() ? stemOf(path) : page.item.Hanrei, m_surface.drawing()};
+    }
 
 private:
-    bool draws(const QString& path)
-    {
-        try {
-            const AtlasPage page = m_pageOf(path);
-            const QString trouble = page.trouble.isEmpty() ? page.symbolTrouble : page.trouble;
-            if (!trouble.isEmpty()) {
-                leaveOut(path, trouble);
-                return false;
-            }
-            drawAtlasPage(m_varn, page, {{m_surface, m_surface}, m_area});
-            return true;
-        } catch (const RunTimeError& error) {
-            leaveOut(path, error.text());
-            return false;
-        }
-    }
-
-    void leaveOut(const QString& path, const QString& reason)
-    {
-        result.leftOut << QStringLiteral("%1: %2").arg(stemOf(path), reason);
-    }
+    MapSurfaces surfaces() { return {{m_surface, m_surface}, m_area}; }
 
     const VarnModule& m_varn;
-    const QStringList& m_paths;
     const PageOfItem& m_pageOf;
     FormArea m_area;
-    const ExportProgress& m_progress;
     DrawSurface m_surface;
-    qsizetype m_done = 0;
-    bool m_isStopped = false;
 };
 
-} // namespace
-
-void drawAtlasPage(const VarnModule& varn, const AtlasPage& page, MapSurfaces surfaces)
+QString reasonOf(const RunTimeError& error)
 {
-    MapGeometry geometry; // that of the map form stays as it is
-    MapStyle style = varn;
-    style.WholeWordForms = isMadeForWholeWordForms(page.symbols);
-    const TextParts text{varn, varn, style, varn.Pictures};
-    drawLinguisticMap({{varn, style, page.symbols.SymbolFileName, geometry}, text, page.item, page.symbols},
-                      surfaces);
+    return error.detail().isEmpty() ? error.text() : error.detail();
 }
+
+/// Draws the items that can be drawn; returns false where it is stopped.
+bool drawSheets(AtlasDrawer& drawer, const QStringList& paths, const ExportProgress& progress,
+                AtlasSheets& atlas, AtlasExport& result)
+{
+    int done = 0;
+    for (const QString& path : paths) {
+        if (!progress(done++, static_cast<int>(paths.size()), stemOf(path))) {
+            return false;
+        }
+        try {
+            atlas.sheets.push_back(drawer.sheet(path));
+            ++result.pages;
+        } catch (const RunTimeError& error) {
+            result.leftOut << QStringLiteral("%1: %2").arg(stemOf(path), reasonOf(error));
+        }
+    }
+    return true;
+}
+
+/// The bytes of the file; nothing where the painting is stopped.
+std::optional<QByteArray> paintedAtlas(AtlasSheets atlas, const ExportProgress& progress)
+{
+    const auto pages = static_cast<int>(atlas.sheets.size());
+    const auto tell = [&](int page, const QString& caption) {
+        if (!progress(page, pages, caption)) {
+            throw Stopped();
+        }
+    };
+    try {
+        return atlasPdf(std::move(atlas), static_cast<int>(std::thread::hardware_concurrency()), tell);
+    } catch (const Stopped&) {
+        return std::nullopt;
+    }
+}
+
+} // namespace
 
 AtlasExport exportAtlas(const VarnModule& varn, const QStringList& itemPaths, const PageOfItem& pageOf,
                         const FormArea& area, const QString& hostPath, const ExportProgress& progress)
 {
-    AtlasPages pages(varn, itemPaths, pageOf, area, progress);
-    const QByteArray pdf = drawingPdf([&] { return pages.next(); }, QSizeF(area.Width, area.Height),
-                                      QFileInfo(hostPath).completeBaseName());
-    if (pages.isStopped()) {
-        return pages.result;
+    AtlasExport result;
+    AtlasDrawer drawer(varn, pageOf, area);
+    AtlasSheets atlas{
+        QFileInfo(hostPath).completeBaseName(), QSizeF(area.Width, area.Height), drawer.base(), {}};
+    if (!drawSheets(drawer, itemPaths, progress, atlas, result)) {
+        return result;
     }
-    if (pages.result.pages == 0) {
+    if (result.pages == 0) {
         throw RunTimeError(ErrorNumber::FileNotFound,
                            QStringLiteral("There is no item that can be drawn.\n") +
-                               pages.result.leftOut.join(QLatin1Char('\n')));
+                               result.leftOut.join(QLatin1Char('\n')));
     }
-    replaceHostFile(hostPath, hostPath, pdf);
-    pages.result.saved = true;
-    return pages.result;
+    if (const auto pdf = paintedAtlas(std::move(atlas), progress)) {
+        replaceHostFile(hostPath, hostPath, *pdf);
+        result.saved = true;
+    }
+    return result;
 }

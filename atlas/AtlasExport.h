@@ -9,10 +9,6 @@
 
 struct VarnModule;
 
-/// Draws the linguistic map of `page` as it is now; symbols that were made for whole word forms mark these.
-/// Raises what drawing raises.
-void drawAtlasPage(const VarnModule& varn, const AtlasPage& page, MapSurfaces surfaces);
-
 /// What becomes of the items that an atlas is made of.
 struct AtlasExport
 {
@@ -25,11 +21,13 @@ struct AtlasExport
 
 /// Gives the page of the item at a path; raises what reading it raises.
 using PageOfItem = std::function<AtlasPage(const QString& itemPath)>;
-/// Is told how many of all items are done and the name of the next one; false stops.
+/// Is told how many of all items are drawn and the name of the next one, then of the pages that are painted;
+/// false stops.
 using ExportProgress = std::function<bool(int done, int total, const QString& item)>;
 
 /// Saves the maps of the items at `itemPaths` as a PDF at `hostPath`, a path of this machine, a page an item
-/// with the paper of `area`. An item that cannot be read or drawn is left out. The file is complete, or as it
+/// with the paper of `area`; symbols that were made for whole word forms mark these. An item that cannot be
+/// read or drawn is left out. The file is complete, or as it
 /// was where it is stopped or ends with an error. Raises file not found where no item can be drawn, and what
 /// writing raises.
 AtlasExport exportAtlas(const VarnModule& varn, const QStringList& itemPaths, const PageOfItem& pageOf,

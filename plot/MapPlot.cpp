@@ -7,7 +7,6 @@
 #include "mapdata/MapFiles.h"
 #include "mapdata/MapSearch.h"
 #include "render/BlankMap.h"
-#include "render/Legend.h"
 #include "render/LinguisticMap.h"
 #include "render/MapSize.h"
 #include "render/SymbolCatalogue.h"
@@ -51,11 +50,7 @@ const Drawing& MapPlot::linguisticMap(const QString& dataPath, const QString& sy
 const Drawing& MapPlot::itemOfMap(const QString& dataPath, const QString& symbolPath)
 {
     load(dataPath, symbolPath);
-    const LinguisticMapParts parts = linguisticMapParts(m_varn);
-    DrawBlankMap(parts.base, surfaces()); // sets the scale, and leaves the font of the map
-    m_frmMap.Cls();
-    PlotLinguisticData(parts, surfaces());
-    PlotHanrei(parts, surfaces());
+    drawItemOfMap(linguisticMapParts(m_varn), surfaces());
     return m_frmMap.drawing();
 }
 

@@ -1,14 +1,13 @@
 // varnplot as a script calls it: exit codes, what stands on stderr, and what each option does.
 
 #include "plot/PlotCommands.h"
+#include "tests/support/PlainPdf.h"
 #include "tests/support/TestDrive.h"
 
 #include <QDir>
 #include <QFile>
 #include <QImage>
 #include <QProcess>
-#include <qpdf/QPDF.hh>
-#include <qpdf/QPDFWriter.hh>
 
 namespace {
 
@@ -22,26 +21,6 @@ QByteArray firstStream(const QByteArray& pdf)
     const QByteArray begin = "stream\n";
     const QByteArray anyLength(4, '\1');
     return qUncompress(anyLength + pdf.mid(pdf.indexOf(begin) + begin.size()));
-}
-
-/// A PDF with nothing compressed.
-QByteArray plain(const QByteArray& bytes)
-{
-    QPDF pdf;
-    pdf.processMemoryFile("pdf", bytes.constData(), static_cast<std::size_t>(bytes.size()));
-    QPDFWriter writer(pdf);
-    writer.setOutputMemory();
-    writer.setQDFMode(true);
-    writer.write();
-    const auto buffer = writer.getBufferSharedPointer();
-    return {reinterpret_cast<const char*>(buffer->getBuffer()), static_cast<qsizetype>(buffer->getSize())};
-}
-
-/// How many shapes and texts are painted in it.
-qsizetype painted(const QByteArray& plainPdf)
-{
-    return plainPdf.count("\nB\n") + plainPdf.count("\nS\n") + plainPdf.count("\nf\n") +
-           plainPdf.count("\nBT\n");
 }
 
 /// A survey with an item, its symbols, and the files of an analysis.
