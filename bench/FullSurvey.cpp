@@ -22,8 +22,9 @@ void fillBaseMap(BaseMap& map)
     map.ScaleDivisions = 1;
     map.NLocality = FullLocalities;
     for (int i = 1; i <= FullLocalities; ++i) {
+        const int row = i / 40;
         map.LocXY(i, 0) = 20 + 32.5F * static_cast<float>(i % 40);
-        map.LocXY(i, 1) = 20 + 38.5F * static_cast<float>(i / 40);
+        map.LocXY(i, 1) = 20 + 38.5F * static_cast<float>(row);
     }
 }
 

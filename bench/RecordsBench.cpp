@@ -8,8 +8,10 @@ namespace {
 /// Five thousand different word forms of a thousand localities.
 std::vector<AnsweredWord> manyWords()
 {
+    constexpr int Words = 5000;
     std::vector<AnsweredWord> words;
-    for (int n = 0; n < 5000; ++n) {
+    words.reserve(Words);
+    for (int n = 0; n < Words; ++n) {
         words.push_back(
             {QStringLiteral("form%1").arg(n * 7919 % 10007, 8, 10, QLatin1Char('a')), {n / 5 + 1}});
     }
