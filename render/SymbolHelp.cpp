@@ -35,7 +35,8 @@ SymbolHelpLayout layoutOf(const std::vector<PhoneticSymbol>& symbols, int fontSi
     const float height = surfaces.area.Height - layout.firstRow();
     layout.rowsPerColumn = std::max(1, static_cast<int>(height / layout.rowStep));
     const auto codes = static_cast<int>(symbols.size());
-    const auto columns = static_cast<float>((codes + layout.rowsPerColumn - 1) / layout.rowsPerColumn);
+    const int wholeColumns = (codes + layout.rowsPerColumn - 1) / layout.rowsPerColumn;
+    const auto columns = static_cast<float>(wholeColumns);
     const float width = columns * (3 * layout.partStep + nameWidth) + (columns - 1) * layout.columnGap;
     layout.fits = Margin + width <= surfaces.area.Width;
     return layout;

@@ -57,7 +57,7 @@ std::optional<QString> importFile(const VarnModule& varn, Dialogs& dialogs, cons
     }
     const auto map = read(*source);
     makeCurrentMap(varn);
-    const std::optional<QString> target =
+    std::optional<QString> target =
         askWhereToSave(dialogs, varn.Drive, file.current, QStringLiteral("Save ") + file.what, file.targets);
     if (target) {
         writeSequentialFile(varn.Drive, *target, [&](SequentialWriter& writer) { write(writer, map); });
