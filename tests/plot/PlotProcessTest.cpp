@@ -5,9 +5,12 @@
 #include "tests/support/TestDrive.h"
 
 #include <QDir>
+#include <QElapsedTimer>
 #include <QFile>
 #include <QImage>
 #include <QProcess>
+#include <QRandomGenerator>
+#include <QThread>
 
 namespace {
 
@@ -252,6 +255,44 @@ TEST_F(PlotProcess, AnAccumulationSaysWhatItDidNotCount)
     expectDone("accumulate --counts UPPER.TTL --characters all.sum --data Ling/rain.dbs");
     EXPECT_TRUE(read("UPPER.TTL").startsWith("1,1,"));
     EXPECT_FALSE(QFile::exists(file("UPPER.ttl")));
+}
+
+TEST_F(PlotProcess, ATableThatIsSavedByAKilledProcessIsOneThatWasSaved)
+{
+    constexpr int Kills = 200;
+    const QByteArray item = " --data Ling/rain.dbs";
+    QByteArray line = "accumulate --counts all.ttl --characters all.sum --count-again";
+    QByteArrayList saved = {read("all.ttl")};
+    for (int items = 1; items <= 4; ++items) {
+        write("all.ttl", saved.first());
+        QFile::remove(file("all.itm"));
+        expectDone(line + item.repeated(items));
+        saved << read("all.ttl");
+    }
+    QElapsedTimer whole;
+    whole.start();
+    expectDone(line + item.repeated(4));
+    const auto longest = static_cast<quint32>(whole.elapsed());
+
+    QRandomGenerator random(1);
+    int changed = 0;
+    for (int n = 0; n < Kills; ++n) {
+        write("all.ttl", saved.first());
+        QFile::remove(file("all.itm"));
+        QProcess process;
+        process.setWorkingDirectory(file({}));
+        process.start(VARNPLOT,
+                      QStringList({"--map", "Test", "--installation", survey.hostPath("Varn62E/Varn")}) +
+                          QString::fromLatin1(line + item.repeated(4)).split(' '));
+        process.waitForStarted();
+        QThread::msleep(random.bounded(longest / 4, longest + 1));
+        process.kill();
+        process.waitForFinished();
+        const QByteArray left = read("all.ttl");
+        ASSERT_TRUE(saved.contains(left)) << n << '\n' << left.constData();
+        changed += left != saved.first() ? 1 : 0;
+    }
+    EXPECT_GT(changed, 0) << "the processes lived long enough to save";
 }
 
 TEST_F(PlotProcess, ErrorsNameTheirFileOnThisMachine)
