@@ -280,7 +280,7 @@ void removeLeftBehind(const DriveC& drive, const QString& folder)
 
 QString setAside(const DriveC& drive, const QString& folder)
 {
-    const QString aside = folder + QStringLiteral(".unreadable");
+    QString aside = folder + QStringLiteral(".unreadable");
     QDir().rename(drive.hostPath(folder), drive.hostPath(aside));
     return aside;
 }

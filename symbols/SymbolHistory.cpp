@@ -11,8 +11,8 @@ constexpr int MostSteps = 500;
 class Step : public QUndoCommand
 {
 public:
-    Step(SymbolEditorState& present, const SymbolEditorState& after, int box)
-        : m_present(present), m_before(present), m_after(after), m_box(box)
+    Step(SymbolEditorState& present, SymbolEditorState after, int box)
+        : m_present(present), m_before(present), m_after(std::move(after)), m_box(box)
     {}
 
     void undo() override { m_present = m_before; }

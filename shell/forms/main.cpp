@@ -6,25 +6,27 @@
 #include <QIcon>
 
 #include <cstdio>
+#include <span>
 #include <string_view>
 
 namespace {
 
-/// Answers what needs no screen; returns the exit code, or nothing where the program is to start.
-std::optional<int> answer(int argc, char* argv[])
+enum ExitCode { Done = 0, WrongUsage = 2 };
+
+constexpr auto Usage = "usage: varn [--help | --version]\nDraws dialect maps. F1 opens the manual.\n";
+
+/// Answers what needs no screen; returns whether that was all.
+bool isAnswered(std::span<char* const> words)
 {
-    if (argc < 2) {
-        return std::nullopt;
-    }
-    const std::string_view option = argv[1];
-    if (argc == 2 && option == "--version") {
+    const std::string_view option = words.size() == 2 ? words[1] : "";
+    if (option == "--version") {
         std::puts("varn " VARN_VERSION);
-        return 0;
+    } else if (option == "--help" || option == "-h") {
+        std::fputs(Usage, stdout);
+    } else {
+        return false;
     }
-    const bool isHelp = argc == 2 && (option == "--help" || option == "-h");
-    std::fputs("usage: varn [--help | --version]\nDraws dialect maps. F1 opens the manual.\n",
-               isHelp ? stdout : stderr);
-    return isHelp ? 0 : 2;
+    return true;
 }
 
 QIcon programIcon()
@@ -40,10 +42,14 @@ QIcon programIcon()
 
 int main(int argc, char* argv[])
 {
-    if (const auto exitCode = answer(argc, argv)) {
-        return *exitCode;
+    if (isAnswered({argv, static_cast<std::size_t>(argc)})) {
+        return Done;
     }
     const QApplication application(argc, argv);
+    if (QApplication::arguments().size() > 1) { // other than the toolkit's own
+        std::fputs(Usage, stderr);
+        return WrongUsage;
+    }
     QApplication::setApplicationName(QStringLiteral("varn"));
     QApplication::setApplicationVersion(QStringLiteral(VARN_VERSION));
     QApplication::setDesktopFileName(QStringLiteral("varn"));
