@@ -17,6 +17,7 @@
 #include <map>
 #include <set>
 #include <span>
+#include <stdexcept>
 #include <tuple>
 
 namespace {
@@ -172,6 +173,16 @@ Drawing seedOf(const Drawings& pages, const SharedPictures& pictures, bool whole
     return seed.drawing(pictures.inOrder());
 }
 
+/// The parts in one; nothing where their fonts are not the same.
+std::optional<QByteArray> joined(const std::vector<QByteArray>& parts, const PdfOutline& outline)
+{
+    try {
+        return joinedPdf(parts, outline);
+    } catch (const std::runtime_error& error) {
+        throw RunTimeError(ErrorNumber::DeviceIOError, QString::fromUtf8(error.what()));
+    }
+}
+
 } // namespace
 
 QByteArray atlasPdf(AtlasSheets atlas, int jobs, const std::function<void(int, const QString&)>& progress)
@@ -191,8 +202,8 @@ QByteArray atlasPdf(AtlasSheets atlas, int jobs, const std::function<void(int, c
     };
     for (const bool wholeTexts : {false, true}) {
         const Drawing seed = seedOf(pages, pictures, wholeTexts);
-        if (const auto joined = joinedPdf(paintedParts(seed, pages, atlas.size, jobs, tell), outline)) {
-            return *joined;
+        if (const auto pdf = joined(paintedParts(seed, pages, atlas.size, jobs, tell), outline)) {
+            return *pdf;
         }
     }
     throw RunTimeError(ErrorNumber::DeviceIOError, QStringLiteral("The pages cannot be joined."));

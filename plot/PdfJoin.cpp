@@ -1,7 +1,5 @@
 #include "plot/PdfJoin.h"
 
-#include "platform/RunTimeError.h"
-
 #include <qpdf/QPDF.hh>
 #include <qpdf/QPDFPageDocumentHelper.hh>
 #include <qpdf/QPDFPageObjectHelper.hh>
@@ -68,7 +66,7 @@ std::map<std::string, std::string> describedFonts(Part& part)
 bool haveSameFonts(std::vector<Part>& parts)
 {
     const auto fonts = describedFonts(parts.front());
-    return std::ranges::all_of(parts, [&](Part& part) { return describedFonts(part) == fonts; });
+    return std::all_of(parts.begin(), parts.end(), [&](Part& part) { return describedFonts(part) == fonts; });
 }
 
 QPDFObjectHandle textObject(const QString& text)
@@ -196,7 +194,9 @@ private:
     std::vector<QPDFObjectHandle> m_joined;
 };
 
-std::optional<QByteArray> join(const std::vector<QByteArray>& parts, const PdfOutline& outline)
+} // namespace
+
+std::optional<QByteArray> joinedPdf(const std::vector<QByteArray>& parts, const PdfOutline& outline)
 {
     std::vector<Part> opened;
     for (const QByteArray& part : parts) {
@@ -209,15 +209,4 @@ std::optional<QByteArray> join(const std::vector<QByteArray>& parts, const PdfOu
     joiner.join();
     joiner.addOutline(outline);
     return joiner.bytes();
-}
-
-} // namespace
-
-std::optional<QByteArray> joinedPdf(const std::vector<QByteArray>& parts, const PdfOutline& outline)
-{
-    try {
-        return join(parts, outline);
-    } catch (const QPDFExc& error) {
-        throw RunTimeError(ErrorNumber::DeviceIOError, QString::fromUtf8(error.what()));
-    }
 }

@@ -16,5 +16,5 @@ struct PdfOutline
 /// Joins parts of a document into one PDF. The first page of each part is left out: it shows what all parts
 /// have in common, so that their fonts and pictures bear the same names. The second page of the first part
 /// lies under each page of the document. Nothing where the fonts of the parts are not the same. Raises
-/// device I/O error for a part that is no PDF.
+/// `std::runtime_error` for a part that is no PDF.
 std::optional<QByteArray> joinedPdf(const std::vector<QByteArray>& parts, const PdfOutline& outline);

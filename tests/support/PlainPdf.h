@@ -1,25 +1,9 @@
 #pragma once
 
 #include <QByteArray>
-#include <qpdf/QPDF.hh>
-#include <qpdf/QPDFWriter.hh>
 
 /// A PDF with nothing compressed.
-inline QByteArray plain(const QByteArray& bytes)
-{
-    QPDF pdf;
-    pdf.processMemoryFile("pdf", bytes.constData(), static_cast<std::size_t>(bytes.size()));
-    QPDFWriter writer(pdf);
-    writer.setOutputMemory();
-    writer.setQDFMode(true);
-    writer.write();
-    const auto buffer = writer.getBufferSharedPointer();
-    return {reinterpret_cast<const char*>(buffer->getBuffer()), static_cast<qsizetype>(buffer->getSize())};
-}
+QByteArray plain(const QByteArray& bytes);
 
 /// How many shapes and texts are painted in it.
-inline qsizetype painted(const QByteArray& plainPdf)
-{
-    return plainPdf.count("\nB\n") + plainPdf.count("\nS\n") + plainPdf.count("\nf\n") +
-           plainPdf.count("\nBT\n");
-}
+qsizetype painted(const QByteArray& plainPdf);

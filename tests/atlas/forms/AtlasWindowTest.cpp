@@ -4,6 +4,7 @@
 #include "atlas/forms/AtlasMapView.h"
 #include "atlas/forms/ExportAtlasDialog.h"
 #include "atlas/forms/OpenMapDialog.h"
+#include "tests/support/PlainPdf.h"
 #include "tests/support/TestProgram.h"
 
 #include <QClipboard>
@@ -145,11 +146,11 @@ TEST_F(AtlasWindow, AnAtlasIsSavedOfTheItemsChosen)
     recaption("drizzle");
     program.dialogs.savedFiles = {survey.hostPath("all.pdf"), survey.hostPath("some.pdf")};
     exportItems("cmdAll");
-    EXPECT_EQ(written("all.pdf").count("/Type /Page\n"), 2);
+    EXPECT_EQ(plain(written("all.pdf")).count("/Type /Page\n"), 2);
     EXPECT_EQ(program.dialogs.shown.back().text, "2 pages are saved.");
     survey.write(ling("broken.dbs"), "many");
     exportItems("cmdWithSymbols");
-    EXPECT_EQ(written("some.pdf").count("/Type /Page\n"), 1);
+    EXPECT_EQ(plain(written("some.pdf")).count("/Type /Page\n"), 1);
     EXPECT_EQ(program.dialogs.errors, std::vector<Shown>());
 }
 
