@@ -68,13 +68,14 @@ protected:
     /// Writes a data set into a folder or a zip under the drive; returns its path.
     QString put(const QString& name, const Files& data)
     {
-        const QString path = files.hostPath(name);
+        QString path = files.hostPath(name);
         const QByteArray folder =
             name.endsWith(QLatin1String(".zip")) ? "/vsizip/" + path.toUtf8() + "/data" : path.toUtf8();
         VSIMkdirRecursive(folder.constData(), 0755);
         for (const auto& [file, bytes] : data) {
             VSILFILE* out = VSIFOpenL((folder + '/' + file).constData(), "wb");
-            EXPECT_EQ(VSIFWriteL(bytes.constData(), 1, bytes.size(), out), bytes.size());
+            const auto size = static_cast<std::size_t>(bytes.size());
+            EXPECT_EQ(VSIFWriteL(bytes.constData(), 1, size, out), size);
             VSIFCloseL(out);
         }
         return path;

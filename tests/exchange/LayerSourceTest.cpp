@@ -48,7 +48,7 @@ protected:
     QString putPoints(const char* name, const char* driver, int epsg, const std::vector<QPointF>& points)
     {
         GDALAllRegister();
-        const QString path = files.hostPath(QLatin1String(name));
+        QString path = files.hostPath(QLatin1String(name));
         OGRSpatialReference system;
         system.importFromEPSG(epsg == 0 ? 4326 : epsg);
         GDALDataset* file = GetGDALDriverManager()->GetDriverByName(driver)->Create(
@@ -87,7 +87,8 @@ TEST_F(Layers, PointsAreLocalitiesAndAttributesItems)
     const QString zip = files.hostPath(QStringLiteral("a.zip"));
     const QString zipped = QStringLiteral("/vsizip/") + zip + QStringLiteral("/in/a.geojson");
     VSILFILE* file = VSIFOpenL(zipped.toUtf8().constData(), "wb");
-    EXPECT_EQ(VSIFWriteL(GeoJson.constData(), 1, GeoJson.size(), file), GeoJson.size());
+    const auto size = static_cast<std::size_t>(GeoJson.size());
+    EXPECT_EQ(VSIFWriteL(GeoJson.constData(), 1, size, file), size);
     VSIFCloseL(file);
     EXPECT_TRUE(isLayer(zip));
     EXPECT_EQ(textOf(read(zip)), textOf(survey));
@@ -115,15 +116,15 @@ TEST_F(Layers, EveryReferenceSystemBecomesDegrees)
     {
         const char* name;
         const char* driver;
-        int epsg;
         std::vector<QPointF> points;
+        int epsg;
         bool plane;
     };
     const Row rows[] = {
-        {"m.gpkg", "GPKG", 3857, {{1168854.653, -250533.255}, {1224514.399, 389860.758}}, false},
-        {"d.shp", "ESRI Shapefile", 4326, {{10.5, -2.25}, {11, 3.5}}, false},
-        {"n.shp", "ESRI Shapefile", 0, {{10.5, -2.25}, {11, 3.5}}, false},
-        {"p.shp", "ESRI Shapefile", 0, {{10.5, -2.25}, {1100, 3.5}}, true},
+        {"m.gpkg", "GPKG", {{1168854.653, -250533.255}, {1224514.399, 389860.758}}, 3857, false},
+        {"d.shp", "ESRI Shapefile", {{10.5, -2.25}, {11, 3.5}}, 4326, false},
+        {"n.shp", "ESRI Shapefile", {{10.5, -2.25}, {11, 3.5}}, 0, false},
+        {"p.shp", "ESRI Shapefile", {{10.5, -2.25}, {1100, 3.5}}, 0, true},
     };
     for (const Row& row : rows) {
         const SourceSurvey survey = read(putPoints(row.name, row.driver, row.epsg, row.points));

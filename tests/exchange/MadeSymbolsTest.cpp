@@ -12,6 +12,7 @@ namespace {
 std::vector<KindFrequency> manyKinds(int kinds)
 {
     std::vector<KindFrequency> all;
+    all.reserve(static_cast<std::size_t>(kinds));
     for (int i = 0; i < kinds; ++i) {
         all.push_back({QStringLiteral("kind-%1").arg(i, 3, 10, QLatin1Char('0')), kinds - i});
     }

@@ -36,7 +36,7 @@ protected:
                      "\"b\",\"Bö, \"\"old\"\"\",145.2,-5.2,\"x\"\r\n\"c\",\"c\",145.25,-5.3,\"x\"\r\n");
     }
     QString out(const char* name) const { return survey.hostPath(QLatin1String(name)); }
-    ImportReport write(const QString& path) { return exportSurvey(survey.varn, path, goOn).value(); }
+    ImportReport write(const QString& path) const { return exportSurvey(survey.varn, path, goOn).value(); }
     /// What stands on the drive.
     QString left() const
     {
