@@ -199,6 +199,7 @@ private:
 std::optional<QByteArray> joinedPdf(const std::vector<QByteArray>& parts, const PdfOutline& outline)
 {
     std::vector<Part> opened;
+    opened.reserve(parts.size());
     for (const QByteArray& part : parts) {
         opened.push_back(openPart(part));
     }
