@@ -14,7 +14,7 @@ constexpr int MostLines = 100;
 
 QPolygonF outline(const QRectF& area)
 {
-    return QPolygonF(area); // closed
+    return {area}; // closed
 }
 
 /// How many lines of the map a line takes; each piece begins with the last point of the one before.

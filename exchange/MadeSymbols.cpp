@@ -32,7 +32,8 @@ double captionWidth(size_t records)
     constexpr double ColumnGap = 600;
     constexpr size_t Rows = 28;
 
-    return WidestLegendText / static_cast<double>(records / Rows + 1) - ColumnGap;
+    const size_t columns = records / Rows + 1;
+    return WidestLegendText / static_cast<double>(columns) - ColumnGap;
 }
 
 void addRecord(SymbolSet& set, const QString& kind, const QString& caption, const HankoStyle& symbol)
