@@ -9,6 +9,7 @@
 #include <QLineF>
 #include <QRegularExpression>
 
+#include <array>
 #include <map>
 #include <ogrsf_frmts.h>
 #include <optional>
@@ -32,12 +33,12 @@ std::optional<BaseLineKind> kindOfName(const QString& name)
         BaseLineKind kind;
         QRegularExpression words;
     };
-    static const Row rows[] = {
+    static const std::array<Row, 4> rows = {{
         {BaseLineKind::Border, anyOf("border|bound|admin|frontier|frontière|frontera|límite|grenz|grens")},
         {BaseLineKind::River, anyOf("river|stream|fluss|flüsse|rivier|rivière|fleuve|\\brío|\\brio|川")},
         {BaseLineKind::Lake, anyOf("lake|lagoon|\\bseen?\\b|\\blacs?\\b|\\blagos?\\b|湖")},
         {BaseLineKind::Coast, anyOf("coast|shore|küste|kust|\\bcôte|\\bcosta|\\bland\\b|海岸")},
-    };
+    }};
     for (const Row& row : rows) {
         if (row.words.match(name).hasMatch()) {
             return row.kind;

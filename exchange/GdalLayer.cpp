@@ -54,7 +54,7 @@ MemoryFile::~MemoryFile()
 
 QByteArray readGdalFile(const QString& path)
 {
-    constexpr GIntBig Largest = 256 * 1024 * 1024;
+    constexpr GIntBig Largest = GIntBig{256} * 1024 * 1024;
 
     const GdalScope scope;
     GByte* data = nullptr;

@@ -127,15 +127,15 @@ QSizeF LegendMeasure::titleSize(const QString& title) const
 
 MapLayout layOutMap(const std::vector<QPointF>& points, double aroundSpot, QSizeF legend)
 {
-    constexpr double Smallest = 0.2;
-    constexpr double Step = 0.02;
+    constexpr int Smallest = 20; // of a hundred
+    constexpr int Step = 2;
 
     const QRectF extent = extentOf(points, aroundSpot);
     const double largest = std::min((MapFrame::Width - 2 * EdgeRoom) / extent.width(),
                                     (MapFrame::Height - 2 * EdgeRoom) / extent.height());
     const std::vector<QRectF> rooms = legendRooms(legend);
-    for (double share = 1; share > Smallest; share -= Step) {
-        if (auto layout = layoutWithLegend(points, extent, share * largest, rooms)) {
+    for (int share = 100; share > Smallest; share -= Step) {
+        if (auto layout = layoutWithLegend(points, extent, share * largest / 100, rooms)) {
             layout->legendIsFree = legend.width() + LegendGap <= WidestLegend;
             return *layout;
         }

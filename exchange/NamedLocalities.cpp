@@ -28,6 +28,7 @@ QPointF projected(const MapFrame& way, const SourceLocality& locality)
 std::vector<QPointF> projectedAll(const MapFrame& way, const std::vector<SourceLocality>& localities)
 {
     std::vector<QPointF> points;
+    points.reserve(localities.size());
     for (const SourceLocality& locality : localities) {
         points.push_back(projected(way, locality));
     }

@@ -6,6 +6,7 @@
 #include <QFileInfo>
 
 #include <algorithm>
+#include <array>
 #include <cpl_conv.h>
 #include <ogrsf_frmts.h>
 #include <utility>
@@ -64,10 +65,9 @@ std::vector<TableRow> sheetRows(OGRLayer& sheet)
 /// The rows of the first sheet that has any, every cell as text.
 std::vector<TableRow> spreadsheetRows(const QString& path)
 {
-    const std::pair<const char*, const char*> settings[] = {{"OGR_XLSX_HEADERS", "DISABLE"},
-                                                            {"OGR_ODS_HEADERS", "DISABLE"},
-                                                            {"OGR_XLSX_FIELD_TYPES", "STRING"},
-                                                            {"OGR_ODS_FIELD_TYPES", "STRING"}};
+    constexpr std::array settings = {
+        std::pair("OGR_XLSX_HEADERS", "DISABLE"), std::pair("OGR_ODS_HEADERS", "DISABLE"),
+        std::pair("OGR_XLSX_FIELD_TYPES", "STRING"), std::pair("OGR_ODS_FIELD_TYPES", "STRING")};
     std::vector<std::unique_ptr<CPLConfigOptionSetter>> set;
     for (const auto& [key, value] : settings) {
         set.push_back(std::make_unique<CPLConfigOptionSetter>(key, value, false));

@@ -14,6 +14,7 @@ constexpr qsizetype MostWords = 5;
 QString regions(const std::vector<SourceLocality>& localities)
 {
     std::vector<double> eastings;
+    eastings.reserve(localities.size());
     for (const SourceLocality& locality : localities) {
         eastings.push_back(locality.position.x());
     }

@@ -73,7 +73,7 @@ QString registered(const QString& code)
     char* text = nullptr;
     const bool known = system.SetFromUserInput(code.toUtf8().constData()) == OGRERR_NONE &&
                        system.IsProjected() && system.exportToProj4(&text) == OGRERR_NONE;
-    const QString projection = QString::fromUtf8(text);
+    QString projection = QString::fromUtf8(text);
     CPLFree(text);
     if (!known) {
         raiseUnknown(code);

@@ -15,9 +15,9 @@ constexpr qint16 Thick = 2; // fills a polygon of normal size
 
 constexpr qint16 FirstPolygon = 153;
 
-constexpr HankoStyle shape(qint16 number, qint16 fill, qint16 size, qint16 thickness)
+constexpr HankoStyle shape(int number, qint16 fill, qint16 size, qint16 thickness)
 {
-    return {number, 0, 0, fill, size, thickness};
+    return {static_cast<qint16>(number), 0, 0, fill, size, thickness};
 }
 
 /// The polygon of that number, from 1, upright: full, and as an outline.

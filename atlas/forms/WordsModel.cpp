@@ -6,6 +6,7 @@
 #include <QPalette>
 #include <QStringList>
 
+#include <array>
 #include <utility>
 
 void WordsModel::show(std::vector<std::size_t> words)
@@ -52,7 +53,7 @@ int WordsModel::columnCount(const QModelIndex& parent) const
 QVariant WordsModel::data(const QModelIndex& index, int role) const
 {
     if (role == Qt::TextAlignmentRole && index.column() == Localities) {
-        return QVariant(Qt::AlignRight | Qt::AlignVCenter);
+        return (Qt::AlignRight | Qt::AlignVCenter).toInt();
     }
     const bool isOffer = index.column() == Records && recordsOf(index.row()).empty();
     if (role == Qt::ForegroundRole && isOffer) {
@@ -76,6 +77,6 @@ QVariant WordsModel::headerData(int section, Qt::Orientation orientation, int ro
     if (orientation != Qt::Horizontal || role != Qt::DisplayRole) {
         return {};
     }
-    constexpr const char* Headings[] = {"Word form", "Places", "Marked by"};
-    return QLatin1String(Headings[section]);
+    constexpr std::array Headings = {"Word form", "Places", "Marked by"};
+    return QLatin1String(Headings.at(static_cast<std::size_t>(section)));
 }

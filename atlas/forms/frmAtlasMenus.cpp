@@ -14,6 +14,7 @@
 #include <QToolBar>
 #include <QToolButton>
 
+#include <array>
 #include <tuple>
 
 QAction* frmAtlas::addEntry(QMenu& menu, const char* name, const QString& text, const char* icon,
@@ -125,14 +126,16 @@ void frmAtlas::addPaneMenus()
 void frmAtlas::nameForTools()
 {
     const QList<QAction*>& zoom = m_map->zoomActions();
-    const std::tuple<QAction*, const char*, const char*> names[] = {
+    using ToolName = std::tuple<QAction*, const char*, const char*>;
+    const std::array<ToolName, 7> names = {{
         {m_items->previousItem(), "previous-item", "Previous"},
         {m_items->nextItem(), "next-item", "Next"},
         {m_map->findAction(), "find", "Find"},
         {zoom.at(0), "zoom-in", "Zoom In"},
         {zoom.at(1), "zoom-out", "Zoom Out"},
         {zoom.at(2), "zoom-fit", "Whole Map"},
-        {&manualEntry(), "manual", "Manual"}};
+        {&manualEntry(), "manual", "Manual"},
+    }};
     for (const auto& [action, icon, text] : names) {
         action->setIcon(themeIcon(QLatin1String(icon)));
         action->setIconText(QLatin1String(text));
