@@ -30,8 +30,8 @@ bool endsInsideQuotes(const QString& text)
 /// Whether cells of the text stand in quotes; else a quote is a character as any other, such as of seconds.
 bool quotesCells(const QString& text)
 {
-    static const QLatin1String starts[] = {QLatin1String(",\""), QLatin1String(";\""), QLatin1String("\t\""),
-                                           QLatin1String("|\""), QLatin1String("\n\"")};
+    static constexpr std::array starts = {QLatin1String(",\""), QLatin1String(";\""), QLatin1String("\t\""),
+                                          QLatin1String("|\""), QLatin1String("\n\"")};
     return text.startsWith(Quote) ||
            std::ranges::any_of(starts, [&text](QLatin1String start) { return text.contains(start); });
 }

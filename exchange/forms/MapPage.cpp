@@ -77,7 +77,7 @@ void MapPage::takeLayers()
 
 void MapPage::takeProjection()
 {
-    const QString projections[] = {QStringLiteral("laea"), QStringLiteral("tmerc"), m_ui->spnEpsg->text()};
+    const QStringList projections = {QStringLiteral("laea"), QStringLiteral("tmerc"), m_ui->spnEpsg->text()};
     const int chosen = m_ui->cboProjection->currentIndex();
     m_ui->spnEpsg->setVisible(chosen == 2);
     draft().setProjection(projections[chosen]);
