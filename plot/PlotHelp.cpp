@@ -2,6 +2,8 @@
 
 #include "plot/PlotForms.h"
 
+#include <array>
+
 namespace {
 
 constexpr int Columns = 110;
@@ -73,10 +75,10 @@ struct ExitCodeHelp
     const char* help;
 };
 
-constexpr ExitCodeHelp ExitCodes[] = {{"0", "all is done"},
-                                      {"1", "an error, or something was left out"},
-                                      {"2", "the command line is not understood"},
-                                      {"130", "stopped by Ctrl+C; nothing half made is left"}};
+constexpr std::array<ExitCodeHelp, 4> ExitCodes = {{{"0", "all is done"},
+                                                    {"1", "an error, or something was left out"},
+                                                    {"2", "the command line is not understood"},
+                                                    {"130", "stopped by Ctrl+C; nothing half made is left"}}};
 
 /// Troff takes some signs for its own.
 QString inTroff(QString text)

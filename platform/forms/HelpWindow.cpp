@@ -112,7 +112,8 @@ void HelpWindow::showContents()
 {
     m_contents->clear();
     for (const ManualSection& section : m_manual->sections()) {
-        const QString indent(2 * std::max(0, section.level - 2), QLatin1Char(' '));
+        const qsizetype depth = std::max(0, section.level - 2);
+        const QString indent(2 * depth, QLatin1Char(' '));
         auto* item = new QListWidgetItem(indent + section.title, m_contents); // the list owns it
         item->setData(Qt::UserRole, section.anchor);
     }

@@ -96,7 +96,7 @@ void Manual::addAnchors()
 QVariant Manual::loadResource(int type, const QUrl& name)
 {
     constexpr int WidestPicture = 600;
-    const QVariant resource = QTextBrowser::loadResource(type, name);
+    QVariant resource = QTextBrowser::loadResource(type, name);
     if (type != QTextDocument::ImageResource) {
         return resource;
     }
