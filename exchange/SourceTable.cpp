@@ -69,6 +69,7 @@ std::vector<TableRow> spreadsheetRows(const QString& path)
         std::pair("OGR_XLSX_HEADERS", "DISABLE"), std::pair("OGR_ODS_HEADERS", "DISABLE"),
         std::pair("OGR_XLSX_FIELD_TYPES", "STRING"), std::pair("OGR_ODS_FIELD_TYPES", "STRING")};
     std::vector<std::unique_ptr<CPLConfigOptionSetter>> set;
+    set.reserve(settings.size());
     for (const auto& [key, value] : settings) {
         set.push_back(std::make_unique<CPLConfigOptionSetter>(key, value, false));
     }
