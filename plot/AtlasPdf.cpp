@@ -2,11 +2,11 @@
 
 #include "platform/DrawingPainter.h"
 #include "platform/RunTimeError.h"
+#include "plot/DrawingFile.h"
 #include "plot/PdfJoin.h"
 
 #include <QBuffer>
 #include <QHash>
-#include <QPageSize>
 #include <QPdfWriter>
 #include <QScopeGuard>
 
@@ -114,9 +114,7 @@ QByteArray paintedPart(const Drawing& seed, std::span<const Drawing* const> draw
     QBuffer buffer;
     buffer.open(QIODevice::WriteOnly);
     QPdfWriter pdf(&buffer);
-    pdf.setResolution(static_cast<int>(TwipsPerInch));
-    pdf.setPageSize(QPageSize(size / TwipsPerPoint, QPageSize::Point, {}, QPageSize::ExactMatch));
-    pdf.setPageMargins(QMarginsF());
+    setUpPages(pdf, size);
     QPainter painter(&pdf);
     paintDrawing(seed, painter, 1);
     for (const Drawing* drawing : drawings) {

@@ -106,34 +106,31 @@ void saveDrawing(const Drawing& drawing, QSizeF size, const QString& hostPath, d
     }
 }
 
-QByteArray drawingPdf(const std::function<const Drawing*()>& nextPage, QSizeF size, const QString& title)
+void setUpPages(QPdfWriter& pdf, QSizeF size)
+{
+    pdf.setResolution(static_cast<int>(TwipsPerInch));
+    pdf.setPageSize(QPageSize(size / TwipsPerPoint, QPageSize::Point, {}, QPageSize::ExactMatch));
+    pdf.setPageMargins(QMarginsF());
+}
+
+void savePdfPages(int pages, const std::function<const Drawing&(int)>& drawPage, QSizeF size,
+                  const QString& hostPath)
 {
     QBuffer buffer;
     buffer.open(QIODevice::WriteOnly);
     {
         QPdfWriter pdf(&buffer);
         pdf.setCreator(QStringLiteral("varn"));
-        pdf.setTitle(title);
-        pdf.setResolution(static_cast<int>(TwipsPerInch));
-        pdf.setPageSize(QPageSize(size / TwipsPerPoint, QPageSize::Point, {}, QPageSize::ExactMatch));
-        pdf.setPageMargins(QMarginsF());
+        pdf.setTitle(QFileInfo(hostPath).completeBaseName());
+        setUpPages(pdf, size);
         QPainter painter(&pdf);
-        bool isFirst = true;
-        while (const Drawing* drawing = nextPage()) {
-            if (!isFirst) {
+        for (int page = 0; page < pages; ++page) {
+            const Drawing& drawing = drawPage(page);
+            if (page > 0) {
                 pdf.newPage();
             }
-            isFirst = false;
-            paintDrawing(*drawing, painter, 1);
+            paintDrawing(drawing, painter, 1);
         }
     }
-    return buffer.data();
-}
-
-void savePdfPages(int pages, const std::function<const Drawing&(int)>& drawPage, QSizeF size,
-                  const QString& hostPath)
-{
-    int page = 0;
-    const auto nextPage = [&] { return page < pages ? &drawPage(page++) : nullptr; };
-    replaceHostFile(hostPath, hostPath, drawingPdf(nextPage, size, QFileInfo(hostPath).completeBaseName()));
+    replaceHostFile(hostPath, hostPath, buffer.data());
 }

@@ -9,6 +9,8 @@
 
 #include <functional>
 
+class QPdfWriter;
+
 /// The kinds of file that a drawing can be saved as.
 enum class DrawingFormat { Svg, Pdf, Png };
 
@@ -25,9 +27,8 @@ QImage drawingImage(const Drawing& drawing, QSizeF size, double dotsPerInch);
 /// The drawing, `size` twips large, as the text of an SVG file.
 QByteArray drawingSvg(const Drawing& drawing, QSizeF size);
 
-/// The bytes of a PDF called `title`, with the drawings that `nextPage` gives until it gives null, each on a
-/// page of `size` twips.
-QByteArray drawingPdf(const std::function<const Drawing*()>& nextPage, QSizeF size, const QString& title);
+/// Gives a PDF pages of `size` twips without margins, on which a twip is a unit.
+void setUpPages(QPdfWriter& pdf, QSizeF size);
 
 /// Saves a drawing of `size` twips to the file at `hostPath`, a path of this machine: as SVG or PDF of that
 /// size, or as PNG at `dotsPerInch`. The file is complete or as it was. Raises path not found, permission
