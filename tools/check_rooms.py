@@ -9,7 +9,7 @@ import re
 import sys
 
 ROOMS = [
-    "platform", "mapdata", "lingdata", "symbols", "render", "exchange", "analysis", "shell", "plot",
+    "platform", "mapdata", "lingdata", "symbols", "render", "dialectometry", "exchange", "analysis", "shell", "plot",
     "atlas", "platform/forms", "render/forms", "mapdata/forms", "lingdata/forms", "symbols/forms", "analysis/forms",
     "exchange/forms", "atlas/forms", "shell/forms",
 ]
