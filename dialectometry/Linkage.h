@@ -1,9 +1,12 @@
 #pragma once
 
+#include "dialectometry/DistanceMatrix.h"
+
+#include <cstdint>
 #include <vector>
 
 /// How the distance to a joined cluster follows from those to its parts.
-enum class LinkageMethod { Single, Complete, Average, Weighted, Ward };
+enum class LinkageMethod : std::uint8_t { Single, Complete, Average, Weighted, Ward };
 
 /// Two clusters that are joined. The clusters of one locality each have the numbers 0 to n - 1 of `Linkage`'s
 /// localities; joining number k (from 0) makes cluster n + k.
@@ -23,6 +26,17 @@ struct Linkage
     std::vector<int> localities;
     std::vector<Merge> merges;
 };
+
+/// Joins clusters by the formula of Lance & Williams (1967), A general theory of classificatory sorting
+/// strategies; with Ward (1963) heights are in the unit of the distances, which count as Euclidean.
+/// Localities that `completeLocalities` leaves out are not in the tree. In a merge `first` is less than
+/// `second`; merges of one height stand in the order in which chains of nearest neighbours (Murtagh 1983)
+/// find them, each begun at the first cluster and, of neighbours equally near, going on to the one before in
+/// the chain, else to the first.
+Linkage linkage(const DistanceMatrix& distances, LinkageMethod method);
+
+/// The localities (from 0) that the tree of a map of `localities` leaves out.
+std::vector<int> leftOut(const Linkage& tree, int localities);
 
 /// The number (from 1) of each locality's group when the tree is cut into `groups`; 0 of a locality that is
 /// not in the tree. The numbers stay when there is one group more: of the group that parts the larger half
