@@ -40,6 +40,8 @@ struct DistanceMapSettings
     bool symbols = false;
     /// Whether the tree stands beside the groups.
     bool withDendrogram = false;
+
+    bool operator==(const DistanceMapSettings&) const = default;
 };
 
 /// What is found out of distances for a map of them; only what that map shows is filled.

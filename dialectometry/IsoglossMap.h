@@ -28,6 +28,8 @@ struct IsoglossStyle
     bool smooth = true;
     /// Whether the strongest borders of a bundle show their number of items.
     bool numbers = false;
+
+    bool operator==(const IsoglossStyle&) const = default;
 };
 
 /// Draws the isoglosses of one item: where all kinds change a full line, where some do a dashed one. The

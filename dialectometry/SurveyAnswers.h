@@ -26,6 +26,8 @@ struct AnswerRule
     /// Whether records mark the word forms that equal their kind also where the symbol file does not ask for
     /// it.
     bool wholeWordForms = false;
+
+    bool operator==(const AnswerRule&) const = default;
 };
 
 /// The answers to one item as localities are compared by them: each distinct one once.
