@@ -3,7 +3,8 @@
 #include "dialectometry/LocalityCells.h"
 #include "render/MapParts.h"
 
-/// What an area is painted with: a ground, and a pattern over it. 0 (fully transparent) is no colour.
+/// What an area is painted with: a ground, and over it a pattern of ink unless that is solid. 0 (fully
+/// transparent) is no ground.
 struct AreaFill
 {
     QRgb ground = 0;
@@ -19,6 +20,11 @@ enum class AreaLook { Colored, Hatched };
 
 /// The fill of what nothing is known of.
 AreaFill missingFill();
+/// Patterns of black for areas by number, from 0, the first ones the least alike; later ones have a grey
+/// ground.
+AreaFill hatchedFill(int number);
+/// `color` mixed with white: all of it by 0, white by 1.
+QRgb tint(QRgb color, double white);
 
 /// What maps of areas are drawn from: the base map and its cells, and what their texts are written with.
 struct AreaMapParts

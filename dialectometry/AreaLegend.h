@@ -20,7 +20,12 @@ struct AreaLegend
 {
     QString title;
     std::vector<AreaLegendRow> rows;
+    /// Of the symbols.
+    AreaLook look = AreaLook::Colored;
 };
+
+/// "caption (12)": a caption and how many localities it stands for.
+QString withCount(const QString& caption, std::ptrdiff_t count);
 
 /// Draws the legend where the map's captions stand, on a white ground, its rows in as many columns as the
 /// height of the map asks for.

@@ -15,6 +15,9 @@ struct CellBorder
     int right = Outside;
     /// From its start to its end, which are one point where the line goes around a cell.
     std::vector<QPointF> points;
+    /// Numbers of the first and the last point; lines that meet have one in common.
+    int start = 0;
+    int end = 0;
 
     static constexpr int Outside = -1;
 };
