@@ -88,7 +88,7 @@ void AtlasSurvey::forgetMap()
 {
     m_work.cancel();
     m_cells.reset();
-    m_found = {};
+    m_found = SurveyMap();
     m_source.items.clear();
     m_source.distancesFile.clear();
     m_settings.reference = 0;
@@ -105,7 +105,7 @@ const CellMap& AtlasSurvey::cellMap()
 
 AtlasSurvey::ItemMarks AtlasSurvey::marks() const
 {
-    if (m_source.distancesFile.isEmpty()) {
+    if (wanted().distancesFile.isEmpty()) {
         return {atlasItemMarks(m_varn), m_edits};
     }
     return {{{m_source.distancesFile, fileMark(m_varn, m_source.distancesFile)}}, 0};
@@ -151,6 +151,16 @@ void AtlasSurvey::findOut(QPromise<Outcome>& promise, const SurveyFiles& files, 
     promise.addResult(std::move(outcome));
 }
 
+/// Isoglosses are of items, not of distances.
+SurveySource AtlasSurvey::wanted() const
+{
+    SurveySource source = m_source;
+    if (m_kind == AtlasMapKind::Bundles) {
+        source.distancesFile.clear();
+    }
+    return source;
+}
+
 /// What is known of the same answers is kept.
 void AtlasSurvey::begin()
 {
@@ -161,11 +171,11 @@ void AtlasSurvey::begin()
         return;
     }
     ItemMarks now = marks();
-    const bool areSame = m_found.survey && m_found.survey->source == m_source && now == m_foundMarks;
+    const bool areSame = m_found.survey && m_found.survey->source == wanted() && now == m_foundMarks;
     m_marks = std::move(now);
     SurveyFiles source = files();
-    SurveyMap next{m_kind, m_cells, areSame ? m_found.survey : nullptr, m_settings, {}};
-    m_work.setFuture(QtConcurrent::run(findOut, std::move(source), std::move(next), m_source));
+    SurveyMap next{m_kind, m_cells, areSame ? m_found.survey : nullptr, m_settings, DistanceFindings()};
+    m_work.setFuture(QtConcurrent::run(findOut, std::move(source), std::move(next), wanted()));
     Q_EMIT progressed(0, 0);
 }
 
