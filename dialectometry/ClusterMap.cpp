@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <map>
 
 namespace {
 
@@ -71,20 +72,24 @@ int shareClass(double share)
                : std::clamp(static_cast<int>(std::ceil(share * ShareClasses)) - 1, 0, ShareClasses - 1);
 }
 
-/// The class of each border by the share of the first localities of its two cells.
-std::vector<int> shareClasses(const LocalityCells& cells, const DistanceMatrix& shares)
+/// The class of each border by the share of its two neighbours.
+std::vector<int> shareClasses(const LocalityCells& cells, std::span<const BorderShare> shares)
 {
+    std::map<LocalityPair, int> classOf;
+    for (const BorderShare& share : shares) {
+        classOf[std::minmax({share.neighbours.first, share.neighbours.second})] = shareClass(share.share);
+    }
     const auto first = [&cells](int cell) {
         return cells.localities[static_cast<std::size_t>(cell)].front();
     };
     std::vector<int> classes;
     for (const CellBorder& border : cells.borders) {
-        classes.push_back(NoLine);
-        if (border.left != CellBorder::Outside && border.right != CellBorder::Outside) {
-            const auto [a, b] = std::minmax({first(border.left), first(border.right)});
-            const bool known = b < shares.size() && shares.has(a, b);
-            classes.back() = known ? shareClass(shares(a, b)) : NoLine;
+        if (border.left == CellBorder::Outside || border.right == CellBorder::Outside) {
+            classes.push_back(NoLine);
+            continue;
         }
+        const auto known = classOf.find(std::minmax({first(border.left), first(border.right)}));
+        classes.push_back(known == classOf.end() ? NoLine : known->second);
     }
     return classes;
 }
@@ -100,13 +105,13 @@ std::vector<int> groupsOfCells(const LocalityCells& cells, std::span<const int> 
     return ofCell;
 }
 
-void drawBorders(const AreaMapParts& parts, std::span<const int> groups, const DistanceMatrix& shares,
+void drawBorders(const AreaMapParts& parts, std::span<const int> groups, std::span<const BorderShare> shares,
                  DrawSurface& target)
 {
     static const std::array Thin = {LinePen{qRgb(60, 60, 60), 1, PenStyle::Solid}};
 
     const MapGeometry& geometry = parts.base.geometry;
-    if (shares.size() == 0) {
+    if (shares.empty()) {
         const std::vector<int> between = bordersBetween(parts.cells, groupsOfCells(parts.cells, groups));
         drawCellLines(cellLines(parts.cells, between, geometry), Thin, target);
     } else {
@@ -144,7 +149,7 @@ void addShareRows(AreaLegend& legend)
 } // namespace
 
 void drawClusterMap(const AreaMapParts& parts, const QString& title, std::span<const int> groups,
-                    const DistanceMatrix& shares, const ClusterMapStyle& style, MapSurfaces surfaces)
+                    std::span<const BorderShare> shares, const ClusterMapStyle& style, MapSurfaces surfaces)
 {
     const FilledCells cells = filledCells(groups, style.look);
     drawFilledMap(parts, style.areas ? cells : FilledCells{}, surfaces);
@@ -153,7 +158,7 @@ void drawClusterMap(const AreaMapParts& parts, const QString& title, std::span<c
         drawSymbols(parts, groups, style.look, surfaces.DrawTarget);
     }
     AreaLegend legend = legendOf(title, groups, cells, style);
-    if (shares.size() > 0) {
+    if (!shares.empty()) {
         addShareRows(legend);
     }
     drawAreaLegend(parts, legend, surfaces);

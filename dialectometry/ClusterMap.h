@@ -1,7 +1,15 @@
 #pragma once
 
 #include "dialectometry/AreaFill.h"
-#include "dialectometry/DistanceMatrix.h"
+
+/// How often a border parts groups.
+struct BorderShare
+{
+    /// Two neighbours, as `neighbourPairs` gives them.
+    LocalityPair neighbours;
+    /// From 0 (never) to 1 (always).
+    double share = 0;
+};
 
 /// How groups of localities are drawn.
 struct ClusterMapStyle
@@ -14,8 +22,7 @@ struct ClusterMapStyle
 };
 
 /// Draws groups of localities. `groups` is the number (from 1) of the group of each locality (from 0), 0 of
-/// one that was left out, which is hatched; the legend tells their sizes. `shares` says of every two
-/// localities how often, from 0 to 1, a border parts them: the borders are the darker and wider the higher
-/// that is. Where it is of no locality, lines part the groups.
+/// one that was left out, which is hatched; the legend tells their sizes. `shares` are drawn as borders, the
+/// darker the higher; none where they are empty.
 void drawClusterMap(const AreaMapParts& parts, const QString& title, std::span<const int> groups,
-                    const DistanceMatrix& shares, const ClusterMapStyle& style, MapSurfaces surfaces);
+                    std::span<const BorderShare> shares, const ClusterMapStyle& style, MapSurfaces surfaces);
