@@ -6,8 +6,6 @@
 #include "lingdata/LocalityMismatch.h"
 #include "platform/FileName.h"
 
-#include <QDir>
-
 namespace {
 
 /// Adds the item and its name to the table.
@@ -54,20 +52,6 @@ void executeItem(const TableFile& file, const LinguisticData& item, int localiti
     const CumulativeTable before = data;
     countItem(item, localities, data);
     saveOrRestore(file, localities, before, data);
-}
-
-QStringList itemFiles(const DriveC& drive, const QString& folder)
-{
-    const QDir dir(drive.hostPath(folder));
-    if (!dir.exists()) {
-        throw RunTimeError(ErrorNumber::PathNotFound).at({folder});
-    }
-    QStringList paths;
-    for (const QString& name :
-         dir.entryList({ItemFiles.pattern()}, QDir::Files, QDir::Name | QDir::IgnoreCase)) {
-        paths << folder + QLatin1Char('\\') + name;
-    }
-    return paths;
 }
 
 AccumulationResult accumulateItems(const TableFile& file, const ItemsToCount& items, int localities,

@@ -18,10 +18,6 @@ struct TableFile
 /// saving raise; table and file are then as they were.
 void executeItem(const TableFile& file, const LinguisticData& item, int localities, CumulativeData& data);
 
-/// The paths of the items in `folder`, its `.dbs` files, in the order of their names. Raises path not found
-/// for a folder that is not there.
-QStringList itemFiles(const DriveC& drive, const QString& folder);
-
 /// Item files to count.
 struct ItemsToCount
 {

@@ -1,6 +1,7 @@
 #include "analysis/ExecuteCommands.h"
 
 #include "analysis/CumulativeFile.h"
+#include "lingdata/ItemFolder.h"
 #include "lingdata/LocalityMismatch.h"
 #include "platform/Dialogs.h"
 #include "platform/FileName.h"

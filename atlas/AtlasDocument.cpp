@@ -1,8 +1,8 @@
 #include "atlas/AtlasDocument.h"
 
 #include "atlas/ItemKey.h"
-#include "exchange/MadeSymbols.h"
 #include "platform/Numbers.h"
+#include "render/MadeSymbols.h"
 #include "shell/VarnModule.h"
 
 #include <QSet>

@@ -2,8 +2,8 @@
 
 #include "atlas/AtlasDocument.h"
 #include "atlas/ItemKey.h"
-#include "exchange/MadeSymbols.h"
 #include "lingdata/ItemLoader.h"
+#include "render/MadeSymbols.h"
 #include "shell/VarnModule.h"
 
 #include <utility>

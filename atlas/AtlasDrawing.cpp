@@ -83,13 +83,14 @@ public:
         return finished();
     }
 
-    AtlasDrawing otherMap(const std::function<void(MapSurfaces)>& draw)
+    AtlasDrawing otherMap(const OtherMap& map)
     {
         tryTo([&] {
             setScale();
-            draw(surfaces(m_area));
+            map.draw(m_parts, surfaces(m_area));
         });
-        return finished();
+        m_map.paper |= QRectF(QPointF(), map.paper);
+        return map.hasLocalities ? finished() : withoutLocalities();
     }
 
 private:
@@ -211,6 +212,11 @@ private:
             placeLocalities();
             drawLabels();
         });
+        return withoutLocalities();
+    }
+
+    AtlasDrawing withoutLocalities()
+    {
         m_map.drawing = m_surface.drawing();
         m_map.legendBox = drawnArea(m_map.drawing, m_map.legend.first, m_map.legend.end);
         return std::move(m_map);
@@ -245,8 +251,7 @@ AtlasDrawing drawAtlasMap(const LinguisticMapParts& parts, const AtlasMapStyle& 
     return drawWithExtent(parts, style, [](AtlasRecorder& recorder) { return recorder.linguisticMap(); });
 }
 
-AtlasDrawing drawOtherMap(const LinguisticMapParts& parts, const AtlasMapStyle& style,
-                          const std::function<void(MapSurfaces)>& draw)
+AtlasDrawing drawOtherMap(const LinguisticMapParts& parts, const AtlasMapStyle& style, const OtherMap& map)
 {
-    return drawWithExtent(parts, style, [&](AtlasRecorder& recorder) { return recorder.otherMap(draw); });
+    return drawWithExtent(parts, style, [&](AtlasRecorder& recorder) { return recorder.otherMap(map); });
 }

@@ -78,9 +78,22 @@ constexpr QPointF SampleMiddle(900, 900);
 /// be drawn is left out with the reason in `trouble`.
 AtlasDrawing drawAtlasMap(const LinguisticMapParts& parts, const AtlasMapStyle& style);
 
-/// Draws another map of `parts.base` by `draw`, which gets the surfaces; localities can be found on it, too.
-AtlasDrawing drawOtherMap(const LinguisticMapParts& parts, const AtlasMapStyle& style,
-                          const std::function<void(MapSurfaces)>& draw);
+/// A map or a plot in place of the linguistic map.
+struct OtherMap
+{
+    /// Draws it from the parts of the linguistic map.
+    std::function<void(const LinguisticMapParts&, MapSurfaces)> draw;
+    /// How large the paper is at least, in twips of the printed map.
+    QSizeF paper;
+    /// Whether it stands on the base map, so that localities can be found on it and labelled.
+    bool hasLocalities = true;
+    /// Whether it shows the item, so that what is wrong with that is wrong with the map.
+    bool isOfItem = false;
+    /// What is to be told of it; empty for nothing.
+    QString message;
+};
+
+AtlasDrawing drawOtherMap(const LinguisticMapParts& parts, const AtlasMapStyle& style, const OtherMap& map);
 
 /// What of a drawing is painted, and how.
 struct AtlasView

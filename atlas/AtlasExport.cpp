@@ -1,12 +1,12 @@
 #include "atlas/AtlasExport.h"
 
 #include "atlas/AtlasItem.h"
-#include "exchange/MadeSymbols.h"
 #include "platform/FileName.h"
 #include "platform/WholeFile.h"
 #include "plot/AtlasPdf.h"
 #include "render/BlankMap.h"
 #include "render/LinguisticMap.h"
+#include "render/MadeSymbols.h"
 #include "shell/VarnModule.h"
 
 #include <QFileInfo>

@@ -1,9 +1,10 @@
 #include "atlas/AtlasItem.h"
 
 #include "atlas/ItemKey.h"
+#include "lingdata/ItemFolder.h"
 #include "lingdata/ItemLoader.h"
-#include "lingdata/LinguisticFile.h"
 #include "platform/FileName.h"
+#include "platform/Folder.h"
 #include "symbols/SymbolFile.h"
 
 #include <QDir>
@@ -32,10 +33,10 @@ QByteArray markOf(const QFileInfo& file)
            QByteArray::number(file.lastModified().toMSecsSinceEpoch());
 }
 
-QFileInfoList filesOf(const Folders& folders, const FileKind& kind)
+QFileInfoList symbolFiles(const Folders& folders)
 {
     const QDir folder(folders.Drive.hostPath(folders.dataFolder()));
-    return folder.entryInfoList({kind.pattern()}, QDir::Files, QDir::Name);
+    return folder.entryInfoList({SymbolFiles.pattern()}, QDir::Files);
 }
 
 } // namespace
@@ -72,23 +73,20 @@ QString AtlasItem::name() const
 
 QStringList atlasItemPaths(const Folders& folders)
 {
-    QStringList paths;
-    for (const QFileInfo& file : filesOf(folders, ItemFiles)) {
-        paths << folders.dataFolder() + QLatin1Char('\\') + file.fileName();
-    }
-    return paths;
+    const QString folder = folders.dataFolder();
+    return folderExists(folders.Drive, folder) ? itemFiles(folders.Drive, folder) : QStringList();
 }
 
 std::vector<std::pair<QString, QByteArray>> atlasItemMarks(const Folders& folders)
 {
     QHash<QString, QByteArray> symbols;
-    for (const QFileInfo& file : filesOf(folders, SymbolFiles)) {
+    for (const QFileInfo& file : symbolFiles(folders)) {
         symbols.insert(itemKey(file.fileName()), markOf(file));
     }
     std::vector<std::pair<QString, QByteArray>> marks;
-    for (const QFileInfo& file : filesOf(folders, ItemFiles)) {
-        const QString path = folders.dataFolder() + QLatin1Char('\\') + file.fileName();
-        marks.emplace_back(path, markOf(file) + '/' + symbols.value(itemKey(fileNameOf(symbolPathOf(path)))));
+    for (const QString& path : atlasItemPaths(folders)) {
+        marks.emplace_back(path, fileMark(folders, path) + '/' +
+                                     symbols.value(itemKey(fileNameOf(symbolPathOf(path)))));
     }
     return marks;
 }

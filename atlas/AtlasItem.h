@@ -35,7 +35,7 @@ struct AtlasItem
 QStringList atlasItemPaths(const Folders& folders);
 
 /// The same items with marks of what their files hold: `fileMark` of the item, a slash, and that of the
-/// symbol file that belongs to it. The folder is read once.
+/// symbol file that belongs to it.
 std::vector<std::pair<QString, QByteArray>> atlasItemMarks(const Folders& folders);
 
 /// Reads the item at `path` for the list. An item that cannot be read has its reason in it.

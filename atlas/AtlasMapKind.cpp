@@ -22,25 +22,71 @@ DiffusionGraph graphOf(AtlasMapKind kind)
 
 } // namespace
 
-QString nameOf(AtlasMapKind kind)
+bool isOfItem(AtlasMapKind kind)
+{
+    return kind == AtlasMapKind::Linguistic || kind == AtlasMapKind::Areas ||
+           kind == AtlasMapKind::Isoglosses;
+}
+
+bool isOfTable(AtlasMapKind kind)
+{
+    return !isOfItem(kind) && !isOfSurvey(kind);
+}
+
+bool isOfSurvey(AtlasMapKind kind)
+{
+    return kind >= AtlasMapKind::Bundles;
+}
+
+bool isPlot(AtlasMapKind kind)
+{
+    return kind == AtlasMapKind::Dendrogram || kind == AtlasMapKind::ScalingPlot ||
+           kind == AtlasMapKind::LengthPlot;
+}
+
+std::optional<DistanceMapKind> distanceMap(AtlasMapKind kind)
 {
     switch (kind) {
-    case AtlasMapKind::Linguistic:
-        return QStringLiteral("Linguistic Map");
-    case AtlasMapKind::Bars:
-        return QStringLiteral("Bars of One Word Form");
-    case AtlasMapKind::LayeredBars:
-        return QStringLiteral("Bars of All Word Forms");
-    case AtlasMapKind::Circles:
-        return QStringLiteral("Circles of One Word Form");
-    case AtlasMapKind::LayeredCircles:
-        return QStringLiteral("Circles of All Word Forms");
-    case AtlasMapKind::Symbols:
-        return QStringLiteral("Symbols of All Word Forms");
-    case AtlasMapKind::Contrast:
-        return QStringLiteral("Contrast Map");
+    case AtlasMapKind::Reference:
+        return DistanceMapKind::Reference;
+    case AtlasMapKind::Beams:
+        return DistanceMapKind::Beams;
+    case AtlasMapKind::Clusters:
+        return DistanceMapKind::Clusters;
+    case AtlasMapKind::Dendrogram:
+        return DistanceMapKind::Dendrogram;
+    case AtlasMapKind::Scaling:
+        return DistanceMapKind::Scaling;
+    case AtlasMapKind::ScalingPlot:
+        return DistanceMapKind::ScalingPlot;
+    case AtlasMapKind::LengthPlot:
+        return DistanceMapKind::LengthPlot;
+    default:
+        return std::nullopt;
     }
-    return {};
+}
+
+QString nameOf(AtlasMapKind kind)
+{
+    constexpr std::array Names = {"Linguistic Map",
+                                  "Areas of the Item",
+                                  "Isoglosses of the Item",
+                                  "Bars of One Word Form",
+                                  "Bars of All Word Forms",
+                                  "Circles of One Word Form",
+                                  "Circles of All Word Forms",
+                                  "Symbols of All Word Forms",
+                                  "Contrast Map",
+                                  "Isoglosses of Many Items",
+                                  "Distances to a Locality",
+                                  "Beams between Neighbours",
+                                  "Groups of Localities",
+                                  "Tree of Localities",
+                                  "Colours by Scaling",
+                                  "Plot by Scaling",
+                                  "Distances and Kilometres"};
+    static_assert(Names.size() == AtlasMapKinds.size());
+    return QLatin1String(Names.at(static_cast<std::size_t>(kind)));
 }
 
 bool showsOneWordForm(AtlasMapKind kind)
@@ -50,22 +96,22 @@ bool showsOneWordForm(AtlasMapKind kind)
 
 bool canDraw(AtlasMapKind kind, const VarnModule& varn)
 {
-    switch (kind) {
-    case AtlasMapKind::Linguistic:
-        return true;
-    case AtlasMapKind::Symbols:
-        return varn.NumWordforms > 0 && varn.NDiffusion > 0;
-    case AtlasMapKind::Contrast:
-        return varn.ContrastAnalysed;
-    default:
-        return varn.NumWordforms > 0;
+    if (!isOfTable(kind)) {
+        return isOfItem(kind) || varn.NLocality > 0;
     }
+    if (kind == AtlasMapKind::Contrast) {
+        return varn.ContrastAnalysed;
+    }
+    return varn.NumWordforms > 0 && (kind != AtlasMapKind::Symbols || varn.NDiffusion > 0);
 }
 
 QString howToHave(AtlasMapKind kind, const VarnModule& varn)
 {
     if (canDraw(kind, varn)) {
         return {};
+    }
+    if (isOfSurvey(kind)) {
+        return QStringLiteral("Open a map first.");
     }
     if (kind == AtlasMapKind::Contrast) {
         return QStringLiteral("Execute a contrast analysis first: Accumulate Data.");

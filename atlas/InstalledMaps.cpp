@@ -1,6 +1,6 @@
 #include "atlas/InstalledMaps.h"
 
-#include "lingdata/LinguisticFile.h"
+#include "atlas/AtlasItem.h"
 #include "mapdata/MapSearch.h"
 
 #include <QDir>
@@ -14,8 +14,7 @@ InstalledMap describe(const Folders& installation, const QString& name)
     Folders folders = installation;
     folders.VarnMapName = QLatin1Char('\\') + name;
     fixLingFolder(folders);
-    const QDir items(folders.Drive.hostPath(folders.dataFolder()));
-    map.items = static_cast<int>(items.entryList({ItemFiles.pattern()}, QDir::Files).size());
+    map.items = static_cast<int>(atlasItemPaths(folders).size());
     try {
         BaseMap loaded;
         chooseMap({folders.VarnPath, folders.VarnMapName}, folders, loaded);

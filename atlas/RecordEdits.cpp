@@ -1,10 +1,10 @@
 #include "atlas/RecordEdits.h"
 
 #include "atlas/AtlasPage.h"
-#include "exchange/LegendText.h"
-#include "exchange/MadeSymbols.h"
-#include "exchange/SymbolPalette.h"
+#include "render/LegendText.h"
+#include "render/MadeSymbols.h"
 #include "symbols/SymbolEditor.h"
+#include "symbols/SymbolPalette.h"
 
 #include <algorithm>
 #include <vector>

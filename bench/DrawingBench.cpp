@@ -115,6 +115,7 @@ public:
     }
     void operator()(const TextOperation& /*text*/) {}
     void operator()(const PictureOperation& /*picture*/) {}
+    void operator()(const AreaOperation& /*area*/) {}
 
     std::vector<QPen> pens;
     std::vector<Primitive> list;

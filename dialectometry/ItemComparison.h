@@ -28,6 +28,8 @@ struct DistanceSettings
     DistanceMeasure measure = DistanceMeasure::RelativeIdentity;
     /// Whether vowels never stand against consonants in an alignment.
     bool vowelsApart = false;
+
+    bool operator==(const DistanceSettings&) const = default;
 };
 
 /// How two localities differ in one item, or in all so far: `difference` of at most `weight`. They have no

@@ -10,6 +10,8 @@ struct NoiseSettings
     double noise = 0.5;
     int runs = 100;
     std::uint64_t seed = 1;
+
+    bool operator==(const NoiseSettings&) const = default;
 };
 
 /// For each pair of localities the share, 0 to 1, of the runs in which they fall into different groups, when

@@ -1,28 +1,11 @@
 #pragma once
 
-#include <QPolygonF>
-#include <QRectF>
-#include <QString>
-
-#include <vector>
+#include "geodata/BaseLine.h"
 
 class MapFrame;
-
-/// What a line of a base map stands for; also the code that it carries in the map's file.
-enum class BaseLineKind { NeatLine, Coast, Border, River, Lake };
-
-/// A line of a base map, in map units.
-struct BaseLine
-{
-    BaseLineKind kind = BaseLineKind::Coast;
-    QPolygonF points;
-};
 
 /// The lines of the layers at `path`, a file that GDAL opens, as far as they lie in the map and not in the
 /// room of its legend; lines of a kind that meet end to end are joined. The outlines of areas are lines, and
 /// points are passed over. What a line stands for is told by the name of the layer, the feature or the file,
 /// and is else a coast. Raises file not found, and type mismatch for a file that is no layer.
 std::vector<BaseLine> readBaseLines(const QString& path, const MapFrame& frame, const QRectF& legend);
-
-/// The line without the points that a person would not miss: none moves by more than `tolerance` map units.
-QPolygonF simplified(const QPolygonF& line, double tolerance);

@@ -1,6 +1,7 @@
 #include "exchange/BaseMapMaker.h"
 
 #include "exchange/MapFrame.h"
+#include "geodata/GeoData.h"
 
 #include <QLineF>
 
@@ -52,7 +53,7 @@ std::vector<BaseLine> simplifiedLines(const std::vector<BaseLine>& lines, double
 {
     std::vector<BaseLine> simple;
     for (const BaseLine& line : lines) {
-        if (QPolygonF points = simplified(line.points, tolerance); points.size() >= 2) {
+        if (QPolygonF points = geoData().simplified(line.points, tolerance); points.size() >= 2) {
             simple.push_back({line.kind, std::move(points)});
         }
     }

@@ -1,6 +1,6 @@
 #include "exchange/CldfMetadata.h"
 
-#include "exchange/GdalLayer.h"
+#include "geodata/GeoData.h"
 #include "platform/RunTimeError.h"
 
 #include <QDir>
@@ -10,7 +10,6 @@
 #include <QJsonObject>
 
 #include <algorithm>
-#include <cpl_vsi.h>
 
 namespace {
 
@@ -41,18 +40,12 @@ CldfColumn columnIn(const QJsonObject& column)
             column[QLatin1String("separator")].toString(), texts(column[QLatin1String("null")])};
 }
 
-bool isFile(const QString& path)
-{
-    VSIStatBufL status;
-    return VSIStatExL(path.toUtf8().constData(), &status, VSI_STAT_EXISTS_FLAG) == 0;
-}
-
 /// The file of a table, which may be kept zipped under its name with ".zip".
 QString tablePath(const QString& folder, const QString& url)
 {
     const QString path = folder + QLatin1Char('/') + url;
     const QString zip = path + QStringLiteral(".zip");
-    return !isFile(path) && isFile(zip)
+    return !geoData().isFile(path) && geoData().isFile(zip)
                ? QStringLiteral("/vsizip/") + zip + QLatin1Char('/') + QFileInfo(url).fileName()
                : path;
 }
@@ -76,7 +69,7 @@ bool isMetadataName(const QString& path)
 /// Raises type mismatch for metadata that are no sound JSON; another file may be anything.
 QJsonObject jsonIn(const QString& path)
 {
-    const QByteArray bytes = readGdalFile(path);
+    const QByteArray bytes = geoData().readFile(path);
     QJsonParseError error;
     const QJsonDocument json = QJsonDocument::fromJson(bytes, &error);
     if (error.error != QJsonParseError::NoError && isMetadataName(path)) {
@@ -114,7 +107,7 @@ QStringList candidates(const QString& path)
             }
         }
     } else if (path.endsWith(QLatin1String(".zip"), Qt::CaseInsensitive)) {
-        paths = filesInZip(path);
+        paths = geoData().filesInZip(path);
     } else if (path.endsWith(QLatin1String(".json"), Qt::CaseInsensitive)) {
         return {path};
     }

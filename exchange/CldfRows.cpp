@@ -1,13 +1,10 @@
 #include "exchange/CldfRows.h"
 
-#include "exchange/GdalLayer.h"
+#include "geodata/GeoData.h"
 
 #include <QUtf8StringView>
 
 #include <algorithm>
-#include <array>
-#include <cpl_string.h>
-#include <ogrsf_frmts.h>
 
 namespace {
 
@@ -32,7 +29,7 @@ QByteArray soundBytes(const CldfTable& table)
 {
     QByteArray bytes;
     try {
-        bytes = readGdalFile(table.path);
+        bytes = geoData().readFile(table.path);
     } catch (const RunTimeError& error) {
         throw error.during(QStringLiteral("The metadata name this file as the %1.").arg(table.term));
     }
@@ -51,22 +48,6 @@ QByteArray soundBytes(const CldfTable& table)
     return bytes;
 }
 
-/// Its delimiter is found by the headings.
-GdalDataset openTable(const MemoryFile& file, const CldfTable& table)
-{
-    CPLStringList options;
-    options.SetNameValue("HEADERS", "YES");
-    constexpr std::array<const char*, 2> Drivers{"CSV", nullptr};
-    GdalDataset dataset(GDALDataset::Open(file.path().toUtf8().constData(), GDAL_OF_VECTOR | GDAL_OF_READONLY,
-                                          Drivers.data(), options.List()));
-    if (!dataset || dataset->GetLayerCount() == 0) {
-        throw RunTimeError(ErrorNumber::TypeMismatch,
-                           QStringLiteral("It is empty, or no table with headings. ") + gdalError())
-            .at({table.path});
-    }
-    return dataset;
-}
-
 void requireTerm(const CldfTable& table, const char* term)
 {
     if (!table.find(QLatin1String(term))) {
@@ -78,26 +59,27 @@ void requireTerm(const CldfTable& table, const char* term)
     }
 }
 
-QStringList headingsOf(OGRLayer& layer)
-{
-    QStringList headings;
-    const OGRFeatureDefn& row = *layer.GetLayerDefn();
-    for (int column = 0; column < row.GetFieldCount(); ++column) {
-        headings << QString::fromUtf8(row.GetFieldDefn(column)->GetNameRef());
-    }
-    return headings;
-}
-
 } // namespace
 
 CldfRows::CldfRows(const CldfTable& table, std::initializer_list<const char*> required,
                    std::initializer_list<const char*> optional)
 {
-    const GdalScope scope;
-    const MemoryFile file(QStringLiteral("table.csv"), soundBytes(table));
-    const GdalDataset dataset = openTable(file, table);
-    OGRLayer& layer = *dataset->GetLayer(0);
-    m_table = {table.path, 1, headingsOf(layer), {}};
+    m_table = {table.path, 1, {}, {}};
+    const auto choose = [&](const QStringList& headings) {
+        m_table.headings = headings;
+        return addColumns(table, required, optional);
+    };
+    const QByteArray bytes = soundBytes(table);
+    try {
+        m_table.rows = geoData().csvRows(bytes, choose);
+    } catch (const RunTimeError& error) {
+        throw error.hasPlace() ? error : error.at({table.path});
+    }
+}
+
+std::vector<int> CldfRows::addColumns(const CldfTable& table, std::initializer_list<const char*> required,
+                                      std::initializer_list<const char*> optional)
+{
     for (const char* term : required) {
         requireTerm(table, term);
         addColumn(table, term);
@@ -107,13 +89,11 @@ CldfRows::CldfRows(const CldfTable& table, std::initializer_list<const char*> re
             addColumn(table, term);
         }
     }
-    for (const OGRFeatureUniquePtr& feature : layer) {
-        TableRow row{static_cast<int>(feature->GetFID()) + 1, QStringList(m_table.headings.size())};
-        for (const Column& column : m_columns) {
-            row.cells[column.number] = QString::fromUtf8(feature->GetFieldAsString(column.number));
-        }
-        m_table.rows.push_back(std::move(row));
+    std::vector<int> numbers;
+    for (const Column& column : m_columns) {
+        numbers.push_back(column.number);
     }
+    return numbers;
 }
 
 void CldfRows::addColumn(const CldfTable& table, const char* term)

@@ -32,6 +32,9 @@ private:
         int number = 0;
     };
 
+    /// Adds the columns of these terms; returns their numbers.
+    std::vector<int> addColumns(const CldfTable& table, std::initializer_list<const char*> required,
+                                std::initializer_list<const char*> optional);
     void addColumn(const CldfTable& table, const char* term);
     const Column* find(std::string_view term) const;
 

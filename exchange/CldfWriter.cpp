@@ -1,7 +1,7 @@
 #include "exchange/CldfWriter.h"
 
 #include "exchange/Degrees.h"
-#include "exchange/LayerWriter.h"
+#include "geodata/GeoData.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -159,7 +159,7 @@ QByteArray tableBytes(const Table& table)
     for (const Column& column : table.columns) {
         layer.headings << QLatin1String(column.name);
     }
-    return writtenLayer(layer, QLatin1String(table.term), LayerFormat::Csv);
+    return geoData().writtenLayer(layer, QLatin1String(table.term), LayerFormat::Csv);
 }
 
 } // namespace

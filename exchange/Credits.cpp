@@ -1,38 +1,31 @@
 #include "exchange/Credits.h"
 
-#include <QRegularExpression>
-#include <QtGlobal>
+#include "geodata/GeoData.h"
+#include "platform/RunTimeError.h"
 
-#include <gdal.h>
-#include <ogr_srs_api.h>
+#include <QtGlobal>
 
 namespace {
 
-QString projVersion()
+/// Versions are not known where the module is missing.
+GeoData::Versions geoVersions()
 {
-    int major = 0;
-    int minor = 0;
-    int patch = 0;
-    OSRGetPROJVersion(&major, &minor, &patch);
-    return QStringLiteral("%1.%2.%3").arg(major).arg(minor).arg(patch);
+    try {
+        return geoData().versions();
+    } catch (const RunTimeError&) {
+        return {};
+    }
 }
 
-/// GDAL says with which GEOS it was built; empty where it was built without.
-QString geosVersion()
-{
-    static const QRegularExpression Line(QStringLiteral("GEOS_VERSION=([\\d.]+)"));
-    return Line.match(QString::fromUtf8(GDALVersionInfo("BUILD_INFO"))).captured(1);
-}
-
-std::vector<Credit> libraries()
+std::vector<Credit> libraries(const GeoData::Versions& versions)
 {
     return {{QStringLiteral("Qt"), QString::fromLatin1(qVersion()),
              QStringLiteral("The Qt Company Ltd. and other contributors"), QStringLiteral("GNU LGPL 3"),
              QStringLiteral("https://www.qt.io"), QStringLiteral("windows, drawing and printing")},
-            {QStringLiteral("GDAL"), QString::fromUtf8(GDALVersionInfo("RELEASE_NAME")),
+            {QStringLiteral("GDAL"), versions.gdal,
              QStringLiteral("Frank Warmerdam, Even Rouault and other contributors"), QStringLiteral("MIT"),
              QStringLiteral("https://gdal.org"), QStringLiteral("tables and layers in and out")},
-            {QStringLiteral("PROJ"), projVersion(),
+            {QStringLiteral("PROJ"), versions.proj,
              QStringLiteral("Gerald Evenden, Frank Warmerdam and other contributors"), QStringLiteral("MIT"),
              QStringLiteral("https://proj.org"), QStringLiteral("map projections, through GDAL")},
             {QStringLiteral("qpdf"), QString(), QStringLiteral("Jay Berkenbilt and other contributors"),
@@ -64,9 +57,10 @@ QString lineOf(const Credit& credit)
 
 std::vector<Credit> credits()
 {
-    std::vector<Credit> all = libraries();
-    if (const QString version = geosVersion(); !version.isEmpty()) {
-        all.push_back({QStringLiteral("GEOS"), version, QStringLiteral("GEOS contributors"),
+    const GeoData::Versions versions = geoVersions();
+    std::vector<Credit> all = libraries(versions);
+    if (!versions.geos.isEmpty()) {
+        all.push_back({QStringLiteral("GEOS"), versions.geos, QStringLiteral("GEOS contributors"),
                        QStringLiteral("GNU LGPL 2.1"), QStringLiteral("https://libgeos.org"),
                        QStringLiteral("geometry, through GDAL")});
     }

@@ -1,12 +1,11 @@
 #include "exchange/LayerFiles.h"
 
 #include "exchange/CldfSource.h"
-#include "exchange/GdalLayer.h"
+#include "geodata/GeoData.h"
 #include "platform/RunTimeError.h"
 
 #include <algorithm>
 #include <array>
-#include <ogrsf_frmts.h>
 
 namespace {
 
@@ -22,21 +21,6 @@ bool hasLayerEnding(const QString& path)
 bool isZip(const QString& path)
 {
     return path.endsWith(QLatin1String(".zip"), Qt::CaseInsensitive);
-}
-
-bool holdsLines(const QString& file)
-{
-    const GdalScope scope;
-    const GdalDataset dataset = openDataset(file);
-    for (OGRLayer* layer : dataset->GetLayers()) {
-        for (const OGRFeatureUniquePtr& feature : *layer) {
-            const OGRGeometry* geometry = feature->GetGeometryRef();
-            if (geometry && !geometry->IsEmpty() && geometry->getDimension() > 0) {
-                return true;
-            }
-        }
-    }
-    return false;
 }
 
 bool isCldfOrBroken(const QString& path)
@@ -71,7 +55,7 @@ QStringList layerFiles(const QString& path)
     if (!isZip(path)) {
         return {path};
     }
-    QStringList files = filesInZip(path);
+    QStringList files = geoData().filesInZip(path);
     files.removeIf([](const QString& file) { return !hasLayerEnding(file); });
     return files;
 }
@@ -79,6 +63,6 @@ QStringList layerFiles(const QString& path)
 QStringList baseMapLayersOf(const QString& path)
 {
     QStringList files = layerFiles(path);
-    files.removeIf([](const QString& file) { return !holdsLines(file); });
+    files.removeIf([](const QString& file) { return !geoData().holdsLines(file); });
     return files;
 }

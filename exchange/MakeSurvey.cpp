@@ -2,12 +2,12 @@
 
 #include "exchange/ItemFileNames.h"
 #include "exchange/LegendPlace.h"
-#include "exchange/LegendText.h"
-#include "exchange/MadeSymbols.h"
 #include "exchange/NewMap.h"
 #include "exchange/SurveyLimits.h"
 #include "lingdata/LinguisticData.h"
 #include "mapdata/MapFiles.h"
+#include "render/LegendText.h"
+#include "render/MadeSymbols.h"
 
 #include <utility>
 

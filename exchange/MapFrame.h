@@ -1,10 +1,10 @@
 #pragma once
 
-#include <QPointF>
+#include "geodata/Projection.h"
+
 #include <QString>
 
 #include <memory>
-#include <optional>
 
 /// The way from a survey's coordinates (degrees east and north, or the x and y of a plane) to a plane and
 /// back: a pipeline as PROJ takes it. In a new map the plane is the map's own, x 0 to `Width` and y 0 to
@@ -29,9 +29,7 @@ public:
     std::optional<QPointF> toSource(QPointF map) const;
 
 private:
-    struct Transformations;
-
     QString m_pipeline;
     bool m_plane;
-    std::shared_ptr<const Transformations> m_ways;
+    std::shared_ptr<const Projection> m_projection;
 };

@@ -1,15 +1,11 @@
 #include "exchange/SourceTable.h"
 
-#include "exchange/GdalLayer.h"
 #include "exchange/TextTable.h"
+#include "geodata/GeoData.h"
 
 #include <QFileInfo>
 
 #include <algorithm>
-#include <array>
-#include <cpl_conv.h>
-#include <ogrsf_frmts.h>
-#include <utility>
 
 namespace {
 
@@ -40,46 +36,13 @@ bool isZip(const QString& path)
 /// The first table in a zip.
 QString tableInZip(const QString& zip)
 {
-    const QStringList files = filesInZip(zip);
+    const QStringList files = geoData().filesInZip(zip);
     const auto table =
         std::ranges::find_if(files, [](const QString& file) { return isText(file) || isSpreadsheet(file); });
     if (table == files.end()) {
         throw RunTimeError(ErrorNumber::TypeMismatch, QStringLiteral("There is no table in it.")).at({zip});
     }
     return *table;
-}
-
-std::vector<TableRow> sheetRows(OGRLayer& sheet)
-{
-    std::vector<TableRow> rows;
-    for (const OGRFeatureUniquePtr& feature : sheet) {
-        TableRow row{static_cast<int>(feature->GetFID()), {}};
-        for (int column = 0; column < feature->GetFieldCount(); ++column) {
-            row.cells << QString::fromUtf8(feature->GetFieldAsString(column)).trimmed();
-        }
-        rows.push_back(std::move(row));
-    }
-    return rows;
-}
-
-/// The rows of the first sheet that has any, every cell as text.
-std::vector<TableRow> spreadsheetRows(const QString& path)
-{
-    constexpr std::array settings = {
-        std::pair("OGR_XLSX_HEADERS", "DISABLE"), std::pair("OGR_ODS_HEADERS", "DISABLE"),
-        std::pair("OGR_XLSX_FIELD_TYPES", "STRING"), std::pair("OGR_ODS_FIELD_TYPES", "STRING")};
-    std::vector<std::unique_ptr<CPLConfigOptionSetter>> set;
-    set.reserve(settings.size());
-    for (const auto& [key, value] : settings) {
-        set.push_back(std::make_unique<CPLConfigOptionSetter>(key, value, false));
-    }
-    const GdalDataset book = openDataset(path, {"XLSX", "ODS"});
-    for (OGRLayer* sheet : book->GetLayers()) {
-        if (std::vector<TableRow> rows = sheetRows(*sheet); !rows.empty()) {
-            return rows;
-        }
-    }
-    return {};
 }
 
 qsizetype filledCells(const TableRow& row)
@@ -145,10 +108,10 @@ RunTimeError SourceTable::errorAt(const TableRow& row, int column, const QString
 SourceTable readTable(const QString& path)
 {
     const QString file = isZip(path) ? tableInZip(path) : path;
-    const QByteArray bytes = isSpreadsheet(file) ? QByteArray() : readGdalFile(file);
+    const QByteArray bytes = isSpreadsheet(file) ? QByteArray() : geoData().readFile(file);
     std::vector<TableRow> rows;
     try {
-        rows = isSpreadsheet(file) ? spreadsheetRows(file) : textTableRows(bytes);
+        rows = isSpreadsheet(file) ? geoData().spreadsheetRows(file) : textTableRows(bytes);
     } catch (const RunTimeError& error) {
         throw error.at({path});
     }

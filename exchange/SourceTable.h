@@ -1,20 +1,12 @@
 #pragma once
 
+#include "geodata/TableRow.h"
 #include "platform/RunTimeError.h"
 
 #include <QString>
 #include <QStringList>
 
 #include <vector>
-
-/// A row of a table.
-struct TableRow
-{
-    /// Its number as a spreadsheet or an editor shows it, from 1.
-    int number = 0;
-    /// As many as the table has headings, without blanks around them.
-    QStringList cells;
-};
 
 /// A table as text: its headings and its rows.
 struct SourceTable

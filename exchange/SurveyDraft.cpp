@@ -1,9 +1,9 @@
 #include "exchange/SurveyDraft.h"
 
 #include "exchange/DraftFault.h"
-#include "exchange/MadeSymbols.h"
 #include "exchange/MakeSurvey.h"
 #include "exchange/WriteSurvey.h"
+#include "render/MadeSymbols.h"
 
 #include <QDir>
 #include <QFileInfo>

@@ -2,8 +2,8 @@
 
 #include "exchange/CldfWriter.h"
 #include "exchange/Degrees.h"
-#include "exchange/LayerWriter.h"
 #include "exchange/StoredSurvey.h"
+#include "geodata/GeoData.h"
 #include "platform/RunTimeError.h"
 #include "platform/WholeFile.h"
 
@@ -151,7 +151,7 @@ std::optional<ImportReport> exportSurvey(const Folders& folders, const QString& 
     if (const std::optional<LayerFormat> format = formatOf(output)) {
         tellPartedAnswers(*survey);
         const QString name = QFileInfo(output).completeBaseName();
-        replaceHostFile(output, output, writtenLayer(wideLayer(*survey, *format), name, *format));
+        replaceHostFile(output, output, geoData().writtenLayer(wideLayer(*survey, *format), name, *format));
     } else {
         writeFolder(output, writtenCldf(*survey));
     }

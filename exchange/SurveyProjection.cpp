@@ -1,15 +1,13 @@
 #include "exchange/SurveyProjection.h"
 
-#include "exchange/GdalScope.h"
 #include "exchange/MapFrame.h"
+#include "geodata/GeoData.h"
 #include "platform/RunTimeError.h"
 
 #include <QPolygonF>
 #include <QtMath>
 
 #include <cmath>
-#include <cpl_conv.h>
-#include <ogr_spatialref.h>
 
 namespace {
 
@@ -68,17 +66,11 @@ QPointF centreOf(const std::vector<SourceLocality>& localities)
 
 QString registered(const QString& code)
 {
-    const GdalScope gdal;
-    OGRSpatialReference system;
-    char* text = nullptr;
-    const bool known = system.SetFromUserInput(code.toUtf8().constData()) == OGRERR_NONE &&
-                       system.IsProjected() && system.exportToProj4(&text) == OGRERR_NONE;
-    QString projection = QString::fromUtf8(text);
-    CPLFree(text);
-    if (!known) {
+    const std::optional<QString> projection = geoData().registeredProjection(code);
+    if (!projection) {
         raiseUnknown(code);
     }
-    return projection;
+    return *projection;
 }
 
 } // namespace

@@ -1,13 +1,13 @@
 #include "exchange/TextTable.h"
 
-#include "exchange/GdalLayer.h"
+#include "geodata/GeoData.h"
 #include "platform/TextEncoding.h"
 
 #include <algorithm>
 #include <array>
-#include <cpl_conv.h>
 #include <map>
-#include <ogrsf_frmts.h>
+#include <numeric>
+#include <utility>
 
 namespace {
 
@@ -105,19 +105,21 @@ QByteArray numberedText(const std::vector<Record>& records, QChar separator)
     return text.toUtf8() + '\n';
 }
 
-std::vector<TableRow> rowsOf(OGRLayer& layer)
+/// A row as it was before it was numbered.
+TableRow sourceRow(TableRow row)
 {
-    std::vector<TableRow> rows;
-    for (const OGRFeatureUniquePtr& feature : layer) {
-        TableRow row{feature->GetFieldAsInteger(0), {}};
-        for (int column = 1; column < feature->GetFieldCount(); ++column) {
-            row.cells << QString::fromUtf8(feature->GetFieldAsString(column))
-                             .replace(LiteralQuote, Quote)
-                             .trimmed();
-        }
-        rows.push_back(std::move(row));
+    row.number = row.cells.takeFirst().toInt();
+    for (QString& cell : row.cells) {
+        cell = cell.replace(LiteralQuote, Quote).trimmed();
     }
-    return rows;
+    return row;
+}
+
+std::vector<int> allColumns(const QStringList& headings)
+{
+    std::vector<int> columns(static_cast<std::size_t>(headings.size()));
+    std::iota(columns.begin(), columns.end(), 0);
+    return columns;
 }
 
 } // namespace
@@ -130,8 +132,7 @@ std::vector<TableRow> textTableRows(const QByteArray& bytes)
         text.replace(Quote, LiteralQuote);
     }
     const std::vector<Record> records = recordsOf(text);
-    const CPLConfigOptionSetter anyWidth("OGR_CSV_MAX_FIELD_COUNT", "100000", false);
-    const MemoryFile file(QStringLiteral("table.csv"), numberedText(records, separatorOf(records)));
-    const GdalDataset table = openDataset(file.path(), {"CSV"});
-    return rowsOf(*table->GetLayer(0));
+    std::vector<TableRow> rows = geoData().csvRows(numberedText(records, separatorOf(records)), allColumns);
+    std::ranges::transform(rows, rows.begin(), [](TableRow& row) { return sourceRow(std::move(row)); });
+    return rows;
 }

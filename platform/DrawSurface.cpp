@@ -141,6 +141,24 @@ void DrawSurface::Arc(float x, float y, float radius, QRgb color, float start, f
                      axes.height, from, to < from ? to - from + FullTurn : to - from, start < 0, end < 0});
 }
 
+void DrawSurface::Area(const Rings& rings, QRgb color, FillPattern pattern)
+{
+    const std::size_t firstRing = m_drawing.rings.size();
+    for (const Ring& ring : rings) {
+        if (ring.size() >= 3) {
+            m_drawing.rings.push_back({m_drawing.points.size(), ring.size()});
+            for (const QPointF point : ring) {
+                m_drawing.points.emplace_back(point.x() - ScaleLeft, point.y() - ScaleTop);
+            }
+        }
+    }
+    if (m_drawing.rings.size() > firstRing) {
+        m_drawing.operations.emplace_back(AreaOperation{drawsLines() ? currentPen(color) : -1, currentFill(),
+                                                        pattern, firstRing,
+                                                        m_drawing.rings.size() - firstRing});
+    }
+}
+
 void DrawSurface::Print(const QString& text, LineEnd lineEnd)
 {
     const QString line = onOneLine(text);

@@ -36,7 +36,7 @@ public:
     int DrawWidth = 1;
     /// Style of lines and outlines.
     PenStyle DrawStyle = PenStyle::Solid;
-    /// Whether boxes, circles and slices are filled with `FillColor`.
+    /// Whether boxes, circles, slices and areas are filled with `FillColor`.
     Fill FillStyle = Fill::Transparent;
     QRgb FillColor = qRgb(0, 0, 0);
     /// Colour of texts.
@@ -66,6 +66,10 @@ public:
     /// An arc of that circle from `start` to `end`, radians counter-clockwise from three o'clock. A negative
     /// angle draws its radius too; two negative angles make a slice, filled as the fill style says.
     void Arc(float x, float y, float radius, QRgb color, float start, float end, float aspect = 1);
+
+    /// An area, filled as the fill style says; its outline is drawn in `color`. Rings of fewer than three
+    /// points are passed over.
+    void Area(const Rings& rings, QRgb color, FillPattern pattern = FillPattern::Solid);
 
     /// Writes `text` at the current position.
     void Print(const QString& text, LineEnd lineEnd = LineEnd::NewLine);

@@ -47,6 +47,32 @@ struct TextFont
 /// The font to write and measure with in twips: its pixel is one twip.
 QFont twipFont(const TextFont& font);
 
+/// What an area is full of: its colour all over, or lines or dots of it that the ground shows between. The
+/// lines are at fixed places of the drawing, so that those of neighbouring areas run on; dense ones lie twice
+/// as close. Each can be told from all others in print without colours.
+enum class FillPattern {
+    Solid,
+    Horizontal,
+    Rising,
+    Vertical,
+    Falling,
+    Cross,
+    DiagonalCross,
+    Dots,
+    DenseHorizontal,
+    DenseRising,
+    DenseVertical,
+    DenseFalling,
+    DenseCross,
+    DenseDiagonalCross,
+    DenseDots
+};
+
+/// The outline of an area: points around it, the first one not repeated.
+using Ring = std::vector<QPointF>;
+/// An area: what lies in an odd number of rings, so that a ring in another one is a hole.
+using Rings = std::vector<Ring>;
+
 /// One recorded drawing operation; coordinates in twips. Pens, fonts, points, texts and pictures are numbers
 /// of entries in the drawing's tables; a fill is a colour, 0 (fully transparent) for none.
 struct PolylineOperation
@@ -114,8 +140,26 @@ struct PictureOperation
     float height;
 };
 
+/// An area, which needs neither fill nor pen (-1 for none). Its rings follow each other in the drawing's
+/// table.
+struct AreaOperation
+{
+    int pen;
+    QRgb fill;
+    FillPattern pattern;
+    std::size_t firstRing;
+    std::size_t rings;
+};
+
 using DrawingOperation = std::variant<PolylineOperation, BoxOperation, EllipseOperation, ArcOperation,
-                                      TextOperation, PictureOperation>;
+                                      TextOperation, PictureOperation, AreaOperation>;
+
+/// Points of a drawing that follow each other.
+struct PointRange
+{
+    std::size_t first = 0;
+    std::size_t count = 0;
+};
 
 /// What has been drawn on a surface, in drawing order, to be painted on any target.
 struct Drawing
@@ -124,6 +168,8 @@ struct Drawing
     std::vector<LinePen> pens;
     std::vector<TextFont> fonts;
     std::vector<QPointF> points;
+    /// Of areas.
+    std::vector<PointRange> rings;
     std::vector<QString> texts;
     std::vector<QImage> pictures;
 };

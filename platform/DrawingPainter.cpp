@@ -1,5 +1,7 @@
 #include "platform/DrawingPainter.h"
 
+#include "platform/AreaPainter.h"
+
 #include <QFontMetricsF>
 #include <QPaintEngine>
 #include <QPen>
@@ -60,7 +62,7 @@ public:
         }
         const auto count = static_cast<int>(m_points.size());
         if (count > MostPointsAtOnce && m_hasPixels && isSolid(line.pen)) {
-            drawInPieces();
+            drawInPieces(m_points, m_painter);
         } else if (count > 3 && m_points.front() == m_points.back()) {
             useFill(0);
             m_painter.drawPolygon(m_points.data(), count - 1);
@@ -133,25 +135,22 @@ public:
         }
     }
 
+    void operator()(const AreaOperation& area)
+    {
+        const QPen outline = area.pen < 0 ? QPen(Qt::NoPen) : m_pens[static_cast<std::size_t>(area.pen)];
+        paintArea(m_drawing, area, outline, {m_painter, m_scale, m_hasPixels});
+        m_pen = OtherPen;
+        m_textColor = 0;
+        m_fill = 0;
+    }
+
 private:
     static constexpr int NoPen = -1;
     static constexpr int OtherPen = -2;
-    static constexpr int MostPointsAtOnce = 64;
 
     bool isSolid(int pen) const
     {
         return m_drawing.pens[static_cast<std::size_t>(pen)].style == PenStyle::Solid;
-    }
-
-    /// A coast is painted piece by piece where the target is made of pixels: the time for a line grows faster
-    /// than its number of points, and round ends join the pieces without a seam.
-    void drawInPieces()
-    {
-        const auto count = static_cast<int>(m_points.size());
-        for (int first = 0; first < count - 1; first += MostPointsAtOnce - 1) {
-            m_painter.drawPolyline(&m_points[static_cast<std::size_t>(first)],
-                                   std::min(MostPointsAtOnce, count - first));
-        }
     }
 
     static int sixteenths(float radians)

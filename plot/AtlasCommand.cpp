@@ -1,13 +1,11 @@
 #include "plot/AtlasCommand.h"
 
-#include "lingdata/LinguisticFile.h"
+#include "lingdata/ItemFolder.h"
 #include "platform/FileName.h"
 #include "platform/WholeFile.h"
 #include "plot/AtlasPdf.h"
 #include "plot/MapPlot.h"
 #include "symbols/SymbolFile.h"
-
-#include <QDir>
 
 #include <algorithm>
 #include <future>
@@ -43,17 +41,10 @@ using RecordedItems = std::vector<RecordedItem>;
 /// The items of a map that have a symbol file of the same name, in name order.
 QStringList itemsWithSymbols(const Folders& folders)
 {
-    const QDir folder(folders.Drive.hostPath(folders.dataFolder()));
-    if (!folder.exists()) {
-        throw RunTimeError(ErrorNumber::PathNotFound).at({folders.dataFolder()});
-    }
-    QStringList paths;
-    for (const QString& file : folder.entryList({ItemFiles.pattern()}, QDir::Files, QDir::Name)) {
-        const QString path = folders.dataFolder() + QLatin1Char('\\') + file;
-        if (fileExists(folders.Drive, withEnding(path, SymbolFiles.ending))) {
-            paths << path;
-        }
-    }
+    QStringList paths = itemFiles(folders.Drive, folders.dataFolder());
+    paths.removeIf([&folders](const QString& path) {
+        return !fileExists(folders.Drive, withEnding(path, SymbolFiles.ending));
+    });
     if (paths.isEmpty()) {
         throw RunTimeError(ErrorNumber::FileNotFound,
                            QStringLiteral("No item there has a symbol file of its name."))

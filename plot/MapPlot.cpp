@@ -92,6 +92,12 @@ const Drawing& MapPlot::blankMap()
     return m_frmMap.drawing();
 }
 
+const Drawing& MapPlot::otherMap(const std::function<void(MapSurfaces)>& draw)
+{
+    draw(surfaces());
+    return m_frmMap.drawing();
+}
+
 const Drawing& MapPlot::symbolPage(int page)
 {
     PlotSymbol(m_varn, m_varn, page, surfaces());

@@ -4,6 +4,8 @@
 #include "plot/PlotOptions.h"
 #include "shell/VarnModule.h"
 
+#include <functional>
+
 /// A map, and the surface and the area that play the map form. Each function draws a map anew and returns its
 /// drawing; they raise the run-time's errors.
 class MapPlot
@@ -12,6 +14,8 @@ public:
     /// Loads the base map that `options` name.
     MapPlot(const PlotOptions& options, PlotListener& listener);
 
+    /// Reads an item and its symbols. Paths of the program.
+    void load(const QString& dataPath, const QString& symbolPath);
     /// Paths of the program.
     const Drawing& linguisticMap(const QString& dataPath, const QString& symbolPath);
     /// Of the linguistic map only what it draws over the base map.
@@ -20,15 +24,17 @@ public:
     const Drawing& symbolDiffusionMap(const QString& symbolPath, int wordForm);
     const Drawing& contrastMap(const QString& contrastPath);
     const Drawing& blankMap();
+    /// A map that `draw` draws.
+    const Drawing& otherMap(const std::function<void(MapSurfaces)>& draw);
     const Drawing& symbolPage(int page);
     int symbolPages() const;
 
     /// Of the drawings, in twips.
     QSizeF size() const { return {m_area.Width, m_area.Height}; }
+    const FormArea& area() const { return m_area; }
     VarnModule& varn() { return m_varn; }
 
 private:
-    void load(const QString& dataPath, const QString& symbolPath);
     MapSurfaces surfaces() { return {{m_frmMap, m_frmMap}, m_area}; }
 
     VarnModule m_varn;

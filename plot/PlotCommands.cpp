@@ -8,6 +8,7 @@
 #include "plot/ExportCommand.h"
 #include "plot/ImportCommand.h"
 #include "plot/MapPlot.h"
+#include "plot/SurveyCommands.h"
 
 namespace {
 
@@ -113,6 +114,18 @@ bool plot(const PlotOptions& options, PlotListener& listener)
         break;
     case PlotOptions::Command::Export:
         return exportMap(map.varn(), options.output, listener);
+    case PlotOptions::Command::AreaMap:
+    case PlotOptions::Command::IsoglossMap:
+    case PlotOptions::Command::Distances:
+    case PlotOptions::Command::ReferenceMap:
+    case PlotOptions::Command::BeamMap:
+    case PlotOptions::Command::ClusterMap:
+    case PlotOptions::Command::Dendrogram:
+    case PlotOptions::Command::MdsMap:
+    case PlotOptions::Command::MdsPlot:
+    case PlotOptions::Command::DistancePlot:
+    case PlotOptions::Command::GroupMarks:
+        return plotSurvey(map, options, listener);
     }
     return true;
 }

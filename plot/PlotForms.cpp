@@ -20,6 +20,10 @@ std::vector<CommandForm> makeCommandForms()
     const QStringList map = list({"installation", "map", "output"});
     const QStringList size = list({"locality-dots", "height"});
     const QStringList picture = size + list({"dpi"});
+    const QStringList answers = list({"items", "compare", "whole-word-forms", "keep-going"});
+    const QStringList compared = answers + list({"measure", "vowels-apart"});
+    const QStringList distances = compared + list({"distances"});
+    const QStringList clusters = list({"method", "clusters"});
     return {
         {"linguistic-map", Command::LinguisticMap,
          "Draws the linguistic map of an item: base map, symbols and legend. An item with another number of "
@@ -55,6 +59,38 @@ std::vector<CommandForm> makeCommandForms()
          "map's.",
          map,
          {}},
+        {"distances", Command::Distances,
+         "Compares every two localities by their answers and writes the table of their distances. Tells how "
+         "far the items agree, and the localities with the map.",
+         map, compared},
+        {"area-map", Command::AreaMap, "Draws the areas of an item, each in the colour of its symbol.",
+         map + list({"data", "symbols"}), list({"whole-word-forms", "hatched", "with-symbols"}) + picture},
+        {"isogloss-map", Command::IsoglossMap,
+         "Draws the isoglosses of an item, or of several each border as strong as the number of items that "
+         "change there.",
+         map, answers + list({"smooth", "numbers"}) + picture},
+        {"reference-map", Command::ReferenceMap, "Draws how far all localities are from one.",
+         map + list({"locality"}), distances + list({"classes", "hatched"}) + picture},
+        {"beam-map", Command::BeamMap,
+         "Draws lines between neighbours, the stronger the more alike they are.", map, distances + picture},
+        {"cluster-map", Command::ClusterMap,
+         "Draws groups of localities; with noise the borders that stay, the darker the firmer.", map,
+         distances + clusters + list({"noise", "seed", "group-symbols", "dendrogram", "hatched"}) + picture},
+        {"dendrogram", Command::Dendrogram, "Draws the tree of clusters.", map,
+         distances + clusters + list({"hatched"}) + picture},
+        {"mds-map", Command::MdsMap,
+         "Draws each locality in a colour of its own, the more alike the nearer they are by multidimensional "
+         "scaling.",
+         map, distances + picture},
+        {"mds-plot", Command::MdsPlot,
+         "Draws the localities by the first two dimensions of multidimensional scaling, in the colours of "
+         "their groups.",
+         map, distances + clusters + picture},
+        {"distance-plot", Command::DistancePlot, "Draws the distances over the kilometres.", map,
+         distances + picture},
+        {"group-marks", Command::GroupMarks,
+         "Lists what marks each group of localities: its word forms, or the items that part it best.", map,
+         compared + list({"distances"}) + clusters + list({"marks"})},
     };
 }
 
@@ -64,7 +100,7 @@ std::vector<OptionForm> makeOptionForms()
         {"installation", "DIR", "the folder with VarnData and VarnSymbol", {}},
         {"map", "NAME", "the name of the map, a folder in VarnData", {}},
         {"data", "FILE", "the item", {}, true},
-        {"items", "FILE", "the items of the atlas, in the order of its pages", {}, true},
+        {"items", "FILE", "the items: of an atlas in the order of its pages; else all of the map", {}, true},
         {"symbols", "FILE", "the symbols of the item, or of the word forms of a table", {}},
         {"counts", "FILE", "the table of counts", {}},
         {"characters", "FILE", "the strings that tell the word forms of the table", {}},
@@ -85,6 +121,26 @@ std::vector<OptionForm> makeOptionForms()
         {"dpi", "N", "resolution of a PNG (192)", {}},
         {"keep-going", nullptr, "an item that cannot be drawn is named and left out", {}},
         {"jobs", "N", "how many threads draw (as many as there are cores)", {}},
+        {"compare", "WHAT", "whether word forms are compared, or the kinds that symbols tell apart",
+         list({"forms", "kinds"})},
+        {"measure", "NAME", "how distances are counted",
+         list({"relative-identity", "weighted-identity", "levenshtein"})},
+        {"vowels-apart", nullptr, "vowels are never compared with consonants", {}},
+        {"distances", "FILE", "distances that were written before, in place of items", {}},
+        {"locality", "NAME", "the locality, by number or name", {}},
+        {"method", "NAME", "how clusters are joined (ward)",
+         list({"single", "complete", "average", "weighted", "ward"})},
+        {"clusters", "N", "how many groups there are (4)", {}},
+        {"noise", "SHARE", "the most that is added to a distance, in standard deviations, such as 0.5", {}},
+        {"seed", "N", "what the noise begins with (1)", {}},
+        {"classes", "RULE", "how distances are parted into classes", list({"around-mean", "equal-widths"})},
+        {"hatched", nullptr, "areas have patterns, for print without colours", {}},
+        {"with-symbols", nullptr, "the symbols stand on the areas", {}},
+        {"group-symbols", nullptr, "each locality has the symbol of its group", {}},
+        {"dendrogram", nullptr, "the tree of clusters stands beside the map", {}},
+        {"smooth", nullptr, "isoglosses are rounded", {}},
+        {"numbers", nullptr, "the strongest borders have their numbers", {}},
+        {"marks", "WHAT", "what marks the groups (forms)", list({"forms", "items"})},
         {"count-again", nullptr, "items that the table holds already are counted once more", {}},
         {"localities", "FILE", "the localities where they are apart: a table, a layer or a KML", {}},
         {"base-map", "FILE", "a layer of coasts, borders, rivers or lakes", {}, true},
@@ -106,7 +162,7 @@ std::vector<OptionForm> makeOptionForms()
 std::vector<FileEndings> makeFileEndings()
 {
     const QStringList picture = list({"svg", "pdf", "png"});
-    return {
+    std::vector<FileEndings> endings = {
         {Command::LinguisticMap, "data", list({"dbs"})},
         {Command::LinguisticMap, "symbols", list({"han"})},
         {Command::LinguisticMap, "output", picture},
@@ -128,7 +184,23 @@ std::vector<FileEndings> makeFileEndings()
         {Command::ContrastMap, "contrast", list({"rnk"})},
         {Command::ContrastMap, "output", picture},
         {Command::Export, "output", list({"csv", "geojson", "gpkg", ""})},
+        {Command::Distances, "output", list({"csv"})},
+        {Command::GroupMarks, "output", list({"csv"})},
+        {Command::AreaMap, "data", list({"dbs"})},
+        {Command::AreaMap, "symbols", list({"han"})},
     };
+    for (const Command command : {Command::Distances, Command::IsoglossMap, Command::ReferenceMap,
+                                  Command::BeamMap, Command::ClusterMap, Command::Dendrogram, Command::MdsMap,
+                                  Command::MdsPlot, Command::DistancePlot, Command::GroupMarks}) {
+        endings.push_back({command, "items", list({"dbs"})});
+        endings.push_back({command, "distances", list({"csv"})});
+    }
+    for (const Command command : {Command::AreaMap, Command::IsoglossMap, Command::ReferenceMap,
+                                  Command::BeamMap, Command::ClusterMap, Command::Dendrogram, Command::MdsMap,
+                                  Command::MdsPlot, Command::DistancePlot}) {
+        endings.push_back({command, "output", picture});
+    }
+    return endings;
 }
 
 } // namespace

@@ -3,6 +3,7 @@
 #include "analysis/CumulativeTable.h"
 #include "plot/ImportOptions.h"
 #include "plot/PlotForms.h"
+#include "plot/PlotReading.h"
 
 #include <QCommandLineParser>
 #include <QFileInfo>
@@ -41,27 +42,6 @@ void checkOptions(const QCommandLineParser& parser, const CommandForm& form)
             throw UsageError(QStringLiteral("%1 takes no --%2").arg(QLatin1String(form.name), name));
         }
     }
-}
-
-/// The number, from 0, of the value among the choices of the option.
-qsizetype readChoice(const QCommandLineParser& parser, const QString& name)
-{
-    const QStringList& choices = optionForm(name).choices;
-    const qsizetype choice = choices.indexOf(parser.value(name));
-    if (choice < 0) {
-        throw UsageError(QStringLiteral("--%1 is one of %2").arg(name, choices.join(QStringLiteral(", "))));
-    }
-    return choice;
-}
-
-double readPositive(const QCommandLineParser& parser, const QString& name, double largest)
-{
-    bool isNumber = false;
-    const double value = parser.value(name).toDouble(&isNumber);
-    if (!isNumber || !(value > 0) || value > largest) {
-        throw UsageError(QStringLiteral("--%1 is a number above 0, at most %2").arg(name).arg(largest));
-    }
-    return value;
 }
 
 void checkEndings(const FileEndings& rule, const QStringList& files)
@@ -150,6 +130,7 @@ PlotOptions readPlotOptions(const QStringList& arguments)
     if (options.command == PlotOptions::Command::Import) {
         readImportOptions(parser, options);
     }
+    readSurveyOptions(parser, options);
     for (const FileEndings& rule : fileEndings()) {
         if (rule.command == options.command) {
             const QString name = QLatin1String(rule.option);

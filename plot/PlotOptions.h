@@ -3,6 +3,7 @@
 #include "analysis/DiffusionGraphs.h"
 #include "exchange/SourceChoices.h"
 #include "exchange/SurveyChoices.h"
+#include "plot/SurveyOptions.h"
 #include "render/MapStyle.h"
 
 #include <QString>
@@ -25,6 +26,17 @@ struct PlotOptions
         ContrastMap,
         Import,
         Export,
+        Distances,
+        AreaMap,
+        IsoglossMap,
+        ReferenceMap,
+        BeamMap,
+        ClusterMap,
+        Dendrogram,
+        MdsMap,
+        MdsPlot,
+        DistancePlot,
+        GroupMarks,
         /// Tells how the program is called.
         Help,
         Version,
@@ -36,7 +48,8 @@ struct PlotOptions
     /// Items; more than one only to accumulate.
     QStringList data;
     QString symbols;
-    /// The items of an atlas; all that have symbols where there are none.
+    /// The items of an atlas, all that have symbols where there are none; or of a survey, all where there are
+    /// none.
     QStringList items;
     /// How many threads draw an atlas; 0 for as many as the machine has cores.
     int jobs = 0;
@@ -63,6 +76,7 @@ struct PlotOptions
     /// What is imported, and what is made of it.
     SourceChoices source;
     SurveyChoices newSurvey;
+    SurveyOptions survey;
 };
 
 /// A command line that is not understood; `what()` says why.

@@ -118,13 +118,18 @@ void PlotDate(const QString& fileName, const QDateTime& time, MapSurfaces surfac
     target.FontSize = fontSize;
 }
 
-void DrawBlankMap(const BlankMapParts& parts, MapSurfaces surfaces)
+void PlotBaseMap(const BlankMapParts& parts, MapSurfaces surfaces)
 {
-    surfaces.frmMap.Cls();
     PlotLineData(parts.map, parts.geometry, surfaces);
     PlotLocateData(parts.map, parts.style, parts.geometry, surfaces);
     PlotKanjiData(parts.map, parts.geometry, surfaces);
     if (parts.style.WriteFileName) {
         PlotDate(parts.stampedFile, QDateTime::currentDateTime(), surfaces);
     }
+}
+
+void DrawBlankMap(const BlankMapParts& parts, MapSurfaces surfaces)
+{
+    surfaces.frmMap.Cls();
+    PlotBaseMap(parts, surfaces);
 }

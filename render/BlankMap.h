@@ -22,5 +22,8 @@ void PlotKanjiData(const PlaceNames& map, const MapGeometry& geometry, MapSurfac
 /// The stamp in the lower right corner: a file name, and the date and time of drawing under it.
 void PlotDate(const QString& fileName, const QDateTime& time, MapSurfaces surfaces);
 
+/// All layers, over what is drawn already.
+void PlotBaseMap(const BlankMapParts& parts, MapSurfaces surfaces);
+
 /// Clears the map form and draws the base map.
 void DrawBlankMap(const BlankMapParts& parts, MapSurfaces surfaces);

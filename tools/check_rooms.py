@@ -9,9 +9,9 @@ import re
 import sys
 
 ROOMS = [
-    "platform", "mapdata", "lingdata", "symbols", "render", "dialectometry", "exchange", "analysis", "shell", "plot",
-    "atlas", "platform/forms", "render/forms", "mapdata/forms", "lingdata/forms", "symbols/forms", "analysis/forms",
-    "exchange/forms", "atlas/forms", "shell/forms",
+    "platform", "mapdata", "lingdata", "symbols", "render", "dialectometry", "geodata", "geodata/gdal",
+    "exchange", "analysis", "shell", "plot", "atlas", "platform/forms", "render/forms", "mapdata/forms",
+    "lingdata/forms", "symbols/forms", "analysis/forms", "exchange/forms", "atlas/forms", "shell/forms",
 ]
 INCLUDE = re.compile(r'^\s*#include "([^"]+)/[^/"]+"', re.MULTILINE)
 

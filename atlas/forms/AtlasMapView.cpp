@@ -73,9 +73,9 @@ void AtlasMapView::follow()
     connect(m_findBar, &AtlasFindBar::closed, m_canvas, [this] { m_canvas->setFocus(); });
 }
 
-void AtlasMapView::setMapKind(std::function<void(MapSurfaces)> draw)
+void AtlasMapView::setOtherMap(OtherMap map)
 {
-    m_drawOther = std::move(draw);
+    m_other = std::move(map);
     renew();
 }
 
@@ -90,7 +90,7 @@ AtlasDrawing AtlasMapView::draw(double zoom) const
                                    symbols};
     AtlasMapStyle style{m_layers, zoom};
     style.layers.legend = m_layers.legend && m_document.hasPage();
-    return m_drawOther ? drawOtherMap(parts, style, m_drawOther) : drawAtlasMap(parts, style);
+    return m_other.draw ? drawOtherMap(parts, style, m_other) : drawAtlasMap(parts, style);
 }
 
 Drawing AtlasMapView::drawing() const
@@ -203,8 +203,8 @@ QString AtlasMapView::message()
         return QStringLiteral("The map is not complete; mend this, and all of it is shown.\n%1")
             .arg(m_canvas->map().trouble);
     }
-    if (m_drawOther) {
-        return {};
+    if (m_other.draw && !m_other.isOfItem) {
+        return m_other.message;
     }
     if (!m_document.hasPage()) {
         return QStringLiteral("No item is shown. Choose one in the list of items; New Survey makes a map "

@@ -24,8 +24,10 @@ class AtlasMapView : public QWidget
 public:
     AtlasMapView(VarnModule& varn, AtlasDocument& document, AtlasSelection& selection);
 
-    /// Shows the map that `draw` draws in place of the linguistic map of the item; null shows that again.
-    void setMapKind(std::function<void(MapSurfaces)> draw);
+    /// Shows `map` in place of the linguistic map of the item; one that draws nothing shows that again.
+    void setOtherMap(OtherMap map);
+    /// Draws anew.
+    void renew();
 
     /// The map as it is printed, with the layers that are shown, and the size of its paper in twips.
     Drawing drawing() const;
@@ -63,7 +65,6 @@ private:
     void follow();
 
     AtlasDrawing draw(double zoom) const;
-    void renew();
     void showAnswer(int locality);
     void hideAnswer();
     void click(int locality, bool add);
@@ -80,7 +81,7 @@ private:
     AtlasDocument& m_document;
     AtlasSelection& m_selection;
     AtlasLayers m_layers;
-    std::function<void(MapSurfaces)> m_drawOther;
+    OtherMap m_other;
     AtlasCanvas* m_canvas;
     AtlasHoverCard* m_card;
     AtlasFindBar* m_findBar;

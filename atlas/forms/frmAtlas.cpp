@@ -17,10 +17,16 @@
 
 namespace {
 
-/// Where the window keeps its size and that of its panes, beside the settings of other programs.
+/// Where the window keeps its size, that of its panes and the layers it shows, beside the settings of other
+/// programs.
 QSettings layoutSettings()
 {
     return {QSettings::IniFormat, QSettings::UserScope, QStringLiteral("varn"), QStringLiteral("atlas")};
+}
+
+QString layerSetting(const QAction& layer)
+{
+    return QStringLiteral("layers/") + layer.objectName();
 }
 
 QString counted(std::size_t count, const QString& name, const QString& names)
@@ -96,6 +102,12 @@ void frmAtlas::restoreLayout()
     restoreGeometry(settings.value(QStringLiteral("window")).toByteArray());
     m_panes->restoreState(settings.value(QStringLiteral("panes")).toByteArray());
     m_details->restoreState(settings.value(QStringLiteral("details")).toByteArray());
+    for (QAction* layer : m_map->layerActions()) {
+        const QVariant shown = settings.value(layerSetting(*layer));
+        if (shown.isValid() && shown.toBool() != layer->isChecked()) {
+            layer->trigger();
+        }
+    }
 }
 
 void frmAtlas::keepLayout() const
@@ -104,6 +116,9 @@ void frmAtlas::keepLayout() const
     settings.setValue(QStringLiteral("window"), saveGeometry());
     settings.setValue(QStringLiteral("panes"), m_panes->saveState());
     settings.setValue(QStringLiteral("details"), m_details->saveState());
+    for (const QAction* layer : m_map->layerActions()) {
+        settings.setValue(layerSetting(*layer), layer->isChecked());
+    }
 }
 
 void frmAtlas::Form_Load()

@@ -33,14 +33,13 @@ struct ImportProcess : testing::Test
     }
 
     /// Runs a command in the folder of the tables; words are separated by blanks.
-    Finished run(const QString& line) const
+    Finished run(const QString& line, const QString& program = QStringLiteral(VARNPLOT)) const
     {
         QProcess process;
         process.setWorkingDirectory(drive.root());
-        process.start(QStringLiteral(VARNPLOT),
-                      line.split(QLatin1Char(' ')) +
-                          QStringList{QStringLiteral("--installation"),
-                                      drive.hostPath(QStringLiteral("Varn62E/Varn"))});
+        process.start(program, line.split(QLatin1Char(' ')) +
+                                   QStringList{QStringLiteral("--installation"),
+                                               drive.hostPath(QStringLiteral("Varn62E/Varn"))});
         EXPECT_TRUE(process.waitForFinished());
         return {process.exitCode(), QString::fromUtf8(process.readAllStandardOutput()),
                 QString::fromUtf8(process.readAllStandardError())};
@@ -91,6 +90,30 @@ TEST_F(ImportProcess, AnErrorIsToldAndLeavesNothingBehind)
     }
     EXPECT_EQ(run(QStringLiteral("import --map New --source wide.csv --use words")).exitCode, 2);
     EXPECT_EQ(maps(), QStringList(QStringLiteral("Test")));
+}
+
+TEST_F(ImportProcess, OnlySurveysInAndOutNeedTheModuleWithGdal)
+{
+    ASSERT_TRUE(QDir(drive.root()).mkpath("usr/bin"));
+    const QString program = drive.hostPath("usr/bin/varnplot");
+    ASSERT_TRUE(QFile::copy(QStringLiteral(VARNPLOT), program));
+    const QString import = "import --map New --source wide.csv --base-map coast.geojson";
+
+    const Finished missing = run(import, program);
+    EXPECT_EQ(missing.exitCode, 1);
+    EXPECT_TRUE(missing.err.contains("Surveys cannot be imported or exported")) << missing.err.toStdString();
+    const QString module = missing.err.section(": ", -1).section(" is missing.", 0, 0);
+    EXPECT_TRUE(module.startsWith(drive.hostPath("usr/"))) << missing.err.toStdString();
+    EXPECT_EQ(run("blank-map --map Test --output map.svg", program).exitCode, 0);
+
+    ASSERT_TRUE(QDir().mkpath(QFileInfo(module).path()));
+    ASSERT_TRUE(QFile(module).open(QIODevice::WriteOnly));
+    const Finished broken = run(import, program);
+    EXPECT_EQ(broken.exitCode, 1);
+    EXPECT_TRUE(broken.err.contains("Surveys cannot be imported or exported")) << broken.err.toStdString();
+
+    ASSERT_TRUE(QFile::remove(module) && QFile::copy(QStringLiteral(GEODATA_MODULE), module));
+    EXPECT_EQ(run(import, program).err, QString()) << "the module is found where it is installed, too";
 }
 
 TEST_F(ImportProcess, AStoppedImportLeavesNothingBehind)

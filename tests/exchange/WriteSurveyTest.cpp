@@ -1,9 +1,9 @@
 #include "exchange/WriteSurvey.h"
 
-#include "exchange/MadeSymbols.h"
 #include "exchange/SurveyLimits.h"
 #include "lingdata/LinguisticFile.h"
 #include "mapdata/MapSearch.h"
+#include "render/MadeSymbols.h"
 #include "symbols/SymbolFile.h"
 #include "tests/support/FileSizeLimit.h"
 #include "tests/support/TestDrive.h"

@@ -75,6 +75,21 @@ public:
         place(picture.width, picture.height);
         m_out << '\n';
     }
+    void operator()(const AreaOperation& area)
+    {
+        m_out << "area";
+        for (std::size_t i = area.firstRing; i < area.firstRing + area.rings; ++i) {
+            const PointRange& ring = m_drawing.rings[i];
+            m_out << (i == area.firstRing ? "" : " and");
+            for (std::size_t j = ring.first; j < ring.first + ring.count; ++j) {
+                place(m_drawing.points[j].x(), m_drawing.points[j].y());
+            }
+        }
+        if (area.pattern != FillPattern::Solid) {
+            m_out << " pattern " << static_cast<int>(area.pattern);
+        }
+        look(area.fill, area.pen);
+    }
 
     std::string text() const { return m_out.str(); }
 

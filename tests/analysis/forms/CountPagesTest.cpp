@@ -5,6 +5,7 @@
 #include "analysis/CumulativeFile.h"
 #include "analysis/SpecifyCharsEditor.h"
 #include "analysis/forms/StatisticsPages.h"
+#include "lingdata/ItemFolder.h"
 #include "tests/support/TestDrive.h"
 #include "tests/support/Transcript.h"
 

@@ -15,6 +15,7 @@
 #include <QPrintPreviewDialog>
 #include <QPrinter>
 #include <QProgressDialog>
+#include <QSettings>
 #include <QSplitter>
 #include <QTest>
 #include <QTimer>
@@ -233,8 +234,10 @@ TEST_F(AtlasWindow, MapsOfTheTableTakeThePlaceOfTheItemsUntilAPageIsTurned)
     EXPECT_TRUE(entry("mnuKindLinguisticMap").isChecked());
 }
 
-TEST_F(AtlasWindow, ComesBackWithThePanesAsTheyWereLeft)
+TEST_F(AtlasWindow, ComesBackWithThePanesAndLayersAsTheyWereLeft)
 {
+    entry("actDots").trigger();
+    entry("actNames").trigger();
     auto& panes = *form<frmAtlas>().findChild<QSplitter*>();
     panes.setSizes({100, 400, 200});
     const QList<int> sizes = panes.sizes();
@@ -243,4 +246,9 @@ TEST_F(AtlasWindow, ComesBackWithThePanesAsTheyWereLeft)
     again.show();
     QApplication::processEvents();
     EXPECT_EQ(again.findChild<QSplitter*>()->sizes(), sizes);
+    EXPECT_FALSE(again.findChild<QAction*>("actDots")->isChecked());
+    EXPECT_TRUE(again.findChild<QAction*>("actNames")->isChecked());
+    EXPECT_TRUE(again.findChild<QAction*>("actLegend")->isChecked());
+    again.hide();
+    QSettings(QSettings::IniFormat, QSettings::UserScope, "varn", "atlas").clear(); // for other tests
 }

@@ -1,4 +1,4 @@
-#include "exchange/GdalScope.h"
+#include "geodata/gdal/GdalScope.h"
 
 #include <cpl_conv.h>
 #include <cpl_error.h>

@@ -1,4 +1,4 @@
-#include "exchange/SymbolPalette.h"
+#include "symbols/SymbolPalette.h"
 
 #include <array>
 

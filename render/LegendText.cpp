@@ -1,4 +1,4 @@
-#include "exchange/LegendText.h"
+#include "render/LegendText.h"
 
 #include "mapdata/MapFont.h"
 #include "platform/Drawing.h"

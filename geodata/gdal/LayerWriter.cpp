@@ -1,6 +1,6 @@
-#include "exchange/LayerWriter.h"
+#include "geodata/gdal/LayerWriter.h"
 
-#include "exchange/GdalLayer.h"
+#include "geodata/gdal/GdalLayer.h"
 #include "platform/RunTimeError.h"
 
 #include <bit>
@@ -110,7 +110,7 @@ void addRow(OGRLayer& layer, const QStringList& cells, const std::optional<QPoin
 
 } // namespace
 
-QByteArray writtenLayer(const TextLayer& layer, const QString& name, LayerFormat format)
+QByteArray layerBytes(const TextLayer& layer, const QString& name, LayerFormat format)
 {
     const GdalScope scope;
     FormatRow row = rowOf(format);

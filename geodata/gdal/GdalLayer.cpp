@@ -1,4 +1,4 @@
-#include "exchange/GdalLayer.h"
+#include "geodata/gdal/GdalLayer.h"
 
 #include "platform/RunTimeError.h"
 
@@ -68,7 +68,7 @@ QByteArray readGdalFile(const QString& path)
     return {reinterpret_cast<const char*>(data), static_cast<qsizetype>(size)};
 }
 
-QStringList filesInZip(const QString& zip)
+QStringList pathsInZip(const QString& zip)
 {
     const GdalScope scope;
     const QString root = QStringLiteral("/vsizip/") + zip;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "exchange/GdalScope.h"
+#include "geodata/gdal/GdalScope.h"
 
 #include <QByteArray>
 #include <QString>
@@ -10,7 +10,7 @@
 #include <memory>
 #include <ogr_spatialref.h>
 
-// What the readers of this room share. It is for their .cpp files: the headers of the room do not show GDAL.
+// What the readers of this room share.
 
 /// Closes the data set.
 struct CloseDataset
@@ -48,4 +48,4 @@ private:
 QByteArray readGdalFile(const QString& path);
 
 /// Paths of the files in a zip, in its order, as GDAL opens them. Raises type mismatch for a broken zip.
-QStringList filesInZip(const QString& zip);
+QStringList pathsInZip(const QString& zip);

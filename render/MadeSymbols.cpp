@@ -1,7 +1,7 @@
-#include "exchange/MadeSymbols.h"
+#include "render/MadeSymbols.h"
 
-#include "exchange/LegendText.h"
-#include "exchange/SymbolPalette.h"
+#include "render/LegendText.h"
+#include "symbols/SymbolPalette.h"
 
 #include <QMap>
 

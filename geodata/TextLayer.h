@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QByteArray>
 #include <QPointF>
 #include <QStringList>
 
@@ -20,7 +19,3 @@ struct TextLayer
 
 /// The files that layers are written as.
 enum class LayerFormat { Csv, GeoJson, GeoPackage };
-
-/// The bytes of a file with the layer, which is called `name` in it. An empty cell is an attribute without a
-/// value. Raises device I/O error, with what GDAL says.
-QByteArray writtenLayer(const TextLayer& layer, const QString& name, LayerFormat format);

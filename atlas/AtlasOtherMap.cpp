@@ -1,0 +1,65 @@
+#include "atlas/AtlasOtherMap.h"
+
+#include "atlas/AtlasSurvey.h"
+#include "dialectometry/AreaMap.h"
+#include "render/MapSize.h"
+#include "shell/VarnModule.h"
+
+namespace {
+
+void drawIsoglosses(const LinguisticMapParts& parts, AtlasSurvey& survey, MapSurfaces surfaces)
+{
+    const LocalityCells& cells = survey.cellMap().cells;
+    const LocalityKinds kinds = recordsOfLocalities(
+        parts.item, parts.symbols, parts.base.style.WholeWordForms, parts.base.map.NLocality);
+    drawIsoglossMap({parts.base, parts.text, cells}, parts.item.Hanrei, borderChanges(cells, kinds),
+                    survey.isoglossStyle(), surfaces);
+}
+
+OtherMap mapOfItem(AtlasMapKind kind, AtlasSurvey& survey)
+{
+    OtherMap map;
+    map.isOfItem = true;
+    if (kind == AtlasMapKind::Areas) {
+        map.draw = [&survey](const LinguisticMapParts& parts, MapSurfaces surfaces) {
+            drawAreaMap(parts, survey.cellMap().cells, {survey.settings().look, survey.withSymbols()},
+                        surfaces);
+        };
+    } else if (kind == AtlasMapKind::Isoglosses) {
+        map.draw = [&survey](const LinguisticMapParts& parts, MapSurfaces surfaces) {
+            drawIsoglosses(parts, survey, surfaces);
+        };
+    }
+    return map;
+}
+
+OtherMap mapOfTable(AtlasMapKind kind, int wordForm, VarnModule& varn)
+{
+    OtherMap map;
+    map.draw = [kind, wordForm, &varn](const LinguisticMapParts&, MapSurfaces surfaces) {
+        drawTableMap(kind, wordForm, varn, surfaces);
+    };
+    return map;
+}
+
+OtherMap mapOfSurvey(AtlasMapKind kind, AtlasSurvey& survey)
+{
+    OtherMap map;
+    map.draw = [&survey](const LinguisticMapParts& parts, MapSurfaces surfaces) {
+        survey.draw({parts.base, parts.text, survey.cellMap().cells}, surfaces);
+    };
+    map.paper = survey.size(firstArea());
+    map.hasLocalities = !isPlot(kind);
+    map.message = survey.trouble();
+    return map;
+}
+
+} // namespace
+
+OtherMap otherMap(AtlasMapKind kind, int wordForm, VarnModule& varn, AtlasSurvey& survey)
+{
+    if (isOfItem(kind)) {
+        return mapOfItem(kind, survey);
+    }
+    return isOfSurvey(kind) ? mapOfSurvey(kind, survey) : mapOfTable(kind, wordForm, varn);
+}

@@ -1,0 +1,206 @@
+#include "atlas/AtlasSurvey.h"
+
+#include "atlas/AtlasDocument.h"
+#include "atlas/AtlasItem.h"
+#include "render/BlankMap.h"
+#include "shell/VarnModule.h"
+
+#include <QPromise>
+#include <QtConcurrentRun>
+
+#include <new>
+
+AtlasSurvey::AtlasSurvey(VarnModule& varn, AtlasDocument& document) : m_varn(varn), m_document(document)
+{
+    const auto edited = [this] {
+        ++m_edits;
+        followFiles();
+    };
+    connect(&m_document, &AtlasDocument::wordsChanged, this, edited);
+    connect(&m_document, &AtlasDocument::symbolsChanged, this, edited);
+    connect(&m_document, &AtlasDocument::baseMapChanged, this, &AtlasSurvey::forgetMap);
+    connect(&m_work, &QFutureWatcherBase::finished, this, &AtlasSurvey::takeOutcome);
+    connect(&m_work, &QFutureWatcherBase::progressValueChanged, this,
+            [this](int done) { Q_EMIT progressed(done, m_work.progressMaximum()); });
+}
+
+AtlasSurvey::~AtlasSurvey()
+{
+    m_work.cancel(); // it knows nothing of this, and ends by itself
+}
+
+void AtlasSurvey::setKind(AtlasMapKind kind)
+{
+    m_kind = kind;
+    if (const auto map = distanceMap(kind)) {
+        m_settings.kind = *map;
+    }
+    begin();
+}
+
+void AtlasSurvey::setSource(const SurveySource& source)
+{
+    if (source != m_source) {
+        m_source = source;
+        begin();
+    }
+}
+
+void AtlasSurvey::setSettings(const DistanceMapSettings& settings)
+{
+    if (settings != m_settings) {
+        m_settings = settings;
+        begin();
+    }
+}
+
+void AtlasSurvey::setIsoglossStyle(const IsoglossStyle& style)
+{
+    if (style != m_style) {
+        m_style = style;
+        Q_EMIT changed();
+    }
+}
+
+void AtlasSurvey::setWithSymbols(bool with)
+{
+    if (with != m_withSymbols) {
+        m_withSymbols = with;
+        Q_EMIT changed();
+    }
+}
+
+void AtlasSurvey::setReference(int i)
+{
+    DistanceMapSettings settings = m_settings;
+    settings.reference = i - 1;
+    setSettings(settings);
+}
+
+void AtlasSurvey::followFiles()
+{
+    if (isOfSurvey(m_kind) && marks() != m_marks) {
+        begin();
+    }
+}
+
+void AtlasSurvey::forgetMap()
+{
+    m_work.cancel();
+    m_cells.reset();
+    m_found = {};
+    m_source.items.clear();
+    m_source.distancesFile.clear();
+    m_settings.reference = 0;
+    begin();
+}
+
+const CellMap& AtlasSurvey::cellMap()
+{
+    if (!m_cells) {
+        m_cells = std::make_shared<const CellMap>(CellMap{m_varn, localityCells(m_varn, m_varn)});
+    }
+    return *m_cells;
+}
+
+AtlasSurvey::ItemMarks AtlasSurvey::marks() const
+{
+    if (m_source.distancesFile.isEmpty()) {
+        return {atlasItemMarks(m_varn), m_edits};
+    }
+    return {{{m_source.distancesFile, fileMark(m_varn, m_source.distancesFile)}}, 0};
+}
+
+SurveyFiles AtlasSurvey::files()
+{
+    cellMap();
+    SurveyFiles files{m_varn, m_cells, {}};
+    for (const AtlasPage* page : m_document.unsavedPages()) {
+        files.unsaved.push_back(*page);
+    }
+    return files;
+}
+
+void AtlasSurvey::findOut(QPromise<Outcome>& promise, const SurveyFiles& files, SurveyMap map,
+                          const SurveySource& source)
+{
+    const auto goOn = [&promise](int done, int of) {
+        promise.setProgressRange(0, of);
+        promise.setProgressValue(done);
+        return !promise.isCanceled();
+    };
+    Outcome outcome;
+    try {
+        if (!map.survey) {
+            map.survey = compareSurvey(files, source, goOn);
+        }
+        if (map.survey && map.kind != AtlasMapKind::Bundles) {
+            auto findings =
+                findingsFor(map.settings, map.survey->distances, map.map->map, map.map->cells, goOn);
+            map.survey = findings ? map.survey : nullptr;
+            map.findings = std::move(findings).value_or(DistanceFindings());
+        }
+        if (map.survey) {
+            outcome.map = std::move(map);
+        }
+    } catch (const RunTimeError& error) {
+        outcome.trouble = error.message();
+    } catch (const std::bad_alloc&) {
+        outcome.trouble = RunTimeError(ErrorNumber::OutOfMemory).message();
+    }
+    promise.addResult(std::move(outcome));
+}
+
+/// What is known of the same answers is kept.
+void AtlasSurvey::begin()
+{
+    m_work.cancel();
+    m_trouble.clear();
+    if (!isOfSurvey(m_kind) || m_varn.NLocality == 0) {
+        Q_EMIT changed();
+        return;
+    }
+    ItemMarks now = marks();
+    const bool areSame = m_found.survey && m_found.survey->source == m_source && now == m_foundMarks;
+    m_marks = std::move(now);
+    SurveyFiles source = files();
+    SurveyMap next{m_kind, m_cells, areSame ? m_found.survey : nullptr, m_settings, {}};
+    m_work.setFuture(QtConcurrent::run(findOut, std::move(source), std::move(next), m_source));
+    Q_EMIT progressed(0, 0);
+}
+
+void AtlasSurvey::takeOutcome()
+{
+    if (!m_work.isCanceled() && m_work.future().resultCount() > 0) {
+        Outcome outcome = m_work.future().takeResult();
+        m_trouble = outcome.trouble;
+        m_found = std::move(outcome.map).value_or(SurveyMap());
+        m_foundMarks = m_marks;
+    }
+    Q_EMIT progressed(0, 0);
+    Q_EMIT changed();
+}
+
+void AtlasSurvey::stop()
+{
+    m_work.cancel();
+}
+
+void AtlasSurvey::draw(const AreaMapParts& parts, MapSurfaces surfaces) const
+{
+    if (m_found.survey) {
+        drawSurveyMap(m_found, m_style, parts, surfaces);
+    } else {
+        DrawBlankMap(parts.base, surfaces);
+    }
+}
+
+QSizeF AtlasSurvey::size(const FormArea& area) const
+{
+    return distanceMapSize(m_found.settings, area);
+}
+
+QStringList AtlasSurvey::notes() const
+{
+    return m_found.survey ? notesOf(m_found) : QStringList();
+}

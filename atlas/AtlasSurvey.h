@@ -1,0 +1,103 @@
+#pragma once
+
+#include "atlas/SurveyMap.h"
+
+#include <QFutureWatcher>
+#include <QObject>
+
+class AtlasDocument;
+struct VarnModule;
+
+/// The maps of the survey as a whole: what the user asked for, and what was found. Localities are compared in
+/// the background, again whenever what they are compared by has changed.
+class AtlasSurvey : public QObject
+{
+    Q_OBJECT
+
+public:
+    AtlasSurvey(VarnModule& varn, AtlasDocument& document);
+    ~AtlasSurvey() override;
+
+    const SurveySource& source() const { return m_source; }
+    const DistanceMapSettings& settings() const { return m_settings; }
+    const IsoglossStyle& isoglossStyle() const { return m_style; }
+    /// Whether the symbols of the item stand on its areas.
+    bool withSymbols() const { return m_withSymbols; }
+
+    /// Which map is shown from now on; of one that is not of the survey nothing is found out.
+    void setKind(AtlasMapKind kind);
+    void setSource(const SurveySource& source);
+    void setSettings(const DistanceMapSettings& settings);
+    void setIsoglossStyle(const IsoglossStyle& style);
+    void setWithSymbols(bool with);
+    /// Shows the distances to locality i (from 1).
+    void setReference(int i);
+
+    /// Finds out again what the files have changed in; nothing where they have not.
+    void followFiles();
+
+    /// The cells of the current map.
+    const CellMap& cellMap();
+    /// Draws the map of the kind that is shown, or nothing but the base map while there is none yet.
+    void draw(const AreaMapParts& parts, MapSurfaces surfaces) const;
+    /// How large it is on a form of `area`, in twips.
+    QSizeF size(const FormArea& area) const;
+
+    /// What is shown; null before the first was found.
+    const ComparedSurvey* survey() const { return m_found.survey.get(); }
+    const DistanceFindings& findings() const { return m_found.findings; }
+    /// What the user is to know of the map, a line each.
+    QStringList notes() const;
+    /// Why there is no map; empty where there is one or will be.
+    const QString& trouble() const { return m_trouble; }
+
+    bool isBusy() const { return m_work.isRunning(); }
+    /// Ends the work; what was shown stays.
+    void stop();
+
+Q_SIGNALS:
+    /// Another map is to be drawn, or other settings are shown.
+    void changed();
+    /// Work began, went on, or ended; nothing of it is known where `of` is 0.
+    void progressed(int done, int of);
+
+private:
+    /// What came of work: nothing where it was stopped.
+    struct Outcome
+    {
+        std::optional<SurveyMap> map;
+        QString trouble;
+    };
+    /// What the items hold, as far as it can be told without reading them.
+    struct ItemMarks
+    {
+        std::vector<std::pair<QString, QByteArray>> files;
+        int edits = 0;
+
+        bool operator==(const ItemMarks&) const = default;
+    };
+
+    static void findOut(QPromise<Outcome>& promise, const SurveyFiles& files, SurveyMap map,
+                        const SurveySource& source);
+    void forgetMap();
+    void begin();
+    void takeOutcome();
+    SurveyFiles files();
+    ItemMarks marks() const;
+
+    VarnModule& m_varn;
+    AtlasDocument& m_document;
+    AtlasMapKind m_kind = AtlasMapKind::Linguistic;
+    SurveySource m_source;
+    DistanceMapSettings m_settings;
+    IsoglossStyle m_style;
+    bool m_withSymbols = false;
+    std::shared_ptr<const CellMap> m_cells;
+    SurveyMap m_found;
+    /// What `m_found` was compared of, and what the work that was begun last is.
+    ItemMarks m_foundMarks;
+    ItemMarks m_marks;
+    int m_edits = 0;
+    QString m_trouble;
+    QFutureWatcher<Outcome> m_work;
+};

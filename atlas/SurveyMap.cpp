@@ -1,0 +1,167 @@
+#include "atlas/SurveyMap.h"
+
+#include "atlas/AtlasItem.h"
+#include "dialectometry/DistanceFile.h"
+#include "dialectometry/Reliability.h"
+#include "lingdata/LocalityMismatch.h"
+#include "platform/FileName.h"
+#include "platform/SequentialFile.h"
+#include "render/MadeSymbols.h"
+
+#include <algorithm>
+
+namespace {
+
+const AtlasPage* unsavedPage(const SurveyFiles& files, const QString& itemPath)
+{
+    const auto found = std::ranges::find_if(files.unsaved, [&](const AtlasPage& page) {
+        return page.item.ItemPath.compare(itemPath, Qt::CaseInsensitive) == 0;
+    });
+    return found == files.unsaved.end() ? nullptr : &*found;
+}
+
+ComparedItem compared(const AtlasPage& page, AnswerRule rule, int localities)
+{
+    if (page.item.NLocate != localities) {
+        throw RunTimeError(ErrorNumber::SubscriptOutOfRange, localityMismatch(page.item.NLocate, localities));
+    }
+    const QString name = stemOf(page.item.ItemPath);
+    const bool whole = rule.wholeWordForms || isMadeForWholeWordForms(page.symbols);
+    return rule.by == AnswersBy::Kinds ? comparedKinds(page.item, page.symbols, whole, name)
+                                       : comparedItem(page.item, name);
+}
+
+/// Reads what is compared; an item that cannot be is left out of `survey`. Returns whether `goOn` let it end.
+bool readAnswers(const SurveyFiles& files, ComparedSurvey& survey, const DistanceProgress& goOn)
+{
+    const QStringList paths =
+        survey.source.items.isEmpty() ? atlasItemPaths(files.folders) : survey.source.items;
+    const int localities = files.map->map.NLocality;
+    survey.answers.localities = localities;
+    int done = 0;
+    for (const QString& path : paths) {
+        if (!goOn(done++, static_cast<int>(paths.size()))) {
+            return false;
+        }
+        try {
+            const AtlasPage* page = unsavedPage(files, path);
+            survey.answers.items.push_back(
+                page != nullptr
+                    ? compared(*page, survey.source.answers, localities)
+                    : readComparedItem(files.folders.Drive, path, survey.source.answers, localities));
+        } catch (const RunTimeError& error) {
+            survey.leftOut << QStringLiteral("%1: %2").arg(stemOf(path), error.text());
+        }
+    }
+    if (survey.answers.items.empty()) {
+        throw RunTimeError(ErrorNumber::FileNotFound,
+                           (QStringList(QStringLiteral("There is no item to compare.")) + survey.leftOut)
+                               .join(QLatin1Char('\n')));
+    }
+    return true;
+}
+
+void findChanges(const CellMap& map, ComparedSurvey& survey)
+{
+    survey.changes = borderChanges(map.cells, survey.answers.items.front().answers);
+    for (std::size_t i = 1; i < survey.answers.items.size(); ++i) {
+        addChanges(survey.changes, borderChanges(map.cells, survey.answers.items[i].answers));
+    }
+}
+
+void findAgreement(const BaseMap& map, const SurveyComparison* comparison, ComparedSurvey& survey,
+                   const DistanceProgress& goOn)
+{
+    const Lengths ways = localityLengths(map, map, map);
+    survey.agreement = {comparison != nullptr ? cronbachAlpha(*comparison, goOn) : std::nullopt,
+                        localIncoherence(survey.distances, ways.lengths),
+                        lengthCorrelation(survey.distances, ways.lengths), ways.unit};
+}
+
+bool compareItems(const SurveyFiles& files, ComparedSurvey& survey, const DistanceProgress& goOn)
+{
+    if (!readAnswers(files, survey, goOn)) {
+        return false;
+    }
+    const SurveyComparison comparison(survey.answers, survey.source.measure);
+    auto distances = comparison.matrix(goOn);
+    if (!distances) {
+        return false;
+    }
+    survey.distances = std::move(*distances);
+    survey.name = QStringLiteral("%1 over %2 items")
+                      .arg(nameOf(survey.source.measure))
+                      .arg(survey.answers.items.size());
+    findChanges(*files.map, survey);
+    findAgreement(files.map->map, &comparison, survey, goOn);
+    return goOn(0, 0);
+}
+
+void readDistancesOf(const SurveyFiles& files, ComparedSurvey& survey, const DistanceProgress& goOn)
+{
+    const BaseMap& map = files.map->map;
+    survey.distances =
+        readSequentialFile(files.folders.Drive, survey.source.distancesFile, [&map](SequentialReader& file) {
+            return readDistances(file, map, map.NLocality);
+        });
+    survey.name = stemOf(survey.source.distancesFile);
+    findAgreement(map, nullptr, survey, goOn);
+}
+
+QStringList leftOutNotes(const SurveyMap& map)
+{
+    QStringList notes;
+    if (const QStringList items = map.survey->leftOut; !items.isEmpty()) {
+        notes << QStringLiteral("Items left out:") << items;
+    }
+    if (const QStringList names = leftOutOfMap(map.settings, map.findings, map.map->map); !names.isEmpty()) {
+        notes << QStringLiteral("Localities left out, for want of a distance to others: %1")
+                     .arg(names.join(QStringLiteral(", ")));
+    }
+    return notes;
+}
+
+} // namespace
+
+std::shared_ptr<const ComparedSurvey> compareSurvey(const SurveyFiles& files, const SurveySource& source,
+                                                    const DistanceProgress& goOn)
+{
+    auto survey = std::make_shared<ComparedSurvey>();
+    survey->source = source;
+    if (!source.distancesFile.isEmpty()) {
+        readDistancesOf(files, *survey, goOn);
+    } else if (!compareItems(files, *survey, goOn)) {
+        return nullptr;
+    }
+    return survey;
+}
+
+void drawSurveyMap(const SurveyMap& map, const IsoglossStyle& style, const AreaMapParts& parts,
+                   MapSurfaces surfaces)
+{
+    if (map.kind == AtlasMapKind::Bundles) {
+        drawBundleMap(parts, QStringLiteral("Isoglosses of %1 items").arg(map.survey->answers.items.size()),
+                      map.survey->changes, style, surfaces);
+    } else {
+        drawDistanceMap(parts, map.survey->distances, map.findings, map.settings, map.survey->name, surfaces);
+    }
+}
+
+QStringList notesOf(const SurveyMap& map)
+{
+    QStringList notes;
+    const auto tell = [&notes](const QString& what, std::optional<double> value) {
+        if (value) {
+            notes << QStringLiteral("%1: %2").arg(what).arg(*value, 0, 'f', 2);
+        }
+    };
+    if (map.kind != AtlasMapKind::Bundles) {
+        const Agreement& agreement = map.survey->agreement;
+        tell(QStringLiteral("Cronbach's alpha"), agreement.alpha);
+        tell(QStringLiteral("Local incoherence"), agreement.incoherence);
+        tell(agreement.unit == LengthUnit::Kilometres ? QStringLiteral("Correlation with kilometres")
+                                                      : QStringLiteral("Correlation with ways on the map"),
+             agreement.correlation);
+    }
+    return notes + leftOutNotes(map);
+}

@@ -1,0 +1,51 @@
+#pragma once
+
+#include "dialectometry/LocalityCells.h"
+#include "render/MapParts.h"
+
+/// What an area is painted with: a ground, and over it a pattern of ink unless that is solid. 0 (fully
+/// transparent) is no ground.
+struct AreaFill
+{
+    QRgb ground = 0;
+    QRgb ink = 0;
+    FillPattern pattern = FillPattern::Solid;
+
+    bool operator==(const AreaFill&) const = default;
+};
+
+/// What a map is made for: a screen or print with colours, where colour tells areas, or print without, where
+/// patterns do.
+enum class AreaLook { Colored, Hatched };
+
+/// The fill of what nothing is known of.
+AreaFill missingFill();
+/// Patterns of black for areas by number, from 0, the first ones the least alike; later ones have a grey
+/// ground.
+AreaFill hatchedFill(int number);
+/// `color` mixed with white: all of it by 0, white by 1.
+QRgb tint(QRgb color, double white);
+
+/// What maps of areas are drawn from: the base map and its cells, and what their texts are written with.
+struct AreaMapParts
+{
+    BlankMapParts base;
+    TextParts text;
+    const LocalityCells& cells;
+};
+
+/// Fills for cells.
+struct FilledCells
+{
+    std::vector<AreaFill> fills;
+    /// For each locality (from 0) the numbers (from 0) of its fills, each once and rising; several are
+    /// painted as stripes, and a cell of several localities has the fills of all.
+    std::vector<std::vector<int>> ofLocality;
+};
+
+/// Begins a map: clears the map form and sets the scale, paints the cells, those of one fill as one area, and
+/// draws the base map over them.
+void drawFilledMap(const AreaMapParts& parts, const FilledCells& cells, MapSurfaces surfaces);
+
+/// Paints `rings`, in twips, with the fills, as stripes where there are several. Without an outline.
+void paintArea(const Rings& rings, std::span<const AreaFill> fills, DrawSurface& target);

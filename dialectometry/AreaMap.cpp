@@ -1,0 +1,114 @@
+#include "dialectometry/AreaMap.h"
+
+#include "dialectometry/AreaLegend.h"
+#include "platform/StandardColors.h"
+#include "render/LinguisticMap.h"
+#include "render/SymbolMarks.h"
+#include "symbols/SymbolFile.h"
+
+#include <algorithm>
+#include <array>
+#include <map>
+
+namespace {
+
+constexpr double Lighter = 0.3;
+constexpr double Lightest = 0.75;
+
+QRgb colorOf(const HankoStyle& hanko)
+{
+    return QBColor(hanko.PaintOn != 0 ? hanko.PaintColor : hanko.LineColor);
+}
+
+/// The fill of a record that `earlier` ones of its colour precede.
+AreaFill coloredFill(QRgb color, int earlier)
+{
+    static constexpr std::array Patterns = {
+        FillPattern::DenseRising,        FillPattern::DenseDots,  FillPattern::DenseHorizontal,
+        FillPattern::DenseFalling,       FillPattern::DenseCross, FillPattern::DenseVertical,
+        FillPattern::DenseDiagonalCross, FillPattern::Rising,     FillPattern::Dots,
+        FillPattern::Horizontal,         FillPattern::Falling,    FillPattern::Cross};
+
+    // White is the colour of what no record marks, so it is shown by lines.
+    const bool white = color == QBColor(StandardColor::LightWhite);
+    const QRgb ink = white ? QBColor(StandardColor::Gray) : tint(color, Lighter);
+    const int plain = white ? 0 : 2;
+    if (earlier < plain) {
+        return {earlier == 0 ? tint(color, Lighter) : tint(color, Lightest), 0, FillPattern::Solid};
+    }
+    const auto number = static_cast<std::size_t>(earlier - plain) % Patterns.size();
+    return {tint(color, 1 - (1 - Lightest) / 2), ink, Patterns.at(number)};
+}
+
+AreaLegend legendOf(const LinguisticMapParts& parts, const FilledCells& cells)
+{
+    std::vector<int> counts(static_cast<std::size_t>(parts.symbols.NHanrei));
+    for (const std::vector<int>& records : cells.ofLocality) {
+        for (const int record : records) {
+            ++counts[static_cast<std::size_t>(record)];
+        }
+    }
+    AreaLegend legend;
+    legend.title = parts.item.Hanrei;
+    for (int k = 1; k <= parts.symbols.NHanrei; ++k) {
+        const int count = counts[static_cast<std::size_t>(k - 1)];
+        const QString& caption = parts.symbols.HankoCaption(k);
+        if (count > 0 && !caption.contains(QLatin1Char('-'))) {
+            AreaLegendRow row;
+            row.fills = {cells.fills[static_cast<std::size_t>(k - 1)]};
+            row.text = withCount(caption, count);
+            legend.rows.push_back(row);
+        }
+    }
+    return legend;
+}
+
+} // namespace
+
+std::vector<std::vector<int>> recordsOfLocalities(const ItemAnswers& item, const SymbolSet& symbols,
+                                                  bool wholeWordForms, int localities)
+{
+    const SymbolMarks marks(symbols, wholeWordForms);
+    std::vector<std::vector<int>> records(static_cast<std::size_t>(localities));
+    for (int i = 1; i <= std::min<int>(item.NLocate, localities); ++i) {
+        for (int k = 1; k <= symbols.NHanrei; ++k) {
+            for (int j = 1; j <= item.WordCount(i); ++j) {
+                if (marks(k, item.WordData(i, j))) {
+                    records[static_cast<std::size_t>(i - 1)].push_back(k - 1);
+                    break;
+                }
+            }
+        }
+    }
+    return records;
+}
+
+std::vector<AreaFill> recordFills(const SymbolSet& symbols, AreaLook look)
+{
+    std::map<QRgb, int> used;
+    std::vector<AreaFill> fills;
+    for (int k = 1; k <= symbols.NHanrei; ++k) {
+        try {
+            const QRgb color = colorOf(symbols.Hanko(k));
+            fills.push_back(look == AreaLook::Hatched ? hatchedFill(k - 1)
+                                                      : coloredFill(color, used[color]++));
+        } catch (const RunTimeError& error) {
+            throw ofRecord(error, symbols, k);
+        }
+    }
+    return fills;
+}
+
+void drawAreaMap(const LinguisticMapParts& parts, const LocalityCells& cells, const AreaMapStyle& style,
+                 MapSurfaces surfaces)
+{
+    const AreaMapParts areas{parts.base, parts.text, cells};
+    const FilledCells filled{recordFills(parts.symbols, style.look),
+                             recordsOfLocalities(parts.item, parts.symbols, parts.base.style.WholeWordForms,
+                                                 parts.base.map.NLocality)};
+    drawFilledMap(areas, filled, surfaces);
+    if (style.withSymbols) {
+        PlotLinguisticData(parts, surfaces);
+    }
+    drawAreaLegend(areas, legendOf(parts, filled), surfaces);
+}

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "dialectometry/AreaFill.h"
+
+/// How the areas of an item are drawn.
+struct AreaMapStyle
+{
+    AreaLook look = AreaLook::Colored;
+    /// Whether the symbols of the linguistic map stand on the areas.
+    bool withSymbols = false;
+};
+
+/// The numbers (from 0) of the records that mark the word forms of each locality (from 0), each once and
+/// rising: for a record k of the symbol set, k - 1. None for a locality without an answer or behind the
+/// item's last.
+std::vector<std::vector<int>> recordsOfLocalities(const ItemAnswers& item, const SymbolSet& symbols,
+                                                  bool wholeWordForms, int localities);
+
+/// The fill of each record: the colour of its symbol, lighter, so that lines and symbols stand out; records
+/// of one colour get other tints and patterns. In the hatched look each has a pattern of its own.
+std::vector<AreaFill> recordFills(const SymbolSet& symbols, AreaLook look);
+
+/// Draws the areas of an item: each cell filled as the record that marks its word form, several as stripes,
+/// the base map over them, then the symbols on request and the legend: the records that mark a locality, with
+/// the number of localities, except those whose caption has a hyphen. Cells without an answer and those that
+/// no record marks stay white.
+void drawAreaMap(const LinguisticMapParts& parts, const LocalityCells& cells, const AreaMapStyle& style,
+                 MapSurfaces surfaces);

@@ -1,0 +1,86 @@
+#include "dialectometry/BeamMap.h"
+
+#include "dialectometry/AreaLegend.h"
+#include "dialectometry/KeptStyle.h"
+#include "dialectometry/ValueClasses.h"
+#include "render/BlankMap.h"
+
+#include <algorithm>
+#include <array>
+
+namespace {
+
+/// From the most alike on; wide beams are dark.
+LinePen beamPen(int number)
+{
+    static constexpr std::array<QRgb, 6> Greys = {qRgb(0, 0, 0),       qRgb(50, 50, 50),
+                                                  qRgb(95, 95, 95),    qRgb(135, 135, 135),
+                                                  qRgb(170, 170, 170), qRgb(205, 205, 205)};
+    static constexpr std::array Widths = {7, 5, 4, 3, 2, 1};
+    const auto index = static_cast<std::size_t>(number);
+    return {Greys.at(index), Widths.at(index), PenStyle::Solid};
+}
+
+struct Beam
+{
+    LocalityPair ends;
+    int number;
+};
+
+void drawBeam(const AreaMapParts& parts, const Beam& beam, DrawSurface& target)
+{
+    const BaseMap& map = parts.base.map;
+    const MapGeometry& geometry = parts.base.geometry;
+    const auto place = [&](int i) {
+        return QPointF(geometry.toScreen(map.LocXY(i + 1, 0)), geometry.toScreen(map.LocXY(i + 1, 1)));
+    };
+    const LinePen pen = beamPen(beam.number);
+    target.DrawWidth = pen.width;
+    drawLine({place(beam.ends.first), place(beam.ends.second)}, pen.color, target);
+}
+
+AreaLegend legendOf(const QString& title, const ValueClasses& classes, const std::vector<Beam>& beams)
+{
+    AreaLegend legend;
+    legend.title = title;
+    for (int i = 0; i < classes.count(); ++i) {
+        AreaLegendRow row;
+        row.line = beamPen(i);
+        const auto isOfClass = [i](const Beam& beam) { return beam.number == i; };
+        row.text = withCount(classes.text(i), std::ranges::count_if(beams, isOfClass));
+        legend.rows.push_back(row);
+    }
+    return legend;
+}
+
+} // namespace
+
+void drawBeamMap(const AreaMapParts& parts, const QString& title, const DistanceMatrix& distances,
+                 MapSurfaces surfaces)
+{
+    std::vector<LocalityPair> pairs = neighbourPairs(parts.cells);
+    std::erase_if(pairs, [&](LocalityPair pair) {
+        return std::max(pair.first, pair.second) >= distances.size() ||
+               !distances.has(pair.first, pair.second);
+    });
+    std::vector<double> values;
+    for (const auto& [a, b] : pairs) {
+        values.push_back(distances(a, b));
+    }
+    const ValueClasses classes = valueClasses(values, ClassRule::EqualWidths);
+    std::vector<Beam> beams;
+    for (std::size_t i = 0; i < pairs.size(); ++i) {
+        beams.push_back({pairs[i], classes(values[i])});
+    }
+    // The strongest lie on top.
+    std::stable_sort(beams.begin(), beams.end(),
+                     [](const Beam& a, const Beam& b) { return a.number > b.number; });
+    DrawBlankMap(parts.base, surfaces);
+    {
+        const KeptStyle kept(surfaces.DrawTarget);
+        for (const Beam& beam : beams) {
+            drawBeam(parts, beam, surfaces.DrawTarget);
+        }
+    }
+    drawAreaLegend(parts, legendOf(title, classes, beams), surfaces);
+}

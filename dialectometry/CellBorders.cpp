@@ -1,0 +1,158 @@
+#include "dialectometry/CellBorders.h"
+
+#include <cmath>
+#include <cstdint>
+#include <unordered_map>
+
+namespace {
+
+/// The points of all cells by number; those in one square of a fine grid are one.
+class PointNumbers
+{
+public:
+    explicit PointNumbers(double extent) : m_grid(extent > 0 ? extent * Fineness : Fineness) {}
+
+    int operator()(QPointF point)
+    {
+        const auto [known, isNew] = m_numbers.try_emplace(key(point), static_cast<int>(m_points.size()));
+        if (isNew) {
+            m_points.push_back(point);
+        }
+        return known->second;
+    }
+
+    QPointF at(int number) const { return m_points[static_cast<std::size_t>(number)]; }
+
+private:
+    static constexpr double Fineness = 1e-7;
+
+    /// Distances of 2^31 squares from the origin and more would meet in one key: a map so far away from it
+    /// has no such fine coordinates.
+    std::uint64_t key(QPointF point) const
+    {
+        const auto half = [this](double value) {
+            return static_cast<std::uint64_t>(std::llround(value / m_grid)) & 0xFFFFFFFFU;
+        };
+        return half(point.x()) << 32U | half(point.y());
+    }
+
+    double m_grid;
+    std::unordered_map<std::uint64_t, int> m_numbers;
+    std::vector<QPointF> m_points;
+};
+
+/// The outline of a part of a cell, or of a hole in it, as numbers of points; the cell lies on its left.
+struct Outline
+{
+    int cell;
+    std::vector<int> points;
+};
+
+std::uint64_t edge(int from, int to)
+{
+    return static_cast<std::uint64_t>(from) << 32U | static_cast<std::uint64_t>(to);
+}
+
+/// Makes borders of outlines.
+class BorderFinder
+{
+public:
+    BorderFinder(const std::vector<std::vector<CellPolygon>>& cells, double extent) : m_numbers(extent)
+    {
+        for (std::size_t i = 0; i < cells.size(); ++i) {
+            for (const CellPolygon& polygon : cells[i]) {
+                for (const Ring& ring : polygon) {
+                    addOutline(static_cast<int>(i), ring);
+                }
+            }
+        }
+    }
+
+    std::vector<CellBorder> borders()
+    {
+        for (const Outline& outline : m_outlines) {
+            addBorders(outline);
+        }
+        return std::move(m_borders);
+    }
+
+private:
+    void addOutline(int cell, const Ring& ring)
+    {
+        Outline outline{cell, {}};
+        for (const QPointF point : ring) {
+            const int number = m_numbers(point);
+            if (outline.points.empty() || outline.points.back() != number) {
+                outline.points.push_back(number);
+            }
+        }
+        while (outline.points.size() > 1 && outline.points.front() == outline.points.back()) {
+            outline.points.pop_back();
+        }
+        if (outline.points.size() < 3) {
+            return;
+        }
+        for (std::size_t i = 0; i < outline.points.size(); ++i) {
+            m_cellOnLeft[edge(outline.points[i], next(outline, i))] = cell;
+        }
+        m_outlines.push_back(std::move(outline));
+    }
+
+    static int next(const Outline& outline, std::size_t i)
+    {
+        return outline.points[(i + 1) % outline.points.size()];
+    }
+
+    /// The cell on the right of the outline behind its point i.
+    int cellOnRight(const Outline& outline, std::size_t i) const
+    {
+        const auto found = m_cellOnLeft.find(edge(next(outline, i), outline.points[i]));
+        return found == m_cellOnLeft.end() ? CellBorder::Outside : found->second;
+    }
+
+    /// Parts an outline where the cell on its right changes.
+    void addBorders(const Outline& outline)
+    {
+        const std::size_t count = outline.points.size();
+        std::size_t begin = 0;
+        while (begin < count &&
+               cellOnRight(outline, begin) == cellOnRight(outline, (begin + count - 1) % count)) {
+            ++begin;
+        }
+        begin %= count;
+        for (std::size_t done = 0; done < count;) {
+            const std::size_t first = (begin + done) % count;
+            const int right = cellOnRight(outline, first);
+            std::vector<int> line = {outline.points[first]};
+            for (; done < count && cellOnRight(outline, (begin + done) % count) == right; ++done) {
+                line.push_back(next(outline, (begin + done) % count));
+            }
+            addBorder(outline.cell, right, line);
+        }
+    }
+
+    /// Of a border between two cells, one cell tells.
+    void addBorder(int left, int right, const std::vector<int>& line)
+    {
+        if (right != CellBorder::Outside && right <= left) {
+            return;
+        }
+        CellBorder border{left, right, {}, line.front(), line.back()};
+        for (const int number : line) {
+            border.points.push_back(m_numbers.at(number));
+        }
+        m_borders.push_back(std::move(border));
+    }
+
+    PointNumbers m_numbers;
+    std::vector<Outline> m_outlines;
+    std::unordered_map<std::uint64_t, int> m_cellOnLeft;
+    std::vector<CellBorder> m_borders;
+};
+
+} // namespace
+
+std::vector<CellBorder> bordersOf(const std::vector<std::vector<CellPolygon>>& cells, double extent)
+{
+    return BorderFinder(cells, extent).borders();
+}

@@ -1,0 +1,110 @@
+#include "dialectometry/ValueClasses.h"
+
+#include "platform/StandardColors.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <numeric>
+
+namespace {
+
+constexpr int Classes = 6;
+
+/// `count` classes of one width above the last bound.
+void addClasses(double end, int count, std::vector<double>& bounds)
+{
+    const double start = bounds.back();
+    for (int i = 1; i <= count; ++i) {
+        bounds.push_back(i == count ? end : start + (end - start) * i / count);
+    }
+}
+
+/// From alike to unlike, around the mean.
+constexpr std::array<QRgb, Classes> AroundMeanColors = {qRgb(215, 48, 39),   qRgb(252, 141, 89),
+                                                        qRgb(254, 224, 144), qRgb(224, 243, 248),
+                                                        qRgb(145, 191, 219), qRgb(69, 117, 180)};
+/// From alike to unlike, the lighter the less.
+constexpr std::array<QRgb, Classes> SequenceColors = {qRgb(37, 52, 148),   qRgb(44, 127, 184),
+                                                      qRgb(65, 182, 196),  qRgb(127, 205, 187),
+                                                      qRgb(199, 233, 180), qRgb(255, 255, 204)};
+
+/// From dense to none.
+AreaFill denseFill(int number)
+{
+    static constexpr std::array Patterns = {FillPattern::Solid,       FillPattern::DenseDiagonalCross,
+                                            FillPattern::DenseRising, FillPattern::Rising,
+                                            FillPattern::Dots,        FillPattern::Solid};
+    constexpr QRgb Dark = qRgb(90, 90, 90);
+
+    return {number == 0 ? Dark : 0, QBColor(StandardColor::Black),
+            Patterns.at(static_cast<std::size_t>(number))};
+}
+
+} // namespace
+
+int ValueClasses::operator()(double value) const
+{
+    if (std::isnan(value) || count() == 0) {
+        return -1;
+    }
+    const auto upper = std::lower_bound(bounds.begin() + 1, bounds.end() - 1, value);
+    return static_cast<int>(upper - bounds.begin()) - 1;
+}
+
+QString ValueClasses::text(int number) const
+{
+    constexpr int MostDecimals = 6;
+
+    const auto differ = [this](int decimals) {
+        for (std::size_t i = 1; i < bounds.size(); ++i) {
+            if (QString::number(bounds[i - 1], 'f', decimals) == QString::number(bounds[i], 'f', decimals)) {
+                return false;
+            }
+        }
+        return true;
+    };
+    int decimals = 0;
+    while (decimals < MostDecimals && !differ(decimals)) {
+        ++decimals;
+    }
+    const auto index = static_cast<std::size_t>(number);
+    return QStringLiteral("%1 - %2").arg(QString::number(bounds[index], 'f', decimals),
+                                         QString::number(bounds[index + 1], 'f', decimals));
+}
+
+ValueClasses valueClasses(std::span<const double> values, ClassRule rule)
+{
+    std::vector<double> known;
+    std::ranges::copy_if(values, std::back_inserter(known), [](double value) { return !std::isnan(value); });
+    if (known.empty()) {
+        return {};
+    }
+    const auto [least, most] = std::ranges::minmax(known);
+    ValueClasses classes{{least}};
+    if (least == most) {
+        classes.bounds.push_back(most);
+        return classes;
+    }
+    if (rule == ClassRule::AroundMean) {
+        const double mean =
+            std::accumulate(known.begin(), known.end(), 0.0) / static_cast<double>(known.size());
+        addClasses(mean, Classes / 2, classes.bounds);
+        addClasses(most, Classes / 2, classes.bounds);
+    } else {
+        addClasses(most, Classes, classes.bounds);
+    }
+    return classes;
+}
+
+std::vector<AreaFill> classFills(int count, ClassRule rule, AreaLook look)
+{
+    const auto& colors = rule == ClassRule::AroundMean ? AroundMeanColors : SequenceColors;
+    std::vector<AreaFill> fills;
+    for (int i = 0; i < std::min(count, Classes); ++i) {
+        fills.push_back(look == AreaLook::Hatched
+                            ? denseFill(i)
+                            : AreaFill{colors.at(static_cast<std::size_t>(i)), 0, FillPattern::Solid});
+    }
+    return fills;
+}

@@ -1,0 +1,103 @@
+#include "plot/PlotOptions.h"
+#include "plot/PlotReading.h"
+
+#include <QCommandLineParser>
+
+namespace {
+
+using Command = PlotOptions::Command;
+
+DistanceMapKind mapOf(Command command)
+{
+    switch (command) {
+    case Command::ReferenceMap:
+        return DistanceMapKind::Reference;
+    case Command::BeamMap:
+        return DistanceMapKind::Beams;
+    case Command::Dendrogram:
+        return DistanceMapKind::Dendrogram;
+    case Command::MdsMap:
+        return DistanceMapKind::Scaling;
+    case Command::MdsPlot:
+        return DistanceMapKind::ScalingPlot;
+    case Command::DistancePlot:
+        return DistanceMapKind::LengthPlot;
+    default:
+        return DistanceMapKind::Clusters;
+    }
+}
+
+void readClusters(const QCommandLineParser& parser, DistanceMapSettings& map)
+{
+    constexpr double MostGroups = decltype(Localities::LocXY)::last();
+    constexpr double MostNoise = 10;
+    constexpr double LargestSeed = 1e9;
+
+    if (parser.isSet(QStringLiteral("method"))) {
+        map.method = static_cast<LinkageMethod>(readChoice(parser, QStringLiteral("method")));
+    }
+    if (parser.isSet(QStringLiteral("clusters"))) {
+        map.groups = static_cast<int>(readPositive(parser, QStringLiteral("clusters"), MostGroups));
+    }
+    if (parser.isSet(QStringLiteral("noise"))) {
+        map.noise.noise = readPositive(parser, QStringLiteral("noise"), MostNoise);
+    }
+    if (parser.isSet(QStringLiteral("seed"))) {
+        map.noise.seed =
+            static_cast<std::uint64_t>(readPositive(parser, QStringLiteral("seed"), LargestSeed));
+    }
+}
+
+void readMeasure(const QCommandLineParser& parser, SurveyOptions& survey)
+{
+    if (parser.isSet(QStringLiteral("measure"))) {
+        survey.measure.measure = static_cast<DistanceMeasure>(readChoice(parser, QStringLiteral("measure")));
+    }
+    survey.measure.vowelsApart = parser.isSet(QStringLiteral("vowels-apart"));
+    const bool isLevenshtein = survey.measure.measure == DistanceMeasure::Levenshtein;
+    if (survey.measure.vowelsApart && !isLevenshtein) {
+        throw UsageError(QStringLiteral("--vowels-apart goes with --measure levenshtein"));
+    }
+    if (survey.answers.by == AnswersBy::Kinds && isLevenshtein) {
+        throw UsageError(QStringLiteral("--measure levenshtein compares word forms, not kinds"));
+    }
+}
+
+/// A file of distances was made of answers; it is not made again.
+void checkOneSource(const QCommandLineParser& parser)
+{
+    for (const char* name : {"items", "measure", "vowels-apart", "compare", "keep-going"}) {
+        if (parser.isSet(QStringLiteral("distances")) && parser.isSet(QLatin1String(name))) {
+            throw UsageError(
+                QStringLiteral("--%1 goes with items, not with --distances").arg(QLatin1String(name)));
+        }
+    }
+}
+
+} // namespace
+
+void readSurveyOptions(const QCommandLineParser& parser, PlotOptions& options)
+{
+    SurveyOptions& survey = options.survey;
+    survey.answers.wholeWordForms = options.wholeWordForms;
+    survey.answers.by = options.command == Command::IsoglossMap ? AnswersBy::Kinds : AnswersBy::WordForms;
+    if (parser.isSet(QStringLiteral("compare"))) {
+        survey.answers.by = static_cast<AnswersBy>(readChoice(parser, QStringLiteral("compare")));
+    }
+    readMeasure(parser, survey);
+    checkOneSource(parser);
+    survey.distances = parser.value(QStringLiteral("distances"));
+    survey.locality = parser.value(QStringLiteral("locality"));
+    survey.map.kind = mapOf(options.command);
+    survey.map.look = parser.isSet(QStringLiteral("hatched")) ? AreaLook::Hatched : AreaLook::Colored;
+    survey.map.symbols = parser.isSet(QStringLiteral("group-symbols"));
+    survey.map.withDendrogram = parser.isSet(QStringLiteral("dendrogram"));
+    if (parser.isSet(QStringLiteral("classes"))) {
+        survey.map.rule = static_cast<ClassRule>(readChoice(parser, QStringLiteral("classes")));
+    }
+    readClusters(parser, survey.map);
+    survey.smooth = parser.isSet(QStringLiteral("smooth"));
+    survey.numbers = parser.isSet(QStringLiteral("numbers"));
+    survey.withSymbols = parser.isSet(QStringLiteral("with-symbols"));
+    survey.itemsOfGroups = parser.value(QStringLiteral("marks")) == QLatin1String("items");
+}
