@@ -1,6 +1,7 @@
 #include "dialectometry/CompleteDistances.h"
 
 #include <algorithm>
+#include <cmath>
 #include <numeric>
 
 namespace {
@@ -9,11 +10,12 @@ namespace {
 std::vector<int> lackingCounts(const DistanceMatrix& distances)
 {
     std::vector<int> lacking(static_cast<std::size_t>(distances.size()), 0);
-    for (int a = 0; a < distances.size(); ++a) {
-        for (int b = a + 1; b < distances.size(); ++b) {
-            if (!distances.has(a, b)) {
-                ++lacking[static_cast<std::size_t>(a)];
-                ++lacking[static_cast<std::size_t>(b)];
+    auto pair = distances.pairs().begin();
+    for (std::size_t a = 0; a < lacking.size(); ++a) {
+        for (std::size_t b = a + 1; b < lacking.size(); ++b, ++pair) {
+            if (std::isnan(*pair)) {
+                ++lacking[a];
+                ++lacking[b];
             }
         }
     }

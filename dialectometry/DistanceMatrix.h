@@ -1,5 +1,7 @@
 #pragma once
 
+#include <algorithm>
+#include <cmath>
 #include <span>
 #include <vector>
 
@@ -14,7 +16,7 @@ public:
     int size() const { return m_size; }
     /// 0 of a locality to itself.
     double operator()(int a, int b) const { return a == b ? 0 : m_pairs[pair(a, b)]; }
-    bool has(int a, int b) const;
+    bool has(int a, int b) const { return !std::isnan((*this)(a, b)); }
     /// `a` and `b` are two.
     void set(int a, int b, double distance) { m_pairs[pair(a, b)] = distance; }
 
@@ -23,7 +25,13 @@ public:
     std::span<double> pairs() { return m_pairs; }
 
 private:
-    std::size_t pair(int a, int b) const;
+    std::size_t pair(int a, int b) const
+    {
+        const auto row = static_cast<std::size_t>(std::min(a, b));
+        const auto column = static_cast<std::size_t>(std::max(a, b));
+        const auto size = static_cast<std::size_t>(m_size);
+        return row * size - row * (row + 1) / 2 + column - row - 1;
+    }
 
     int m_size;
     std::vector<double> m_pairs;

@@ -54,7 +54,8 @@ Alignment Aligner::align(std::span<const std::uint32_t> a, std::span<const std::
         std::int64_t left = m_row.front() += Change;
         for (std::size_t j = 0; j < b.size(); ++j) {
             const std::int64_t above = m_row[j + 1];
-            left = std::min(std::min(above, left) + Change, diagonal + replacement(letter, b[j]));
+            const std::int64_t here = std::min(above + Change, diagonal + replacement(letter, b[j]));
+            left = std::min(here, left + Change);
             m_row[j + 1] = left;
             diagonal = above;
         }

@@ -30,9 +30,7 @@ struct Linkage
 /// Joins clusters by the formula of Lance & Williams (1967), A general theory of classificatory sorting
 /// strategies; with Ward (1963) heights are in the unit of the distances, which count as Euclidean.
 /// Localities that `completeLocalities` leaves out are not in the tree. In a merge `first` is less than
-/// `second`; merges of one height stand in the order in which chains of nearest neighbours (Murtagh 1983)
-/// find them, each begun at the first cluster and, of neighbours equally near, going on to the one before in
-/// the chain, else to the first.
+/// `second`. Equal heights are joined in a fixed order, which begins at the first locality.
 Linkage linkage(const DistanceMatrix& distances, LinkageMethod method);
 
 /// The localities (from 0) that the tree of a map of `localities` leaves out.
