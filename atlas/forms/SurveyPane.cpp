@@ -1,6 +1,6 @@
 #include "atlas/forms/SurveyPane.h"
 
-#include "atlas/AtlasSurvey.h"
+#include "atlas/AtlasSurveyMaps.h"
 #include "atlas/GroupMarksTable.h"
 #include "platform/FileName.h"
 #include "shell/VarnModule.h"
@@ -39,7 +39,7 @@ QSpinBox* numberBox(const char* name, const QString& title, int least, int most)
 
 } // namespace
 
-SurveyPane::SurveyPane(const VarnModule& varn, AtlasSurvey& survey)
+SurveyPane::SurveyPane(const VarnModule& varn, AtlasSurveyMaps& survey)
     : m_varn(varn), m_survey(survey), m_rows(new QFormLayout), m_title(new QLabel),
       m_marks(new GroupMarksTable)
 {
@@ -63,8 +63,8 @@ SurveyPane::SurveyPane(const VarnModule& varn, AtlasSurvey& survey)
     addLook();
     addMarks();
     addWork();
-    connect(&m_survey, &AtlasSurvey::changed, this, &SurveyPane::showFound);
-    connect(&m_survey, &AtlasSurvey::progressed, this, &SurveyPane::showProgress);
+    connect(&m_survey, &AtlasSurveyMaps::changed, this, &SurveyPane::showFound);
+    connect(&m_survey, &AtlasSurveyMaps::progressed, this, &SurveyPane::showProgress);
     showKind(m_kind);
 }
 
@@ -224,7 +224,7 @@ void SurveyPane::addWork()
     m_stop->setObjectName(QStringLiteral("cmdStop"));
     m_stop->setText(QStringLiteral("Stop"));
     m_stop->setFocusPolicy(Qt::StrongFocus);
-    connect(m_stop, &QToolButton::clicked, &m_survey, &AtlasSurvey::stop);
+    connect(m_stop, &QToolButton::clicked, &m_survey, &AtlasSurveyMaps::stop);
     auto* row = new QHBoxLayout;
     row->addWidget(m_progress, 1);
     row->addWidget(m_stop);

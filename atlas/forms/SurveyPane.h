@@ -7,7 +7,7 @@
 #include <functional>
 #include <initializer_list>
 
-class AtlasSurvey;
+class AtlasSurveyMaps;
 class GroupMarksTable;
 class QCheckBox;
 class QComboBox;
@@ -27,7 +27,7 @@ class SurveyPane : public QWidget
     Q_OBJECT
 
 public:
-    SurveyPane(const VarnModule& varn, AtlasSurvey& survey);
+    SurveyPane(const VarnModule& varn, AtlasSurveyMaps& survey);
 
     /// Shows the settings of that kind of map.
     void showKind(AtlasMapKind kind);
@@ -61,7 +61,7 @@ private:
     QString compared() const;
 
     const VarnModule& m_varn;
-    AtlasSurvey& m_survey;
+    AtlasSurveyMaps& m_survey;
     AtlasMapKind m_kind = AtlasMapKind::Linguistic;
     QFormLayout* m_rows;
     /// The rows, and the kinds of map that each is shown for.

@@ -3,7 +3,7 @@
 #include "atlas/AtlasDocument.h"
 #include "atlas/AtlasMapKind.h"
 #include "atlas/AtlasSelection.h"
-#include "atlas/AtlasSurvey.h"
+#include "atlas/AtlasSurveyMaps.h"
 #include "platform/forms/VarnForm.h"
 
 #include <map>
@@ -123,7 +123,7 @@ private:
     VarnModule& m_varn;
     AtlasDocument m_document;
     AtlasSelection m_selection;
-    AtlasSurvey m_survey;
+    AtlasSurveyMaps m_survey;
     AtlasItemsPane* m_items;
     AtlasMapView* m_map;
     AtlasRecordsPane* m_records;

@@ -14,7 +14,7 @@ const QString DistanceFiles = QStringLiteral("Distances (*.csv)|*.csv");
 
 void frmAtlas::connectSurvey()
 {
-    connect(&m_survey, &AtlasSurvey::changed, this, [this] {
+    connect(&m_survey, &AtlasSurveyMaps::changed, this, [this] {
         run([this] {
             drawKind();
             showLoaded();

@@ -10,13 +10,13 @@ struct VarnModule;
 
 /// The maps of the survey as a whole: what the user asked for, and what was found. Localities are compared in
 /// the background, again whenever what they are compared by has changed.
-class AtlasSurvey : public QObject
+class AtlasSurveyMaps : public QObject
 {
     Q_OBJECT
 
 public:
-    AtlasSurvey(VarnModule& varn, AtlasDocument& document);
-    ~AtlasSurvey() override;
+    AtlasSurveyMaps(VarnModule& varn, AtlasDocument& document);
+    ~AtlasSurveyMaps() override;
 
     const SurveySource& source() const { return m_source; }
     const DistanceMapSettings& settings() const { return m_settings; }
