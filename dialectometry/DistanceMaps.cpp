@@ -139,6 +139,13 @@ QSizeF distanceMapSize(const DistanceMapSettings& settings, const FormArea& area
     return {isWider ? area.Width * (1 + TreeShare) : area.Width, area.Height};
 }
 
+namespace {
+
+QString counted(std::size_t items)
+{
+    return items == 1 ? QStringLiteral("1 item") : QStringLiteral("%1 items").arg(items);
+}
+
 QString nameOf(const DistanceSettings& settings)
 {
     switch (settings.measure) {
@@ -151,6 +158,18 @@ QString nameOf(const DistanceSettings& settings)
                                     : QStringLiteral("Levenshtein distances");
     }
     return {};
+}
+
+} // namespace
+
+QString nameOf(const DistanceSettings& settings, std::size_t items)
+{
+    return QStringLiteral("%1 over %2").arg(nameOf(settings), counted(items));
+}
+
+QString isoglossesOf(std::size_t items)
+{
+    return QStringLiteral("Isoglosses of ") + counted(items);
 }
 
 QString nameOf(LinkageMethod method)
