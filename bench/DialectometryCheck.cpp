@@ -64,11 +64,11 @@ struct Survey
         loadBaseMap(drive, {folders.VarnPath, folders.VarnMapName}, {}, map);
         loadLocalityNames(folders, map);
         const QDir items(QDir(installation).filePath(QStringLiteral("VarnData/%1/Ling").arg(name)));
-        QStringList paths;
+        answers.localities = map.NLocality;
         for (const QString& file : items.entryList({QStringLiteral("*.dbs")}, QDir::Files, QDir::Name)) {
-            paths << drive.varnPath(items.absoluteFilePath(file));
+            const QString path = drive.varnPath(items.absoluteFilePath(file));
+            answers.items.push_back(readComparedItem(drive, path, {}, map.NLocality));
         }
-        answers = readSurveyAnswers(drive, paths, map.NLocality);
     }
 
     DriveC drive;

@@ -56,11 +56,12 @@ private:
 } // namespace
 
 SurveyComparison::SurveyComparison(const SurveyAnswers& survey, const DistanceSettings& settings)
-    : m_localities(survey.localities)
+    : m_localities(survey.localities), m_items(survey.items.size())
 {
-    for (const ComparedItem& item : survey.items) {
-        m_items.emplace_back(item, settings);
-    }
+    inParallel(items(), [&](int k) {
+        const auto item = static_cast<std::size_t>(k);
+        m_items[item] = ItemComparison(survey.items[item], settings);
+    });
 }
 
 std::vector<double> SurveyComparison::row(int locality) const

@@ -56,16 +56,20 @@ bool isTie(char32_t character)
     return character == 0x361 || character == 0x35C;
 }
 
+bool isVowel(Sound sound)
+{
+    return sound == Sound::Vowel || sound == Sound::Schwa;
+}
+
 bool isMark(char32_t character)
 {
     if (QChar::isMark(character)) {
         return true;
     }
-    const Sound sound = soundOf(character);
     const bool isModifier = QChar::category(character) == QChar::Letter_Modifier ||
                             (character >= 0x2B0 && character <= 0x2FF) ||
                             (character >= 0xA700 && character <= 0xA71F);
-    return isModifier && sound != Sound::Vowel && sound != Sound::Schwa;
+    return isModifier && !isVowel(soundOf(character));
 }
 
 /// Puts a word form together, character by character.

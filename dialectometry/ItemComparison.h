@@ -55,6 +55,7 @@ struct Difference
 class ItemComparison
 {
 public:
+    ItemComparison() = default;
     ItemComparison(const ComparedItem& item, const DistanceSettings& settings);
 
     /// How many different answers there are; number 0 is that of the localities without one.
@@ -78,7 +79,7 @@ private:
     Difference compare(const Forms& a, const Forms& b, const FormDistances& distances) const;
     Difference identity(const Forms& a, const Forms& b) const;
 
-    DistanceMeasure m_measure;
+    DistanceMeasure m_measure = DistanceMeasure::RelativeIdentity;
     /// The distinct answers, their word forms in rising order.
     std::vector<Forms> m_answers{Forms()};
     std::vector<int> m_answerOf;

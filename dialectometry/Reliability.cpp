@@ -4,7 +4,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <utility>
 
 namespace {
 
@@ -100,7 +99,7 @@ std::optional<double> cronbachAlpha(const SurveyComparison& survey, const Distan
         if (!goOn(k, survey.items())) {
             return std::nullopt;
         }
-        sums.add(std::as_const(survey).ofItem(k).pairs());
+        sums.add(survey.ofItem(k).pairs());
     }
     return goOn(survey.items(), survey.items()) ? sums.alpha() : std::nullopt;
 }
