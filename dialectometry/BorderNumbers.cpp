@@ -33,12 +33,14 @@ QPointF middleOf(const std::vector<QPointF>& line)
 std::vector<std::size_t> strongest(std::span<const double> numbers)
 {
     constexpr double Share = 2.0 / 3;
+    constexpr std::size_t Most = 30;
 
     std::vector<std::size_t> order(numbers.size());
     std::iota(order.begin(), order.end(), std::size_t{0});
     std::ranges::stable_sort(order, [&](std::size_t a, std::size_t b) { return numbers[a] > numbers[b]; });
     const double least = order.empty() ? 0 : Share * numbers[order.front()];
     std::erase_if(order, [&](std::size_t i) { return numbers[i] <= 0 || numbers[i] < least; });
+    order.resize(std::min(order.size(), Most));
     return order;
 }
 

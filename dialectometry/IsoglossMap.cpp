@@ -177,14 +177,15 @@ void drawIsoglossMap(const AreaMapParts& parts, const QString& title, const Bord
     for (const double change : changes.changes) {
         classes.push_back(change == 0 ? NoLine : change < 1 ? 0 : 1);
     }
-    drawCellLines(linesOf(parts, classes, style.smooth), IsoglossPens, surfaces.DrawTarget);
+    const std::vector<LinePen> pens = fittingPens(IsoglossPens, parts);
+    drawCellLines(linesOf(parts, classes, style.smooth), pens, surfaces.DrawTarget);
     AreaLegend legend;
     legend.title = title;
     const std::array texts = {QStringLiteral("some answers change"), QStringLiteral("all answers change")};
     for (int i = 1; i >= 0; --i) {
         if (std::ranges::count(classes, i) > 0) {
             const auto index = static_cast<std::size_t>(i);
-            legend.rows.push_back(lineRow(IsoglossPens.at(index), texts.at(index)));
+            legend.rows.push_back(lineRow(pens[index], texts.at(index)));
         }
     }
     drawAreaLegend(parts, legend, surfaces);
@@ -202,7 +203,10 @@ void drawBundleMap(const AreaMapParts& parts, const QString& title, const Border
     legend.title = title;
     for (int i = 0; i < classOf.count(); ++i) {
         pens.push_back(classOf.pen(i));
-        legend.rows.insert(legend.rows.begin(), lineRow(pens.back(), classOf.text(i)));
+    }
+    pens = fittingPens(pens, parts);
+    for (int i = classOf.count() - 1; i >= 0; --i) {
+        legend.rows.push_back(lineRow(pens[static_cast<std::size_t>(i)], classOf.text(i)));
     }
     drawCellLines(linesOf(parts, classes, style.smooth), pens, surfaces.DrawTarget);
     if (style.numbers) {

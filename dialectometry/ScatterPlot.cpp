@@ -21,6 +21,16 @@ struct Plot
     PlotAxis y;
 };
 
+/// Makes room for marks at both ends.
+void widen(PlotAxis& axis)
+{
+    constexpr double Share = 0.04;
+
+    const double more = axis.most > axis.least ? Share * (axis.most - axis.least) : 0.5;
+    axis.least -= more;
+    axis.most += more;
+}
+
 /// The axes of `points`, their places on the drawing inside of `area` below the line of the title.
 Plot plotOf(const std::vector<QPointF>& points, const QRectF& area, const DrawSurface& target)
 {
@@ -37,6 +47,8 @@ Plot plotOf(const std::vector<QPointF>& points, const QRectF& area, const DrawSu
         plot.y.least = std::min(plot.y.least, point.y());
         plot.y.most = std::max(plot.y.most, point.y());
     }
+    widen(plot.x);
+    widen(plot.y);
     return plot;
 }
 
