@@ -1,13 +1,13 @@
 #include "atlas/AtlasOtherMap.h"
 
-#include "atlas/AtlasSurvey.h"
+#include "atlas/AtlasSurveyMaps.h"
 #include "dialectometry/AreaMap.h"
 #include "render/MapSize.h"
 #include "shell/VarnModule.h"
 
 namespace {
 
-void drawIsoglosses(const LinguisticMapParts& parts, AtlasSurvey& survey, MapSurfaces surfaces)
+void drawIsoglosses(const LinguisticMapParts& parts, AtlasSurveyMaps& survey, MapSurfaces surfaces)
 {
     const LocalityCells& cells = survey.cellMap().cells;
     const LocalityKinds kinds = recordsOfLocalities(
@@ -16,7 +16,7 @@ void drawIsoglosses(const LinguisticMapParts& parts, AtlasSurvey& survey, MapSur
                     survey.isoglossStyle(), surfaces);
 }
 
-OtherMap mapOfItem(AtlasMapKind kind, AtlasSurvey& survey)
+OtherMap mapOfItem(AtlasMapKind kind, AtlasSurveyMaps& survey)
 {
     OtherMap map;
     map.isOfItem = true;
@@ -42,7 +42,7 @@ OtherMap mapOfTable(AtlasMapKind kind, int wordForm, VarnModule& varn)
     return map;
 }
 
-OtherMap mapOfSurvey(AtlasMapKind kind, AtlasSurvey& survey)
+OtherMap mapOfSurvey(AtlasMapKind kind, AtlasSurveyMaps& survey)
 {
     OtherMap map;
     map.draw = [&survey](const LinguisticMapParts& parts, MapSurfaces surfaces) {
@@ -56,7 +56,7 @@ OtherMap mapOfSurvey(AtlasMapKind kind, AtlasSurvey& survey)
 
 } // namespace
 
-OtherMap otherMap(AtlasMapKind kind, int wordForm, VarnModule& varn, AtlasSurvey& survey)
+OtherMap otherMap(AtlasMapKind kind, int wordForm, VarnModule& varn, AtlasSurveyMaps& survey)
 {
     if (isOfItem(kind)) {
         return mapOfItem(kind, survey);

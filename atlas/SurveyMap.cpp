@@ -89,9 +89,7 @@ bool compareItems(const SurveyFiles& files, ComparedSurvey& survey, const Distan
         return false;
     }
     survey.distances = std::move(*distances);
-    survey.name = QStringLiteral("%1 over %2 items")
-                      .arg(nameOf(survey.source.measure))
-                      .arg(survey.answers.items.size());
+    survey.name = nameOf(survey.source.measure, survey.answers.items.size());
     findChanges(*files.map, survey);
     findAgreement(files.map->map, &comparison, survey, goOn);
     return goOn(0, 0);
@@ -140,8 +138,8 @@ void drawSurveyMap(const SurveyMap& map, const IsoglossStyle& style, const AreaM
                    MapSurfaces surfaces)
 {
     if (map.kind == AtlasMapKind::Bundles) {
-        drawBundleMap(parts, QStringLiteral("Isoglosses of %1 items").arg(map.survey->answers.items.size()),
-                      map.survey->changes, style, surfaces);
+        drawBundleMap(parts, isoglossesOf(map.survey->answers.items.size()), map.survey->changes, style,
+                      surfaces);
     } else {
         drawDistanceMap(parts, map.survey->distances, map.findings, map.settings, map.survey->name, surfaces);
     }

@@ -2,6 +2,7 @@
 
 #include "atlas/AtlasMapKind.h"
 #include "atlas/AtlasPage.h"
+#include "dialectometry/GroupMarks.h"
 #include "dialectometry/IsoglossMap.h"
 #include "dialectometry/SurveyAnswers.h"
 

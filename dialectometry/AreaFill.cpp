@@ -114,6 +114,27 @@ QRgb tint(QRgb color, double white)
     return qRgb(part(qRed(color)), part(qGreen(color)), part(qBlue(color)));
 }
 
+double markWidth(const AreaMapParts& parts, double wanted)
+{
+    constexpr double Share = 0.45;
+
+    return std::min(wanted, std::max(Share * parts.cells.spacing * parts.base.geometry.Scale, TwipsPerPixel));
+}
+
+std::vector<LinePen> fittingPens(std::span<const LinePen> pens, const AreaMapParts& parts)
+{
+    std::vector<LinePen> fitting(pens.begin(), pens.end());
+    int widest = 1;
+    for (const LinePen& pen : pens) {
+        widest = std::max(widest, pen.width);
+    }
+    const double part = markWidth(parts, widest * TwipsPerPixel) / (widest * TwipsPerPixel);
+    for (LinePen& pen : fitting) {
+        pen.width = std::max(1, static_cast<int>(std::lround(pen.width * part)));
+    }
+    return fitting;
+}
+
 void paintArea(const Rings& rings, std::span<const AreaFill> fills, DrawSurface& target)
 {
     const KeptStyle kept(target);

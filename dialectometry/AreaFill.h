@@ -47,5 +47,11 @@ struct FilledCells
 /// draws the base map over them.
 void drawFilledMap(const AreaMapParts& parts, const FilledCells& cells, MapSurfaces surfaces);
 
+/// How wide marks and lines may be, in twips, that are `wanted` wide where localities lie far apart: no wider
+/// than a part of the way to the next locality.
+double markWidth(const AreaMapParts& parts, double wanted);
+/// The pens with widths that fit so, each a pixel at least, the widest one as wide as it may be.
+std::vector<LinePen> fittingPens(std::span<const LinePen> pens, const AreaMapParts& parts);
+
 /// Paints `rings`, in twips, with the fills, as stripes where there are several. Without an outline.
 void paintArea(const Rings& rings, std::span<const AreaFill> fills, DrawSurface& target);

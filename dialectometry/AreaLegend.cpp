@@ -15,15 +15,31 @@ constexpr float SampleWidth = 400;
 constexpr float TextIndent = SampleWidth + 120;
 constexpr float ColumnGap = 300;
 
+/// Writes texts nowhere and tells how wide they are.
+class TextRuler
+{
+public:
+    TextRuler(const TextParts& parts, const TextFont& font) : m_text(parts, {m_surface, m_surface})
+    {
+        m_surface.setFont(font);
+    }
+
+    float width(const QString& text) { return m_text.PlotChar(0, 0, text); }
+
+private:
+    DrawSurface m_surface;
+    PhoneticText m_text;
+};
+
 /// Where the rows of a legend stand.
 class LegendGrid
 {
 public:
-    LegendGrid(const AreaMapParts& parts, const AreaLegend& legend, const FormArea& area, DrawSurface& target)
+    LegendGrid(const AreaMapParts& parts, const AreaLegend& legend, const FormArea& area, TextRuler& ruler)
         : m_step(static_cast<float>(std::max((parts.text.font.MapFontSize + 2) * 20, 300))),
           m_origin(captionOrigin(parts.base))
     {
-        measure(parts, legend, area, target);
+        measure(legend, area, ruler);
     }
 
     QPointF title() const { return m_origin + QPointF(Margin, Margin); }
@@ -34,37 +50,24 @@ public:
         return title() + QPointF(m_columns[i / m_rows], line * m_step + TitleGap);
     }
     float step() const { return m_step; }
-    /// The lower right corner of all.
-    QPointF end() const
-    {
-        const std::size_t lines = std::min(m_rows, m_count);
-        const float bottom = static_cast<float>(lines + 1) * m_step + (lines > 0 ? TitleGap : 0);
-        return title() + QPointF(m_width, bottom);
-    }
 
 private:
     static constexpr float TitleGap = 60;
 
-    void measure(const AreaMapParts& parts, const AreaLegend& legend, const FormArea& area,
-                 DrawSurface& target)
+    void measure(const AreaLegend& legend, const FormArea& area, TextRuler& ruler)
     {
         constexpr float FewestRows = 6;
 
-        DrawSurface ruler;
-        ruler.setFont(target.font());
-        PhoneticText text(parts.text, {ruler, ruler});
-        const float room = (area.Height - static_cast<float>(title().y()) - TitleGap) / m_step - 1;
+        const float room = (area.Height - static_cast<float>(title().y()) - TitleGap) / m_step - 2;
         m_rows = static_cast<std::size_t>(std::max(room, FewestRows));
-        m_count = legend.rows.size();
-        m_width = text.PlotChar(0, 0, legend.title);
+        const std::size_t count = legend.rows.size();
         float column = 0;
-        for (std::size_t i = 0; i < m_count; i += m_rows) {
+        for (std::size_t i = 0; i < count; i += m_rows) {
             m_columns.push_back(column);
             float widest = 0;
-            for (std::size_t j = i; j < std::min(i + m_rows, m_count); ++j) {
-                widest = std::max(widest, text.PlotChar(0, 0, legend.rows[j].text));
+            for (std::size_t j = i; j < std::min(i + m_rows, count); ++j) {
+                widest = std::max(widest, ruler.width(legend.rows[j].text));
             }
-            m_width = std::max(m_width, column + TextIndent + widest);
             column += TextIndent + widest + ColumnGap;
         }
     }
@@ -72,20 +75,17 @@ private:
     float m_step;
     QPointF m_origin;
     std::size_t m_rows = 1;
-    std::size_t m_count = 0;
     std::vector<float> m_columns;
-    float m_width = 0;
 };
 
-void drawGround(const LegendGrid& grid, DrawSurface& target)
+/// Paints a row white as far as it reaches and no further, so that the map stays whole.
+void drawGround(QPointF corner, float width, float height, DrawSurface& target)
 {
     const KeptStyle kept(target);
     target.DrawStyle = PenStyle::None;
-    const QPointF corner = grid.title() - QPointF(Margin, Margin);
-    const QPointF end = grid.end() + QPointF(Margin, 0);
-    target.FilledBox(static_cast<float>(corner.x()), static_cast<float>(corner.y()),
-                     static_cast<float>(end.x()), static_cast<float>(end.y()),
-                     QBColor(StandardColor::LightWhite));
+    const auto x = static_cast<float>(corner.x());
+    const auto y = static_cast<float>(corner.y());
+    target.FilledBox(x - Margin, y, x + width + Margin, y + height, QBColor(StandardColor::LightWhite));
 }
 
 void drawBox(const std::vector<AreaFill>& fills, const QRectF& box, DrawSurface& target)
@@ -130,17 +130,23 @@ void drawAreaLegend(const AreaMapParts& parts, const AreaLegend& legend, MapSurf
     constexpr float Air = 40; // between the boxes of two rows
 
     DrawSurface& target = surfaces.DrawTarget;
-    const LegendGrid grid(parts, legend, surfaces.area, target);
-    drawGround(grid, target);
+    TextRuler ruler(parts.text, target.font());
+    const LegendGrid grid(parts, legend, surfaces.area, ruler);
     PhoneticText text(parts.text, surfaces);
-    text.PlotChar(static_cast<float>(grid.title().x()), static_cast<float>(grid.title().y()), legend.title);
+    const QPointF title = grid.title();
+    // The name of the map that stands there, too, is covered.
+    const float width = std::max(ruler.width(legend.title), target.TextWidth(parts.base.map.KanjiText(1)));
+    drawGround(title, width, grid.step(), target);
+    text.PlotChar(static_cast<float>(title.x()), static_cast<float>(title.y()), legend.title);
     for (std::size_t i = 0; i < legend.rows.size(); ++i) {
+        const AreaLegendRow& row = legend.rows[i];
         const QPointF corner = grid.row(i);
-        drawSample(legend.rows[i], {corner + QPointF(0, Air / 2), QSizeF(SampleWidth, grid.step() - Air)},
-                   legend.look, target);
+        drawGround(corner, TextIndent + ruler.width(row.text), grid.step(), target);
+        drawSample(row, {corner + QPointF(0, Air / 2), QSizeF(SampleWidth, grid.step() - Air)}, legend.look,
+                   target);
         const float lower = std::max((grid.step() - target.TextHeight()) / 2, 0.0F);
         text.PlotChar(static_cast<float>(corner.x()) + TextIndent, static_cast<float>(corner.y()) + lower,
-                      legend.rows[i].text);
+                      row.text);
     }
     surfaces.thinLines();
 }

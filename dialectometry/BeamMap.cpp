@@ -11,15 +11,10 @@
 namespace {
 
 /// From the most alike on; wide beams are dark.
-LinePen beamPen(int number)
-{
-    static constexpr std::array<QRgb, 6> Greys = {qRgb(0, 0, 0),       qRgb(50, 50, 50),
-                                                  qRgb(95, 95, 95),    qRgb(135, 135, 135),
-                                                  qRgb(170, 170, 170), qRgb(205, 205, 205)};
-    static constexpr std::array Widths = {7, 5, 4, 3, 2, 1};
-    const auto index = static_cast<std::size_t>(number);
-    return {Greys.at(index), Widths.at(index), PenStyle::Solid};
-}
+constexpr std::array BeamPens = {
+    LinePen{qRgb(0, 0, 0), 7, PenStyle::Solid},       LinePen{qRgb(50, 50, 50), 5, PenStyle::Solid},
+    LinePen{qRgb(95, 95, 95), 4, PenStyle::Solid},    LinePen{qRgb(135, 135, 135), 3, PenStyle::Solid},
+    LinePen{qRgb(170, 170, 170), 2, PenStyle::Solid}, LinePen{qRgb(205, 205, 205), 1, PenStyle::Solid}};
 
 struct Beam
 {
@@ -27,25 +22,25 @@ struct Beam
     int number;
 };
 
-void drawBeam(const AreaMapParts& parts, const Beam& beam, DrawSurface& target)
+void drawBeam(const AreaMapParts& parts, LocalityPair ends, const LinePen& pen, DrawSurface& target)
 {
     const BaseMap& map = parts.base.map;
     const MapGeometry& geometry = parts.base.geometry;
     const auto place = [&](int i) {
         return QPointF(geometry.toScreen(map.LocXY(i + 1, 0)), geometry.toScreen(map.LocXY(i + 1, 1)));
     };
-    const LinePen pen = beamPen(beam.number);
     target.DrawWidth = pen.width;
-    drawLine({place(beam.ends.first), place(beam.ends.second)}, pen.color, target);
+    drawLine({place(ends.first), place(ends.second)}, pen.color, target);
 }
 
-AreaLegend legendOf(const QString& title, const ValueClasses& classes, const std::vector<Beam>& beams)
+AreaLegend legendOf(const QString& title, const ValueClasses& classes, const std::vector<Beam>& beams,
+                    const std::vector<LinePen>& pens)
 {
     AreaLegend legend;
     legend.title = title;
     for (int i = 0; i < classes.count(); ++i) {
         AreaLegendRow row;
-        row.line = beamPen(i);
+        row.line = pens[static_cast<std::size_t>(i)];
         const auto isOfClass = [i](const Beam& beam) { return beam.number == i; };
         row.text = withCount(classes.text(i), std::ranges::count_if(beams, isOfClass));
         legend.rows.push_back(row);
@@ -76,11 +71,12 @@ void drawBeamMap(const AreaMapParts& parts, const QString& title, const Distance
     std::stable_sort(beams.begin(), beams.end(),
                      [](const Beam& a, const Beam& b) { return a.number > b.number; });
     DrawBlankMap(parts.base, surfaces);
+    const std::vector<LinePen> pens = fittingPens(BeamPens, parts);
     {
         const KeptStyle kept(surfaces.DrawTarget);
         for (const Beam& beam : beams) {
-            drawBeam(parts, beam, surfaces.DrawTarget);
+            drawBeam(parts, beam.ends, pens[static_cast<std::size_t>(beam.number)], surfaces.DrawTarget);
         }
     }
-    drawAreaLegend(parts, legendOf(title, classes, beams), surfaces);
+    drawAreaLegend(parts, legendOf(title, classes, beams, pens), surfaces);
 }

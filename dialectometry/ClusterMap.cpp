@@ -115,28 +115,29 @@ void drawBorders(const AreaMapParts& parts, std::span<const int> groups, std::sp
         const std::vector<int> between = bordersBetween(parts.cells, groupsOfCells(parts.cells, groups));
         drawCellLines(cellLines(parts.cells, between, geometry), Thin, target);
     } else {
-        drawCellLines(cellLines(parts.cells, shareClasses(parts.cells, shares), geometry), sharePens(),
-                      target);
+        drawCellLines(cellLines(parts.cells, shareClasses(parts.cells, shares), geometry),
+                      fittingPens(sharePens(), parts), target);
     }
 }
 
 void drawSymbols(const AreaMapParts& parts, std::span<const int> groups, AreaLook look, DrawSurface& target)
 {
-    constexpr float Size = 75;
+    constexpr double Widest = 150;
 
+    const auto size = static_cast<float>(markWidth(parts, Widest) / 2);
     const BaseMap& map = parts.base.map;
     for (int i = 1; i <= map.NLocality && i <= static_cast<int>(groups.size()); ++i) {
         const int group = groups[static_cast<std::size_t>(i - 1)];
         if (group > 0) {
             drawGroupSymbol(group, look, parts.base.geometry.toScreen(map.LocXY(i, 0)),
-                            parts.base.geometry.toScreen(map.LocXY(i, 1)), Size, target);
+                            parts.base.geometry.toScreen(map.LocXY(i, 1)), size, target);
         }
     }
 }
 
-void addShareRows(AreaLegend& legend)
+void addShareRows(const AreaMapParts& parts, AreaLegend& legend)
 {
-    const std::vector<LinePen> pens = sharePens();
+    const std::vector<LinePen> pens = fittingPens(sharePens(), parts);
     for (int i = ShareClasses - 1; i >= 0; --i) {
         AreaLegendRow row;
         row.line = pens[static_cast<std::size_t>(i)];
@@ -159,7 +160,7 @@ void drawClusterMap(const AreaMapParts& parts, const QString& title, std::span<c
     }
     AreaLegend legend = legendOf(title, groups, cells, style);
     if (!shares.empty()) {
-        addShareRows(legend);
+        addShareRows(parts, legend);
     }
     drawAreaLegend(parts, legend, surfaces);
 }

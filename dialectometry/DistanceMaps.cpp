@@ -10,7 +10,7 @@
 namespace {
 
 /// How wide a tree beside its map is, as a part of the map's width.
-constexpr double TreeShare = 0.8;
+constexpr float TreeShare = 0.8F;
 
 QStringList namesOf(const BaseMap& map)
 {
@@ -53,8 +53,7 @@ public:
         drawClusterMap(m_parts, titled(groupsTitle()), m_findings.groups, m_findings.shares,
                        {m_settings.look, true, m_settings.symbols}, m_surfaces);
         if (m_settings.withDendrogram) {
-            const FormArea& area = m_surfaces.area;
-            tree({area.Width, 0, area.Width * TreeShare, area.Height}, nameOf(m_settings.method));
+            tree(page(m_surfaces.area.Width), nameOf(m_settings.method));
         }
     }
 
@@ -74,13 +73,19 @@ public:
 
     void lengthPlot() const
     {
-        drawDistancePlot(m_findings.lengths.lengths, m_distances, m_findings.line, m_parts.text.font, m_what, page(),
-                         target());
+        drawDistancePlot(m_findings.lengths.lengths, m_distances, m_findings.line, m_parts.text.font, m_what,
+                         page(), target());
     }
 
 private:
     DrawSurface& target() const { return m_surfaces.DrawTarget; }
-    QRectF page() const { return {0, 0, m_surfaces.area.Width, m_surfaces.area.Height}; }
+    /// Inside a rim.
+    QRectF page(float left = 0) const
+    {
+        constexpr float Rim = 200;
+        const float width = left > 0 ? m_surfaces.area.Width * TreeShare : m_surfaces.area.Width;
+        return QRectF(left, 0, width, m_surfaces.area.Height).adjusted(Rim, Rim, -Rim, -Rim);
+    }
     QString titled(const QString& map) const { return map + QStringLiteral(": ") + m_what; }
 
     QString groupsTitle() const
@@ -134,6 +139,13 @@ QSizeF distanceMapSize(const DistanceMapSettings& settings, const FormArea& area
     return {isWider ? area.Width * (1 + TreeShare) : area.Width, area.Height};
 }
 
+namespace {
+
+QString counted(std::size_t items)
+{
+    return items == 1 ? QStringLiteral("1 item") : QStringLiteral("%1 items").arg(items);
+}
+
 QString nameOf(const DistanceSettings& settings)
 {
     switch (settings.measure) {
@@ -146,6 +158,18 @@ QString nameOf(const DistanceSettings& settings)
                                     : QStringLiteral("Levenshtein distances");
     }
     return {};
+}
+
+} // namespace
+
+QString nameOf(const DistanceSettings& settings, std::size_t items)
+{
+    return QStringLiteral("%1 over %2").arg(nameOf(settings), counted(items));
+}
+
+QString isoglossesOf(std::size_t items)
+{
+    return QStringLiteral("Isoglosses of ") + counted(items);
 }
 
 QString nameOf(LinkageMethod method)

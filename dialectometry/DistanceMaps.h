@@ -79,7 +79,9 @@ QSizeF distanceMapSize(const DistanceMapSettings& settings, const FormArea& area
 QStringList leftOutOfMap(const DistanceMapSettings& settings, const DistanceFindings& findings,
                          const BaseMap& map);
 
-/// "Levenshtein distances".
-QString nameOf(const DistanceSettings& settings);
+/// "Levenshtein distances over 166 items".
+QString nameOf(const DistanceSettings& settings, std::size_t items);
+/// "Isoglosses of 166 items".
+QString isoglossesOf(std::size_t items);
 /// "Ward's method".
 QString nameOf(LinkageMethod method);

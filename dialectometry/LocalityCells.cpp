@@ -106,7 +106,9 @@ LocalityCells localityCells(const Localities& localities, const MapLines& lines)
         return result;
     }
     const std::vector<Ring> coasts = coastsAround(places.points, closedLines(lines));
-    const CutCells cut = cutCells(places.points, areaOf(places.points, coasts));
+    const CellArea area = areaOf(places.points, coasts);
+    const CutCells cut = cutCells(places.points, area);
+    result.spacing = area.margin;
     result.cellOf = std::move(places.ofLocality);
     result.localities = std::move(places.localities);
     result.borders = bordersOf(cut.cells, extentOf(places.points, coasts));

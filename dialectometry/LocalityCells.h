@@ -38,6 +38,9 @@ struct LocalityCells
     std::vector<CellBorder> borders;
     /// The area that all cells fill, in map units.
     Rings area;
+    /// A common way from a locality to the nearest other, in map units: lines and marks that are wider than
+    /// it would cover each other.
+    double spacing = 0;
 };
 
 /// The cells of the localities of a map. Their area is what the closed coast lines hold: lines whose first

@@ -21,8 +21,10 @@ Place placeOf(const std::vector<double>& place)
 /// A place in the range of a dimension as the strength of a colour.
 int strength(double place, double least, double most)
 {
-    constexpr int Full = 255;
-    return most > least ? static_cast<int>(std::lround((place - least) / (most - least) * Full)) : Full / 2;
+    constexpr int Least = 40; // texts can be read on the darkest colour
+    constexpr int Range = 255 - Least;
+    const double part = most > least ? (place - least) / (most - least) : 0.5;
+    return Least + static_cast<int>(std::lround(part * Range));
 }
 
 AreaLegend legendOf(const QString& title, const Scaling& scaling, bool anyMissing)

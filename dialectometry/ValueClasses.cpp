@@ -56,18 +56,13 @@ QString ValueClasses::text(int number) const
 {
     constexpr int MostDecimals = 6;
 
-    const auto differ = [this](int decimals) {
-        for (std::size_t i = 1; i < bounds.size(); ++i) {
-            if (QString::number(bounds[i - 1], 'f', decimals) == QString::number(bounds[i], 'f', decimals)) {
-                return false;
-            }
-        }
-        return true;
-    };
-    int decimals = 0;
-    while (decimals < MostDecimals && !differ(decimals)) {
-        ++decimals;
+    // Rounding moves no bound by more than a tenth of the narrowest class.
+    double narrowest = 1;
+    for (std::size_t i = 1; i < bounds.size(); ++i) {
+        const double width = bounds[i] - bounds[i - 1];
+        narrowest = width > 0 ? std::min(narrowest, width) : narrowest;
     }
+    const int decimals = std::clamp(static_cast<int>(std::ceil(-std::log10(narrowest / 5))), 0, MostDecimals);
     const auto index = static_cast<std::size_t>(number);
     return QStringLiteral("%1 - %2").arg(QString::number(bounds[index], 'f', decimals),
                                          QString::number(bounds[index + 1], 'f', decimals));

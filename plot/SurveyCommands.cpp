@@ -105,9 +105,8 @@ private:
 
     NamedDistances compare(const SurveyComparison& comparison)
     {
-        const QString name =
-            QStringLiteral("%1 over %2 items").arg(nameOf(m_survey.measure)).arg(comparison.items());
-        return {*comparison.matrix(progress(QStringLiteral("distances"))), name};
+        return {*comparison.matrix(progress(QStringLiteral("distances"))),
+                nameOf(m_survey.measure, static_cast<std::size_t>(comparison.items()))};
     }
 
     NamedDistances readDistancesFile() const
@@ -157,9 +156,7 @@ private:
             if (answers.items.size() == 1) {
                 drawIsoglossMap(areaParts(cells), answers.items.front().caption, changes, style, on);
             } else {
-                drawBundleMap(areaParts(cells),
-                              QStringLiteral("Isoglosses of %1 items").arg(answers.items.size()), changes,
-                              style, on);
+                drawBundleMap(areaParts(cells), isoglossesOf(answers.items.size()), changes, style, on);
             }
         };
         save(draw, m_map.size());

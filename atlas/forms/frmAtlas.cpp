@@ -5,6 +5,7 @@
 #include "atlas/forms/AtlasMapView.h"
 #include "atlas/forms/AtlasRecordsPane.h"
 #include "atlas/forms/NoticeBar.h"
+#include "atlas/forms/SurveyPane.h"
 #include "platform/FileName.h"
 #include "shell/VarnModule.h"
 
@@ -37,10 +38,11 @@ QString counted(std::size_t count, const QString& name, const QString& names)
 } // namespace
 
 frmAtlas::frmAtlas(VarnModule& varn, Dialogs& dialogs)
-    : VarnForm(dialogs), m_varn(varn), m_document(varn),
+    : VarnForm(dialogs), m_varn(varn), m_document(varn), m_survey(varn, m_document),
       m_items(new AtlasItemsPane(varn, m_document, m_selection)),
       m_map(new AtlasMapView(varn, m_document, m_selection)),
       m_records(new AtlasRecordsPane(varn, m_document, m_selection, dialogs)),
+      m_surveyPane(new SurveyPane(varn, m_survey)),
       m_localities(new AtlasLocalitiesPane(varn, m_document, m_selection)), m_notice(new NoticeBar),
       m_panes(new QSplitter(Qt::Horizontal)), m_details(new QSplitter(Qt::Vertical)), m_selected(new QLabel),
       m_kinds(new QActionGroup(this))
@@ -62,6 +64,7 @@ frmAtlas::frmAtlas(VarnModule& varn, Dialogs& dialogs)
     connect(&m_selection, &AtlasSelection::localitiesChanged, this, &frmAtlas::showSelected);
     connect(&m_selection, &AtlasSelection::recordsChanged, this, &frmAtlas::showSelected);
     connect(m_map, &AtlasMapView::localityHovered, this, &frmAtlas::showHovered);
+    connectSurvey();
 }
 
 frmAtlas::~frmAtlas()
@@ -78,6 +81,8 @@ frmAtlas::~frmAtlas()
 void frmAtlas::addPanes()
 {
     m_details->addWidget(m_records);
+    m_details->addWidget(m_surveyPane);
+    m_surveyPane->hide();
     m_details->addWidget(m_localities);
     m_panes->addWidget(m_items);
     m_panes->addWidget(m_map);
@@ -136,6 +141,7 @@ void frmAtlas::followSharedState()
     if (m_isPrepared && isVisible()) {
         m_document.followSharedState();
         followTable();
+        m_survey.followFiles();
     }
 }
 
@@ -160,7 +166,10 @@ void frmAtlas::showLoaded()
 QStringList frmAtlas::loaded() const
 {
     const QString map = m_varn.hasMap() ? QStringLiteral("Map: ") + m_varn.VarnMapName.mid(1) : QString();
-    if (m_kind != AtlasMapKind::Linguistic) {
+    if (isOfSurvey(m_kind)) {
+        return {map, nameOf(m_kind), m_survey.survey() ? m_survey.survey()->name : QString()};
+    }
+    if (isOfTable(m_kind)) {
         return {map, QStringLiteral("%1: %2 word forms over %3 items")
                          .arg(nameOf(m_kind))
                          .arg(m_varn.NumWordforms)
@@ -198,7 +207,7 @@ void frmAtlas::showSelected()
 
 void frmAtlas::showPage()
 {
-    if (m_kind != AtlasMapKind::Linguistic) {
+    if (!isOfItem(m_kind)) {
         showMapOf(AtlasMapKind::Linguistic);
     }
     showLoaded();

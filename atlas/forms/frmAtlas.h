@@ -3,6 +3,7 @@
 #include "atlas/AtlasDocument.h"
 #include "atlas/AtlasMapKind.h"
 #include "atlas/AtlasSelection.h"
+#include "atlas/AtlasSurveyMaps.h"
 #include "platform/forms/VarnForm.h"
 
 #include <map>
@@ -11,10 +12,12 @@ class AtlasItemsPane;
 class AtlasLocalitiesPane;
 class AtlasMapView;
 class AtlasRecordsPane;
+class SurveyPane;
 class NoticeBar;
 class QActionGroup;
 class QSplitter;
 class QToolBar;
+struct ItemsQuestion;
 struct VarnModule;
 
 /// The atlas window: the items of the current map, the map of one of them, its symbols and its localities, in
@@ -63,6 +66,7 @@ protected:
 
 private:
     void addPanes();
+    void connectSurvey();
     void restoreLayout();
     void keepLayout() const;
 
@@ -101,6 +105,11 @@ private:
     void showMapOf(AtlasMapKind kind);
     void drawKind();
     void followTable();
+    void followReference();
+    void chooseItems();
+    void openDistances();
+    void saveDistances();
+    void askForItems(const ItemsQuestion& question, std::function<void(const QStringList&)> take);
     void exportItems(const QStringList& itemPaths);
     AtlasPage pageOf(const QString& itemPath) const;
     /// What a file or a document of the map shown is called.
@@ -114,9 +123,11 @@ private:
     VarnModule& m_varn;
     AtlasDocument m_document;
     AtlasSelection m_selection;
+    AtlasSurveyMaps m_survey;
     AtlasItemsPane* m_items;
     AtlasMapView* m_map;
     AtlasRecordsPane* m_records;
+    SurveyPane* m_surveyPane;
     AtlasLocalitiesPane* m_localities;
     NoticeBar* m_notice;
     QSplitter* m_panes;

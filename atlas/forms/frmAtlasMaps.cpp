@@ -1,8 +1,11 @@
 // Which map the atlas window shows: that of the item, one of the open table, and another map altogether.
 
+#include "atlas/AtlasOtherMap.h"
 #include "atlas/InstalledMaps.h"
 #include "atlas/forms/AtlasMapView.h"
+#include "atlas/forms/AtlasRecordsPane.h"
 #include "atlas/forms/OpenMapDialog.h"
+#include "atlas/forms/SurveyPane.h"
 #include "atlas/forms/frmAtlas.h"
 #include "shell/VarnModule.h"
 
@@ -22,6 +25,11 @@ void frmAtlas::mnuOpenMap_Click()
 void frmAtlas::showMapOf(AtlasMapKind kind)
 {
     m_kind = kind;
+    m_survey.setKind(kind);
+    m_surveyPane->showKind(kind);
+    const bool hasSettings = isOfSurvey(kind) || (isOfItem(kind) && kind != AtlasMapKind::Linguistic);
+    m_surveyPane->setVisible(hasSettings);
+    m_records->setVisible(!isOfSurvey(kind));
     drawKind();
     showMapKinds();
     showLoaded();
@@ -30,7 +38,7 @@ void frmAtlas::showMapOf(AtlasMapKind kind)
 /// The table may be another one meanwhile. Without what the map needs the linguistic map takes its place.
 void frmAtlas::followTable()
 {
-    if (m_kind != AtlasMapKind::Linguistic) {
+    if (isOfTable(m_kind)) {
         showMapOf(canDraw(m_kind, m_varn) ? m_kind : AtlasMapKind::Linguistic);
     }
 }
@@ -38,12 +46,7 @@ void frmAtlas::followTable()
 void frmAtlas::drawKind()
 {
     m_wordForm = std::clamp(m_wordForm, 1, std::max(1, m_varn.NumWordforms));
-    if (m_kind == AtlasMapKind::Linguistic) {
-        m_map->setMapKind({});
-    } else {
-        m_map->setMapKind(
-            [this](MapSurfaces surfaces) { drawTableMap(m_kind, m_wordForm, m_varn, surfaces); });
-    }
+    m_map->setOtherMap(otherMap(m_kind, m_wordForm, m_varn, m_survey));
 }
 
 void frmAtlas::showMapKinds()

@@ -84,6 +84,9 @@ void frmAtlas::addMapMenu()
     m_kindMenu = menuBar()->addMenu(QStringLiteral("&Map"));
     m_kindMenu->setToolTipsVisible(true); // they say what a map needs
     for (const AtlasMapKind kind : AtlasMapKinds) {
+        if (kind == AtlasMapKind::Bars || kind == AtlasMapKind::Bundles) {
+            m_kindMenu->addSeparator(); // maps of the table, and of the survey as a whole
+        }
         QAction* entry = m_kindMenu->addAction(nameOf(kind));
         entry->setObjectName(QStringLiteral("mnuKind") + nameOf(kind).remove(QLatin1Char(' ')));
         entry->setCheckable(true);
@@ -92,7 +95,6 @@ void frmAtlas::addMapMenu()
         connect(entry, &QAction::triggered, this, [this, kind] { run([&] { showMapOf(kind); }); });
     }
     m_kinds->actions().first()->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_M));
-    m_kindMenu->insertSeparator(m_kinds->actions().at(1));
     m_kindMenu->addSeparator();
     m_wordForms = m_kindMenu->addMenu(QStringLiteral("&Word Form"));
     connect(m_wordForms, &QMenu::aboutToShow, this, &frmAtlas::showWordForms);

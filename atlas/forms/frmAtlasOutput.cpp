@@ -3,7 +3,7 @@
 #include "atlas/AtlasExport.h"
 #include "atlas/AtlasItem.h"
 #include "atlas/forms/AtlasMapView.h"
-#include "atlas/forms/ExportAtlasDialog.h"
+#include "atlas/forms/ItemsDialog.h"
 #include "atlas/forms/frmAtlas.h"
 #include "platform/FileName.h"
 #include "plot/DrawingFile.h"
@@ -64,15 +64,25 @@ void frmAtlas::mnuPrint_Click()
 
 void frmAtlas::mnuExportAtlas_Click()
 {
+    askForItems({QStringLiteral("Export Atlas"),
+                 QStringLiteral("A PDF with a page for each of these &items:"),
+                 QStringLiteral("&Export 1 Page..."),
+                 QStringLiteral("&Export %1 Pages..."),
+                 {}},
+                [this](const QStringList& paths) { exportItems(paths); });
+}
+
+void frmAtlas::askForItems(const ItemsQuestion& question, std::function<void(const QStringList&)> take)
+{
     const WaitCursor wait;
     std::vector<AtlasItem> items;
     for (const QString& path : atlasItemPaths(m_varn)) {
         items.push_back(readAtlasItem(m_varn, path));
     }
-    auto* choice = new ExportAtlasDialog(std::move(items), this);
+    auto* choice = new ItemsDialog(std::move(items), question, this);
     choice->setAttribute(Qt::WA_DeleteOnClose);
-    connect(choice, &ExportAtlasDialog::chosen, this,
-            [this](const QStringList& paths) { run([&] { exportItems(paths); }); });
+    connect(choice, &ItemsDialog::chosen, this,
+            [this, take = std::move(take)](const QStringList& paths) { run([&] { take(paths); }); });
     choice->open();
 }
 

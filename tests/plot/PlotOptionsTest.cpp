@@ -84,6 +84,16 @@ TEST(PlotOptions, WhatIsNotUnderstoodIsSaid)
         {"symbol-diffusion-map", "--counts c.ttl --symbols a.han --output o.svg",
          "--symbols must end in .htl"},
         {"contrast-map", "--counts c.ttl --contrast c.ttl --output o.svg", "--contrast must end in .rnk"},
+        {"distances", "--output d.txt", "--output must end in .csv"},
+        {"distances", "--output d.csv --measure edit", "--measure is one of relative-identity, weighted"},
+        {"distances", "--output d.csv --vowels-apart", "--vowels-apart goes with --measure levenshtein"},
+        {"distances", "--output d.csv --measure levenshtein --compare kinds", "compares word forms"},
+        {"cluster-map", "--output o.svg --distances d.csv --items a.dbs", "--items goes with items, not"},
+        {"cluster-map", "--output o.svg --items a.han", "--items must end in .dbs"},
+        {"cluster-map", "--output o.svg --method nearest", "--method is one of single, complete"},
+        {"cluster-map", "--output o.svg --clusters 0", "--clusters is a number above 0"},
+        {"reference-map", "--output o.svg", "reference-map needs --locality"},
+        {"isogloss-map", "--output o.svg --distances d.csv", "isogloss-map takes no --distances"},
     };
     for (const auto& [command, options, text] : rows) {
         const QByteArray line = QByteArray(command) + " --installation i --map m " + options;

@@ -125,6 +125,44 @@ TEST_F(PlotProcess, EveryCommandWritesItsFile)
     EXPECT_EQ(QImage(file(QStringLiteral("small.png"))).size(), QSize(400, 300));
 }
 
+TEST_F(PlotProcess, ASurveyAsAWholeIsComparedAndDrawn)
+{
+    write("Ling/snow.dbs", "3,\"\",\"Snow\",\"\"\r\n1\r\n\"yuki\"\r\n1\r\n\"yuki\"\r\n1\r\n\"hyo\"\r\n");
+    const QString told = run("distances --items Ling/rain.dbs Ling/snow.dbs --output d.csv", 0).first;
+    EXPECT_TRUE(told.contains("3 localities, relative identity values over 2 items")) << qPrintable(told);
+    EXPECT_EQ(read("d.csv"), "\"\",\"1\",\"2\",\"3\"\r\n\"1\",0,0,.75\r\n\"2\",0,0,1\r\n\"3\",.75,1,0\r\n")
+        << "locality 2 has no word for rain; 3 has that of 1 and another one";
+    const std::tuple<QByteArray, const char*, const char*> rows[] = {
+        {"area-map --data Ling/rain.dbs --symbols Ling/rain.han", "areas.svg", ">the word (2)<"},
+        {"isogloss-map --compare forms --items Ling/rain.dbs", "line.svg", ">Rain<"},
+        {"isogloss-map --compare forms --items Ling/rain.dbs Ling/snow.dbs", "lines.svg", "of 2 items<"},
+        {"reference-map --distances d.csv --locality 3", "far.svg", ">Distance to 3: d<"},
+        {"beam-map --distances d.csv", "beams.svg", ">Neighbours: d<"},
+        {"cluster-map --distances d.csv --clusters 2 --noise 0.2 --dendrogram", "groups.svg",
+         ">group 1 (2)<"},
+        {"cluster-map --items Ling/snow.dbs --clusters 2 --method single", "snow.svg", "by single linkage"},
+        {"dendrogram --distances d.csv --clusters 2", "tree.svg", ">2 groups by Ward's method: d<"},
+        {"mds-map --distances d.csv", "colours.svg", "red: dimension 1"},
+        {"mds-plot --distances d.csv --clusters 1", "places.svg", "Multidimensional scaling: d"},
+        {"distance-plot --distances d.csv", "ways.svg", "r = "}};
+    for (const auto& [line, output, text] : rows) {
+        expectDone(line + " --output " + output);
+        EXPECT_TRUE(read(output).contains(text)) << line.constData() << '\n' << read(output).constData();
+    }
+    expectDone("group-marks --items Ling/rain.dbs Ling/snow.dbs --clusters 2 --output marks.csv");
+    EXPECT_TRUE(read("marks.csv").contains("2,\"snow\",\"hyo\",1,1,1\r\n")) << read("marks.csv").constData();
+
+    expectTold("distances --output all.csv", 1, {"The item has 2 localities", file("Ling/short.dbs")});
+    expectTold("distances --output all.csv --keep-going", 1, {"short.dbs is left out: "});
+    expectTold("cluster-map --distances d.csv --clusters 4 --output x.svg", 1,
+               {"4 groups cannot be made of 3 localities."});
+    expectTold("reference-map --distances d.csv --locality Nowhere --output x.svg", 1,
+               {"has the number or the name Nowhere"});
+    write("bad.csv", read("d.csv").replace(".75,1,0", ".25,1,0"));
+    expectTold("beam-map --distances bad.csv --output x.svg", 1, {"'13': Type mismatch", file("bad.csv")});
+    EXPECT_FALSE(QFile::exists(file("x.svg")));
+}
+
 TEST_F(PlotProcess, HelpAndWrongUsage)
 {
     const auto [help, error] = run("--help", 0);

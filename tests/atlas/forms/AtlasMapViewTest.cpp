@@ -319,13 +319,18 @@ TEST_F(AtlasMap, FollowsThePageAndItsSymbols)
     document.steps().undo();
     EXPECT_EQ(canvas.map().symbols.size(), 3u) << "back on the other page";
 
-    view.setMapKind([](MapSurfaces surfaces) { surfaces.DrawTarget.PrintAt(0, 0, "other"); });
+    OtherMap other;
+    other.draw = [](const LinguisticMapParts&, MapSurfaces on) { on.DrawTarget.PrintAt(0, 0, "other"); };
+    view.setOtherMap(other);
     EXPECT_TRUE(wasPrinted(view.drawing(), "other"));
     EXPECT_FALSE(wasPrinted(view.drawing(), "Rain"));
     point(place(2));
     EXPECT_EQ(hover, "2 Ueno: uyu");
-    view.setMapKind([](MapSurfaces) { throw RunTimeError(ErrorNumber::DivisionByZero, "no counts"); });
+    other.draw = [](const LinguisticMapParts&, MapSurfaces) {
+        throw RunTimeError(ErrorNumber::DivisionByZero, "no counts");
+    };
+    view.setOtherMap(other);
     EXPECT_TRUE(message().contains("no counts")) << qPrintable(message());
-    view.setMapKind(nullptr);
+    view.setOtherMap({});
     EXPECT_TRUE(wasPrinted(view.drawing(), "Rain"));
 }

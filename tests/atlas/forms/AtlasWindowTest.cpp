@@ -2,7 +2,7 @@
 
 #include "atlas/forms/AtlasCanvas.h"
 #include "atlas/forms/AtlasMapView.h"
-#include "atlas/forms/ExportAtlasDialog.h"
+#include "atlas/forms/ItemsDialog.h"
 #include "atlas/forms/OpenMapDialog.h"
 #include "tests/support/PlainPdf.h"
 #include "tests/support/TestProgram.h"
@@ -54,9 +54,9 @@ protected:
     static void exportItems(const char* tick)
     {
         entry("mnuExportAtlas").trigger();
-        auto& dialog = opened<ExportAtlasDialog>();
+        auto& dialog = opened<ItemsDialog>();
         child<QPushButton>(dialog, tick).click();
-        child<QPushButton>(dialog, "cmdExport").click();
+        child<QPushButton>(dialog, "cmdChoose").click();
     }
     void recaption(const char* caption)
     {

@@ -1,4 +1,4 @@
-#include "atlas/AtlasSurvey.h"
+#include "atlas/AtlasSurveyMaps.h"
 
 #include "atlas/AtlasDocument.h"
 #include "atlas/AtlasItem.h"
@@ -10,7 +10,8 @@
 
 #include <new>
 
-AtlasSurvey::AtlasSurvey(VarnModule& varn, AtlasDocument& document) : m_varn(varn), m_document(document)
+AtlasSurveyMaps::AtlasSurveyMaps(VarnModule& varn, AtlasDocument& document)
+    : m_varn(varn), m_document(document)
 {
     const auto edited = [this] {
         ++m_edits;
@@ -18,18 +19,18 @@ AtlasSurvey::AtlasSurvey(VarnModule& varn, AtlasDocument& document) : m_varn(var
     };
     connect(&m_document, &AtlasDocument::wordsChanged, this, edited);
     connect(&m_document, &AtlasDocument::symbolsChanged, this, edited);
-    connect(&m_document, &AtlasDocument::baseMapChanged, this, &AtlasSurvey::forgetMap);
-    connect(&m_work, &QFutureWatcherBase::finished, this, &AtlasSurvey::takeOutcome);
+    connect(&m_document, &AtlasDocument::baseMapChanged, this, &AtlasSurveyMaps::forgetMap);
+    connect(&m_work, &QFutureWatcherBase::finished, this, &AtlasSurveyMaps::takeOutcome);
     connect(&m_work, &QFutureWatcherBase::progressValueChanged, this,
             [this](int done) { Q_EMIT progressed(done, m_work.progressMaximum()); });
 }
 
-AtlasSurvey::~AtlasSurvey()
+AtlasSurveyMaps::~AtlasSurveyMaps()
 {
     m_work.cancel(); // it knows nothing of this, and ends by itself
 }
 
-void AtlasSurvey::setKind(AtlasMapKind kind)
+void AtlasSurveyMaps::setKind(AtlasMapKind kind)
 {
     m_kind = kind;
     if (const auto map = distanceMap(kind)) {
@@ -38,7 +39,7 @@ void AtlasSurvey::setKind(AtlasMapKind kind)
     begin();
 }
 
-void AtlasSurvey::setSource(const SurveySource& source)
+void AtlasSurveyMaps::setSource(const SurveySource& source)
 {
     if (source != m_source) {
         m_source = source;
@@ -46,7 +47,7 @@ void AtlasSurvey::setSource(const SurveySource& source)
     }
 }
 
-void AtlasSurvey::setSettings(const DistanceMapSettings& settings)
+void AtlasSurveyMaps::setSettings(const DistanceMapSettings& settings)
 {
     if (settings != m_settings) {
         m_settings = settings;
@@ -54,7 +55,7 @@ void AtlasSurvey::setSettings(const DistanceMapSettings& settings)
     }
 }
 
-void AtlasSurvey::setIsoglossStyle(const IsoglossStyle& style)
+void AtlasSurveyMaps::setIsoglossStyle(const IsoglossStyle& style)
 {
     if (style != m_style) {
         m_style = style;
@@ -62,7 +63,7 @@ void AtlasSurvey::setIsoglossStyle(const IsoglossStyle& style)
     }
 }
 
-void AtlasSurvey::setWithSymbols(bool with)
+void AtlasSurveyMaps::setWithSymbols(bool with)
 {
     if (with != m_withSymbols) {
         m_withSymbols = with;
@@ -70,32 +71,32 @@ void AtlasSurvey::setWithSymbols(bool with)
     }
 }
 
-void AtlasSurvey::setReference(int i)
+void AtlasSurveyMaps::setReference(int i)
 {
     DistanceMapSettings settings = m_settings;
     settings.reference = i - 1;
     setSettings(settings);
 }
 
-void AtlasSurvey::followFiles()
+void AtlasSurveyMaps::followFiles()
 {
     if (isOfSurvey(m_kind) && marks() != m_marks) {
         begin();
     }
 }
 
-void AtlasSurvey::forgetMap()
+void AtlasSurveyMaps::forgetMap()
 {
     m_work.cancel();
     m_cells.reset();
-    m_found = {};
+    m_found = SurveyMap();
     m_source.items.clear();
     m_source.distancesFile.clear();
     m_settings.reference = 0;
     begin();
 }
 
-const CellMap& AtlasSurvey::cellMap()
+const CellMap& AtlasSurveyMaps::cellMap()
 {
     if (!m_cells) {
         m_cells = std::make_shared<const CellMap>(CellMap{m_varn, localityCells(m_varn, m_varn)});
@@ -103,15 +104,15 @@ const CellMap& AtlasSurvey::cellMap()
     return *m_cells;
 }
 
-AtlasSurvey::ItemMarks AtlasSurvey::marks() const
+AtlasSurveyMaps::ItemMarks AtlasSurveyMaps::marks() const
 {
-    if (m_source.distancesFile.isEmpty()) {
+    if (wanted().distancesFile.isEmpty()) {
         return {atlasItemMarks(m_varn), m_edits};
     }
     return {{{m_source.distancesFile, fileMark(m_varn, m_source.distancesFile)}}, 0};
 }
 
-SurveyFiles AtlasSurvey::files()
+SurveyFiles AtlasSurveyMaps::files()
 {
     cellMap();
     SurveyFiles files{m_varn, m_cells, {}};
@@ -121,8 +122,8 @@ SurveyFiles AtlasSurvey::files()
     return files;
 }
 
-void AtlasSurvey::findOut(QPromise<Outcome>& promise, const SurveyFiles& files, SurveyMap map,
-                          const SurveySource& source)
+void AtlasSurveyMaps::findOut(QPromise<Outcome>& promise, const SurveyFiles& files, SurveyMap map,
+                              const SurveySource& source)
 {
     const auto goOn = [&promise](int done, int of) {
         promise.setProgressRange(0, of);
@@ -151,8 +152,18 @@ void AtlasSurvey::findOut(QPromise<Outcome>& promise, const SurveyFiles& files, 
     promise.addResult(std::move(outcome));
 }
 
+/// Isoglosses are of items, not of distances.
+SurveySource AtlasSurveyMaps::wanted() const
+{
+    SurveySource source = m_source;
+    if (m_kind == AtlasMapKind::Bundles) {
+        source.distancesFile.clear();
+    }
+    return source;
+}
+
 /// What is known of the same answers is kept.
-void AtlasSurvey::begin()
+void AtlasSurveyMaps::begin()
 {
     m_work.cancel();
     m_trouble.clear();
@@ -161,15 +172,15 @@ void AtlasSurvey::begin()
         return;
     }
     ItemMarks now = marks();
-    const bool areSame = m_found.survey && m_found.survey->source == m_source && now == m_foundMarks;
+    const bool areSame = m_found.survey && m_found.survey->source == wanted() && now == m_foundMarks;
     m_marks = std::move(now);
     SurveyFiles source = files();
-    SurveyMap next{m_kind, m_cells, areSame ? m_found.survey : nullptr, m_settings, {}};
-    m_work.setFuture(QtConcurrent::run(findOut, std::move(source), std::move(next), m_source));
+    SurveyMap next{m_kind, m_cells, areSame ? m_found.survey : nullptr, m_settings, DistanceFindings()};
+    m_work.setFuture(QtConcurrent::run(findOut, std::move(source), std::move(next), wanted()));
     Q_EMIT progressed(0, 0);
 }
 
-void AtlasSurvey::takeOutcome()
+void AtlasSurveyMaps::takeOutcome()
 {
     if (!m_work.isCanceled() && m_work.future().resultCount() > 0) {
         Outcome outcome = m_work.future().takeResult();
@@ -181,12 +192,12 @@ void AtlasSurvey::takeOutcome()
     Q_EMIT changed();
 }
 
-void AtlasSurvey::stop()
+void AtlasSurveyMaps::stop()
 {
     m_work.cancel();
 }
 
-void AtlasSurvey::draw(const AreaMapParts& parts, MapSurfaces surfaces) const
+void AtlasSurveyMaps::draw(const AreaMapParts& parts, MapSurfaces surfaces) const
 {
     if (m_found.survey) {
         drawSurveyMap(m_found, m_style, parts, surfaces);
@@ -195,12 +206,12 @@ void AtlasSurvey::draw(const AreaMapParts& parts, MapSurfaces surfaces) const
     }
 }
 
-QSizeF AtlasSurvey::size(const FormArea& area) const
+QSizeF AtlasSurveyMaps::size(const FormArea& area) const
 {
     return distanceMapSize(m_found.settings, area);
 }
 
-QStringList AtlasSurvey::notes() const
+QStringList AtlasSurveyMaps::notes() const
 {
     return m_found.survey ? notesOf(m_found) : QStringList();
 }

@@ -1,4 +1,4 @@
-#include "atlas/forms/ExportAtlasDialog.h"
+#include "atlas/forms/ItemsDialog.h"
 
 #include <QDialogButtonBox>
 #include <QLabel>
@@ -6,30 +6,30 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
-ExportAtlasDialog::ExportAtlasDialog(std::vector<AtlasItem> items, QWidget* parent)
-    : QDialog(parent), m_items(std::move(items)), m_list(listItems())
+ItemsDialog::ItemsDialog(std::vector<AtlasItem> items, ItemsQuestion question, QWidget* parent)
+    : QDialog(parent), m_items(std::move(items)), m_question(std::move(question)), m_list(listItems())
 {
-    setWindowTitle(QStringLiteral("Export Atlas"));
-    auto* label = new QLabel(QStringLiteral("A PDF with a page for each of these &items:"));
+    setWindowTitle(m_question.title);
+    auto* label = new QLabel(m_question.label);
     label->setBuddy(m_list);
     auto* answers = new QDialogButtonBox(QDialogButtonBox::Cancel);
-    m_export = answers->addButton(QString(), QDialogButtonBox::AcceptRole);
-    m_export->setObjectName(QStringLiteral("cmdExport"));
+    m_choose = answers->addButton(QString(), QDialogButtonBox::AcceptRole);
+    m_choose->setObjectName(QStringLiteral("cmdChoose"));
     auto* rows = new QVBoxLayout(this);
     rows->addWidget(label);
     rows->addWidget(m_list, 1);
     rows->addLayout(tickButtons());
     rows->addWidget(answers);
-    m_export->setDefault(true);
-    connect(m_list, &QListWidget::itemChanged, this, &ExportAtlasDialog::showTicked);
-    connect(answers, &QDialogButtonBox::accepted, this, &ExportAtlasDialog::choose);
+    m_choose->setDefault(true);
+    connect(m_list, &QListWidget::itemChanged, this, &ItemsDialog::showTicked);
+    connect(answers, &QDialogButtonBox::accepted, this, &ItemsDialog::choose);
     connect(answers, &QDialogButtonBox::rejected, this, &QDialog::reject);
     showTicked();
     resize(420, 460);
 }
 
 /// An item that cannot be read is listed, and cannot be ticked.
-QListWidget* ExportAtlasDialog::listItems()
+QListWidget* ItemsDialog::listItems()
 {
     auto* list = new QListWidget;
     list->setObjectName(QStringLiteral("lstItems"));
@@ -40,7 +40,8 @@ QListWidget* ExportAtlasDialog::listItems()
                                                   : QStringLiteral("%1 cannot be read").arg(item.name()),
                                         list); // the list owns it
         row->setToolTip(item.trouble);
-        row->setCheckState(canBeRead ? Qt::Checked : Qt::Unchecked);
+        const bool isTicked = m_question.ticked.isEmpty() || m_question.ticked.contains(item.path);
+        row->setCheckState(canBeRead && isTicked ? Qt::Checked : Qt::Unchecked);
         if (!canBeRead) {
             row->setFlags(Qt::ItemIsSelectable);
         }
@@ -48,7 +49,7 @@ QListWidget* ExportAtlasDialog::listItems()
     return list;
 }
 
-QHBoxLayout* ExportAtlasDialog::tickButtons()
+QHBoxLayout* ItemsDialog::tickButtons()
 {
     auto* buttons = new QHBoxLayout;
     const auto add = [&](const char* name, const char* text, auto isWanted) {
@@ -65,7 +66,7 @@ QHBoxLayout* ExportAtlasDialog::tickButtons()
     return buttons;
 }
 
-void ExportAtlasDialog::tick(const std::function<bool(const AtlasItem&)>& isWanted)
+void ItemsDialog::tick(const std::function<bool(const AtlasItem&)>& isWanted)
 {
     for (int row = 0; row < m_list->count(); ++row) {
         const AtlasItem& item = m_items[static_cast<std::size_t>(row)];
@@ -74,7 +75,7 @@ void ExportAtlasDialog::tick(const std::function<bool(const AtlasItem&)>& isWant
     }
 }
 
-QStringList ExportAtlasDialog::ticked() const
+QStringList ItemsDialog::ticked() const
 {
     QStringList itemPaths;
     for (int row = 0; row < m_list->count(); ++row) {
@@ -85,15 +86,14 @@ QStringList ExportAtlasDialog::ticked() const
     return itemPaths;
 }
 
-void ExportAtlasDialog::showTicked()
+void ItemsDialog::showTicked()
 {
-    const qsizetype pages = ticked().size();
-    m_export->setText(pages == 1 ? QStringLiteral("&Export 1 Page...")
-                                 : QStringLiteral("&Export %1 Pages...").arg(pages));
-    m_export->setEnabled(pages > 0);
+    const qsizetype items = ticked().size();
+    m_choose->setText(items == 1 ? m_question.one : m_question.several.arg(items));
+    m_choose->setEnabled(items > 0);
 }
 
-void ExportAtlasDialog::choose()
+void ItemsDialog::choose()
 {
     const QStringList itemPaths = ticked();
     accept();

@@ -10,13 +10,13 @@ struct VarnModule;
 
 /// The maps of the survey as a whole: what the user asked for, and what was found. Localities are compared in
 /// the background, again whenever what they are compared by has changed.
-class AtlasSurvey : public QObject
+class AtlasSurveyMaps : public QObject
 {
     Q_OBJECT
 
 public:
-    AtlasSurvey(VarnModule& varn, AtlasDocument& document);
-    ~AtlasSurvey() override;
+    AtlasSurveyMaps(VarnModule& varn, AtlasDocument& document);
+    ~AtlasSurveyMaps() override;
 
     const SurveySource& source() const { return m_source; }
     const DistanceMapSettings& settings() const { return m_settings; }
@@ -44,7 +44,7 @@ public:
     QSizeF size(const FormArea& area) const;
 
     /// What is shown; null before the first was found.
-    const ComparedSurvey* survey() const { return m_found.survey.get(); }
+    std::shared_ptr<const ComparedSurvey> survey() const { return m_found.survey; }
     const DistanceFindings& findings() const { return m_found.findings; }
     /// What the user is to know of the map, a line each.
     QStringList notes() const;
@@ -79,6 +79,8 @@ private:
 
     static void findOut(QPromise<Outcome>& promise, const SurveyFiles& files, SurveyMap map,
                         const SurveySource& source);
+    /// What the map that is shown is compared from.
+    SurveySource wanted() const;
     void forgetMap();
     void begin();
     void takeOutcome();

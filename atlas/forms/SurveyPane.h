@@ -1,0 +1,92 @@
+#pragma once
+
+#include "atlas/AtlasMapKind.h"
+
+#include <QWidget>
+
+#include <functional>
+#include <initializer_list>
+
+class AtlasSurveyMaps;
+class GroupMarksTable;
+class QCheckBox;
+class QComboBox;
+class QDoubleSpinBox;
+class QFormLayout;
+class QLabel;
+class QProgressBar;
+class QSpinBox;
+class QTableView;
+class QToolButton;
+struct VarnModule;
+
+/// The settings of maps of areas and of the survey as a whole, what was found of it, and how far the work
+/// is. Only what the map that is shown depends on can be seen.
+class SurveyPane : public QWidget
+{
+    Q_OBJECT
+
+public:
+    SurveyPane(const VarnModule& varn, AtlasSurveyMaps& survey);
+
+    /// Shows the settings of that kind of map.
+    void showKind(AtlasMapKind kind);
+
+Q_SIGNALS:
+    /// The user wants to choose the items that are compared.
+    void itemsWanted();
+    /// The user wants to take distances from a file, or to save those that were found.
+    void openWanted();
+    void saveWanted();
+
+private:
+    using Kinds = std::initializer_list<AtlasMapKind>;
+
+    void addSource();
+    void addClusters();
+    void addLook();
+    void addMarks();
+    void addWork();
+    void addRow(const QString& label, QWidget* row, Kinds kinds);
+    QComboBox* addChoice(const char* name, const QString& label, const QStringList& choices, Kinds kinds);
+    QCheckBox* addSwitch(const char* name, const QString& text, Kinds kinds);
+
+    void setSource();
+    void setSettings();
+    void setStyle();
+    void showSettings();
+    void showFound();
+    void showMarks();
+    void showProgress(int done, int of);
+    QString compared() const;
+
+    const VarnModule& m_varn;
+    AtlasSurveyMaps& m_survey;
+    AtlasMapKind m_kind = AtlasMapKind::Linguistic;
+    QFormLayout* m_rows;
+    /// The rows, and the kinds of map that each is shown for.
+    std::vector<std::pair<QWidget*, std::vector<AtlasMapKind>>> m_kindsOfRow;
+    QLabel* m_title;
+    QLabel* m_compared = nullptr;
+    QComboBox* m_answers = nullptr;
+    QComboBox* m_measure = nullptr;
+    QCheckBox* m_vowels = nullptr;
+    QComboBox* m_method = nullptr;
+    QSpinBox* m_groups = nullptr;
+    QDoubleSpinBox* m_noise = nullptr;
+    QSpinBox* m_seed = nullptr;
+    QComboBox* m_locality = nullptr;
+    QComboBox* m_classes = nullptr;
+    QCheckBox* m_hatched = nullptr;
+    QCheckBox* m_groupSymbols = nullptr;
+    QCheckBox* m_tree = nullptr;
+    QCheckBox* m_smooth = nullptr;
+    QCheckBox* m_numbers = nullptr;
+    QCheckBox* m_withSymbols = nullptr;
+    QComboBox* m_group = nullptr;
+    GroupMarksTable* m_marks;
+    QTableView* m_marksView = nullptr;
+    QLabel* m_notes = nullptr;
+    QProgressBar* m_progress = nullptr;
+    QToolButton* m_stop = nullptr;
+};

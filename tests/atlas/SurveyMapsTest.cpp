@@ -1,0 +1,147 @@
+// Maps of the survey as a whole in the atlas: what is compared, and that it is what the window shows.
+
+#include "atlas/AtlasOtherMap.h"
+#include "atlas/AtlasSurveyMaps.h"
+#include "shell/MapParts.h"
+#include "tests/atlas/AtlasSurvey.h"
+#include "tests/support/Transcript.h"
+
+#include <QEventLoop>
+#include <QTimer>
+
+namespace {
+
+class SurveyOfTwoItems : public AtlasSurvey
+{
+protected:
+    SurveyOfTwoItems()
+    {
+        DistanceMapSettings settings;
+        settings.groups = 2;
+        maps.setSettings(settings);
+    }
+
+    /// Waits until nothing is worked on.
+    void wait()
+    {
+        QEventLoop loop;
+        QTimer::singleShot(30000, &loop, [&loop] { loop.exit(1); });
+        QObject::connect(&maps, &AtlasSurveyMaps::progressed, &loop, [&] {
+            if (!maps.isBusy()) {
+                loop.exit(0);
+            }
+        });
+        EXPECT_TRUE(!maps.isBusy() || loop.exec() == 0) << "it takes too long";
+    }
+    QString drawn(AtlasMapKind kind)
+    {
+        MapGeometry geometry;
+        SymbolSet symbols = document.page().symbols;
+        const LinguisticMapParts parts{
+            {varn, varn, symbols.SymbolFileName, geometry}, textParts(varn), document.page().item, symbols};
+        return QString::fromStdString(
+            transcript(drawOtherMap(parts, {}, otherMap(kind, 1, varn, maps)).drawing));
+    }
+    double distance(int a, int b) const { return maps.survey()->distances(a, b); }
+
+    AtlasSurveyMaps maps{varn, document};
+};
+
+} // namespace
+
+TEST_F(SurveyOfTwoItems, IsComparedAgainWhenAnAnswerChanges)
+{
+    // rain: ame/uyu, -, uyu; snow: yuki, yuki, -
+    maps.setKind(AtlasMapKind::Clusters);
+    wait();
+    ASSERT_TRUE(maps.survey()) << qPrintable(maps.trouble());
+    EXPECT_EQ(maps.survey()->name, "relative identity values over 2 items");
+    EXPECT_EQ(distance(0, 1), 0);
+    EXPECT_EQ(distance(0, 2), 0.5);
+    EXPECT_FALSE(maps.survey()->distances.has(1, 2)) << "no item in common";
+    EXPECT_TRUE(maps.notes().join(' ').contains("left out, for want of a distance")) << "of 2 or of 3";
+
+    document.turnTo(ling("rain.dbs"));
+    word(2, {"ame"});
+    wait();
+    EXPECT_EQ(distance(1, 2), 1) << "the answer is not saved, but shown";
+    document.steps().undo();
+    wait();
+    EXPECT_FALSE(maps.survey()->distances.has(1, 2));
+
+    survey.write(ling("snow.dbs"), QByteArray(SnowItem).replace("\r\n0\r\n", "\r\n1\r\n\"hyo\"\r\n"));
+    maps.followFiles();
+    wait();
+    EXPECT_EQ(distance(1, 2), 1);
+    const auto before = maps.survey();
+    maps.followFiles();
+    EXPECT_FALSE(maps.isBusy()) << "nothing changed";
+    maps.setKind(AtlasMapKind::Dendrogram);
+    wait();
+    EXPECT_EQ(maps.survey(), before) << "nothing is compared again for another map of the same";
+}
+
+TEST_F(SurveyOfTwoItems, IsDrawnAsAskedFor)
+{
+    survey.write(ling("snow.dbs"), QByteArray(SnowItem).replace("\r\n0\r\n", "\r\n1\r\n\"hyo\"\r\n"));
+    const std::pair<AtlasMapKind, const char*> rows[] = {
+        {AtlasMapKind::Bundles, "Isoglosses of 2 items"},
+        {AtlasMapKind::Reference, "Distance to 2"},
+        {AtlasMapKind::Beams, "Neighbours: relative identity"},
+        {AtlasMapKind::Clusters, "2 groups by Ward's method: relative identity values over 2 items"},
+        {AtlasMapKind::Dendrogram, "2 groups by Ward's method"},
+        {AtlasMapKind::Scaling, "red: dimension 1"},
+        {AtlasMapKind::ScalingPlot, "Multidimensional scaling"},
+        {AtlasMapKind::LengthPlot, "r = "}};
+    maps.setReference(2);
+    for (const auto& [kind, text] : rows) {
+        maps.setKind(kind);
+        wait();
+        EXPECT_EQ(maps.trouble(), "");
+        const QString drawing = drawn(kind);
+        EXPECT_TRUE(drawing.contains(text)) << qPrintable(drawing);
+    }
+    document.turnTo(ling("rain.dbs"));
+    EXPECT_TRUE(drawn(AtlasMapKind::Areas).contains("AME"));
+    EXPECT_TRUE(drawn(AtlasMapKind::Isoglosses).contains("Rain"));
+}
+
+TEST_F(SurveyOfTwoItems, SaysWhyThereIsNoMap)
+{
+    maps.setKind(AtlasMapKind::Clusters);
+    wait();
+    DistanceMapSettings settings = maps.settings();
+    settings.groups = 3;
+    maps.setSettings(settings);
+    wait();
+    EXPECT_TRUE(maps.trouble().contains("3 groups cannot be made of 2 localities."))
+        << qPrintable(maps.trouble());
+    EXPECT_FALSE(maps.survey());
+    settings.groups = 2;
+    maps.setSettings(settings);
+    wait();
+    EXPECT_EQ(maps.trouble(), "");
+
+    SurveySource source = maps.source();
+    source.distancesFile = ling("d.csv");
+    survey.write(ling("d.csv"), "\"\",\"1\",\"2\"\r\n\"1\",0,1\r\n\"2\",1,0\r\n");
+    maps.setSource(source);
+    wait();
+    EXPECT_TRUE(maps.trouble().contains("d.csv")) << qPrintable(maps.trouble());
+    survey.write(ling("d.csv"), "\"\",\"1\",\"2\",\"3\"\r\n\"1\",0,1,2\r\n\"2\",1,0,3\r\n\"3\",2,3,0\r\n");
+    maps.followFiles();
+    wait();
+    EXPECT_EQ(maps.trouble(), "");
+    EXPECT_EQ(distance(1, 2), 3);
+    EXPECT_EQ(maps.survey()->name, "d");
+
+    source.distancesFile.clear();
+    source.items = {ling("none.dbs"), ling("rain.dbs")};
+    maps.setSource(source);
+    wait();
+    EXPECT_TRUE(maps.notes().contains("none: File not found")) << qPrintable(maps.notes().join('\n'));
+    source.items = {ling("none.dbs")};
+    maps.setSource(source);
+    wait();
+    EXPECT_TRUE(maps.trouble().contains("no item to compare")) << qPrintable(maps.trouble());
+}

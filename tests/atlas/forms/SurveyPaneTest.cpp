@@ -1,0 +1,132 @@
+// Maps of the survey as a whole in the atlas window: their settings, their locality, their files.
+
+#include "atlas/forms/SurveyPane.h"
+
+#include "atlas/forms/AtlasMapView.h"
+#include "atlas/forms/ItemsDialog.h"
+#include "tests/support/TestProgram.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLabel>
+#include <QListWidget>
+#include <QSpinBox>
+#include <QTableView>
+#include <QTest>
+
+namespace {
+
+/// The started program with the atlas window on a map of two items.
+class SurveyMapsOfWindow : public StartedForms
+{
+protected:
+    SurveyMapsOfWindow()
+    {
+        survey.write(ling("snow.dbs"),
+                     "3,\"\",\"Snow\",\"\"\r\n1\r\n\"yuki\"\r\n1\r\n\"yuki\"\r\n1\r\n\"hyo\"\r\n");
+        press<frmMain>("cmdAtlas");
+        QApplication::processEvents();
+    }
+
+    static QString ling(const char* file) { return VarnPath + "\\VarnData\\Test\\Ling\\" + file; }
+    template <typename Control>
+    static Control& pane(const char* name)
+    {
+        return control<frmAtlas, Control>(name);
+    }
+    /// Shows a map of that kind, and waits until it is there.
+    static void show(const char* entry)
+    {
+        trigger<frmAtlas>(entry);
+        wait();
+    }
+    static void wait()
+    {
+        EXPECT_TRUE(QTest::qWaitFor([] { return pane<QWidget>("cmdStop").isHidden(); }, 30000));
+    }
+    static QString texts()
+    {
+        QString all;
+        const Drawing drawing = form<frmAtlas>().findChild<AtlasMapView*>()->drawing();
+        for (const QString& text : drawing.texts) {
+            all += text + '\n';
+        }
+        return all;
+    }
+    static void choose(const char* box, int row)
+    {
+        pane<QComboBox>(box).setCurrentIndex(row);
+        Q_EMIT pane<QComboBox>(box).activated(row);
+        wait();
+    }
+};
+
+} // namespace
+
+TEST_F(SurveyMapsOfWindow, HaveTheirSettingsBesideThem)
+{
+    EXPECT_FALSE(form<frmAtlas>().findChild<SurveyPane*>()->isVisible());
+    pane<QSpinBox>("spnGroups").setValue(2);
+    show("mnuKindGroupsofLocalities");
+    EXPECT_TRUE(texts().contains("2 groups by Ward's method: relative identity values over 2 items"))
+        << qPrintable(texts());
+    EXPECT_TRUE(pane<QLabel>("lblNotes").text().contains("Cronbach's alpha"))
+        << "how far they can be trusted";
+    EXPECT_EQ(pane<QComboBox>("cboGroup").count(), 2);
+    EXPECT_EQ(pane<QTableView>("tblMarks").model()->rowCount(), 2);
+    EXPECT_FALSE(pane<QComboBox>("cboClasses").isVisible()) << "of another kind of map";
+    choose("cboMethod", 0);
+    EXPECT_TRUE(texts().contains("single linkage"));
+    choose("cboMeasure", 2);
+    EXPECT_TRUE(texts().contains("Levenshtein distances over 2 items"));
+    pane<QCheckBox>("chkVowels").click();
+    wait();
+    EXPECT_TRUE(texts().contains("vowels apart"));
+    pane<QSpinBox>("spnGroups").setValue(9);
+    wait();
+    EXPECT_TRUE(pane<QLabel>("lblNotes").text().contains("9 groups cannot be made"));
+
+    form<frmAtlas>().document().turnTo(ling("snow.dbs"));
+    EXPECT_TRUE(texts().contains("Snow")) << "a page is of an item";
+    EXPECT_FALSE(form<frmAtlas>().findChild<SurveyPane*>()->isVisible());
+    show("mnuKindAreasoftheItem");
+    EXPECT_TRUE(pane<QCheckBox>("chkWithSymbols").isVisible());
+    form<frmAtlas>().document().turnTo(ling("rain.dbs"));
+    EXPECT_TRUE(pane<QCheckBox>("chkWithSymbols").isVisible()) << "areas of the next item";
+    EXPECT_TRUE(texts().contains("AME"));
+}
+
+TEST_F(SurveyMapsOfWindow, FollowTheLocalityThatIsChosen)
+{
+    show("mnuKindDistancestoaLocality");
+    EXPECT_TRUE(texts().contains("Distance to 1"));
+    form<frmAtlas>().selection().setLocalities({3});
+    wait();
+    EXPECT_TRUE(texts().contains("Distance to 3"));
+    EXPECT_EQ(pane<QComboBox>("cboLocality").currentIndex(), 2);
+    choose("cboLocality", 1);
+    EXPECT_TRUE(texts().contains("Distance to 2"));
+}
+
+TEST_F(SurveyMapsOfWindow, AreOfTheItemsOrTheFileThatAreChosen)
+{
+    show("mnuKindBeamsbetweenNeighbours");
+    pane<QPushButton>("cmdItems").click();
+    auto& dialog = *form<frmAtlas>().findChild<ItemsDialog*>();
+    child<QListWidget>(dialog, "lstItems").item(0)->setCheckState(Qt::Unchecked);
+    EXPECT_EQ(child<QPushButton>(dialog, "cmdChoose").text(), "&Compare by 1 Item");
+    child<QPushButton>(dialog, "cmdChoose").click();
+    wait();
+    EXPECT_TRUE(texts().contains("over 1 item"));
+
+    program.dialogs.files = {survey.hostPath("distances.csv")};
+    pane<QPushButton>("cmdSaveDistances").click();
+    EXPECT_TRUE(survey.read("C:\\distances.csv").startsWith("\"\",\"1\",\"2\",\"3\"\r\n\"1\",0,0,1\r\n"))
+        << survey.read("C:\\distances.csv").constData();
+    program.dialogs.files = {survey.hostPath("distances.csv")};
+    pane<QPushButton>("cmdOpenDistances").click();
+    wait();
+    EXPECT_TRUE(texts().contains("Neighbours: distances"));
+    EXPECT_TRUE(pane<QLabel>("lblCompared").text().contains("distances.csv"));
+    EXPECT_FALSE(pane<QComboBox>("cboMeasure").isEnabled());
+}
