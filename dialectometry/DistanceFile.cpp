@@ -32,7 +32,7 @@ QStringList headings(const LocalityNames& names, int localities)
 /// The text of the next field, which is number `field` of its line.
 QString readCell(SequentialReader& file, int field, int localities)
 {
-    const QString text = file.readString();
+    QString text = file.readString();
     if (file.field() != field) {
         throw RunTimeError(ErrorNumber::SubscriptOutOfRange,
                            QStringLiteral("A line has the name of a locality and %1 distances, parted by "

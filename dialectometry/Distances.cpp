@@ -92,7 +92,7 @@ DistanceMatrix SurveyComparison::ofItem(int k) const
 
 std::optional<DistanceMatrix> SurveyComparison::matrix(const DistanceProgress& goOn) const
 {
-    const auto itemsAtOnce = static_cast<std::size_t>(2 * workers());
+    const auto itemsAtOnce = 2 * static_cast<std::size_t>(workers());
     Sums sums(m_localities);
     for (std::size_t first = 0; first < m_items.size(); first += itemsAtOnce) {
         if (!goOn(static_cast<int>(first), items())) {

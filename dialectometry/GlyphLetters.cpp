@@ -25,6 +25,9 @@ QStringView letterOf(const PhoneticUnit& unit)
 
 QString inLetters(QStringView coded)
 {
+    if (!coded.contains(u'\\')) {
+        return coded.toString();
+    }
     QString letters;
     while (!coded.isEmpty()) {
         const PhoneticUnit unit = decodePhonetic(coded);

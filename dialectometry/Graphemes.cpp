@@ -12,6 +12,9 @@ constexpr char32_t Length = U'ː';
 /// A character without marks, and of a raised letter the letter itself.
 char32_t plainLetter(char32_t character)
 {
+    if (QChar::decompositionTag(character) == QChar::NoDecomposition) {
+        return QChar::toLower(character);
+    }
     const QString whole = QString::fromUcs4(&character, 1).normalized(QString::NormalizationForm_KD);
     const char32_t first = whole.toUcs4().constFirst();
     return QChar::toLower(first);

@@ -69,7 +69,7 @@ std::optional<DistanceMatrix> noisyBorders(const DistanceMatrix& distances, Link
     };
     DistanceMatrix borders(distances.size());
     std::ranges::fill(borders.pairs(), 0);
-    std::vector<std::vector<int>> found(static_cast<std::size_t>(2 * workers()));
+    std::vector<std::vector<int>> found(2 * static_cast<std::size_t>(workers()));
     for (int run = 0; run < settings.runs;) {
         if (!goOn(run, settings.runs)) {
             return std::nullopt;

@@ -3,6 +3,7 @@
 #include "analysis/ContrastData.h"
 #include "analysis/CumulativeFile.h"
 #include "analysis/Statistics.h"
+#include "dialectometry/DistanceFile.h"
 #include "lingdata/EnteredItem.h"
 #include "lingdata/ItemLoader.h"
 #include "mapdata/RegisteredMap.h"
@@ -97,6 +98,11 @@ TEST(FullDisk, EveryWriterKeepsTheOldFile)
         {folder + "a.sum", [&](const QString& path) { SaveSetData(varn.Drive, path, varn); }},
         {folder + "a.stt", [&](const QString& path) { SaveStats(varn.Drive, path, varn, varn); }},
         {folder + "a.rnk", [&](const QString& path) { SaveRankFile(varn.Drive, path, varn); }},
+        {folder + "distances.csv",
+         [&](const QString& path) {
+             writeSequentialFile(varn.Drive, path,
+                                 [&](auto& file) { writeDistances(file, varn, DistanceMatrix(30)); });
+         }},
         {varn.MapNameFile, [&](const QString&) { saveMapChoice(varn, currentMapChoice(varn)); }},
         {varn.DriveFileName, [&](const QString&) { saveDriveFile(varn); }},
         {registeredMapFile(), [&](const QString&) { saveRegisteredMap(varn, varn); }},
