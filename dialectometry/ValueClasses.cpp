@@ -48,7 +48,8 @@ int ValueClasses::operator()(double value) const
     if (std::isnan(value) || count() == 0) {
         return -1;
     }
-    const auto upper = std::lower_bound(bounds.begin() + 1, bounds.end() - 1, value);
+    const double rounding = 1e-9 * (bounds.back() - bounds.front());
+    const auto upper = std::lower_bound(bounds.begin() + 1, bounds.end() - 1, value - rounding);
     return static_cast<int>(upper - bounds.begin()) - 1;
 }
 
@@ -64,8 +65,9 @@ QString ValueClasses::text(int number) const
     }
     const int decimals = std::clamp(static_cast<int>(std::ceil(-std::log10(narrowest / 5))), 0, MostDecimals);
     const auto index = static_cast<std::size_t>(number);
-    return QStringLiteral("%1 - %2").arg(QString::number(bounds[index], 'f', decimals),
-                                         QString::number(bounds[index + 1], 'f', decimals));
+    const QString from = QString::number(bounds[index], 'f', decimals);
+    const QString to = QString::number(bounds[index + 1], 'f', decimals);
+    return from == to ? from : QStringLiteral("%1 - %2").arg(from, to);
 }
 
 ValueClasses valueClasses(std::span<const double> values, ClassRule rule)

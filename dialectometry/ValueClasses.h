@@ -25,7 +25,7 @@ struct ValueClasses
     int count() const { return bounds.size() < 2 ? 0 : static_cast<int>(bounds.size()) - 1; }
     /// The class of a value; -1 of one that is not a number. A value on a bound belongs to the lower class.
     int operator()(double value) const;
-    /// "0.12 - 0.25" with as many decimals as it takes to tell the bounds apart.
+    /// "0.12 - 0.25", with as many decimals as it takes to tell the classes apart.
     QString text(int number) const;
 };
 
