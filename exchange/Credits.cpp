@@ -30,7 +30,10 @@ std::vector<Credit> libraries(const GeoData::Versions& versions)
              QStringLiteral("https://proj.org"), QStringLiteral("map projections, through GDAL")},
             {QStringLiteral("qpdf"), QString(), QStringLiteral("Jay Berkenbilt and other contributors"),
              QStringLiteral("Apache License 2.0"), QStringLiteral("https://qpdf.org"),
-             QStringLiteral("atlases of many pages")}};
+             QStringLiteral("atlases of many pages")},
+            {QStringLiteral("zlib"), QString(), QStringLiteral("Jean-loup Gailly and Mark Adler"),
+             QStringLiteral("zlib licence"), QStringLiteral("https://zlib.net"),
+             QStringLiteral("pictures as PNG")}};
 }
 
 std::vector<Credit> data()

@@ -3,10 +3,10 @@
 #include "platform/DrawingPainter.h"
 #include "platform/RunTimeError.h"
 #include "platform/WholeFile.h"
+#include "plot/PngFile.h"
 
 #include <QBuffer>
 #include <QFileInfo>
-#include <QImageWriter>
 #include <QPageSize>
 #include <QPainter>
 #include <QPdfWriter>
@@ -17,18 +17,6 @@
 namespace {
 
 constexpr double MostPixels = 500e6;
-
-QByteArray pngBytes(const QImage& image)
-{
-    constexpr int FastCompression = 30; // for a drawing as small as the default and twice as fast
-    QBuffer buffer;
-    QImageWriter writer(&buffer, "png");
-    writer.setCompression(FastCompression);
-    if (!writer.write(image)) {
-        throw RunTimeError(ErrorNumber::OutOfMemory, writer.errorString());
-    }
-    return buffer.data();
-}
 
 } // namespace
 

@@ -1,0 +1,76 @@
+#!/usr/bin/env python3
+"""Times the start of varn to its first window against that of an empty window of the same toolkit.
+
+    xvfb-run -a python3 bench/compare_start.py build/varn build/empty_window
+
+A start ends when the X server tells that a window is shown (needs Debian's x11-utils); the program is killed then.
+varn starts on the sample survey in a data folder of its own. Each pair of starts is timed in turn; the medians of the
+elapsed time and of the processor's time, and their ratios, are printed.
+"""
+
+import os
+import shutil
+import statistics
+import subprocess
+import sys
+import tempfile
+import time
+
+ROOT = os.path.dirname(os.path.dirname(os.path.abspath(__file__)))
+INSTALLATION = os.path.join(ROOT, "installation")
+STARTS = 25
+
+
+def make_home(home):
+    """A data folder of a user who started varn before."""
+    drive = os.path.join(home, "varn", "drive_c", "Varn62E")
+    shutil.copytree(INSTALLATION, os.path.join(drive, "Varn"))
+    with open(os.path.join(drive, "Varn", "VarnDriveName.map"), "w", encoding="utf-8", newline="") as file:
+        file.write('"C:\\Varn62E\\"\r\n')
+    with open(os.path.join(drive, "VarnMapName.dat"), "w", encoding="utf-8", newline="") as file:
+        file.write('"\\Sample","Arial",12,#TRUE#,#FALSE#,0\r\n')
+
+
+def watch_windows():
+    """Prints what becomes of windows, a line as soon as it happens."""
+    watch = subprocess.Popen(["stdbuf", "-oL", "xev", "-root", "-event", "substructure"], stdout=subprocess.PIPE,
+                             text=True)
+    time.sleep(0.3)  # until it listens
+    return watch
+
+
+def start(program, environment):
+    """Seconds from the start of `program` to its first window: elapsed, and those of the processor."""
+    watch = watch_windows()
+    begin = time.perf_counter()
+    process = subprocess.Popen([program], env=environment)
+    next(line for line in watch.stdout if line.startswith("MapNotify"))
+    elapsed = time.perf_counter() - begin
+    process.kill()
+    usage = os.wait4(process.pid, 0)[2]
+    process.returncode = 0  # it was waited for
+    watch.kill()
+    watch.wait()
+    return elapsed, usage.ru_utime + usage.ru_stime
+
+
+def main():
+    programs = [os.path.abspath(program) for program in sys.argv[1:3]]
+    with tempfile.TemporaryDirectory() as home:
+        make_home(home)
+        server_stays = watch_windows()  # it begins anew when its last client goes
+        environment = dict(os.environ, XDG_DATA_HOME=home, XDG_RUNTIME_DIR=home, XDG_CONFIG_HOME=home,
+                           QT_QPA_PLATFORM="xcb")
+        for program in programs:
+            start(program, environment)
+        starts = [[start(program, environment) for program in programs] for _ in range(STARTS)]
+        server_stays.kill()
+        server_stays.wait()
+    for name, column in ("elapsed", 0), ("processor", 1):
+        own, empty = (statistics.median(pair[which][column] for pair in starts) for which in (0, 1))
+        ratio = statistics.median(pair[0][column] / pair[1][column] for pair in starts)
+        print(f"start, {name}: varn {own * 1000:.0f} ms, empty window {empty * 1000:.0f} ms, ratio {ratio:.2f}")
+
+
+if __name__ == "__main__":
+    main()
