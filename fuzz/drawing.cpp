@@ -16,14 +16,18 @@
 
 namespace {
 
+/// What `text` holds, or what was there where it cannot be read.
 template <typename Value>
 void take(const QString& text, Value (*read)(SequentialReader&), Value& value)
 {
-    SequentialReader reader(text);
-    value = read(reader);
+    expectAnswer([&] {
+        SequentialReader reader(text);
+        value = read(reader);
+    });
 }
 
-/// The parts of the survey stand behind each other, parted by a sign that no file has.
+/// The parts of the survey stand behind each other, parted by a sign that no file has; most inputs have some
+/// that are sound, which then meet others that are not those they were made for.
 void drawSurvey(const QStringList& parts)
 {
     VarnModule varn;

@@ -4,31 +4,39 @@
 #include "analysis/CountedItemsFile.h"
 #include "analysis/CumulativeFile.h"
 #include "analysis/DiffusionSymbols.h"
+#include "analysis/Statistics.h"
 #include "fuzz/FuzzInput.h"
 #include "lingdata/InputKindsFile.h"
 #include "lingdata/KindList.h"
 #include "lingdata/LinguisticFile.h"
+#include "mapdata/LocalityNames.h"
 #include "mapdata/MapFiles.h"
 #include "shell/MapChoice.h"
 #include "symbols/SymbolFile.h"
 
 #include <array>
+#include <optional>
 
 namespace {
 
-/// Reads a value of `text`, writes it, and reads and writes that again.
+/// Reads a value of `text`, writes it, and reads and writes that again, which never fails.
 template <typename Read, typename Write>
 void roundTrip(const QString& text, Read read, Write write)
 {
-    const auto writtenFrom = [&](const QString& from) {
-        SequentialReader reader(from);
-        const auto value = read(reader);
-        SequentialWriter writer;
-        write(writer, value);
-        return writer.bytes();
+    const auto writtenFrom = [&](const QString& from) -> std::optional<QByteArray> {
+        try {
+            SequentialReader reader(from);
+            const auto value = read(reader);
+            SequentialWriter writer;
+            write(writer, value);
+            return writer.bytes();
+        } catch (const RunTimeError&) {
+            return std::nullopt;
+        }
     };
-    const QByteArray written = writtenFrom(text);
-    require(writtenFrom(QString::fromUtf8(written)) == written);
+    if (const auto written = writtenFrom(text)) {
+        require(writtenFrom(QString::fromUtf8(*written)) == written);
+    }
 }
 
 WordKinds kindsIn(SequentialReader& file)
@@ -38,18 +46,40 @@ WordKinds kindsIn(SequentialReader& file)
     return kinds;
 }
 
+/// A word form without strings has no line in its file, which then ends too early; so there is none here.
 CumulativeData charactersIn(SequentialReader& file)
 {
     CumulativeData data;
     readSpecifyChars(file, data);
+    for (int k = 1; k <= data.NumWordforms; ++k) {
+        if (data.NumSpecifyChars(k) == 0) {
+            throw RunTimeError(ErrorNumber::InputPastEndOfFile);
+        }
+    }
     return data;
+}
+
+CumulativeTable countedItemsIn(SequentialReader& file)
+{
+    CumulativeTable table;
+    table.NumItemsAccumulated = 2;
+    table.CountedItems = readCountedItems(file, table.NumItemsAccumulated);
+    return table;
+}
+
+void writeOwnStatistics(SequentialWriter& file, const Statistics& statistics)
+{
+    CumulativeTable table;
+    table.NumWordforms = static_cast<qint16>(statistics.StatsWordforms);
+    table.NumItemsAccumulated = static_cast<qint16>(statistics.StatsItems);
+    writeStatistics(file, table, statistics);
 }
 
 constexpr int Places = 3;
 
 using Trip = void (*)(const QString&);
 
-constexpr std::array<Trip, 13> Trips = {
+constexpr std::array<Trip, 16> Trips = {
     [](const QString& text) { roundTrip(text, readLocalities, writeLocalities); },
     [](const QString& text) { roundTrip(text, readLines, writeLines); },
     [](const QString& text) { roundTrip(text, readPlaceNames, writePlaceNames); },
@@ -66,7 +96,13 @@ constexpr std::array<Trip, 13> Trips = {
         roundTrip(
             text, [](SequentialReader& file) { return readTotal(file, Places); },
             [](SequentialWriter& file, const CumulativeTable& table) { writeTotal(file, table, Places); });
-    }};
+    },
+    [](const QString& text) {
+        roundTrip(
+            text, [](SequentialReader& file) { return readLocalityNames(file, Places); }, writeLocalityNames);
+    },
+    [](const QString& text) { roundTrip(text, countedItemsIn, writeCountedItems); },
+    [](const QString& text) { roundTrip(text, readStatistics, writeOwnStatistics); }};
 
 } // namespace
 
@@ -74,7 +110,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
 {
     if (size > 0) { // the first byte chooses the reader
         const QString text = QString::fromUtf8(inputOf(data + 1, size - 1));
-        expectAnswer([&] { Trips.at (*data % Trips.size())(text); });
+        Trips.at (*data % Trips.size())(text);
     }
     return 0;
 }

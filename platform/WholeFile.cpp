@@ -8,6 +8,8 @@
 #include <QSaveFile>
 
 #include <cerrno>
+#include <system_error>
+#include <unistd.h>
 
 namespace {
 
@@ -70,6 +72,19 @@ void writeAll(QFileDevice& file, const QString& path, const QByteArray& bytes)
     }
 }
 
+/// Waits until what was written is on the disk. `QSaveFile` waits too, but says nothing where that fails. A
+/// file system that cannot be waited for has no fault.
+void requireOnDisk(const QFileDevice& file, const QString& path)
+{
+    if (fsync(file.handle()) == 0 || errno == EINVAL || errno == ENOTSUP) {
+        return;
+    }
+    const int error = errno;
+    const bool full = error == ENOSPC || error == EDQUOT;
+    raise(full ? ErrorNumber::DiskFull : ErrorNumber::DeviceIOError, path,
+          QString::fromStdString(std::generic_category().message(error)));
+}
+
 } // namespace
 
 QByteArray readBytes(const DriveC& drive, const QString& path)
@@ -105,6 +120,7 @@ void replaceHostFile(const QString& hostPath, const QString& path, const QByteAr
     requireRegular(target, path);
     QSaveFile file(target.absoluteFilePath());
     writeAll(file, path, bytes);
+    requireOnDisk(file, path);
     if (!file.commit()) {
         raiseWriteError(file, ErrorNumber::DeviceIOError, path);
     }

@@ -2,10 +2,14 @@
 
 #include "exchange/ReadSource.h"
 #include "tests/exchange/SurveyText.h"
+#include "tests/support/FailingStep.h"
 #include "tests/support/TestDrive.h"
 
 #include <QDir>
 #include <QProcess>
+
+#include <cerrno>
+#include <utility>
 
 namespace {
 
@@ -125,6 +129,21 @@ TEST_F(Export, IsThereAsAWholeOrNotAtAll)
     EXPECT_FALSE(exportSurvey(survey.varn, out("new"), [](int, int, const QString&) { return false; }));
     EXPECT_EQ(left(), QStringLiteral("Varn62E a.csv there"));
     EXPECT_EQ(QDir(out("there")).entryList(QDir::Files), QStringList(QStringLiteral("note.txt")));
+}
+
+TEST_F(Export, OnADiskThatFailsSaysSoAndLeavesNothing)
+{
+    const QString before = left();
+    for (const char* name : {"a.csv", "a.geojson", "a.gpkg", "cldf"}) {
+        for (const auto& [step, failure] : {std::pair(SaveStep::Sync, EIO), {SaveStep::Rename, ENOSPC}}) {
+            const RunTimeError error = errorOf([&, name = name, step = step, failure = failure] {
+                const FailingStep failing(step, failure);
+                write(out(name));
+            });
+            EXPECT_EQ(error.place().path, out(name));
+            EXPECT_EQ(left(), before) << name << ' ' << failure;
+        }
+    }
 }
 
 TEST_F(Export, IsACommandOfVarnplot)

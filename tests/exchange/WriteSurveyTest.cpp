@@ -5,10 +5,13 @@
 #include "mapdata/MapSearch.h"
 #include "render/MadeSymbols.h"
 #include "symbols/SymbolFile.h"
+#include "tests/support/FailingStep.h"
 #include "tests/support/FileSizeLimit.h"
 #include "tests/support/TestDrive.h"
 
 #include <QDir>
+
+#include <cerrno>
 
 namespace {
 
@@ -81,6 +84,12 @@ TEST_F(WriteSurvey, NothingIsLeftOfAMapThatIsNotComplete)
     });
     EXPECT_EQ(error.number(), ErrorNumber::DeviceIOError);
     EXPECT_TRUE(error.place().path.startsWith(Maps + QStringLiteral("New\\"))) << error.what();
+    EXPECT_EQ(maps(), before);
+    const RunTimeError misplaced = errorOf([&] {
+        const FailingStep rename(SaveStep::Rename, EACCES);
+        writeSurvey(survey, folders, QStringLiteral("New"), goOn);
+    });
+    EXPECT_EQ(misplaced.place().path, Maps + QStringLiteral("New"));
     EXPECT_EQ(maps(), before);
 }
 

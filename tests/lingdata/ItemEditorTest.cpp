@@ -55,7 +55,9 @@ TEST(ItemEditor, EveryRealChangeIsAStepThatCanBeUndone)
         {"an empty word form", [](ItemEditor& e) { set(e, 2, 3, "\"\""); }, "a/,,\"\"/|a||", {{2, 3}}},
         {"an empty cell emptied", [](ItemEditor& e) { set(e, 1, 2, " "); }, "a//|a||", {}},
         {"a block",
-         [](ItemEditor& e) { e.paste(readBlock("b\t\tc\nd"), CellPlace(2, 3)); },
+         [](ItemEditor& e) {
+             e.paste(readBlock("b\t\tc\nd"), CellPlace{2, 3});
+         },
          "a/,,b,,c/,,d|a||",
          {{2, 3}}},
         {"the same caption", [](ItemEditor& e) { e.setCaption(""); }, "a//|a||", {}},

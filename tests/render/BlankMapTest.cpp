@@ -115,7 +115,8 @@ line 150,550 150,300 pen 1/0/0
 "0" 200,250 10pt
 )");
     for (const auto& [length, label] : {std::pair(5, ""), {0, "km"}}) {
-        EXPECT_EQ(errorOf([&] { drawn(0, length, label); }).number(), ErrorNumber::DivisionByZero) << label;
+        const auto draw = [&drawn, length = length, label = label] { drawn(0, length, label); };
+        EXPECT_EQ(errorOf(draw).number(), ErrorNumber::DivisionByZero) << label;
     }
 }
 

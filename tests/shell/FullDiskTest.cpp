@@ -12,6 +12,7 @@
 #include "shell/MapChoice.h"
 #include "shell/MapParts.h"
 #include "symbols/SymbolFile.h"
+#include "tests/support/FailingStep.h"
 #include "tests/support/FileSizeLimit.h"
 #include "tests/support/TestDrive.h"
 
@@ -20,14 +21,10 @@
 
 #include <algorithm>
 #include <cerrno>
-#include <cstdio>
-#include <fcntl.h>
 #include <functional>
 #include <optional>
 
 namespace {
-
-bool renamesFail = false;
 
 /// The error of `save` while no file can grow beyond `limit` bytes.
 std::optional<RunTimeError> errorWithin(long long limit, const std::function<void()>& save)
@@ -57,17 +54,6 @@ void expectOldFile(const TestDrive& drive, const QString& path, long long limit,
 }
 
 } // namespace
-
-/// Takes the place of the system's function in this program, so that a disk can be full only when a file is
-/// put in its place.
-extern "C" int rename(const char* from, const char* to)
-{
-    if (renamesFail) {
-        errno = ENOSPC;
-        return -1;
-    }
-    return renameat(AT_FDCWD, from, AT_FDCWD, to);
-}
 
 TEST(FullDisk, EveryWriterKeepsTheOldFile)
 {
@@ -120,21 +106,35 @@ TEST(FullDisk, EveryWriterKeepsTheOldFile)
         const qsizetype size = survey.read(path).size();
         ASSERT_GT(size, 0) << qPrintable(path);
         for (const qsizetype limit : {size - 1, size - std::min(size, Buffer) + 1, size / 2, qsizetype(0)}) {
-            expectOldFile(survey, path, limit, [&] { save(path); });
+            expectOldFile(survey, path, limit, [&, &path = path, &save = save] { save(path); });
         }
-        EXPECT_FALSE(errorWithin(size, [&] { save(path); })) << qPrintable(path);
+        EXPECT_FALSE(errorWithin(size, [&, &path = path, &save = save] { save(path); })) << qPrintable(path);
     }
 }
 
-TEST(FullDisk, ADiskThatIsFullWhenTheFileIsPutInItsPlaceIsFull)
+TEST(FullDisk, TheLastStepsOfASaveFailWithAWordAndKeepTheOldFile)
 {
+    using enum ErrorNumber;
     const TestDrive drive;
     const QString path = "C:\\item.dbs";
     drive.write(path, "old");
-    renamesFail = true;
-    const RunTimeError error = errorOf([&] { replaceFile(drive.drive(), path, "new"); });
-    renamesFail = false;
-    EXPECT_EQ(error.number(), ErrorNumber::DiskFull);
-    EXPECT_EQ(drive.read(path), "old");
-    EXPECT_EQ(QDir(drive.root()).entryList(QDir::Files).size(), 1);
+    const std::tuple<SaveStep, int, ErrorNumber> rows[] = {
+        {SaveStep::Rename, ENOSPC, DiskFull},      {SaveStep::Rename, EDQUOT, DiskFull},
+        {SaveStep::Rename, EACCES, DeviceIOError}, {SaveStep::Sync, EIO, DeviceIOError},
+        {SaveStep::Sync, ENOSPC, DiskFull},        {SaveStep::Sync, EDQUOT, DiskFull}};
+    for (const auto& [step, failure, expected] : rows) {
+        SCOPED_TRACE(std::to_string(static_cast<int>(step)) + ' ' + std::to_string(failure));
+        const RunTimeError error = errorOf([&, step = step, failure = failure] {
+            const FailingStep failing(step, failure);
+            replaceFile(drive.drive(), path, "new");
+        });
+        EXPECT_EQ(error.number(), expected);
+        EXPECT_EQ(error.place().path, path);
+        EXPECT_FALSE(error.detail().isEmpty());
+        EXPECT_EQ(drive.read(path), "old");
+        EXPECT_EQ(QDir(drive.root()).entryList(QDir::Files).size(), 1);
+    }
+    const FailingStep unknown(SaveStep::Sync, EINVAL);
+    replaceFile(drive.drive(), path, "new");
+    EXPECT_EQ(drive.read(path), "new") << "a file system that cannot be waited for";
 }

@@ -32,9 +32,9 @@ public:
         QString title;
 
         bool operator==(const Shown&) const = default;
-        friend void PrintTo(const Shown& shown, std::ostream* out)
+        friend void PrintTo(const Shown& dialog, std::ostream* out)
         {
-            *out << '[' << qPrintable(shown.title) << "] " << qPrintable(shown.text);
+            *out << '[' << qPrintable(dialog.title) << "] " << qPrintable(dialog.text);
         }
     };
 

@@ -14,8 +14,6 @@
 #include <QScrollBar>
 #include <QStatusBar>
 
-#include <ranges>
-
 namespace {
 
 /// The labels of the status bar.
@@ -40,10 +38,12 @@ QString statusOf(const VarnForm& form)
 
 QString greyedOf(const VarnForm& form)
 {
-    auto ways = waysOut(form);
-    std::erase_if(ways, [](const auto& way) { return way.second->property("enabled").toBool(); });
     QStringList names;
-    std::ranges::copy(std::views::keys(ways), std::back_inserter(names));
+    for (const auto& [name, way] : waysOut(form)) {
+        if (!way->property("enabled").toBool()) {
+            names << name;
+        }
+    }
     for (const auto* widget : form.findChildren<QWidget*>(QRegularExpression("^(txt|cbo|lst|chk)"))) {
         names << (widget->isVisible() && !widget->isEnabled() ? QStringList(widget->objectName())
                                                               : QStringList());
