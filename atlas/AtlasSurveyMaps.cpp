@@ -177,11 +177,13 @@ void AtlasSurveyMaps::begin()
     SurveyFiles source = files();
     SurveyMap next{m_kind, m_cells, areSame ? m_found.survey : nullptr, m_settings, DistanceFindings()};
     m_work.setFuture(QtConcurrent::run(findOut, std::move(source), std::move(next), wanted()));
+    m_isBusy = true;
     Q_EMIT progressed(0, 0);
 }
 
 void AtlasSurveyMaps::takeOutcome()
 {
+    m_isBusy = false;
     if (!m_work.isCanceled() && m_work.future().resultCount() > 0) {
         Outcome outcome = m_work.future().takeResult();
         m_trouble = outcome.trouble;

@@ -51,7 +51,7 @@ public:
     /// Why there is no map; empty where there is one or will be.
     const QString& trouble() const { return m_trouble; }
 
-    bool isBusy() const { return m_work.isRunning(); }
+    bool isBusy() const { return m_isBusy; }
     /// Ends the work; what was shown stays.
     void stop();
 
@@ -101,5 +101,7 @@ private:
     ItemMarks m_marks;
     int m_edits = 0;
     QString m_trouble;
+    /// Whether there is work whose outcome has not been taken.
+    bool m_isBusy = false;
     QFutureWatcher<Outcome> m_work;
 };

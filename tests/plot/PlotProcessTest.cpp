@@ -130,7 +130,7 @@ TEST_F(PlotProcess, ASurveyAsAWholeIsComparedAndDrawn)
     write("Ling/snow.dbs", "3,\"\",\"Snow\",\"\"\r\n1\r\n\"yuki\"\r\n1\r\n\"yuki\"\r\n1\r\n\"hyo\"\r\n");
     const QString told = run("distances --items Ling/rain.dbs Ling/snow.dbs --output d.csv", 0).first;
     EXPECT_TRUE(told.contains("3 localities, relative identity values over 2 items")) << qPrintable(told);
-    EXPECT_EQ(read("d.csv"), "\"\",\"1\",\"2\",\"3\"\r\n\"1\",0,0,.75\r\n\"2\",0,0,1\r\n\"3\",.75,1,0\r\n")
+    EXPECT_EQ(read("d.csv"), "\"\",\"1\",\"2\",\"3\"\r\n\"1\",0,0,0.75\r\n\"2\",0,0,1\r\n\"3\",0.75,1,0\r\n")
         << "locality 2 has no word for rain; 3 has that of 1 and another one";
     const std::tuple<QByteArray, const char*, const char*> rows[] = {
         {"area-map --data Ling/rain.dbs --symbols Ling/rain.han", "areas.svg", ">the word (2)<"},
@@ -158,7 +158,7 @@ TEST_F(PlotProcess, ASurveyAsAWholeIsComparedAndDrawn)
                {"4 groups cannot be made of 3 localities."});
     expectTold("reference-map --distances d.csv --locality Nowhere --output x.svg", 1,
                {"has the number or the name Nowhere"});
-    write("bad.csv", read("d.csv").replace(".75,1,0", ".25,1,0"));
+    write("bad.csv", read("d.csv").replace("0.75,1,0", "0.25,1,0"));
     expectTold("beam-map --distances bad.csv --output x.svg", 1, {"'13': Type mismatch", file("bad.csv")});
     EXPECT_FALSE(QFile::exists(file("x.svg")));
 }
