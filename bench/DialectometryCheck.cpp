@@ -27,6 +27,19 @@
 
 namespace {
 
+struct NamedMethod
+{
+    const char* name;
+    LinkageMethod method;
+};
+
+/// The methods by their names in SciPy.
+constexpr NamedMethod Methods[] = {{"single", LinkageMethod::Single},
+                                   {"complete", LinkageMethod::Complete},
+                                   {"average", LinkageMethod::Average},
+                                   {"weighted", LinkageMethod::Weighted},
+                                   {"ward", LinkageMethod::Ward}};
+
 /// The least milliseconds of several runs.
 template <typename Work>
 double bestTime(const Work& work)
@@ -176,18 +189,13 @@ void analyse(const QString& path)
     const auto count = static_cast<int>(names.localityNames.size());
     const DistanceMatrix matrix = readSequentialFile(
         drive, file, [&](SequentialReader& reader) { return readDistances(reader, names, count); });
-    const std::pair<QString, LinkageMethod> methods[] = {
-        {QStringLiteral("single"), LinkageMethod::Single},
-        {QStringLiteral("complete"), LinkageMethod::Complete},
-        {QStringLiteral("average"), LinkageMethod::Average},
-        {QStringLiteral("weighted"), LinkageMethod::Weighted},
-        {QStringLiteral("ward"), LinkageMethod::Ward}};
     QJsonObject trees;
-    for (const auto& [name, method] : methods) {
-        const Linkage tree = linkage(matrix, method);
-        trees[name] = QJsonObject{{"rows", rowsOf(tree)},
-                                  {"leftOut", static_cast<int>(leftOut(tree, count).size())},
-                                  {"time", bestTime([&] { linkage(matrix, method); })}};
+    for (const NamedMethod& named : Methods) {
+        const Linkage tree = linkage(matrix, named.method);
+        trees[QLatin1String(named.name)] =
+            QJsonObject{{"rows", rowsOf(tree)},
+                        {"leftOut", static_cast<int>(leftOut(tree, count).size())},
+                        {"time", bestTime([&] { linkage(matrix, named.method); })}};
     }
     const Scaling scaling = classicalScaling(matrix);
     QJsonArray places;
