@@ -12,6 +12,9 @@
 
 namespace {
 
+/// What trees and scaling can square and add up.
+constexpr double MostDistance = 1e30;
+
 QStringList headings(const LocalityNames& names, int localities, bool numbered)
 {
     QStringList headings;
@@ -121,6 +124,9 @@ private:
         if (distance < 0) {
             throw RunTimeError(ErrorNumber::TypeMismatch,
                                QStringLiteral("A distance of %1 is less than 0.").arg(text));
+        }
+        if (distance > MostDistance) {
+            throw RunTimeError(ErrorNumber::Overflow, QStringLiteral("%1 is too large.").arg(text));
         }
         return distance;
     }

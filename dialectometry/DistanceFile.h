@@ -14,7 +14,7 @@ class SequentialWriter;
 /// same on both sides; cells of both halves may differ by rounding. Raises, at the cell, type mismatch for a
 /// word, a distance that is negative or unequal to that of the other half, a locality with a distance to
 /// itself, and a name that the map does not have or that comes twice; subscript out of range for another
-/// number of localities, and input past end of file.
+/// number of localities, overflow beyond 1e30, and input past end of file.
 DistanceMatrix readDistances(SequentialReader& file, const LocalityNames& names, int localities);
 
 void writeDistances(SequentialWriter& file, const LocalityNames& names, const DistanceMatrix& distances);
