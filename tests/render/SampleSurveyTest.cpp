@@ -12,9 +12,6 @@
 
 #include <QDir>
 
-#include <algorithm>
-#include <ranges>
-
 namespace {
 
 struct SampleSurvey
@@ -40,10 +37,13 @@ struct SampleSurvey
         LoadHankoData(varn.Drive, withEnding(path, ".han"), varn);
     }
 
-    auto symbolsOf(const QString& word)
+    int symbolsOf(const QString& word)
     {
-        const auto isIn = [&](int k) { return word.contains(varn.HankoWord(k)); };
-        return std::ranges::count_if(std::views::iota(1, varn.NHanrei + 1), isIn);
+        int symbols = 0;
+        for (int k = 1; k <= varn.NHanrei; ++k) {
+            symbols += word.contains(varn.HankoWord(k)) ? 1 : 0;
+        }
+        return symbols;
     }
 
     VarnModule varn;

@@ -57,7 +57,7 @@ TEST(Printing, EachDrawingCommandIsADocument)
     ASSERT_EQ(survey.documents.size(), 2U);
     EXPECT_TRUE(survey.frmMap.drawing().operations.empty());
     const QPointF margins[] = {{20, 15}, {30, 25}};
-    for (const int n : {0, 1}) {
+    for (const size_t n : {0U, 1U}) {
         const QPointF moved = printedAt(survey.documents[n].at(0), "Town") - onForm;
         EXPECT_LT((moved - 56.7 * margins[n]).manhattanLength(), 0.02) << n;
     }

@@ -214,7 +214,7 @@ TEST_F(AtlasLists, LocalitiesAreSortedFilteredAndSelectedWithTheMap)
     open();
     EXPECT_EQ(cells(), QStringList({"1,Zell,ame,uyu,", "2,Au,,,", "3,Imst,uyu,,"}));
     const QModelIndex marked = localities().model()->index(0, AtlasLocalityTable::FirstWord + 1);
-    EXPECT_EQ(marked.data(AtlasLocalityTable::Marks).toList(), QVariantList({2}));
+    EXPECT_EQ(marked.data(AtlasLocalityTable::Marks).toList(), QVariantList{2});
     EXPECT_EQ(marked.data(Qt::AccessibleTextRole), "uyu, symbol of UYU");
 
     localities().sortByColumn(AtlasLocalityTable::Name, Qt::DescendingOrder);
