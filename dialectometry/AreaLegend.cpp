@@ -37,17 +37,21 @@ class LegendGrid
 public:
     LegendGrid(const AreaMapParts& parts, const AreaLegend& legend, const FormArea& area, TextRuler& ruler)
         : m_step(static_cast<float>(std::max((parts.text.font.MapFontSize + 2) * 20, 300))),
-          m_origin(captionOrigin(parts.base))
+          m_origin(captionOrigin(parts.base)), m_titleLines(legend.title.count(u'\n') + 1)
     {
         measure(legend, area, ruler);
     }
 
-    QPointF title() const { return m_origin + QPointF(Margin, Margin); }
+    /// The top left corner of a line of the title, from 0.
+    QPointF title(qsizetype line = 0) const
+    {
+        return m_origin + QPointF(Margin, Margin + static_cast<float>(line) * m_step);
+    }
     /// The top left corner of row i, from 0.
     QPointF row(std::size_t i) const
     {
-        const auto line = static_cast<float>(i % m_rows + 1);
-        return title() + QPointF(m_columns[i / m_rows], line * m_step + TitleGap);
+        const auto line = static_cast<float>(i % m_rows);
+        return title(m_titleLines) + QPointF(m_columns[i / m_rows], line * m_step + TitleGap);
     }
     float step() const { return m_step; }
 
@@ -58,7 +62,8 @@ private:
     {
         constexpr float FewestRows = 6;
 
-        const float room = (area.Height - static_cast<float>(title().y()) - TitleGap) / m_step - 2;
+        const float room =
+            (area.Height - static_cast<float>(title(m_titleLines).y()) - TitleGap) / m_step - 1;
         m_rows = static_cast<std::size_t>(std::max(room, FewestRows));
         const std::size_t count = legend.rows.size();
         float column = 0;
@@ -74,6 +79,7 @@ private:
 
     float m_step;
     QPointF m_origin;
+    qsizetype m_titleLines;
     std::size_t m_rows = 1;
     std::vector<float> m_columns;
 };
@@ -133,11 +139,15 @@ void drawAreaLegend(const AreaMapParts& parts, const AreaLegend& legend, MapSurf
     TextRuler ruler(parts.text, target.font());
     const LegendGrid grid(parts, legend, surfaces.area, ruler);
     PhoneticText text(parts.text, surfaces);
-    const QPointF title = grid.title();
-    // The name of the map that stands there, too, is covered.
-    const float width = std::max(ruler.width(legend.title), target.TextWidth(parts.base.map.KanjiText(1)));
-    drawGround(title, width, grid.step(), target);
-    text.PlotChar(static_cast<float>(title.x()), static_cast<float>(title.y()), legend.title);
+    // The name of the map, which stands there too, is covered.
+    float width = target.TextWidth(parts.base.map.KanjiText(1));
+    qsizetype number = 0;
+    for (const QString& line : legend.title.split(u'\n')) {
+        const QPointF corner = grid.title(number++);
+        drawGround(corner, std::max(width, ruler.width(line)), grid.step(), target);
+        text.PlotChar(static_cast<float>(corner.x()), static_cast<float>(corner.y()), line);
+        width = 0;
+    }
     for (std::size_t i = 0; i < legend.rows.size(); ++i) {
         const AreaLegendRow& row = legend.rows[i];
         const QPointF corner = grid.row(i);

@@ -18,6 +18,7 @@ struct AreaLegendRow
 /// The legend of a map of areas.
 struct AreaLegend
 {
+    /// One or more lines.
     QString title;
     std::vector<AreaLegendRow> rows;
     /// Of the symbols.

@@ -39,18 +39,18 @@ public:
             row.push_back(m_distances(m_settings.reference, i));
         }
         const QString place = localityTitle(m_parts.base.map, m_settings.reference + 1);
-        drawReferenceMap(m_parts, titled(QStringLiteral("Distance to %1").arg(place)), row,
+        drawReferenceMap(m_parts, twoLines(QStringLiteral("Distance to %1").arg(place)), row,
                          m_settings.reference, {m_settings.look, m_settings.rule}, m_surfaces);
     }
 
     void beams() const
     {
-        drawBeamMap(m_parts, titled(QStringLiteral("Neighbours")), m_distances, m_surfaces);
+        drawBeamMap(m_parts, twoLines(QStringLiteral("Neighbours")), m_distances, m_surfaces);
     }
 
     void clusters() const
     {
-        drawClusterMap(m_parts, titled(groupsTitle()), m_findings.groups, m_findings.shares,
+        drawClusterMap(m_parts, twoLines(groupsTitle()), m_findings.groups, m_findings.shares,
                        {m_settings.look, true, m_settings.symbols}, m_surfaces);
         if (m_settings.withDendrogram) {
             tree(page(m_surfaces.area.Width), nameOf(m_settings.method));
@@ -61,7 +61,7 @@ public:
 
     void scaling() const
     {
-        drawScalingMap(m_parts, titled(QStringLiteral("Multidimensional scaling")), m_findings.scaling,
+        drawScalingMap(m_parts, twoLines(QStringLiteral("Multidimensional scaling")), m_findings.scaling,
                        m_surfaces);
     }
 
@@ -87,6 +87,8 @@ private:
         return QRectF(left, 0, width, m_surfaces.area.Height).adjusted(Rim, Rim, -Rim, -Rim);
     }
     QString titled(const QString& map) const { return map + QStringLiteral(": ") + m_what; }
+    /// For a legend, which is narrow.
+    QString twoLines(const QString& map) const { return map + QLatin1Char('\n') + m_what; }
 
     QString groupsTitle() const
     {

@@ -103,6 +103,7 @@ private:
     void mnuAbout_Click();
 
     void showMapOf(AtlasMapKind kind);
+    void showSettingsOf(AtlasMapKind kind);
     void drawKind();
     void followTable();
     void followReference();

@@ -26,13 +26,26 @@ void frmAtlas::showMapOf(AtlasMapKind kind)
 {
     m_kind = kind;
     m_survey.setKind(kind);
-    m_surveyPane->showKind(kind);
-    const bool hasSettings = isOfSurvey(kind) || (isOfItem(kind) && kind != AtlasMapKind::Linguistic);
-    m_surveyPane->setVisible(hasSettings);
-    m_records->setVisible(!isOfSurvey(kind));
+    showSettingsOf(kind);
     drawKind();
     showMapKinds();
     showLoaded();
+}
+
+/// Beside a map of the survey as a whole they have most of the room.
+void frmAtlas::showSettingsOf(AtlasMapKind kind)
+{
+    const bool hasSettings =
+        isOfSurvey(kind) || kind == AtlasMapKind::Areas || kind == AtlasMapKind::Isoglosses;
+    const bool areNew = hasSettings && m_surveyPane->isHidden();
+    m_surveyPane->showKind(kind);
+    m_surveyPane->setVisible(hasSettings);
+    m_records->setVisible(!isOfSurvey(kind));
+    if (areNew) {
+        const int room = m_details->height();
+        m_details->setSizes(isOfSurvey(kind) ? QList<int>{0, room * 3 / 4, room / 4}
+                                             : QList<int>{room / 2, room / 4, room / 4});
+    }
 }
 
 /// The table may be another one meanwhile. Without what the map needs the linguistic map takes its place.

@@ -87,8 +87,8 @@ TEST_F(SurveyOfTwoItems, IsDrawnAsAskedFor)
     const std::pair<AtlasMapKind, const char*> rows[] = {
         {AtlasMapKind::Bundles, "Isoglosses of 2 items"},
         {AtlasMapKind::Reference, "Distance to 2"},
-        {AtlasMapKind::Beams, "Neighbours: relative identity"},
-        {AtlasMapKind::Clusters, "2 groups by Ward's method: relative identity values over 2 items"},
+        {AtlasMapKind::Beams, "relative identity values over 2 items"},
+        {AtlasMapKind::Clusters, "2 groups by Ward's method"},
         {AtlasMapKind::Dendrogram, "2 groups by Ward's method"},
         {AtlasMapKind::Scaling, "red: dimension 1"},
         {AtlasMapKind::ScalingPlot, "Multidimensional scaling"},

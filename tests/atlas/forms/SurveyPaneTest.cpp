@@ -68,7 +68,7 @@ TEST_F(SurveyMapsOfWindow, HaveTheirSettingsBesideThem)
     EXPECT_FALSE(form<frmAtlas>().findChild<SurveyPane*>()->isVisible());
     pane<QSpinBox>("spnGroups").setValue(2);
     show("mnuKindGroupsofLocalities");
-    EXPECT_TRUE(texts().contains("2 groups by Ward's method: relative identity values over 2 items"))
+    EXPECT_TRUE(texts().contains("2 groups by Ward's method\nrelative identity values over 2 items"))
         << qPrintable(texts());
     EXPECT_TRUE(pane<QLabel>("lblNotes").text().contains("Cronbach's alpha"))
         << "how far they can be trusted";
@@ -126,7 +126,7 @@ TEST_F(SurveyMapsOfWindow, AreOfTheItemsOrTheFileThatAreChosen)
     program.dialogs.files = {survey.hostPath("distances.csv")};
     pane<QPushButton>("cmdOpenDistances").click();
     wait();
-    EXPECT_TRUE(texts().contains("Neighbours: distances"));
+    EXPECT_TRUE(texts().contains("Neighbours\ndistances"));
     EXPECT_TRUE(pane<QLabel>("lblCompared").text().contains("distances.csv"));
     EXPECT_FALSE(pane<QComboBox>("cboMeasure").isEnabled());
 }
