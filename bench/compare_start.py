@@ -1,11 +1,12 @@
 #!/usr/bin/env python3
-"""Times the start of varn to its first window against that of an empty window of the same toolkit.
+"""Times the start of varn to its first window against that of an empty window of the same toolkit, and of a question
+like the one that varn begins with.
 
     xvfb-run -a python3 bench/compare_start.py build/varn build/empty_window
 
 A start ends when the X server tells that a window is shown (needs Debian's x11-utils); the program is killed then.
-varn starts on the sample survey in a data folder of its own. Each pair of starts is timed in turn; the medians of the
-elapsed time and of the processor's time, and their ratios, are printed.
+varn starts on the sample survey in a data folder of its own. The programs are started in turn; the medians of the
+elapsed time and of the processor's time, and those of the ratios, are printed.
 """
 
 import os
@@ -39,11 +40,11 @@ def watch_windows():
     return watch
 
 
-def start(program, environment):
-    """Seconds from the start of `program` to its first window: elapsed, and those of the processor."""
+def start(command, environment):
+    """Seconds from the start of `command` to its first window: elapsed, and those of the processor."""
     watch = watch_windows()
     begin = time.perf_counter()
-    process = subprocess.Popen([program], env=environment)
+    process = subprocess.Popen(command, env=environment)
     next(line for line in watch.stdout if line.startswith("MapNotify"))
     elapsed = time.perf_counter() - begin
     process.kill()
@@ -55,21 +56,24 @@ def start(program, environment):
 
 
 def main():
-    programs = [os.path.abspath(program) for program in sys.argv[1:3]]
+    varn, empty = (os.path.abspath(program) for program in sys.argv[1:3])
+    commands = {"varn": [varn], "empty window": [empty], "question alone": [empty, "question"]}
     with tempfile.TemporaryDirectory() as home:
         make_home(home)
         server_stays = watch_windows()  # it begins anew when its last client goes
         environment = dict(os.environ, XDG_DATA_HOME=home, XDG_RUNTIME_DIR=home, XDG_CONFIG_HOME=home,
                            QT_QPA_PLATFORM="xcb")
-        for program in programs:
-            start(program, environment)
-        starts = [[start(program, environment) for program in programs] for _ in range(STARTS)]
+        for command in commands.values():
+            start(command, environment)
+        starts = [{name: start(command, environment) for name, command in commands.items()} for _ in range(STARTS)]
         server_stays.kill()
         server_stays.wait()
-    for name, column in ("elapsed", 0), ("processor", 1):
-        own, empty = (statistics.median(pair[which][column] for pair in starts) for which in (0, 1))
-        ratio = statistics.median(pair[0][column] / pair[1][column] for pair in starts)
-        print(f"start, {name}: varn {own * 1000:.0f} ms, empty window {empty * 1000:.0f} ms, ratio {ratio:.2f}")
+    for measure, column in ("elapsed", 0), ("processor", 1):
+        own = statistics.median(each["varn"][column] for each in starts)
+        for name in "empty window", "question alone":
+            other = statistics.median(each[name][column] for each in starts)
+            ratio = statistics.median(each["varn"][column] / each[name][column] for each in starts)
+            print(f"start, {measure}: varn {own * 1000:.0f} ms, {name} {other * 1000:.0f} ms, ratio {ratio:.2f}")
 
 
 if __name__ == "__main__":

@@ -10,6 +10,7 @@
 #include "shell/StartUp.h"
 #include "shell/VarnModule.h"
 #include "shell/forms/WorkKeeper.h"
+#include "shell/forms/WorkingForms.h"
 #include "ui_frmMain.h"
 
 #include <QCloseEvent>
@@ -17,30 +18,30 @@
 #include <QScopeGuard>
 
 frmMain::frmMain(VarnModule& varn, Dialogs& dialogs)
-    : VarnForm(dialogs), m_ui(std::make_unique<Ui::frmMain>()), m_varn(varn), m_map(varn, dialogs),
-      m_chizu(
-          varn, dialogs, [this] { return m_map.surfaces(); }, [this] { return m_keeper->mayChangeMap(); }),
-      m_dataInput(varn, dialogs), m_data(varn, dialogs), m_setHanko(varn, dialogs), m_calc(varn, dialogs),
-      m_calExec(varn, dialogs), m_rankData(varn, dialogs), m_totalHanko(varn, dialogs),
-      m_atlas(varn, dialogs),
-      m_keeper(new WorkKeeper(varn, dialogs, *this, [this] { return unsavedWork(); })),
-      m_newSurvey(new frmNewSurvey(varn, dialogs, this))
+    : VarnForm(dialogs), m_ui(std::make_unique<Ui::frmMain>()), m_varn(varn),
+      m_keeper(new WorkKeeper(varn, dialogs, *this, [this] { return unsavedWork(); }))
 {
     m_ui->setupUi(this);
     setAcceptDrops(true);
-    m_preview.Width = m_map.surface().Width;
-    m_preview.Height = m_map.surface().Height;
-    m_ui->picPreview->setSurface(m_preview, SurfaceView::Fit::WholePaper);
     m_ui->picPreview->setPlaceholder(QStringLiteral("Check Map Name shows the map here."));
     showAsReadOnly(*m_ui->txtVarnPath);
     showAsReadOnly(*m_ui->txtVarnMapName);
     m_ui->fraSetMergin->edit(varn, dialogs, *this);
     connectButtons();
-    connectForms();
-    connectAnalysisForms();
 }
 
 frmMain::~frmMain() = default;
+
+void frmMain::makeForms()
+{
+    m_forms = std::make_unique<WorkingForms>(m_varn, dialogs(), [this] { return m_keeper->mayChangeMap(); });
+    m_newSurvey = new frmNewSurvey(m_varn, dialogs(), this);
+    m_preview.Width = m_forms->map.surface().Width;
+    m_preview.Height = m_forms->map.surface().Height;
+    m_ui->picPreview->setSurface(m_preview, SurfaceView::Fit::WholePaper);
+    connectForms();
+    connectAnalysisForms();
+}
 
 void frmMain::connectButtons()
 {
@@ -64,21 +65,21 @@ void frmMain::connectButtons()
 
 void frmMain::connectForms()
 {
-    connect(&m_map, &frmMap::toMain, this, &frmMain::bringToFront);
-    connect(&m_chizu, &frmChizu::toMain, this, &frmMain::bringToFront);
-    connect(&m_dataInput, &frmDataInput::toMain, this, &frmMain::bringToFront);
-    connect(&m_data, &frmData::toMain, this, &frmMain::bringToFront);
-    connect(&m_setHanko, &frmSetHanko::toMain, this, &frmMain::bringToFront);
-    handle(&m_chizu, &frmChizu::toDrawMap, &frmMain::openMap);
-    handle(&m_setHanko, &frmSetHanko::toDrawMap, &frmMain::openMap);
-    handle(&m_chizu, &frmChizu::mapChosen, &frmMain::showNewMap);
-    connect(&m_data, &frmData::itemLoaded, &m_map, &frmMap::enableMapLing);
-    handle(&m_dataInput, &frmDataInput::itemReloaded, &frmMain::showReloadedItem);
-    connect(&m_atlas, &frmAtlas::toMain, this, &frmMain::bringToFront);
-    handle(&m_atlas, &frmAtlas::toNewSurvey, &frmMain::mnuNewSurvey_Click);
-    handle(&m_atlas, &frmAtlas::toInputData, &frmMain::cmdInputData_Click);
-    handle(&m_atlas, &frmAtlas::toAccumulateData, &frmMain::cmdSumUp_Click);
-    connect(&m_atlas, &frmAtlas::mapWanted, this,
+    connect(&m_forms->map, &frmMap::toMain, this, &frmMain::bringToFront);
+    connect(&m_forms->chizu, &frmChizu::toMain, this, &frmMain::bringToFront);
+    connect(&m_forms->dataInput, &frmDataInput::toMain, this, &frmMain::bringToFront);
+    connect(&m_forms->data, &frmData::toMain, this, &frmMain::bringToFront);
+    connect(&m_forms->setHanko, &frmSetHanko::toMain, this, &frmMain::bringToFront);
+    handle(&m_forms->chizu, &frmChizu::toDrawMap, &frmMain::openMap);
+    handle(&m_forms->setHanko, &frmSetHanko::toDrawMap, &frmMain::openMap);
+    handle(&m_forms->chizu, &frmChizu::mapChosen, &frmMain::showNewMap);
+    connect(&m_forms->data, &frmData::itemLoaded, &m_forms->map, &frmMap::enableMapLing);
+    handle(&m_forms->dataInput, &frmDataInput::itemReloaded, &frmMain::showReloadedItem);
+    connect(&m_forms->atlas, &frmAtlas::toMain, this, &frmMain::bringToFront);
+    handle(&m_forms->atlas, &frmAtlas::toNewSurvey, &frmMain::mnuNewSurvey_Click);
+    handle(&m_forms->atlas, &frmAtlas::toInputData, &frmMain::cmdInputData_Click);
+    handle(&m_forms->atlas, &frmAtlas::toAccumulateData, &frmMain::cmdSumUp_Click);
+    connect(&m_forms->atlas, &frmAtlas::mapWanted, this,
             [this](const QString& mapName) { run([&] { openAtlas(mapName); }); });
     connect(m_newSurvey, &frmNewSurvey::surveyMade, this,
             [this](const QString& mapName, const QString& item) { run([&] { showSurvey(mapName, item); }); });
@@ -86,20 +87,20 @@ void frmMain::connectForms()
 
 void frmMain::connectAnalysisForms()
 {
-    handle(&m_dataInput, &frmDataInput::toAccumulateData, &frmMain::openCalc);
-    connect(&m_calc, &frmCalc::toMain, this, &frmMain::bringToFront);
-    handle(&m_calc, &frmCalc::toExecute, &frmMain::openCalExec);
-    handle(&m_calc, &frmCalc::toDrawMap, &frmMain::openMap);
-    handle(&m_calc, &frmCalc::toContrast, &frmMain::openRankData);
-    connect(&m_calExec, &frmCalExec::toMain, this, &frmMain::bringToFront);
-    handle(&m_calExec, &frmCalExec::toAccumulateData, &frmMain::openCalc);
-    handle(&m_calExec, &frmCalExec::toDrawMap, &frmMain::openMap);
-    handle(&m_calExec, &frmCalExec::toSymbols, &frmMain::openTotalHanko);
-    handle(&m_calExec, &frmCalExec::toContrast, &frmMain::openRankData);
-    handle(&m_rankData, &frmRankData::toAnalysis, &frmMain::openCalc);
-    handle(&m_rankData, &frmRankData::toDrawMap, &frmMain::drawContrastMap);
-    handle(&m_totalHanko, &frmTotalHanko::toAnalysis, &frmMain::openCalExec);
-    handle(&m_totalHanko, &frmTotalHanko::toDrawMap, &frmMain::drawDiffusionSymbols);
+    handle(&m_forms->dataInput, &frmDataInput::toAccumulateData, &frmMain::openCalc);
+    connect(&m_forms->calc, &frmCalc::toMain, this, &frmMain::bringToFront);
+    handle(&m_forms->calc, &frmCalc::toExecute, &frmMain::openCalExec);
+    handle(&m_forms->calc, &frmCalc::toDrawMap, &frmMain::openMap);
+    handle(&m_forms->calc, &frmCalc::toContrast, &frmMain::openRankData);
+    connect(&m_forms->calExec, &frmCalExec::toMain, this, &frmMain::bringToFront);
+    handle(&m_forms->calExec, &frmCalExec::toAccumulateData, &frmMain::openCalc);
+    handle(&m_forms->calExec, &frmCalExec::toDrawMap, &frmMain::openMap);
+    handle(&m_forms->calExec, &frmCalExec::toSymbols, &frmMain::openTotalHanko);
+    handle(&m_forms->calExec, &frmCalExec::toContrast, &frmMain::openRankData);
+    handle(&m_forms->rankData, &frmRankData::toAnalysis, &frmMain::openCalc);
+    handle(&m_forms->rankData, &frmRankData::toDrawMap, &frmMain::drawContrastMap);
+    handle(&m_forms->totalHanko, &frmTotalHanko::toAnalysis, &frmMain::openCalExec);
+    handle(&m_forms->totalHanko, &frmTotalHanko::toDrawMap, &frmMain::drawDiffusionSymbols);
 }
 
 void frmMain::Form_Load(const QString& installation)
@@ -108,9 +109,10 @@ void frmMain::Form_Load(const QString& installation)
     fixPaths(m_varn);
     m_ui->fraSetMergin->recomputePaper();
     start.chooseMapAndFont(installation);
-    m_map.Form_Load();
-    m_varn.MapFormWidth = m_map.surface().Width;
-    m_varn.MapFormHeight = toInteger(m_map.surface().Height);
+    makeForms();
+    m_forms->map.Form_Load();
+    m_varn.MapFormWidth = m_forms->map.surface().Width;
+    m_varn.MapFormHeight = toInteger(m_forms->map.surface().Height);
     fixLingFolder(m_varn);
     start.loadMap();
     m_varn.AnalysisMode = 0;
@@ -122,8 +124,8 @@ void frmMain::Form_Load(const QString& installation)
 
 UnsavedWork frmMain::unsavedWork()
 {
-    UnsavedWork work = ::unsavedWork(m_varn, m_dataInput.unsavedItem());
-    m_atlas.document().addTo(work);
+    UnsavedWork work = ::unsavedWork(m_varn, m_forms->dataInput.unsavedItem());
+    m_forms->atlas.document().addTo(work);
     return work;
 }
 
@@ -135,14 +137,14 @@ void frmMain::offerKeptWork()
     }
     showNewMap();
     if (work->item) {
-        m_dataInput.enterUnsaved(*work->item);
-        open(m_dataInput);
+        m_forms->dataInput.enterUnsaved(*work->item);
+        open(m_forms->dataInput);
     }
     if (work->table) {
-        open(m_calc);
+        open(m_forms->calc);
     }
     if (work->isOfAtlas()) {
-        m_atlas.showKept(*work);
+        m_forms->atlas.showKept(*work);
     } // symbols are set with an item, which is not loaded
 }
 
@@ -158,13 +160,13 @@ void frmMain::SetMapName()
 void frmMain::drawPreview()
 {
     const WaitCursor wait;
-    const MapSurfaces mapForm = m_map.surfaces();
+    const MapSurfaces mapForm = m_forms->map.surfaces();
     m_preview.Width = mapForm.area.Width;
     m_preview.Height = mapForm.area.Height;
     m_varn.DrawTarget = &m_preview;
     const auto back = qScopeGuard([&] { m_varn.DrawTarget = &mapForm.frmMap; });
     m_preview.Cls();
-    DrawBlankMap(blankMapParts(m_varn), m_map.surfaces());
+    DrawBlankMap(blankMapParts(m_varn), m_forms->map.surfaces());
 }
 
 void frmMain::refresh()
@@ -174,7 +176,9 @@ void frmMain::refresh()
     m_ui->txtVarnMapName->setText(mapName);
     showTitle({QStringLiteral("VARN"), mapName});
     m_ui->picPreview->refresh();
-    m_map.refresh();
+    if (m_forms) { // not before the first question of the start
+        m_forms->map.refresh();
+    }
 }
 
 void frmMain::cmdMapName_Click()
@@ -184,44 +188,44 @@ void frmMain::cmdMapName_Click()
 
 void frmMain::openChizu()
 {
-    open(m_chizu);
+    open(m_forms->chizu);
 }
 
 void frmMain::openMap()
 {
-    open(m_map);
+    open(m_forms->map);
 }
 
 void frmMain::openCalc()
 {
-    open(m_calc);
+    open(m_forms->calc);
 }
 
 void frmMain::openCalExec()
 {
-    open(m_calExec);
+    open(m_forms->calExec);
 }
 
 void frmMain::openRankData()
 {
-    open(m_rankData);
+    open(m_forms->rankData);
 }
 
 void frmMain::openTotalHanko()
 {
-    open(m_totalHanko);
+    open(m_forms->totalHanko);
 }
 
 void frmMain::drawContrastMap()
 {
     openMap();
-    m_map.mnuRank_Click();
+    m_forms->map.mnuRank_Click();
 }
 
 void frmMain::drawDiffusionSymbols()
 {
     openMap();
-    m_map.mnuTotalHanko_Click();
+    m_forms->map.mnuTotalHanko_Click();
 }
 
 void frmMain::showNewMap()
@@ -235,8 +239,8 @@ void frmMain::showNewMap()
 std::vector<VarnForm*> frmMain::workingForms()
 {
     // Those that may have unsaved work come first, and the symbols of the atlas are saved with its pages.
-    return {&m_dataInput, &m_atlas,   &m_setHanko, &m_calc,  &m_totalHanko,
-            &m_rankData,  &m_calExec, &m_data,     &m_chizu, &m_map};
+    return {&m_forms->dataInput, &m_forms->atlas,   &m_forms->setHanko, &m_forms->calc,  &m_forms->totalHanko,
+            &m_forms->rankData,  &m_forms->calExec, &m_forms->data,     &m_forms->chizu, &m_forms->map};
 }
 
 void frmMain::showReloadedItem()
@@ -255,17 +259,17 @@ void frmMain::cmdRegMap_Click()
 
 void frmMain::cmdInputData_Click()
 {
-    open(m_dataInput);
+    open(m_forms->dataInput);
 }
 
 void frmMain::cmdData_Click()
 {
-    open(m_data);
+    open(m_forms->data);
 }
 
 void frmMain::cmdHanko_Click()
 {
-    open(m_setHanko);
+    open(m_forms->setHanko);
 }
 
 void frmMain::cmdMap_Click()
@@ -280,7 +284,7 @@ void frmMain::cmdSumUp_Click()
 
 void frmMain::cmdAtlas_Click()
 {
-    open(m_atlas);
+    open(m_forms->atlas);
 }
 
 void frmMain::cmdExit_Click()
@@ -314,7 +318,7 @@ void frmMain::mnuImportLines_Click()
 
 void frmMain::mnuImportPlaceNames_Click()
 {
-    SaveKanjiData(m_varn, dialogs(), m_map.surfaces());
+    SaveKanjiData(m_varn, dialogs(), m_forms->map.surfaces());
 }
 
 void frmMain::mnuImportPolygons_Click()

@@ -1,20 +1,16 @@
 #pragma once
 
-#include "analysis/forms/frmCalExec.h"
-#include "analysis/forms/frmCalc.h"
-#include "analysis/forms/frmRankData.h"
-#include "analysis/forms/frmTotalHanko.h"
-#include "atlas/forms/frmAtlas.h"
-#include "lingdata/forms/frmData.h"
-#include "lingdata/forms/frmDataInput.h"
-#include "mapdata/forms/frmChizu.h"
+#include "platform/DrawSurface.h"
 #include "platform/forms/VarnForm.h"
-#include "render/forms/frmMap.h"
-#include "symbols/forms/frmSetHanko.h"
+
+#include <memory>
+#include <vector>
 
 class WorkKeeper;
 class frmNewSurvey;
 struct UnsavedWork;
+struct VarnModule;
+struct WorkingForms;
 
 namespace Ui {
 class frmMain;
@@ -45,6 +41,8 @@ private:
     void SetMapName();
     void drawPreview();
 
+    /// The forms that this one opens; after the first question of the start, which need not wait for them.
+    void makeForms();
     void connectButtons();
     void connectForms();
     void connectAnalysisForms();
@@ -100,18 +98,9 @@ private:
 
     std::unique_ptr<Ui::frmMain> m_ui;
     VarnModule& m_varn;
-    frmMap m_map;
-    frmChizu m_chizu;
-    frmDataInput m_dataInput;
-    frmData m_data;
-    frmSetHanko m_setHanko;
-    frmCalc m_calc;
-    frmCalExec m_calExec;
-    frmRankData m_rankData;
-    frmTotalHanko m_totalHanko;
-    frmAtlas m_atlas;
+    std::unique_ptr<WorkingForms> m_forms;
     /// The form's own drawing: the preview of the map.
     DrawSurface m_preview;
     WorkKeeper* m_keeper;
-    frmNewSurvey* m_newSurvey;
+    frmNewSurvey* m_newSurvey = nullptr;
 };

@@ -7,6 +7,7 @@
 #include "shell/MapChange.h"
 #include "shell/MapChoice.h"
 #include "shell/forms/WorkKeeper.h"
+#include "shell/forms/WorkingForms.h"
 #include "shell/forms/frmMain.h"
 
 #include <QApplication>
@@ -74,15 +75,15 @@ void frmMain::showSurvey(const QString& mapName, const QString& item)
     }
     if (!item.isEmpty()) {
         m_varn.WholeWordForms = true;
-        m_atlas.showItem(m_varn.dataFolder() + QLatin1Char('\\') + item + ItemFiles.ending);
+        m_forms->atlas.showItem(m_varn.dataFolder() + QLatin1Char('\\') + item + ItemFiles.ending);
     }
-    open(m_atlas);
+    open(m_forms->atlas);
 }
 
 void frmMain::openAtlas(const QString& mapName)
 {
     if (takeMap(mapName, QStringLiteral("Open Map"))) {
-        open(m_atlas);
+        open(m_forms->atlas);
     }
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "shell/VarnModule.h"
+#include "shell/forms/WorkingForms.h"
 #include "shell/forms/frmMain.h"
 #include "tests/support/Controls.h"
 #include "tests/support/ScriptedDialogs.h"

@@ -367,6 +367,7 @@ TEST_F(FormStates, AFormThatWasMadeAnIconComesBack)
 TEST_F(FormStates, TheMapFormBeginsInTheCornerOfTheScreenAndItsPlaceCounts)
 {
     program = std::make_unique<Program>(survey);
+    start(*program);
     const QPoint corner = Program::map().screen()->availableGeometry().topLeft();
     EXPECT_EQ(corner, QPoint(100, 50));
     EXPECT_EQ(Program::map().pos(), corner);
