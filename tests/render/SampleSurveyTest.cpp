@@ -1,5 +1,8 @@
 // The survey that a new user finds must be whole: everything in it loads, and every word form has its symbol.
 
+#include "dialectometry/DistanceFile.h"
+#include "dialectometry/Distances.h"
+#include "lingdata/ItemFolder.h"
 #include "lingdata/LinguisticFile.h"
 #include "mapdata/MapFiles.h"
 #include "mapdata/MapSearch.h"
@@ -11,6 +14,8 @@
 #include "tests/support/TestDrive.h"
 
 #include <QDir>
+
+#include <algorithm>
 
 namespace {
 
@@ -83,4 +88,18 @@ TEST(SampleSurvey, EveryPhoneticCodeIsALetter)
         EXPECT_EQ(unit.kind, PhoneticUnit::Kind::Glyph) << qPrintable(symbol.code);
         EXPECT_EQ(unit.consumed, symbol.code.size()) << qPrintable(symbol.code);
     }
+}
+
+TEST(SampleSurvey, ItsDistancesAreThoseOfItsWordForms)
+{
+    const SampleSurvey sample;
+    const VarnModule& varn = sample.varn;
+    SurveyAnswers answers{varn.NLocality, {}};
+    for (const QString& path : itemFiles(varn.Drive, varn.dataFolder())) {
+        answers.items.push_back(readComparedItem(varn.Drive, path, {}, varn.NLocality));
+    }
+    const DistanceMatrix found = *distances(answers, {}, [](int, int) { return true; });
+    const auto read = [&varn](SequentialReader& file) { return readDistances(file, varn, varn.NLocality); };
+    const DistanceMatrix kept = readSequentialFile(varn.Drive, varn.dataFolder() + "\\distances.csv", read);
+    EXPECT_TRUE(std::ranges::equal(found.pairs(), kept.pairs()));
 }
