@@ -1,5 +1,6 @@
 #include "dialectometry/AreaFill.h"
 
+#include "dialectometry/CellLines.h"
 #include "dialectometry/KeptStyle.h"
 #include "dialectometry/Stripes.h"
 #include "platform/StandardColors.h"
@@ -55,15 +56,29 @@ void toScreen(Rings& rings, const MapGeometry& geometry)
     }
 }
 
+/// The cells that are filled alike.
+struct CellKinds
+{
+    /// The number (from 0) of each kind of filling by its fills.
+    std::map<std::vector<int>, int> kinds;
+    /// The number of each cell; -1 of an empty one.
+    std::vector<int> ofCell;
+};
+
+CellKinds kindsOf(const LocalityCells& cells, const FilledCells& filled)
+{
+    CellKinds result;
+    for (const std::vector<int>& localities : cells.localities) {
+        const std::vector<int> fills = fillsOf(localities, filled);
+        const auto next = static_cast<int>(result.kinds.size());
+        result.ofCell.push_back(fills.empty() ? -1 : result.kinds.try_emplace(fills, next).first->second);
+    }
+    return result;
+}
+
 void paintCells(const AreaMapParts& parts, const FilledCells& cells, DrawSurface& target)
 {
-    std::map<std::vector<int>, int> kinds;
-    std::vector<int> kindOfCell;
-    for (const std::vector<int>& localities : parts.cells.localities) {
-        const std::vector<int> fills = fillsOf(localities, cells);
-        const auto next = static_cast<int>(kinds.size());
-        kindOfCell.push_back(fills.empty() ? -1 : kinds.try_emplace(fills, next).first->second);
-    }
+    const auto [kinds, kindOfCell] = kindsOf(parts.cells, cells);
     std::vector<Rings> areas = joinedCells(parts.cells, kindOfCell, static_cast<int>(kinds.size()));
     for (const auto& [numbers, kind] : kinds) {
         std::vector<AreaFill> fills;
@@ -112,6 +127,14 @@ QRgb tint(QRgb color, double white)
         return static_cast<int>(std::lround(value + (255 - value) * white));
     };
     return qRgb(part(qRed(color)), part(qGreen(color)), part(qBlue(color)));
+}
+
+void drawFillBorders(const AreaMapParts& parts, const FilledCells& cells, DrawSurface& target)
+{
+    static const std::array Thin = {LinePen{qRgb(60, 60, 60), 1, PenStyle::Solid}};
+
+    const std::vector<int> between = bordersBetween(parts.cells, kindsOf(parts.cells, cells).ofCell);
+    drawCellLines(cellLines(parts.cells, between, parts.base.geometry), Thin, target);
 }
 
 double markWidth(const AreaMapParts& parts, double wanted)

@@ -47,6 +47,9 @@ struct FilledCells
 /// draws the base map over them.
 void drawFilledMap(const AreaMapParts& parts, const FilledCells& cells, MapSurfaces surfaces);
 
+/// Draws thin lines between cells of different fills.
+void drawFillBorders(const AreaMapParts& parts, const FilledCells& cells, DrawSurface& target);
+
 /// How wide marks and lines may be, in twips, that are `wanted` wide where localities lie far apart: no wider
 /// than a part of the way to the next locality.
 double markWidth(const AreaMapParts& parts, double wanted);

@@ -107,6 +107,9 @@ void drawAreaMap(const LinguisticMapParts& parts, const LocalityCells& cells, co
                              recordsOfLocalities(parts.item, parts.symbols, parts.base.style.WholeWordForms,
                                                  parts.base.map.NLocality)};
     drawFilledMap(areas, filled, surfaces);
+    if (style.look == AreaLook::Hatched) {
+        drawFillBorders(areas, filled, surfaces.DrawTarget);
+    }
     if (style.withSymbols) {
         PlotLinguisticData(parts, surfaces);
     }

@@ -94,30 +94,16 @@ std::vector<int> shareClasses(const LocalityCells& cells, std::span<const Border
     return classes;
 }
 
-/// The group of each cell, that of its first locality.
-std::vector<int> groupsOfCells(const LocalityCells& cells, std::span<const int> groups)
-{
-    std::vector<int> ofCell;
-    for (const std::vector<int>& localities : cells.localities) {
-        const auto first = static_cast<std::size_t>(localities.front());
-        ofCell.push_back(first < groups.size() ? groups[first] : 0);
-    }
-    return ofCell;
-}
-
-void drawBorders(const AreaMapParts& parts, std::span<const int> groups, std::span<const BorderShare> shares,
+void drawBorders(const AreaMapParts& parts, const FilledCells& cells, std::span<const BorderShare> shares,
                  DrawSurface& target)
 {
-    static const std::array Thin = {LinePen{qRgb(60, 60, 60), 1, PenStyle::Solid}};
-
-    const MapGeometry& geometry = parts.base.geometry;
     if (shares.empty()) {
-        const std::vector<int> between = bordersBetween(parts.cells, groupsOfCells(parts.cells, groups));
-        drawCellLines(cellLines(parts.cells, between, geometry), Thin, target);
-    } else {
-        drawCellLines(cellLines(parts.cells, shareClasses(parts.cells, shares), geometry),
-                      fittingPens(sharePens(), parts), target);
+        drawFillBorders(parts, cells, target);
+        return;
     }
+    const std::vector<int> classes = shareClasses(parts.cells, shares);
+    drawCellLines(cellLines(parts.cells, classes, parts.base.geometry), fittingPens(sharePens(), parts),
+                  target);
 }
 
 void drawSymbols(const AreaMapParts& parts, std::span<const int> groups, AreaLook look, DrawSurface& target)
@@ -154,7 +140,7 @@ void drawClusterMap(const AreaMapParts& parts, const QString& title, std::span<c
 {
     const FilledCells cells = filledCells(groups, style.look);
     drawFilledMap(parts, style.areas ? cells : FilledCells{}, surfaces);
-    drawBorders(parts, groups, shares, surfaces.DrawTarget);
+    drawBorders(parts, cells, shares, surfaces.DrawTarget);
     if (style.symbols) {
         drawSymbols(parts, groups, style.look, surfaces.DrawTarget);
     }

@@ -107,19 +107,21 @@ AreaFill groupFill(int group, AreaLook look)
 
 void drawGroupSymbol(int group, AreaLook look, float x, float y, float size, DrawSurface& target)
 {
+    constexpr float Smaller = 0.65F;
+
     const KeptStyle kept(target);
     const QRgb black = QBColor(StandardColor::Black);
     const QRgb color = look == AreaLook::Colored ? groupColor(group) : black;
-    const bool hollow = roundOf(group) % 2 == 1;
+    const std::size_t round = roundOf(group);
+    size *= round < 2 ? 1 : Smaller;
     target.DrawWidth = 1;
     target.DrawStyle = PenStyle::Solid;
     target.FillStyle = DrawSurface::Fill::Solid;
-    target.FillColor = hollow ? QBColor(StandardColor::LightWhite) : color;
-    const QRgb outline = hollow && look == AreaLook::Colored ? color : black;
+    target.FillColor = round % 2 == 1 ? QBColor(StandardColor::LightWhite) : color;
     const Ring ring = outlineOf(group, {x, y}, size);
     if (ring.empty()) {
-        target.Circle(x, y, size, outline);
+        target.Circle(x, y, size, black);
     } else {
-        target.Area({ring}, outline);
+        target.Area({ring}, black);
     }
 }

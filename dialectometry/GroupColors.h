@@ -12,5 +12,5 @@ QRgb groupColor(int group);
 /// pattern over their colour, and each has in the hatched look.
 AreaFill groupFill(int group, AreaLook look);
 /// Draws the symbol of a group (from 1) about (x, y), in its colour or in black; `size` is half its width in
-/// twips.
+/// twips. The symbols of later groups are hollow, then smaller.
 void drawGroupSymbol(int group, AreaLook look, float x, float y, float size, DrawSurface& target);

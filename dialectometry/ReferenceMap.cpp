@@ -84,6 +84,9 @@ void drawReferenceMap(const AreaMapParts& parts, const QString& title, std::span
     const ValueClasses classes = valueClasses(classedDistances(distances, reference), style.rule);
     const FilledCells cells = filledCells(distances, reference, classes, style);
     drawFilledMap(parts, cells, surfaces);
+    if (style.look == AreaLook::Hatched) {
+        drawFillBorders(parts, cells, surfaces.DrawTarget);
+    }
     const BaseMap& map = parts.base.map;
     if (reference >= 0 && reference < map.NLocality) {
         drawStar({parts.base.geometry.toScreen(map.LocXY(reference + 1, 0)),

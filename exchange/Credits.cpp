@@ -1,5 +1,6 @@
 #include "exchange/Credits.h"
 
+#include "dialectometry/LibraryVersions.h"
 #include "geodata/GeoData.h"
 #include "platform/RunTimeError.h"
 
@@ -28,6 +29,13 @@ std::vector<Credit> libraries(const GeoData::Versions& versions)
             {QStringLiteral("PROJ"), versions.proj,
              QStringLiteral("Gerald Evenden, Frank Warmerdam and other contributors"), QStringLiteral("MIT"),
              QStringLiteral("https://proj.org"), QStringLiteral("map projections, through GDAL")},
+            {QStringLiteral("GEOS"), geosVersion(), QStringLiteral("GEOS contributors"),
+             QStringLiteral("GNU LGPL 2.1"), QStringLiteral("https://libgeos.org"),
+             QStringLiteral("the cells of localities, and geometry through GDAL")},
+            {QStringLiteral("Eigen"), eigenVersion(),
+             QStringLiteral("Benoît Jacob, Gaël Guennebaud and other contributors"),
+             QStringLiteral("MPL 2.0"), QStringLiteral("https://eigen.tuxfamily.org"),
+             QStringLiteral("the scaling of distances")},
             {QStringLiteral("qpdf"), QString(), QStringLiteral("Jay Berkenbilt and other contributors"),
              QStringLiteral("Apache License 2.0"), QStringLiteral("https://qpdf.org"),
              QStringLiteral("atlases of many pages")},
@@ -60,13 +68,7 @@ QString lineOf(const Credit& credit)
 
 std::vector<Credit> credits()
 {
-    const GeoData::Versions versions = geoVersions();
-    std::vector<Credit> all = libraries(versions);
-    if (!versions.geos.isEmpty()) {
-        all.push_back({QStringLiteral("GEOS"), versions.geos, QStringLiteral("GEOS contributors"),
-                       QStringLiteral("GNU LGPL 2.1"), QStringLiteral("https://libgeos.org"),
-                       QStringLiteral("geometry, through GDAL")});
-    }
+    std::vector<Credit> all = libraries(geoVersions());
     for (Credit& credit : data()) {
         all.push_back(std::move(credit));
     }

@@ -22,8 +22,6 @@ public:
     {
         QString gdal;
         QString proj;
-        /// Empty where GDAL was built without GEOS.
-        QString geos;
     };
 
     virtual ~GeoData() = default;

@@ -10,7 +10,6 @@
 #include "geodata/gdal/Spreadsheet.h"
 
 #include <QObject>
-#include <QRegularExpression>
 
 #include <cpl_vsi.h>
 #include <ogr_srs_api.h>
@@ -26,13 +25,6 @@ QString projVersion()
     return QStringLiteral("%1.%2.%3").arg(major).arg(minor).arg(patch);
 }
 
-/// GDAL says with which GEOS it was built.
-QString geosVersion()
-{
-    static const QRegularExpression Line(QStringLiteral("GEOS_VERSION=([\\d.]+)"));
-    return Line.match(QString::fromUtf8(GDALVersionInfo("BUILD_INFO"))).captured(1);
-}
-
 } // namespace
 
 class GdalGeoData : public QObject, public GeoData
@@ -44,7 +36,7 @@ class GdalGeoData : public QObject, public GeoData
 public:
     Versions versions() const override
     {
-        return {QString::fromUtf8(GDALVersionInfo("RELEASE_NAME")), projVersion(), geosVersion()};
+        return {QString::fromUtf8(GDALVersionInfo("RELEASE_NAME")), projVersion()};
     }
 
     QByteArray readFile(const QString& path) const override { return readGdalFile(path); }

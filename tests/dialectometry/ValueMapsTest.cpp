@@ -157,7 +157,7 @@ TEST(GroupColors, TellTwentyFourGroupsApartInBothLooks)
         }
     }
     QStringList symbols;
-    for (int group = 1; group <= 16; ++group) {
+    for (int group = 1; group <= 32; ++group) {
         MapOfCells map({});
         drawGroupSymbol(group, AreaLook::Hatched, 1500, 1500, 150, map.surface);
         const QImage image = map.painted();
