@@ -1,5 +1,6 @@
-// A whole small survey of any text: drawn, and painted on a picture.
+// A whole small survey of any text: drawn with symbols and as areas, and painted on a picture.
 
+#include "dialectometry/AreaMap.h"
 #include "fuzz/FuzzInput.h"
 #include "lingdata/LinguisticFile.h"
 #include "mapdata/MapFiles.h"
@@ -26,6 +27,16 @@ void take(const QString& text, Value (*read)(SequentialReader&), Value& value)
     });
 }
 
+template <typename Draw>
+void paint(Draw draw)
+{
+    DrawSurface surface;
+    expectAnswer([&] { draw(MapSurfaces{{surface, surface}, firstArea()}); });
+    QImage picture(80, 60, QImage::Format_RGB32);
+    QPainter painter(&picture);
+    paintDrawing(surface.drawing(), painter, 0.1 / TwipsPerPixel);
+}
+
 /// The parts of the survey stand behind each other, parted by a sign that no file has; most inputs have some
 /// that are sound, which then meet others that are not those they were made for.
 void drawSurvey(const QStringList& parts)
@@ -38,11 +49,11 @@ void drawSurvey(const QStringList& parts)
     take<SymbolSet>(parts.value(4), readSymbolSet, varn);
     take<PolygonTable>(parts.value(5), readPolygons, varn);
     varn.PlotDots = true;
-    DrawSurface surface;
-    drawLinguisticMap(linguisticMapParts(varn), {{surface, surface}, firstArea()});
-    QImage picture(80, 60, QImage::Format_RGB32);
-    QPainter painter(&picture);
-    paintDrawing(surface.drawing(), painter, 0.1 / TwipsPerPixel);
+    paint([&](MapSurfaces surfaces) { drawLinguisticMap(linguisticMapParts(varn), surfaces); });
+    const LocalityCells cells = localityCells(varn, varn);
+    paint([&](MapSurfaces surfaces) {
+        drawAreaMap(linguisticMapParts(varn), cells, {AreaLook::Hatched, true}, surfaces);
+    });
 }
 
 } // namespace

@@ -1,6 +1,7 @@
-// Phonetic text: any of it is cut into units, and what is typed in a cell reads the same when it is edited
-// again.
+// Phonetic text: any of it is cut into units and spelled in letters, and what is typed in a cell reads the
+// same when it is edited again.
 
+#include "dialectometry/Levenshtein.h"
 #include "fuzz/FuzzInput.h"
 #include "lingdata/PhoneticCheck.h"
 #include "lingdata/PhoneticCode.h"
@@ -19,6 +20,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
             rest = rest.mid(std::min<qsizetype>(consumed, rest.size()));
         }
         findCodeFault(text);
+        const SpelledForm letters = Speller(true).spell(text);
+        require(Aligner().distance(letters, letters) == 0);
         require(typedCell(cellText(typedCell(text))) == typedCell(text));
     });
     return 0;

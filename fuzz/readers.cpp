@@ -5,6 +5,7 @@
 #include "analysis/CumulativeFile.h"
 #include "analysis/DiffusionSymbols.h"
 #include "analysis/Statistics.h"
+#include "dialectometry/DistanceFile.h"
 #include "fuzz/FuzzInput.h"
 #include "lingdata/InputKindsFile.h"
 #include "lingdata/KindList.h"
@@ -79,7 +80,7 @@ constexpr int Places = 3;
 
 using Trip = void (*)(const QString&);
 
-constexpr std::array<Trip, 16> Trips = {
+constexpr std::array<Trip, 17> Trips = {
     [](const QString& text) { roundTrip(text, readLocalities, writeLocalities); },
     [](const QString& text) { roundTrip(text, readLines, writeLines); },
     [](const QString& text) { roundTrip(text, readPlaceNames, writePlaceNames); },
@@ -102,7 +103,14 @@ constexpr std::array<Trip, 16> Trips = {
             text, [](SequentialReader& file) { return readLocalityNames(file, Places); }, writeLocalityNames);
     },
     [](const QString& text) { roundTrip(text, countedItemsIn, writeCountedItems); },
-    [](const QString& text) { roundTrip(text, readStatistics, writeOwnStatistics); }};
+    [](const QString& text) { roundTrip(text, readStatistics, writeOwnStatistics); },
+    [](const QString& text) {
+        roundTrip(
+            text, [](SequentialReader& file) { return readDistances(file, {}, Places); },
+            [](SequentialWriter& file, const DistanceMatrix& distances) {
+                writeDistances(file, {}, distances);
+            });
+    }};
 
 } // namespace
 

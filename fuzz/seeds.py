@@ -77,6 +77,7 @@ def small_survey():
         "MapName.txt": ['"\\Sample","Arial",9,#TRUE#,#FALSE#,0.5'],
         "sounds.itm": ["2,2", '"01_rain.dbs"', '"02_house.dbs"'],
         "sounds.stt": ["1,2", "1", "1,2,1.5,0.5", "3,1", "2,1", "1,1"],
+        "distances.csv": ['"","1","2","3"', '"1",0,0.25,""', '"2",0.25,0,1e-3', '"3","",1e-3,0'],
         "Localities.csv": ['"id","name","longitude","latitude","projection"', '"a","Ann",5,52.5,"+proj=laea"']
         + [f'"{name}","B ""{name}""",-6.25,1e-7,"+proj=laea"' for name in "bc"],
     }
@@ -86,7 +87,7 @@ def small_survey():
 READERS = [
     "Loc.map", "Line.map", "kanji.map", "Square.sbl", "item.dbs", "kinds.srt", "kinds.ipt", "item.han",
     "MapName.txt", "sounds.sum", "sounds.htL", "sounds.rnk", "sounds.ttl", "Localities.csv", "sounds.itm",
-    "sounds.stt",
+    "sounds.stt", "distances.csv",
 ]  # fmt: skip
 
 # In the order that drawing.cpp takes them.
@@ -104,6 +105,10 @@ OPTIONS = {
     "contrast": "contrast-map --installation i --map m --counts c.ttl --contrast c.rnk --output o.pdf",
     "import": "import --installation i --map m --source s --column id=a --use forms --projection EPSG:3035",
     "export": "export --installation i --map m --output o.gpkg",
+    "distances": "distances --installation i --map m --output o.csv --measure levenshtein --vowels-apart --items a.dbs",
+    "cluster": "cluster-map --installation i --map m --output o.pdf --distances d.csv --method ward --clusters 4 "
+    "--noise 0.5 --seed 7 --dendrogram --hatched",
+    "reference": "reference-map --installation i --map m --output o.svg --locality 3 --classes equal-widths",
     "help": "--help",
 }
 

@@ -9,6 +9,8 @@
 #include "fuzz/FuzzInput.h"
 #include "lingdata/LinguisticFile.h"
 
+#include <QCoreApplication>
+
 #include <optional>
 
 namespace {
@@ -56,6 +58,13 @@ void requireItemReadsBack(const SourceItem& item)
 }
 
 } // namespace
+
+/// The module that parts tables is looked for beside the program.
+extern "C" int LLVMFuzzerInitialize(int* argc, char*** argv)
+{
+    static const QCoreApplication application(*argc, *argv);
+    return 0;
+}
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {

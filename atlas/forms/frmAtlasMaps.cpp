@@ -11,6 +11,7 @@
 
 #include <QActionGroup>
 #include <QMenu>
+#include <QSplitter>
 
 #include <algorithm>
 
