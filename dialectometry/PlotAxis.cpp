@@ -37,6 +37,7 @@ std::vector<double> axisTicks(const PlotAxis& axis)
     std::vector<double> ticks;
     const double first = std::ceil(axis.least / step - Rounding);
     const auto count = static_cast<int>(std::floor(axis.most / step + Rounding) - first) + 1;
+    ticks.reserve(static_cast<std::size_t>(std::max(count, 0)));
     for (int i = 0; i < count; ++i) {
         ticks.push_back((first + i) * step);
     }
