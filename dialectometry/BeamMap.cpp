@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <array>
+#include <iterator>
 
 namespace {
 
@@ -59,9 +60,8 @@ void drawBeamMap(const AreaMapParts& parts, const QString& title, const Distance
                !distances.has(pair.first, pair.second);
     });
     std::vector<double> values;
-    for (const auto& [a, b] : pairs) {
-        values.push_back(distances(a, b));
-    }
+    std::ranges::transform(pairs, std::back_inserter(values),
+                           [&](LocalityPair pair) { return distances(pair.first, pair.second); });
     const ValueClasses classes = valueClasses(values, ClassRule::EqualWidths);
     std::vector<Beam> beams;
     for (std::size_t i = 0; i < pairs.size(); ++i) {

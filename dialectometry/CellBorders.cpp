@@ -1,7 +1,10 @@
 #include "dialectometry/CellBorders.h"
 
+#include <algorithm>
 #include <cmath>
 #include <cstdint>
+#include <functional>
+#include <span>
 #include <unordered_map>
 
 namespace {
@@ -113,26 +116,28 @@ private:
     /// Parts an outline where the cell on its right changes.
     void addBorders(const Outline& outline)
     {
-        const std::size_t count = outline.points.size();
-        std::size_t begin = 0;
-        while (begin < count &&
-               cellOnRight(outline, begin) == cellOnRight(outline, (begin + count - 1) % count)) {
-            ++begin;
+        std::vector<int> right;
+        for (std::size_t i = 0; i < outline.points.size(); ++i) {
+            right.push_back(cellOnRight(outline, i));
         }
-        begin %= count;
-        for (std::size_t done = 0; done < count;) {
-            const std::size_t first = (begin + done) % count;
-            const int right = cellOnRight(outline, first);
-            std::vector<int> line = {outline.points[first]};
-            for (; done < count && cellOnRight(outline, (begin + done) % count) == right; ++done) {
-                line.push_back(next(outline, (begin + done) % count));
+        const auto change = std::ranges::adjacent_find(right, std::ranges::not_equal_to());
+        const auto begin = change == right.end() ? 0 : change + 1 - right.begin();
+        std::rotate(right.begin(), right.begin() + begin, right.end());
+        std::vector<int> points = outline.points;
+        std::rotate(points.begin(), points.begin() + begin, points.end());
+        points.push_back(points.front());
+        for (std::size_t first = 0; first < right.size();) {
+            std::size_t last = first;
+            while (last < right.size() && right[last] == right[first]) {
+                ++last;
             }
-            addBorder(outline.cell, right, line);
+            addBorder(outline.cell, right[first], std::span(points).subspan(first, last - first + 1));
+            first = last;
         }
     }
 
     /// Of a border between two cells, one cell tells.
-    void addBorder(int left, int right, const std::vector<int>& line)
+    void addBorder(int left, int right, std::span<const int> line)
     {
         if (right != CellBorder::Outside && right <= left) {
             return;

@@ -64,6 +64,7 @@ public:
     Shape polygon(const Ring& ring) const
     {
         std::vector<double> numbers;
+        numbers.reserve(2 * (ring.size() + 1));
         for (std::size_t i = 0; i <= ring.size(); ++i) {
             numbers.push_back(ring[i % ring.size()].x());
             numbers.push_back(ring[i % ring.size()].y());
@@ -78,6 +79,7 @@ public:
     Shape unionOf(std::vector<Shape>& shapes) const
     {
         std::vector<GEOSGeometry*> all;
+        all.reserve(shapes.size());
         for (Shape& shape : shapes) {
             all.push_back(shape.release());
         }

@@ -187,7 +187,7 @@ private:
     /// A bracket for each run of rows of one group.
     void drawBrackets()
     {
-        float lastText = static_cast<float>(m_area.top());
+        auto lastText = static_cast<float>(m_area.top());
         for (std::size_t row = 0; row < m_leaves.size();) {
             const int group = groupOf(m_leaves[row]);
             std::size_t end = row;

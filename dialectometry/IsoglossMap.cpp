@@ -89,10 +89,10 @@ public:
     {
         return change > 0 ? static_cast<int>(std::ceil(change / m_width)) - 1 : NoLine;
     }
-    /// The last class has the widest pen.
-    LinePen pen(int number) const
+    /// One for each class; the last one has the widest.
+    std::span<const LinePen> pens() const
     {
-        return BundlePens.at(BundlePens.size() - static_cast<std::size_t>(m_count - number));
+        return std::span(BundlePens).last(static_cast<std::size_t>(m_count));
     }
     QString text(int number) const
     {
@@ -198,13 +198,9 @@ void drawBundleMap(const AreaMapParts& parts, const QString& title, const Border
     const BundleClasses classOf(changes.changes);
     std::vector<int> classes;
     std::ranges::transform(changes.changes, std::back_inserter(classes), classOf);
-    std::vector<LinePen> pens;
+    const std::vector<LinePen> pens = fittingPens(classOf.pens(), parts);
     AreaLegend legend;
     legend.title = title;
-    for (int i = 0; i < classOf.count(); ++i) {
-        pens.push_back(classOf.pen(i));
-    }
-    pens = fittingPens(pens, parts);
     for (int i = classOf.count() - 1; i >= 0; --i) {
         legend.rows.push_back(lineRow(pens[static_cast<std::size_t>(i)], classOf.text(i)));
     }

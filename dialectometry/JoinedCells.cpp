@@ -81,6 +81,7 @@ std::vector<Rings> joinedCells(const LocalityCells& cells, std::span<const int> 
         }
     }
     std::vector<Rings> joined;
+    joined.reserve(joiners.size());
     for (OutlineJoiner& joiner : joiners) {
         joined.push_back(joiner.rings());
     }

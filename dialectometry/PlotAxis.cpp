@@ -35,9 +35,11 @@ std::vector<double> axisTicks(const PlotAxis& axis)
     }
     const double step = tickStep(axis);
     std::vector<double> ticks;
-    const double last = std::floor(axis.most / step + Rounding);
-    for (double i = std::ceil(axis.least / step - Rounding); i <= last; ++i) {
-        ticks.push_back(i * step);
+    const double first = std::ceil(axis.least / step - Rounding);
+    const auto count = static_cast<int>(std::floor(axis.most / step + Rounding) - first) + 1;
+    ticks.reserve(static_cast<std::size_t>(std::max(count, 0)));
+    for (int i = 0; i < count; ++i) {
+        ticks.push_back((first + i) * step);
     }
     return ticks;
 }

@@ -156,8 +156,8 @@ void drawBoxes(const std::vector<QPointF>& points, const Plot& plot, DrawSurface
         return std::clamp(static_cast<int>(part * static_cast<float>(cells)), 0, cells - 1);
     };
     for (const QPointF point : points) {
-        ++counts[static_cast<std::size_t>(cell(plot.y, point.y(), Rows) * Columns +
-                                          cell(plot.x, point.x(), Columns))];
+        const int box = cell(plot.y, point.y(), Rows) * Columns + cell(plot.x, point.x(), Columns);
+        ++counts[static_cast<std::size_t>(box)];
     }
     const int most = *std::ranges::max_element(counts);
     const float width = (plot.x.end - plot.x.start) / Columns;
@@ -167,8 +167,9 @@ void drawBoxes(const std::vector<QPointF>& points, const Plot& plot, DrawSurface
     for (int i = 0; i < Columns * Rows; ++i) {
         if (const int count = counts[static_cast<std::size_t>(i)]; count > 0) {
             const int grey = static_cast<int>(Lightest * (1 - std::sqrt(static_cast<double>(count) / most)));
-            const float x = plot.x.start + width * static_cast<float>(i % Columns);
-            const float y = plot.y.start + height * static_cast<float>(i / Columns);
+            const int row = i / Columns;
+            const float x = plot.x.start + width * static_cast<float>(i - row * Columns);
+            const float y = plot.y.start + height * static_cast<float>(row);
             target.FilledBox(x, y, x + width, y + height, qRgb(grey, grey, grey));
         }
     }

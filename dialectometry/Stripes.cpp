@@ -61,8 +61,9 @@ Rings stripes(const Rings& rings, std::size_t which, std::size_t of)
         }
         const double first = std::floor((least - shift - StripeWidth) / period);
         const double last = std::min(std::floor((most - shift) / period), first + MostStripes);
-        for (double i = first; i <= last; ++i) {
-            addStripe(ring, i * period + shift, result);
+        const auto count = static_cast<int>(last - first) + 1;
+        for (int i = 0; i < count; ++i) {
+            addStripe(ring, (first + i) * period + shift, result);
         }
     }
     return result;

@@ -97,11 +97,10 @@ ValueClasses valueClasses(std::span<const double> values, ClassRule rule)
 std::vector<AreaFill> classFills(int count, ClassRule rule, AreaLook look)
 {
     const auto& colors = rule == ClassRule::AroundMean ? AroundMeanColors : SequenceColors;
-    std::vector<AreaFill> fills;
-    for (int i = 0; i < std::min(count, Classes); ++i) {
-        fills.push_back(look == AreaLook::Hatched
-                            ? denseFill(i)
-                            : AreaFill{colors.at(static_cast<std::size_t>(i)), 0, FillPattern::Solid});
+    std::vector<AreaFill> fills(static_cast<std::size_t>(std::clamp(count, 0, Classes)));
+    for (std::size_t i = 0; i < fills.size(); ++i) {
+        fills[i] = look == AreaLook::Hatched ? denseFill(static_cast<int>(i))
+                                             : AreaFill{colors.at(i), 0, FillPattern::Solid};
     }
     return fills;
 }

@@ -13,6 +13,8 @@ constexpr double Apart = 130;
 constexpr double DenseApart = 65;
 /// More lines than a page can show; an area so large would take for ever.
 constexpr double MostLines = 20000;
+/// Lines are counted from the corner of the drawing; no number of one on a page is as high.
+constexpr double Furthest = 1e12;
 
 bool isDense(FillPattern pattern)
 {
@@ -61,7 +63,10 @@ struct Crossing
     long long line;
     double place;
 
-    auto operator<=>(const Crossing&) const = default;
+    bool operator<(const Crossing& other) const
+    {
+        return line != other.line ? line < other.line : place < other.place;
+    }
 };
 
 /// Finds where lines of one direction lie inside of an area.
@@ -103,12 +108,12 @@ private:
         const double fromB = QPointF::dotProduct(b, m_across) / m_apart;
         const double first = std::ceil(std::min(fromA, fromB));
         const double end = std::ceil(std::max(fromA, fromB));
-        if (!(end - first <= MostLines)) {
+        if (!(std::abs(first) <= Furthest && end - first <= MostLines)) {
             return;
         }
-        for (double line = first; line < end; ++line) {
-            const QPointF place = a + (b - a) * ((line - fromA) / (fromB - fromA));
-            m_crossings.push_back({static_cast<long long>(line), QPointF::dotProduct(place, m_along)});
+        for (auto line = static_cast<long long>(first); line < static_cast<long long>(end); ++line) {
+            const QPointF place = a + (b - a) * ((static_cast<double>(line) - fromA) / (fromB - fromA));
+            m_crossings.push_back({line, QPointF::dotProduct(place, m_along)});
         }
     }
 
@@ -127,8 +132,9 @@ void addDots(const HatchFinder& finder, long long line, double from, double to, 
     const double shift = line % 2 == 0 ? 0 : 0.5;
     const double first = std::ceil(from / apart - shift);
     const double last = std::min(std::floor(to / apart - shift), first + MostLines);
-    for (double i = first; i <= last; ++i) {
-        const double place = (i + shift) * apart;
+    const auto dots = static_cast<int>(last - first) + 1;
+    for (int i = 0; i < dots; ++i) {
+        const double place = (first + i + shift) * apart;
         lines.emplace_back(finder.at(line, place), finder.at(line, place + Shortest));
     }
 }

@@ -1,5 +1,6 @@
 #include "dialectometry/AreaMap.h"
 
+#include "dialectometry/AreaLegend.h"
 #include "dialectometry/CellLines.h"
 #include "dialectometry/IsoglossMap.h"
 #include "lingdata/LinguisticFile.h"
@@ -120,6 +121,56 @@ TEST(AreaMap, SeveralAnswersAreStripesThatAddUpToTheCell)
     EXPECT_NEAR(reds, blues, 400) << "two localities at one point";
     EXPECT_GT(reds + blues, 4500);
     EXPECT_EQ(image.pixel(map.pixelOf(2)), qRgb(255, 255, 255)) << "no answer";
+}
+
+TEST(AreaLegend, StandsInColumnsThatFillTheHeight)
+{
+    MapOfCells map({{300, 300}});
+    map.varn.HanreiX = 0;
+    map.varn.KanjiText(1) = QStringLiteral("the name of this map");
+    AreaLegend legend;
+    legend.title = QStringLiteral("title");
+    for (int i = 0; i < 70; ++i) {
+        AreaLegendRow row;
+        row.fills = {hatchedFill(i)};
+        row.text = withCount(QStringLiteral("row"), i);
+        legend.rows.push_back(row);
+    }
+    drawAreaLegend(map.parts(), legend, map.surfaces());
+    const Drawing& drawing = map.surface.drawing();
+    EXPECT_EQ(operationsOf<AreaOperation>(drawing).size(), 70U + 70 + 28)
+        << "a pattern, its outline, grey grounds";
+    std::set<float> columns;
+    for (const TextOperation& text : operationsOf<TextOperation>(drawing)) {
+        EXPECT_LT(text.y + 200, 9000);
+        columns.insert(text.x);
+    }
+    EXPECT_EQ(columns.size(), 1U + 3) << "the title and three columns";
+    const auto grounds = operationsOf<BoxOperation>(drawing);
+    ASSERT_EQ(grounds.size(), 71U);
+    EXPECT_GT(grounds[0].width, map.surface.TextWidth(map.varn.KanjiText(1))) << "the name is covered";
+    EXPECT_LT(grounds[1].width, 1500) << "the map stays whole beside a short row";
+}
+
+TEST(CellLines, RunOnButNotThroughAJunction)
+{
+    MapOfCells map(gridOfPlaces());
+    map.varn.Scale = 10;
+    std::vector<int> kinds(16);
+    for (int i = 0; i < 16; ++i) {
+        kinds[static_cast<std::size_t>(i)] = i % 4 < 2 ? 0 : 1;
+    }
+    const auto linesOf = [&] { return cellLines(map.cells, bordersBetween(map.cells, kinds), map.varn); };
+    EXPECT_EQ(linesOf().size(), 1U) << "from top to bottom";
+    kinds[15] = 2;
+    EXPECT_EQ(linesOf().size(), 2U) << "a corner of its own does not touch it";
+    kinds[14] = 2;
+    EXPECT_EQ(linesOf().size(), 3U) << "three lines meet";
+    kinds.assign(16, 0);
+    kinds[5] = 1;
+    const std::vector<CellLine> around = linesOf();
+    ASSERT_EQ(around.size(), 1U);
+    EXPECT_EQ(around[0].points.front(), around[0].points.back());
 }
 
 TEST(IsoglossMap, RunsWhereKindsChange)

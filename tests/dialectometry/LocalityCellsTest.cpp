@@ -125,6 +125,7 @@ TEST(LocalityCells, FillTheAreaOnceWhereverLocalitiesAre)
         {"on a line", SmallMap().at({{1, 1}, {2, 2}, {5, 5}, {3, 3}})},
         {"two at one point", SmallMap().at({{1, 1}, {9, 2}, {1, 1}, {4, 7}})},
         {"all at one point", SmallMap().at({{1, 1}, {1, 1}})},
+        {"very near", SmallMap().at({{1000, 1000}, {1000.0002, 1000}, {1000, 1000.0005}})},
         {"far away", SmallMap().at({{5000000, 400000}, {5000010, 400000}, {5000000, 400020}})},
     };
     for (const auto& [name, map] : maps) {

@@ -2,6 +2,7 @@
 #include "dialectometry/ClusterMap.h"
 #include "dialectometry/Dendrogram.h"
 #include "dialectometry/GroupColors.h"
+#include "dialectometry/PlotAxis.h"
 #include "dialectometry/ReferenceMap.h"
 #include "dialectometry/ScalingMap.h"
 #include "dialectometry/ScatterPlot.h"
@@ -216,6 +217,30 @@ TEST(Dendrogram, NamesItsLeavesAsLongAsTheyCanBeRead)
     EXPECT_EQ(leafOrder({{4, 7, 9}, {{1, 2, 1, 2}, {0, 3, 2, 3}}}), std::vector<int>({4, 7, 9}));
     EXPECT_EQ(leafOrder({{4, 7, 9}, {{0, 2, 1, 2}}}), std::vector<int>({7, 4, 9}))
         << "trees that are not joined";
+}
+
+TEST(PlotAxis, HasRoundTicks)
+{
+    const struct
+    {
+        double least;
+        double most;
+        QStringList ticks;
+    } rows[] = {{0, 1, {"0.0", "0.2", "0.4", "0.6", "0.8", "1.0"}},
+                {-0.21, 0.41, {"-0.2", "-0.1", "0.0", "0.1", "0.2", "0.3", "0.4"}},
+                {3, 420, {"100", "200", "300", "400"}},
+                {0, 0.0031, {"0.0000", "0.0005", "0.0010", "0.0015", "0.0020", "0.0025", "0.0030"}},
+                {5, 5, {"5.00"}}};
+    for (const auto& row : rows) {
+        const PlotAxis axis{row.least, row.most, 100, 1100};
+        QStringList ticks;
+        for (const double value : axisTicks(axis)) {
+            ticks << tickText(value, axis);
+        }
+        EXPECT_EQ(ticks, row.ticks) << row.most;
+    }
+    EXPECT_EQ((PlotAxis{0, 10, 100, 1100}.at(2.5)), 350);
+    EXPECT_EQ((PlotAxis{5, 5, 100, 1100}.at(5)), 600);
 }
 
 TEST(ScatterPlot, WritesNamesWhereTheyDoNotCollide)
