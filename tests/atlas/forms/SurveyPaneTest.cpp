@@ -73,7 +73,7 @@ TEST_F(SurveyMapsOfWindow, HaveTheirSettingsBesideThem)
     EXPECT_TRUE(pane<QLabel>("lblNotes").text().contains("Cronbach's alpha"))
         << "how far they can be trusted";
     EXPECT_EQ(pane<QComboBox>("cboGroup").count(), 2);
-    EXPECT_EQ(pane<QTableView>("tblMarks").model()->rowCount(), 2);
+    EXPECT_EQ(pane<QTableView>("tblMarks").model()->rowCount(), 3) << "ame, uyu and yuki";
     EXPECT_FALSE(pane<QComboBox>("cboClasses").isVisible()) << "of another kind of map";
     choose("cboMethod", 0);
     EXPECT_TRUE(texts().contains("single linkage"));
@@ -119,7 +119,7 @@ TEST_F(SurveyMapsOfWindow, AreOfTheItemsOrTheFileThatAreChosen)
     wait();
     EXPECT_TRUE(texts().contains("over 1 item"));
 
-    program.dialogs.files = {survey.hostPath("distances.csv")};
+    program.dialogs.savedFiles = {survey.hostPath("distances.csv")};
     pane<QPushButton>("cmdSaveDistances").click();
     EXPECT_TRUE(survey.read("C:\\distances.csv").startsWith("\"\",\"1\",\"2\",\"3\"\r\n\"1\",0,0,1\r\n"))
         << survey.read("C:\\distances.csv").constData();
