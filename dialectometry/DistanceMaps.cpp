@@ -73,8 +73,8 @@ public:
 
     void lengthPlot() const
     {
-        drawDistancePlot(m_findings.lengths.lengths, m_distances, m_findings.line, m_parts.text.font, m_what,
-                         page(), target());
+        drawDistancePlot(m_findings.lengths, m_distances, m_findings.line, m_parts.text.font, m_what, page(),
+                         target());
     }
 
 private:

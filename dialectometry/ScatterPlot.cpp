@@ -21,6 +21,13 @@ struct Plot
     PlotAxis y;
 };
 
+/// What the axes show.
+struct PlotCaptions
+{
+    QString x;
+    QString y;
+};
+
 /// Makes room for marks at both ends.
 void widen(PlotAxis& axis)
 {
@@ -31,7 +38,8 @@ void widen(PlotAxis& axis)
     axis.most += more;
 }
 
-/// The axes of `points`, their places on the drawing inside of `area` below the line of the title.
+/// The axes of `points`, their places on the drawing inside of `area` below the line of the title, with room
+/// for ticks and captions.
 Plot plotOf(const std::vector<QPointF>& points, const QRectF& area, const DrawSurface& target)
 {
     const auto line = static_cast<double>(target.TextHeight());
@@ -39,7 +47,7 @@ Plot plotOf(const std::vector<QPointF>& points, const QRectF& area, const DrawSu
     Plot plot;
     plot.x = {std::numeric_limits<double>::max(), std::numeric_limits<double>::lowest(),
               static_cast<float>(left), static_cast<float>(area.right() - line)};
-    plot.y = {plot.x.least, plot.x.most, static_cast<float>(area.bottom() - 2 * line),
+    plot.y = {plot.x.least, plot.x.most, static_cast<float>(area.bottom() - 3 * line),
               static_cast<float>(area.top() + 2 * line)};
     for (const QPointF point : points) {
         plot.x.least = std::min(plot.x.least, point.x());
@@ -64,10 +72,14 @@ void useOneScale(Plot& plot)
     wide.most = middle + extent / 2;
 }
 
-void drawAxes(const Plot& plot, DrawSurface& target)
+/// The caption of y stands above its axis, that of x below the end of its own.
+void drawAxes(const Plot& plot, const PlotCaptions& captions, DrawSurface& target)
 {
     drawAxisBelow(plot.x, plot.y.start, target);
     drawAxisLeft(plot.y, plot.x.start, target);
+    const float line = target.TextHeight();
+    target.PrintAt(plot.x.end - target.TextWidth(captions.x), plot.y.start + 2 * line, captions.x);
+    target.PrintAt(plot.x.start - 4 * line, plot.y.end - line, captions.y);
 }
 
 /// Writes `name` beside (x, y) where there is room for it.
@@ -118,15 +130,15 @@ void drawLocality(int group, QPointF at, DrawSurface& target)
     }
 }
 
-/// The pairs of localities as points: kilometres and distance.
-std::vector<QPointF> pairsOf(const DistanceMatrix& kilometers, const DistanceMatrix& distances)
+/// The pairs of localities as points: length of the way and distance.
+std::vector<QPointF> pairsOf(const DistanceMatrix& ways, const DistanceMatrix& distances)
 {
     std::vector<QPointF> points;
-    const int size = std::min(kilometers.size(), distances.size());
+    const int size = std::min(ways.size(), distances.size());
     for (int a = 0; a < size; ++a) {
         for (int b = a + 1; b < size; ++b) {
-            if (kilometers.has(a, b) && distances.has(a, b)) {
-                points.emplace_back(kilometers(a, b), distances(a, b));
+            if (ways.has(a, b) && distances.has(a, b)) {
+                points.emplace_back(ways(a, b), distances(a, b));
             }
         }
     }
@@ -216,7 +228,7 @@ void drawScalingPlot(const Scaling& scaling, const QStringList& names, std::span
     std::ranges::transform(localities, std::back_inserter(points), &PlottedLocality::place);
     Plot plot = plotOf(points, area, target);
     useOneScale(plot);
-    drawAxes(plot, target);
+    drawAxes(plot, {QStringLiteral("dimension 1"), QStringLiteral("dimension 2")}, target);
     PlacedLabels labels;
     const auto at = [&plot](QPointF place) { return QPointF(plot.x.at(place.x()), plot.y.at(place.y())); };
     for (const auto& [number, place] : localities) {
@@ -231,15 +243,14 @@ void drawScalingPlot(const Scaling& scaling, const QStringList& names, std::span
     target.setFont(textFont(font));
 }
 
-void drawDistancePlot(const DistanceMatrix& kilometers, const DistanceMatrix& distances,
-                      const Regression& line, const MapFont& font, const QString& title, const QRectF& area,
-                      DrawSurface& target)
+void drawDistancePlot(const Lengths& ways, const DistanceMatrix& distances, const Regression& line,
+                      const MapFont& font, const QString& title, const QRectF& area, DrawSurface& target)
 {
     constexpr std::size_t MostDots = 5000;
 
     writeTitle(QStringLiteral("%1: r = %2").arg(title, QString::number(line.correlation, 'f', 3)), area, font,
                target);
-    const std::vector<QPointF> points = pairsOf(kilometers, distances);
+    const std::vector<QPointF> points = pairsOf(ways.lengths, distances);
     if (points.empty()) {
         return;
     }
@@ -251,6 +262,10 @@ void drawDistancePlot(const DistanceMatrix& kilometers, const DistanceMatrix& di
     } else {
         drawDots(points, plot, target);
     }
-    drawAxes(plot, target);
+    const bool inKilometres = ways.unit == LengthUnit::Kilometres;
+    drawAxes(plot,
+             {inKilometres ? QStringLiteral("kilometres") : QStringLiteral("map units"),
+              QStringLiteral("distance")},
+             target);
     drawRegression(line, plot, target);
 }

@@ -2,6 +2,7 @@
 
 #include "dialectometry/AreaFill.h"
 #include "dialectometry/DistanceMatrix.h"
+#include "dialectometry/Kilometres.h"
 #include "dialectometry/Scaling.h"
 
 #include <QRectF>
@@ -21,9 +22,8 @@ struct Regression
     double correlation = 0;
 };
 
-/// Draws the distance of every two localities over the kilometres between them into `area`, with the
+/// Draws the distance of every two localities over the length of the way between them into `area`, with the
 /// regression line and its correlation; many pairs as boxes, the darker the more of them lie there. Pairs
 /// without one of both are left out.
-void drawDistancePlot(const DistanceMatrix& kilometers, const DistanceMatrix& distances,
-                      const Regression& line, const MapFont& font, const QString& title, const QRectF& area,
-                      DrawSurface& target);
+void drawDistancePlot(const Lengths& ways, const DistanceMatrix& distances, const Regression& line,
+                      const MapFont& font, const QString& title, const QRectF& area, DrawSurface& target);

@@ -54,7 +54,8 @@ void writeItemsOfGroups(SequentialWriter& file, const SurveyAnswers& answers,
     const auto goOn = [](int, int) { return true; };
     writeHeadings(file, {"group", "item", "within", "between", "score"});
     for (int group = 1; group <= groupCount(groups); ++group) {
-        for (const ItemOfGroup& mark : *itemsOfGroup(comparison, groups, group, goOn)) {
+        const auto marks = itemsOfGroup(comparison, groups, group, goOn);
+        for (const ItemOfGroup& mark : *marks) {
             file.write(group, itemOf(answers, mark.item).name, rounded(mark.within), rounded(mark.between),
                        rounded(mark.score));
         }

@@ -282,15 +282,16 @@ TEST(ScatterPlot, ShowsDistancesOverKilometres)
     DistanceMatrix distances = columnDistances();
     distances.set(0, 1, None);
     MapOfCells map({});
-    drawDistancePlot(kilometers, distances, {0.01, 0, 0.9876}, map.varn, QStringLiteral("Distances"),
-                     {0, 0, 12000, 9000}, map.surface);
+    drawDistancePlot({kilometers, LengthUnit::Kilometres}, distances, {0.01, 0, 0.9876}, map.varn,
+                     QStringLiteral("Distances"), {0, 0, 12000, 9000}, map.surface);
     const Drawing& drawing = map.surface.drawing();
     EXPECT_TRUE(wasPrinted(drawing, QStringLiteral("Distances: r = 0.988")));
+    EXPECT_TRUE(wasPrinted(drawing, QStringLiteral("kilometres")));
     EXPECT_EQ(operationsOf<EllipseOperation>(drawing).size(), 119U);
     EXPECT_EQ(linesOfWidth(drawing, 3), 1) << "the regression in one piece";
 
     MapOfCells empty({});
-    drawDistancePlot(DistanceMatrix(3), DistanceMatrix(3), {}, empty.varn, QString(), {0, 0, 900, 900},
-                     empty.surface);
+    drawDistancePlot({DistanceMatrix(3), LengthUnit::MapUnits}, DistanceMatrix(3), {}, empty.varn, QString(),
+                     {0, 0, 900, 900}, empty.surface);
     EXPECT_TRUE(operationsOf<PolylineOperation>(empty.surface.drawing()).empty());
 }

@@ -70,7 +70,7 @@ TEST_F(SurveyMapsOfWindow, HaveTheirSettingsBesideThem)
     show("mnuKindGroupsofLocalities");
     EXPECT_TRUE(texts().contains("2 groups by Ward's method\nrelative identity values over 2 items"))
         << qPrintable(texts());
-    EXPECT_TRUE(pane<QLabel>("lblNotes").text().contains("Cronbach's alpha"))
+    EXPECT_TRUE(pane<QLabel>("lblNotes").text().contains("Local incoherence"))
         << "how far they can be trusted";
     EXPECT_EQ(pane<QComboBox>("cboGroup").count(), 2);
     EXPECT_EQ(pane<QTableView>("tblMarks").model()->rowCount(), 3) << "ame, uyu and yuki";
