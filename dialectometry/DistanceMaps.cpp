@@ -39,7 +39,7 @@ public:
             row.push_back(m_distances(m_settings.reference, i));
         }
         const QString place = localityTitle(m_parts.base.map, m_settings.reference + 1);
-        drawReferenceMap(m_parts, twoLines(QStringLiteral("Distance to %1").arg(place)), row,
+        drawReferenceMap(m_parts, twoLines(QStringLiteral("Distance to locality %1").arg(place)), row,
                          m_settings.reference, {m_settings.look, m_settings.rule}, m_surfaces);
     }
 

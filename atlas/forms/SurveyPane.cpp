@@ -113,15 +113,21 @@ void SurveyPane::addSource()
     auto* buttons = new QWidget;
     auto* row = new QHBoxLayout(buttons);
     row->setContentsMargins(0, 0, 0, 0);
-    const auto add = [&](const char* name, const QString& text, void (SurveyPane::*signal)()) {
+    const auto add = [&](const char* name, const QString& text, const QString& tip,
+                         void (SurveyPane::*signal)()) {
         auto* button = new QPushButton(text);
         button->setObjectName(QLatin1String(name));
+        button->setToolTip(tip);
+        button->setAccessibleName(tip);
         connect(button, &QPushButton::clicked, this, signal);
         row->addWidget(button);
     };
-    add("cmdItems", QStringLiteral("&Items..."), &SurveyPane::itemsWanted);
-    add("cmdOpenDistances", QStringLiteral("Open..."), &SurveyPane::openWanted);
-    add("cmdSaveDistances", QStringLiteral("Save..."), &SurveyPane::saveWanted);
+    add("cmdItems", QStringLiteral("&Items..."),
+        QStringLiteral("Choose the items that localities are compared by"), &SurveyPane::itemsWanted);
+    add("cmdOpenDistances", QStringLiteral("Open..."), QStringLiteral("Take distances from a file"),
+        &SurveyPane::openWanted);
+    add("cmdSaveDistances", QStringLiteral("Save..."), QStringLiteral("Save the distances to a file"),
+        &SurveyPane::saveWanted);
     addRow({}, buttons, all);
     m_answers = addChoice("cboAnswers", QStringLiteral("&Compare"),
                           {QStringLiteral("Word forms"), QStringLiteral("Kinds by their symbols")}, all);
@@ -129,7 +135,7 @@ void SurveyPane::addSource()
                           {QStringLiteral("Relative identity"), QStringLiteral("Weighted identity"),
                            QStringLiteral("Levenshtein")},
                           distances);
-    m_vowels = addSwitch("chkVowels", QStringLiteral("&Vowels never against consonants"), distances);
+    m_vowels = addSwitch("chkVowels", QStringLiteral("V&owels never against consonants"), distances);
     connect(m_answers, &QComboBox::activated, this, &SurveyPane::setSource);
     connect(m_measure, &QComboBox::activated, this, &SurveyPane::setSource);
     connect(m_vowels, &QCheckBox::clicked, this, &SurveyPane::setSource);
@@ -170,7 +176,7 @@ void SurveyPane::addLook()
 {
     m_locality = addChoice("cboLocality", QStringLiteral("&Locality"), {}, {Kind::Reference});
     m_classes = addChoice(
-        "cboClasses", QStringLiteral("Cla&sses"),
+        "cboClasses", QStringLiteral("Cl&asses"),
         {QStringLiteral("Three below and three above the mean"), QStringLiteral("Six of one width")},
         {Kind::Reference});
     m_hatched = addSwitch("chkHatched", QStringLiteral("&Patterns for print without colours"),
@@ -203,7 +209,10 @@ void SurveyPane::addMarks()
     m_marksView->setTabKeyNavigation(false);
     m_marksView->verticalHeader()->hide();
     m_marksView->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
-    m_marksView->horizontalHeader()->setSectionResizeMode(GroupMarksTable::WordForm, QHeaderView::Stretch);
+    for (const int column : {GroupMarksTable::Item, GroupMarksTable::WordForm}) {
+        m_marksView->horizontalHeader()->setSectionResizeMode(column, QHeaderView::Stretch);
+    }
+    m_marksView->verticalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
     m_marksView->setMinimumHeight(220);
     addRow({}, m_marksView, {Kind::Clusters});
     connect(m_group, &QComboBox::currentIndexChanged, this, &SurveyPane::showMarks);

@@ -86,7 +86,7 @@ TEST_F(SurveyOfTwoItems, IsDrawnAsAskedFor)
     survey.write(ling("snow.dbs"), QByteArray(SnowItem).replace("\r\n0\r\n", "\r\n1\r\n\"hyo\"\r\n"));
     const std::pair<AtlasMapKind, const char*> rows[] = {
         {AtlasMapKind::Bundles, "Isoglosses of 2 items"},
-        {AtlasMapKind::Reference, "Distance to 2"},
+        {AtlasMapKind::Reference, "Distance to locality 2"},
         {AtlasMapKind::Beams, "relative identity values over 2 items"},
         {AtlasMapKind::Clusters, "2 groups by Ward's method"},
         {AtlasMapKind::Dendrogram, "2 groups by Ward's method"},

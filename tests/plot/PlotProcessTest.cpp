@@ -136,7 +136,7 @@ TEST_F(PlotProcess, ASurveyAsAWholeIsComparedAndDrawn)
         {"area-map --data Ling/rain.dbs --symbols Ling/rain.han", "areas.svg", ">the word (2)<"},
         {"isogloss-map --compare forms --items Ling/rain.dbs", "line.svg", ">Rain<"},
         {"isogloss-map --compare forms --items Ling/rain.dbs Ling/snow.dbs", "lines.svg", "of 2 items<"},
-        {"reference-map --distances d.csv --locality 3", "far.svg", ">Distance to 3<"},
+        {"reference-map --distances d.csv --locality 3", "far.svg", ">Distance to locality 3<"},
         {"beam-map --distances d.csv", "beams.svg", ">Neighbours<"},
         {"cluster-map --distances d.csv --clusters 2 --noise 0.2 --dendrogram", "groups.svg",
          ">group 1 (2)<"},

@@ -99,13 +99,13 @@ TEST_F(SurveyMapsOfWindow, HaveTheirSettingsBesideThem)
 TEST_F(SurveyMapsOfWindow, FollowTheLocalityThatIsChosen)
 {
     show("mnuKindDistancestoaLocality");
-    EXPECT_TRUE(texts().contains("Distance to 1"));
+    EXPECT_TRUE(texts().contains("Distance to locality 1"));
     form<frmAtlas>().selection().setLocalities({3});
     wait();
-    EXPECT_TRUE(texts().contains("Distance to 3"));
+    EXPECT_TRUE(texts().contains("Distance to locality 3"));
     EXPECT_EQ(pane<QComboBox>("cboLocality").currentIndex(), 2);
     choose("cboLocality", 1);
-    EXPECT_TRUE(texts().contains("Distance to 2"));
+    EXPECT_TRUE(texts().contains("Distance to locality 2"));
 }
 
 TEST_F(SurveyMapsOfWindow, AreOfTheItemsOrTheFileThatAreChosen)
