@@ -300,7 +300,7 @@ void SurveyPane::showSettings()
     m_groups->setValue(settings.groups);
     m_noise->setValue(settings.noise.noise);
     m_seed->setValue(static_cast<int>(settings.noise.seed));
-    m_seed->setEnabled(settings.noise.noise > 0);
+    m_rows->setRowVisible(m_seed, m_kind == Kind::Clusters && settings.noise.noise > 0);
     m_locality->setCurrentIndex(settings.reference);
     m_classes->setCurrentIndex(static_cast<int>(settings.rule));
     m_hatched->setChecked(settings.look == AreaLook::Hatched);

@@ -109,7 +109,12 @@ TEST_F(SurveyOfTwoItems, IsDrawnAsAskedFor)
 TEST_F(SurveyOfTwoItems, SaysWhyThereIsNoMap)
 {
     maps.setKind(AtlasMapKind::Clusters);
+    maps.stop();
     wait();
+    EXPECT_FALSE(maps.survey()) << "stopped";
+    maps.setKind(AtlasMapKind::Clusters);
+    wait();
+    EXPECT_TRUE(maps.survey());
     DistanceMapSettings settings = maps.settings();
     settings.groups = 3;
     maps.setSettings(settings);

@@ -6,6 +6,7 @@
 #include <QClipboard>
 #include <QDirIterator>
 #include <QFile>
+#include <QSettings>
 
 #include <functional>
 #include <memory>
@@ -38,6 +39,8 @@ protected:
     void open()
     {
         program.reset();
+        QSettings(QSettings::IniFormat, QSettings::UserScope, "varn", "atlas")
+            .clear(); // all layers are shown
         for (const char* written : {"rain.srt", "west.rnk", "all.stt"}) {
             QFile::remove(survey.drive().hostPath(ling(written)));
         }

@@ -20,7 +20,7 @@ frmMain: (no file), mnuImportLocalities -> Import Localities; (no file), mnuImpo
 frmMain: (no file), mnuImportPlaceNames -> Import Place Names; (no file), mnuImportPolygons -> Import Polygon
 frmAtlas: mnuNewSurvey -> [frmNewSurvey]; mnuInputData -> [frmDataInput]; mnuToMain -> [frmMain]
 frmAtlas: (atlas), mnuToolBar -> -<tools>
-frmAtlas: mnuSumUp -> [frmCalc]; mnuOpenMap -> [OpenMapDialog]; (atlas), mnuExportAtlas -> [ExportAtlasDialog]
+frmAtlas: mnuSumUp -> [frmCalc]; mnuOpenMap -> [OpenMapDialog]; (atlas), mnuExportAtlas -> [ItemsDialog]
 frmAtlas: (no name), mnuExportMap -> Export Map; (atlas), mnuPrint -> [QPrintPreviewDialog]
 frmAtlas: (atlas), mnuCopyMap -> clipboard: picture; mnuClose -> -[frmAtlas]; mnuAbout -> [AboutDialog]
 frmAtlas: (atlas), (a new caption), mnuSave -> -<modified>; (atlas), (a new caption), mnuUndo -> -<modified>
@@ -32,6 +32,19 @@ frmAtlas: (atlas), mnuKindCirclesofAllWordForms -> <mnuKindCirclesofAllWordForms
 frmAtlas: (atlas), mnuKindSymbolsofAllWordForms -> <mnuKindSymbolsofAllWordForms>
 frmAtlas: (atlas), mnuKindContrastMap -> <mnuKindContrastMap>
 frmAtlas: (atlas), mnuKindContrastMap, mnuKindLinguisticMap -> -<mnuKindContrastMap>
+frmAtlas: (atlas), mnuKindAreasoftheItem -> <mnuKindAreasoftheItem>
+frmAtlas: (atlas), mnuKindIsoglossesoftheItem -> <mnuKindIsoglossesoftheItem>
+frmAtlas: (atlas), mnuKindIsoglossesofManyItems -> <mnuKindIsoglossesofManyItems>
+frmAtlas: (atlas), mnuKindDistancestoaLocality -> <mnuKindDistancestoaLocality>
+frmAtlas: (atlas), mnuKindBeamsbetweenNeighbours -> <mnuKindBeamsbetweenNeighbours>
+frmAtlas: (atlas), mnuKindGroupsofLocalities -> <mnuKindGroupsofLocalities>
+frmAtlas: (atlas), mnuKindTreeofLocalities -> <mnuKindTreeofLocalities>
+frmAtlas: (atlas), mnuKindColoursbyScaling -> <mnuKindColoursbyScaling>
+frmAtlas: (atlas), mnuKindPlotbyScaling -> <mnuKindPlotbyScaling>
+frmAtlas: (atlas), mnuKindDistancesandKilometres -> <mnuKindDistancesandKilometres>
+frmAtlas: (atlas), mnuKindGroupsofLocalities, cmdItems -> [ItemsDialog]
+frmAtlas: (atlas), mnuKindGroupsofLocalities, (no file), cmdOpenDistances -> Open Distances
+frmAtlas: (atlas), cmdSaveDistances -> There are no distances yet.
 frmMain: mnuManual -> [HelpWindow]
 frmAtlas: mnuManual -> [HelpWindow]
 frmMap: mnuManual -> [HelpWindow]
