@@ -50,7 +50,7 @@ QVariant GroupMarksTable::data(const QModelIndex& index, int role) const
         return text(m_marks[static_cast<std::size_t>(index.row())], index.column());
     }
     if (role == Qt::TextAlignmentRole && index.column() >= Representative) {
-        return QVariant(Qt::AlignRight | Qt::AlignVCenter);
+        return (Qt::AlignRight | Qt::AlignVCenter).toInt();
     }
     return {};
 }
