@@ -22,6 +22,7 @@
 #include <QJsonObject>
 
 #include <algorithm>
+#include <array>
 #include <cstdio>
 #include <ctime>
 #include <limits>
@@ -35,11 +36,10 @@ struct NamedMethod
 };
 
 /// The methods by their names in SciPy.
-constexpr NamedMethod Methods[] = {{"single", LinkageMethod::Single},
-                                   {"complete", LinkageMethod::Complete},
-                                   {"average", LinkageMethod::Average},
-                                   {"weighted", LinkageMethod::Weighted},
-                                   {"ward", LinkageMethod::Ward}};
+constexpr std::array Methods = {
+    NamedMethod{"single", LinkageMethod::Single}, NamedMethod{"complete", LinkageMethod::Complete},
+    NamedMethod{"average", LinkageMethod::Average}, NamedMethod{"weighted", LinkageMethod::Weighted},
+    NamedMethod{"ward", LinkageMethod::Ward}};
 
 /// The least milliseconds of processor time, of all threads, of several runs; other work does not count.
 template <typename Work>
