@@ -10,6 +10,18 @@
 
 #include <new>
 
+namespace {
+
+/// Whether localities, their names and the lines are the same.
+bool isSameLand(const BaseMap& a, const BaseMap& b)
+{
+    return a.NLocality == b.NLocality && a.LocXY == b.LocXY && a.localityNames == b.localityNames &&
+           a.NLine == b.NLine && a.LinePoints == b.LinePoints && a.LineOffset == b.LineOffset &&
+           a.LineXY == b.LineXY;
+}
+
+} // namespace
+
 AtlasSurveyMaps::AtlasSurveyMaps(VarnModule& varn, AtlasDocument& document)
     : m_varn(varn), m_document(document)
 {
@@ -19,7 +31,7 @@ AtlasSurveyMaps::AtlasSurveyMaps(VarnModule& varn, AtlasDocument& document)
     };
     connect(&m_document, &AtlasDocument::wordsChanged, this, edited);
     connect(&m_document, &AtlasDocument::symbolsChanged, this, edited);
-    connect(&m_document, &AtlasDocument::baseMapChanged, this, &AtlasSurveyMaps::forgetMap);
+    connect(&m_document, &AtlasDocument::baseMapChanged, this, &AtlasSurveyMaps::followMap);
     connect(&m_work, &QFutureWatcherBase::finished, this, &AtlasSurveyMaps::takeOutcome);
     connect(&m_work, &QFutureWatcherBase::progressValueChanged, this,
             [this](int done) { Q_EMIT progressed(done, m_work.progressMaximum()); });
@@ -80,13 +92,20 @@ void AtlasSurveyMaps::setReference(int i)
 
 void AtlasSurveyMaps::followFiles()
 {
+    if (m_cells) {
+        followMap();
+    }
     if (isOfSurvey(m_kind) && marks() != m_marks) {
         begin();
     }
 }
 
-void AtlasSurveyMaps::forgetMap()
+/// Place names and legend may be elsewhere; another map is compared anew, from all of its items.
+void AtlasSurveyMaps::followMap()
 {
+    if (m_cells && m_mapName == m_varn.VarnMapName && isSameLand(m_cells->map, m_varn)) {
+        return;
+    }
     m_work.cancel();
     m_cells.reset();
     m_found = SurveyMap();
@@ -99,6 +118,7 @@ void AtlasSurveyMaps::forgetMap()
 const CellMap& AtlasSurveyMaps::cellMap()
 {
     if (!m_cells) {
+        m_mapName = m_varn.VarnMapName;
         m_cells = std::make_shared<const CellMap>(CellMap{m_varn, localityCells(m_varn, m_varn)});
     }
     return *m_cells;

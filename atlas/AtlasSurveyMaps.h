@@ -33,7 +33,7 @@ public:
     /// Shows the distances to locality i (from 1).
     void setReference(int i);
 
-    /// Finds out again what the files have changed in; nothing where they have not.
+    /// Finds out again what other forms and files have changed in; nothing where they have not.
     void followFiles();
 
     /// The cells of the current map.
@@ -81,7 +81,7 @@ private:
                         const SurveySource& source);
     /// What the map that is shown is compared from.
     SurveySource wanted() const;
-    void forgetMap();
+    void followMap();
     void begin();
     void takeOutcome();
     SurveyFiles files();
@@ -94,6 +94,8 @@ private:
     DistanceMapSettings m_settings;
     IsoglossStyle m_style;
     bool m_withSymbols = false;
+    /// The map that the cells are of, by name.
+    QString m_mapName;
     std::shared_ptr<const CellMap> m_cells;
     SurveyMap m_found;
     /// What `m_found` was compared of, and what the work that was begun last is.

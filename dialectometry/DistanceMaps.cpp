@@ -34,9 +34,9 @@ public:
 
     void reference() const
     {
-        std::vector<double> row;
+        std::vector<double> row(static_cast<std::size_t>(m_distances.size()));
         for (int i = 0; i < m_distances.size(); ++i) {
-            row.push_back(m_distances(m_settings.reference, i));
+            row[static_cast<std::size_t>(i)] = m_distances(m_settings.reference, i);
         }
         const QString place = localityTitle(m_parts.base.map, m_settings.reference + 1);
         drawReferenceMap(m_parts, twoLines(QStringLiteral("Distance to locality %1").arg(place)), row,

@@ -140,6 +140,18 @@ TEST_F(SurveyOfTwoItems, SaysWhyThereIsNoMap)
     EXPECT_EQ(distance(1, 2), 3);
     EXPECT_EQ(maps.survey()->name, "d");
 
+    const auto before = maps.survey();
+    document.setLegendPlace({300, 200});
+    wait();
+    EXPECT_EQ(maps.survey(), before) << "the legend is elsewhere on the same map";
+    varn.LocXY(2, 0) += 50;
+    maps.followFiles();
+    EXPECT_TRUE(maps.isBusy()) << "a locality was imported anew";
+    wait();
+    EXPECT_EQ(maps.cellMap().map.LocXY(2, 0), varn.LocXY(2, 0));
+    source = maps.source();
+    EXPECT_EQ(source.distancesFile, "") << "of the map as it was";
+
     source.distancesFile.clear();
     source.items = {ling("none.dbs"), ling("rain.dbs")};
     maps.setSource(source);
