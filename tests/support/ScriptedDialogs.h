@@ -122,7 +122,7 @@ private:
             ADD_FAILURE() << "no answer to: " << qPrintable(question.text);
             return Answer();
         }
-        const Answer next = answers.front();
+        Answer next = answers.front();
         answers.pop_front();
         return next;
     }
