@@ -251,7 +251,7 @@ TEST(ScatterPlot, WritesNamesWhereTheyDoNotCollide)
         scaling.places.push_back({std::sin(i) * (i < 30 ? 0.1 : 1), std::cos(i * 1.7), 0});
         names << QStringLiteral("place%1").arg(i);
     }
-    scaling.places.push_back({});
+    scaling.places.emplace_back();
     names << QStringLiteral("left out");
     scaling.stress = {0.5, 0.1234, 0};
     scaling.variance = {0.5, 0.666, 1};
