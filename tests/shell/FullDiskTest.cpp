@@ -68,7 +68,7 @@ TEST(FullDisk, EveryWriterKeepsTheOldFile)
     const auto picture = [&](const QString& path) {
         saveDrawing(survey.frmMap.drawing(), {3000, 3000}, survey.drive().hostPath(path), 96);
     };
-    constexpr qsizetype Buffer = 16 * 1024;
+    constexpr qsizetype Buffer = qsizetype{16} * 1024;
     const auto bytes = [&](qsizetype size) {
         return [&varn, size](const QString& path) { replaceFile(varn.Drive, path, QByteArray(size, 'x')); };
     };
