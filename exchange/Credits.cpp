@@ -39,9 +39,9 @@ std::vector<Credit> libraries(const GeoData::Versions& versions)
             {QStringLiteral("qpdf"), QString(), QStringLiteral("Jay Berkenbilt and other contributors"),
              QStringLiteral("Apache License 2.0"), QStringLiteral("https://qpdf.org"),
              QStringLiteral("atlases of many pages")},
-            {QStringLiteral("zlib"), QString(), QStringLiteral("Jean-loup Gailly and Mark Adler"),
-             QStringLiteral("zlib licence"), QStringLiteral("https://zlib.net"),
-             QStringLiteral("pictures as PNG")}};
+            {QStringLiteral("libpng"), QString(), QStringLiteral("The PNG Reference Library Authors"),
+             QStringLiteral("PNG Reference Library License version 2"),
+             QStringLiteral("http://www.libpng.org"), QStringLiteral("pictures as PNG")}};
 }
 
 std::vector<Credit> data()

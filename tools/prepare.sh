@@ -1,6 +1,6 @@
 # Sourced by ./run and ./test: installs what building needs and is missing, and configures the release build.
 
-packages="cmake ninja-build g++ qt6-base-dev qt6-svg-dev libgdal-dev libqpdf-dev libgeos-dev libeigen3-dev zlib1g-dev pkg-config libgtest-dev libbenchmark-dev python3 fonts-liberation fonts-dejavu-core"
+packages="cmake ninja-build g++ qt6-base-dev qt6-svg-dev libgdal-dev libqpdf-dev libgeos-dev libeigen3-dev libpng-dev pkg-config libgtest-dev libbenchmark-dev python3 fonts-liberation fonts-dejavu-core"
 
 missing_packages() {
     for package in $packages; do
