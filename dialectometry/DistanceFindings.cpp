@@ -80,11 +80,6 @@ Regression regressionOf(const DistanceMatrix& lengths, const DistanceMatrix& dis
 
 } // namespace
 
-bool needsFindings(DistanceMapKind kind)
-{
-    return kind != DistanceMapKind::Reference && kind != DistanceMapKind::Beams;
-}
-
 std::optional<DistanceFindings> findingsFor(const DistanceMapSettings& settings,
                                             const DistanceMatrix& distances, const BaseMap& map,
                                             const LocalityCells& cells, const DistanceProgress& goOn)

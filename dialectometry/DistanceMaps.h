@@ -56,9 +56,6 @@ struct DistanceFindings
     Regression line;
 };
 
-/// Whether such a map needs findings that take their time.
-bool needsFindings(DistanceMapKind kind);
-
 /// Finds out what the map shows; nothing where `goOn` returned false. Raises invalid procedure call for fewer
 /// than two localities with distances, more groups than localities in the tree, and a reference that is no
 /// locality.
