@@ -172,10 +172,11 @@ void AtlasSurveyMaps::findOut(QPromise<Outcome>& promise, const SurveyFiles& fil
     promise.addResult(std::move(outcome));
 }
 
-/// Isoglosses are of items, not of distances.
+/// Kinds are marked as on the map that is shown, and isoglosses are of items, not of distances.
 SurveySource AtlasSurveyMaps::wanted() const
 {
     SurveySource source = m_source;
+    source.answers.wholeWordForms = source.answers.by == AnswersBy::Kinds && m_varn.WholeWordForms;
     if (m_kind == AtlasMapKind::Bundles) {
         source.distancesFile.clear();
     }

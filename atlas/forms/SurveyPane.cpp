@@ -68,7 +68,7 @@ void SurveyPane::showKind(AtlasMapKind kind)
 void SurveyPane::setSource()
 {
     SurveySource source = m_survey.source();
-    source.answers = {static_cast<AnswersBy>(m_answers->currentIndex()), m_varn.WholeWordForms};
+    source.answers.by = static_cast<AnswersBy>(m_answers->currentIndex());
     source.measure = {static_cast<DistanceMeasure>(m_measure->currentIndex()), m_vowels->isChecked()};
     m_survey.setSource(source);
     showSettings();
