@@ -47,13 +47,15 @@ WordKinds kindsIn(SequentialReader& file)
     return kinds;
 }
 
-/// A word form without strings has no line in its file, which then ends too early; so there is none here.
+/// A word form without strings, or with more than ten, has no line in its file, which then ends too early; so
+/// there is none here.
 CumulativeData charactersIn(SequentialReader& file)
 {
+    constexpr int MostStrings = 10;
     CumulativeData data;
     readSpecifyChars(file, data);
     for (int k = 1; k <= data.NumWordforms; ++k) {
-        if (data.NumSpecifyChars(k) == 0) {
+        if (data.NumSpecifyChars(k) < 1 || data.NumSpecifyChars(k) > MostStrings) {
             throw RunTimeError(ErrorNumber::InputPastEndOfFile);
         }
     }
