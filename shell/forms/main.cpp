@@ -3,6 +3,8 @@
 #include "shell/forms/frmMain.h"
 
 #include <QApplication>
+#include <QDir>
+#include <QFileInfo>
 #include <QIcon>
 
 #include <cstdio>
@@ -32,8 +34,8 @@ bool isAnswered(std::span<char* const> words)
 QIcon programIcon()
 {
     QIcon icon;
-    for (const int size : {16, 24, 32, 48, 64, 128, 256}) {
-        icon.addFile(QStringLiteral(":/packaging/icons/varn-%1.png").arg(size));
+    for (const QFileInfo& file : QDir(QStringLiteral(":/packaging/icons")).entryInfoList(QDir::Files)) {
+        icon.addFile(file.filePath());
     }
     return icon;
 }
