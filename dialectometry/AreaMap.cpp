@@ -40,9 +40,33 @@ AreaFill coloredFill(QRgb color, int earlier)
     return {tint(color, 1 - (1 - Lightest) / 2), ink, Patterns.at(number)};
 }
 
+bool isAnswered(const ItemAnswers& item, int locality)
+{
+    bool isAnswered = false;
+    for (int j = 1; j <= item.WordCount(locality); ++j) {
+        isAnswered = isAnswered || !item.WordData(locality, j).isEmpty();
+    }
+    return isAnswered;
+}
+
+/// Adds a last fill, that of localities whose answers no record marks: they are not without an answer.
+void addUnmarked(const ItemAnswers& item, FilledCells& cells)
+{
+    const auto unmarked = static_cast<int>(cells.fills.size());
+    cells.fills.push_back({qRgb(236, 236, 236), 0, FillPattern::Solid});
+    const int localities = std::min<int>(item.NLocate, static_cast<int>(cells.ofLocality.size()));
+    for (int i = 1; i <= localities; ++i) {
+        std::vector<int>& records = cells.ofLocality[static_cast<std::size_t>(i - 1)];
+        if (records.empty() && isAnswered(item, i)) {
+            records.push_back(unmarked);
+        }
+    }
+}
+
+/// `cells` has a fill for each record and that of the unmarked.
 AreaLegend legendOf(const LinguisticMapParts& parts, const FilledCells& cells)
 {
-    std::vector<int> counts(static_cast<std::size_t>(parts.symbols.NHanrei));
+    std::vector<int> counts(cells.fills.size());
     for (const std::vector<int>& records : cells.ofLocality) {
         for (const int record : records) {
             ++counts[static_cast<std::size_t>(record)];
@@ -59,6 +83,12 @@ AreaLegend legendOf(const LinguisticMapParts& parts, const FilledCells& cells)
             row.text = withCount(caption, count);
             legend.rows.push_back(row);
         }
+    }
+    if (counts.back() > 0) {
+        AreaLegendRow row;
+        row.fills = {cells.fills.back()};
+        row.text = withCount(QStringLiteral("no symbol"), counts.back());
+        legend.rows.push_back(row);
     }
     return legend;
 }
@@ -103,9 +133,10 @@ void drawAreaMap(const LinguisticMapParts& parts, const LocalityCells& cells, co
                  MapSurfaces surfaces)
 {
     const AreaMapParts areas{parts.base, parts.text, cells};
-    const FilledCells filled{recordFills(parts.symbols, style.look),
-                             recordsOfLocalities(parts.item, parts.symbols, parts.base.style.WholeWordForms,
-                                                 parts.base.map.NLocality)};
+    FilledCells filled{recordFills(parts.symbols, style.look),
+                       recordsOfLocalities(parts.item, parts.symbols, parts.base.style.WholeWordForms,
+                                           parts.base.map.NLocality)};
+    addUnmarked(parts.item, filled);
     drawFilledMap(areas, filled, surfaces);
     if (style.look == AreaLook::Hatched) {
         drawFillBorders(areas, filled, surfaces.DrawTarget);

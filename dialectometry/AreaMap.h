@@ -23,6 +23,6 @@ std::vector<AreaFill> recordFills(const SymbolSet& symbols, AreaLook look);
 /// Draws the areas of an item: each cell filled as the record that marks its word form, several as stripes,
 /// the base map over them, in the hatched look lines between them, then the symbols on request and the
 /// legend: the records that mark a locality, with the number of localities, except those whose caption has a
-/// hyphen. Cells without an answer and those that no record marks stay white.
+/// hyphen. Cells whose word forms no record marks are a light grey; those without an answer stay white.
 void drawAreaMap(const LinguisticMapParts& parts, const LocalityCells& cells, const AreaMapStyle& style,
                  MapSurfaces surfaces);

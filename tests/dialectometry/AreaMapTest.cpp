@@ -75,6 +75,25 @@ TEST(AreaMap, PaintsEachLocalityAsTheRecordsThatMarkIt)
     EXPECT_TRUE(texts.contains(QStringLiteral("rain")) || wasPrinted(map.surface.drawing(), map.varn.Hanrei));
     EXPECT_TRUE(texts.contains(QStringLiteral("vosela (21)"))) << texts.join('|').toStdString();
     EXPECT_TRUE(texts.contains(QStringLiteral("tamuka (25)")));
+    EXPECT_FALSE(texts.join('|').contains(QStringLiteral("no symbol")));
+}
+
+TEST(AreaMap, AnswersWithoutASymbolAreToldFromNoAnswer)
+{
+    MapOfCells map = sampleMap();
+    const auto records = recordsOfLocalities(map.varn, map.varn, false, map.varn.NLocality);
+    const auto unmarked = std::ranges::count(records, std::vector<int>{3});
+    ASSERT_GT(unmarked, 10);
+    map.varn.HankoWord(4) = QStringLiteral("nobody says so");
+    drawAreaMap(linguisticMapParts(map.varn), map.cells, {}, map.surfaces());
+    const QStringList texts = textsOf(map.surface.drawing());
+    EXPECT_TRUE(texts.contains(withCount(QStringLiteral("no symbol"), unmarked)))
+        << texts.join('|').toStdString();
+    const QImage image = map.painted();
+    for (int i = 0; i < map.varn.NLocality; ++i) {
+        const bool isUnmarked = records[static_cast<std::size_t>(i)] == std::vector<int>{3};
+        EXPECT_EQ(hasColorNear(image, map.pixelOf(i), qRgb(236, 236, 236)), isUnmarked) << i;
+    }
 }
 
 TEST(AreaMap, RecordsOfOneColourStayApart)
