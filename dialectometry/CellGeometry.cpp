@@ -1,185 +1,16 @@
 #include "dialectometry/CellGeometry.h"
 
 #include "dialectometry/CoastRings.h"
-#include "platform/RunTimeError.h"
+#include "dialectometry/GeosShapes.h"
+#include "dialectometry/LandSides.h"
 
 #include <QRectF>
 
 #include <algorithm>
 #include <cmath>
-#include <geos_c.h>
-#include <memory>
+#include <iterator>
 
 namespace {
-
-using Context = GEOSContextHandle_t;
-
-/// A geometry that is gone with its owner.
-class Shape
-{
-public:
-    /// Raises invalid procedure call where GEOS made none.
-    Shape(Context context, GEOSGeometry* geometry) : m_geometry(geometry, Destroyer{context})
-    {
-        if (geometry == nullptr) {
-            throw RunTimeError(ErrorNumber::InvalidProcedureCall,
-                               QStringLiteral("The cells of the localities cannot be computed."));
-        }
-    }
-
-    const GEOSGeometry* get() const { return m_geometry.get(); }
-    GEOSGeometry* release() { return m_geometry.release(); }
-
-private:
-    struct Destroyer
-    {
-        Context context;
-        void operator()(GEOSGeometry* geometry) const { GEOSGeom_destroy_r(context, geometry); }
-    };
-
-    std::unique_ptr<GEOSGeometry, Destroyer> m_geometry;
-};
-
-/// GEOS for one computation.
-class Geos
-{
-public:
-    Geos() : m_context(GEOS_init_r()) {}
-    ~Geos() { GEOS_finish_r(m_context); }
-    Geos(const Geos&) = delete;
-    Geos& operator=(const Geos&) = delete;
-
-    Context context() const { return m_context; }
-
-    Shape points(std::span<const QPointF> places) const
-    {
-        std::vector<GEOSGeometry*> all;
-        for (const QPointF place : places) {
-            all.push_back(GEOSGeom_createPointFromXY_r(m_context, place.x(), place.y()));
-        }
-        return collection(GEOS_MULTIPOINT, all);
-    }
-
-    /// What `ring` goes around, made valid where it crosses itself.
-    Shape polygon(const Ring& ring) const
-    {
-        std::vector<double> numbers;
-        numbers.reserve(2 * (ring.size() + 1));
-        for (std::size_t i = 0; i <= ring.size(); ++i) {
-            numbers.push_back(ring[i % ring.size()].x());
-            numbers.push_back(ring[i % ring.size()].y());
-        }
-        GEOSCoordSequence* points = GEOSCoordSeq_copyFromBuffer_r(
-            m_context, numbers.data(), static_cast<unsigned>(ring.size() + 1), 0, 0);
-        GEOSGeometry* line = GEOSGeom_createLinearRing_r(m_context, points);
-        const Shape polygon(m_context, GEOSGeom_createPolygon_r(m_context, line, nullptr, 0));
-        return {m_context, GEOSMakeValid_r(m_context, polygon.get())};
-    }
-
-    Shape unionOf(std::vector<Shape>& shapes) const
-    {
-        std::vector<GEOSGeometry*> all;
-        all.reserve(shapes.size());
-        for (Shape& shape : shapes) {
-            all.push_back(shape.release());
-        }
-        const Shape parts = collection(GEOS_GEOMETRYCOLLECTION, all);
-        return {m_context, GEOSUnaryUnion_r(m_context, parts.get())};
-    }
-
-    Shape widened(const Shape& shape, double by) const
-    {
-        constexpr int PiecesOfQuarter = 8;
-        return {m_context, GEOSBuffer_r(m_context, shape.get(), by, PiecesOfQuarter)};
-    }
-
-    Shape hull(const Shape& shape) const { return {m_context, GEOSConvexHull_r(m_context, shape.get())}; }
-    Shape voronoi(const Shape& places) const
-    {
-        return {m_context, GEOSVoronoiDiagram_r(m_context, places.get(), nullptr, 0, 0)};
-    }
-    Shape common(const GEOSGeometry* a, const GEOSGeometry* b) const
-    {
-        return {m_context, GEOSIntersection_r(m_context, a, b)};
-    }
-
-    /// The polygons among the parts of `shape`.
-    std::vector<CellPolygon> polygons(const GEOSGeometry* shape) const
-    {
-        std::vector<CellPolygon> all;
-        for (int i = 0; i < GEOSGetNumGeometries_r(m_context, shape); ++i) {
-            const GEOSGeometry* part = GEOSGetGeometryN_r(m_context, shape, i);
-            const bool isPolygon = GEOSGeomTypeId_r(m_context, part) == GEOS_POLYGON;
-            if (isPolygon && GEOSisEmpty_r(m_context, part) == 0) {
-                all.push_back(polygonOf(part));
-            }
-        }
-        return all;
-    }
-
-private:
-    Shape collection(int type, std::vector<GEOSGeometry*>& parts) const
-    {
-        return {m_context, GEOSGeom_createCollection_r(m_context, type, parts.data(),
-                                                       static_cast<unsigned>(parts.size()))};
-    }
-
-    CellPolygon polygonOf(const GEOSGeometry* polygon) const
-    {
-        CellPolygon rings = {turned(ring(GEOSGetExteriorRing_r(m_context, polygon)), -1)};
-        for (int i = 0; i < GEOSGetNumInteriorRings_r(m_context, polygon); ++i) {
-            rings.push_back(turned(ring(GEOSGetInteriorRingN_r(m_context, polygon, i)), 1));
-        }
-        return rings;
-    }
-
-    Ring ring(const GEOSGeometry* line) const
-    {
-        const GEOSCoordSequence* points = GEOSGeom_getCoordSeq_r(m_context, line);
-        unsigned count = 0;
-        GEOSCoordSeq_getSize_r(m_context, points, &count);
-        Ring result;
-        for (unsigned i = 0; i + 1 < count; ++i) { // the last point is the first again
-            double x = 0;
-            double y = 0;
-            GEOSCoordSeq_getXY_r(m_context, points, i, &x, &y);
-            result.emplace_back(x, y);
-        }
-        return result;
-    }
-
-    /// `ring` with an area of this sign.
-    static Ring turned(Ring ring, int sign)
-    {
-        if (signedArea(ring) * sign < 0) {
-            std::reverse(ring.begin(), ring.end());
-        }
-        return ring;
-    }
-
-    Context m_context;
-};
-
-/// Tests many shapes against one.
-class PreparedShape
-{
-public:
-    PreparedShape(Context context, const Shape& shape)
-        : m_context(context), m_prepared(GEOSPrepare_r(context, shape.get()))
-    {}
-    ~PreparedShape() { GEOSPreparedGeom_destroy_r(m_context, m_prepared); }
-    PreparedShape(const PreparedShape&) = delete;
-    PreparedShape& operator=(const PreparedShape&) = delete;
-
-    bool contains(const GEOSGeometry* shape) const
-    {
-        return GEOSPreparedContains_r(m_context, m_prepared, shape) == 1;
-    }
-
-private:
-    Context m_context;
-    const GEOSPreparedGeometry* m_prepared;
-};
 
 Shape areaOf(const Geos& geos, std::span<const QPointF> places, const CellArea& area)
 {
@@ -188,12 +19,20 @@ Shape areaOf(const Geos& geos, std::span<const QPointF> places, const CellArea& 
         parts.push_back(geos.polygon(coast));
     }
     if (area.hull) {
-        parts.push_back(geos.widened(geos.hull(geos.points(places)), area.margin));
+        parts.push_back(landOf(geos, places, area.openLines, area.margin));
     }
-    if (!area.discs.empty()) {
-        parts.push_back(geos.widened(geos.points(area.discs), area.margin));
+    Shape land = geos.unionOf(std::move(parts));
+    const PreparedShape isLand(geos.context(), land);
+    std::vector<QPointF> outside;
+    std::ranges::copy_if(places, std::back_inserter(outside),
+                         [&](QPointF place) { return !isLand.contains(geos.point(place).get()); });
+    if (outside.empty()) {
+        return land;
     }
-    return geos.unionOf(parts);
+    parts.clear();
+    parts.push_back(std::move(land));
+    parts.push_back(geos.widened(geos.points(outside), area.margin));
+    return geos.unionOf(std::move(parts));
 }
 
 QRectF boxAround(std::span<const QPointF> places, const std::vector<CellPolygon>& area)

@@ -1,23 +1,20 @@
 #pragma once
 
+#include "dialectometry/GeosShapes.h"
 #include "platform/Drawing.h"
 
 #include <span>
 #include <vector>
 
-/// What the cells of localities fill.
+/// What the cells of localities fill: land, and a disc of the radius `margin` around each place off it.
 struct CellArea
 {
     std::vector<Ring> coasts;
-    /// Whether the convex hull of the localities, widened by `margin`, belongs to it.
+    /// Whether the convex hull of the localities, widened by `margin`, is land as far as `landOf` says.
     bool hull = false;
-    /// The middles of discs of the radius `margin`.
-    std::vector<QPointF> discs;
+    std::vector<Ring> openLines;
     double margin = 0;
 };
-
-/// A polygon: its first ring runs counter-clockwise on the screen, the others, its holes, clockwise.
-using CellPolygon = std::vector<Ring>;
 
 /// Cells cut to an area.
 struct CutCells

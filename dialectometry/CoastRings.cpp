@@ -66,27 +66,28 @@ bool areAlike(const MapLines& map, const MapLine& a, const MapLine& b)
 }
 
 /// Puts pieces of lines together until they close.
-class RingJoiner
+class LineJoiner
 {
 public:
-    explicit RingJoiner(const MapLines& map)
+    explicit LineJoiner(const MapLines& map)
         : m_map(map), m_lines(linesOf(map)), m_tolerance(toleranceOf(m_lines))
     {}
 
-    std::vector<Ring> rings()
+    JoinedLines join()
     {
-        std::vector<Ring> closed;
+        JoinedLines joined;
         while (!m_lines.empty()) {
             MapLine line = std::move(m_lines.back());
             m_lines.pop_back();
-            while (!isClosed(line.points) && extend(line)) {
-            }
+            extendWhole(line);
             if (isClosed(line.points)) {
                 line.points.pop_back();
-                closed.push_back(std::move(line.points));
+                joined.closed.push_back(std::move(line.points));
+            } else {
+                joined.open.push_back(std::move(line.points));
             }
         }
-        return closed;
+        return joined;
     }
 
 private:
@@ -94,6 +95,18 @@ private:
     {
         constexpr std::size_t FewestPoints = 4; // a triangle, its first point repeated
         return points.size() >= FewestPoints && distance(points.front(), points.back()) <= m_tolerance;
+    }
+
+    /// Adds pieces at both ends until the line closes or there is no more.
+    void extendWhole(MapLine& line)
+    {
+        for (int end = 0; end < 2; ++end) {
+            while (!isClosed(line.points) && extend(line)) {
+            }
+            if (!isClosed(line.points)) {
+                std::reverse(line.points.begin(), line.points.end());
+            }
+        }
     }
 
     /// Adds a piece that begins or ends where `line` ends; returns whether there was one.
@@ -139,11 +152,11 @@ std::optional<std::size_t> smallestAround(QPointF place, const std::vector<Ring>
 
 } // namespace
 
-std::vector<Ring> closedLines(const MapLines& lines)
+JoinedLines joinedLines(const MapLines& lines)
 {
-    std::vector<Ring> rings = RingJoiner(lines).rings();
-    std::erase_if(rings, isRectangle);
-    return rings;
+    JoinedLines joined = LineJoiner(lines).join();
+    std::erase_if(joined.closed, isRectangle);
+    return joined;
 }
 
 std::vector<Ring> coastsAround(std::span<const QPointF> places, const std::vector<Ring>& rings)

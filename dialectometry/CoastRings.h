@@ -6,9 +6,16 @@
 #include <span>
 #include <vector>
 
-/// The lines of a map that go around an area, in map units: the closed ones, and those put together of
-/// pieces of one kind and look that meet end to end. Rectangles, which are frames, are left out.
-std::vector<Ring> closedLines(const MapLines& lines);
+/// The lines of a map, in map units; pieces of one kind and look that meet end to end are one line.
+struct JoinedLines
+{
+    /// Those that go around an area; without rectangles, which are frames.
+    std::vector<Ring> closed;
+    /// The others.
+    std::vector<Ring> open;
+};
+
+JoinedLines joinedLines(const MapLines& lines);
 
 /// The coasts among `rings`: for each of `places` the smallest one that holds it, except a line around
 /// others that hold nine in ten of its places: a shore line, or the outer one of two borders.

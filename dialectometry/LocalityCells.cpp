@@ -79,20 +79,16 @@ double commonWay(const std::vector<QPointF>& points, double extent)
     return *middle;
 }
 
-CellArea areaOf(const std::vector<QPointF>& points, const std::vector<Ring>& coasts)
+CellArea areaOf(const std::vector<QPointF>& points, JoinedLines lines)
 {
     CellArea area;
-    area.coasts = coasts;
-    area.margin = commonWay(points, extentOf(points, coasts));
-    for (const QPointF point : points) {
-        if (std::ranges::none_of(coasts, [point](const Ring& coast) { return holds(coast, point); })) {
-            area.discs.push_back(point);
-        }
-    }
-    if (2 * area.discs.size() > points.size()) {
-        area.hull = true;
-        area.discs.clear();
-    }
+    area.coasts = coastsAround(points, lines.closed);
+    area.openLines = std::move(lines.open);
+    area.margin = commonWay(points, extentOf(points, area.coasts));
+    const auto held = std::ranges::count_if(points, [&area](QPointF point) {
+        return std::ranges::any_of(area.coasts, [point](const Ring& coast) { return holds(coast, point); });
+    });
+    area.hull = 2 * held < std::ssize(points);
     return area;
 }
 
@@ -105,13 +101,12 @@ LocalityCells localityCells(const Localities& localities, const MapLines& lines)
     if (places.points.empty()) {
         return result;
     }
-    const std::vector<Ring> coasts = coastsAround(places.points, closedLines(lines));
-    const CellArea area = areaOf(places.points, coasts);
+    const CellArea area = areaOf(places.points, joinedLines(lines));
     const CutCells cut = cutCells(places.points, area);
     result.spacing = area.margin;
     result.cellOf = std::move(places.ofLocality);
     result.localities = std::move(places.localities);
-    result.borders = bordersOf(cut.cells, extentOf(places.points, coasts));
+    result.borders = bordersOf(cut.cells, extentOf(places.points, area.coasts));
     for (const CellPolygon& polygon : cut.area) {
         result.area.insert(result.area.end(), polygon.begin(), polygon.end());
     }

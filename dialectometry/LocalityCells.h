@@ -47,9 +47,10 @@ struct LocalityCells
 /// point equals the last, also put together of pieces that meet end to end; of such a line in another one (a
 /// shore line around a coast) the inner one is the coast, and a rectangle is the frame of the map or of its
 /// legend. Where no coast holds half of the localities, the area is their convex hull and a margin as wide as
-/// a common way from a locality to the nearest other. Each locality outside of the area adds a disc of that
-/// radius around it. A map without localities has no cells. Raises invalid procedure call for localities so
-/// far apart, or so near to each other, that numbers do not tell their cells.
+/// a common way from a locality to the nearest other, without what open lines cut off as a sea. Each locality
+/// outside of the area adds a disc of that radius around it. A map without localities has no cells. Raises
+/// invalid procedure call for localities so far apart, or so near to each other, that numbers do not tell
+/// their cells.
 LocalityCells localityCells(const Localities& localities, const MapLines& lines);
 
 /// Joins the cells of each group. `groups` is the number (from 0) of the group of each cell, below `count`;

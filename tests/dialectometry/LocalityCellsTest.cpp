@@ -172,6 +172,39 @@ TEST(LocalityCells, LieWithinTheCoastThatHoldsThem)
     EXPECT_TRUE(isIn(open.cells().area, {180, 190}));
 }
 
+TEST(LocalityCells, EndAtAnOpenCoast)
+{
+    SmallMap inland;
+    for (int i = 0; i < 100; ++i) {
+        inland.at({{i % 10 * 10.0, i / 10 * 10.0}});
+    }
+    inland.at({{200, 45}}); // on an island that nobody drew
+    const Rings hull = inland.cells().area;
+    const auto with = [&inland](std::initializer_list<QPointF> line) { return SmallMap(inland).line(line); };
+    SmallMap inPieces = with({{95, 45}, {95, 150}});
+    inPieces.line({{95, -50}, {95, 45}});
+    const std::pair<const char*, SmallMap> coasts[] = {
+        {"across the map", with({{95, -50}, {95, 150}})},
+        {"in pieces", inPieces},
+        {"that ends near the edge", with({{95, 90}, {95, -5}})},
+    };
+    for (const auto& [name, map] : coasts) {
+        const Rings area = map.cells().area;
+        EXPECT_FALSE(isIn(area, {130, 45})) << name;
+        EXPECT_TRUE(isIn(area, {200, 45})) << name;
+        EXPECT_NEAR(areaOf(area), 105 * 110 + 314, 100) << name;
+        expectWholeCover(map);
+    }
+    const std::pair<const char*, SmallMap> others[] = {
+        {"a river", with({{-50, 45}, {120, 45}, {110, -60}})},
+        {"a line that ends inside", with({{100, -50}, {100, 45}})},
+        {"a line at the rim", with({{-5, -50}, {-5, 150}})},
+    };
+    for (const auto& [name, map] : others) {
+        EXPECT_NEAR(areaOf(map.cells().area), areaOf(hull), 1) << name;
+    }
+}
+
 TEST(LocalityCells, AreBoundedHalfwayToTheirNeighbours)
 {
     const SmallMap map = randomMap(120);
