@@ -47,11 +47,11 @@ const Drawing& MapPlot::linguisticMap(const QString& dataPath, const QString& sy
     return m_frmMap.drawing();
 }
 
-const Drawing& MapPlot::itemOfMap(const QString& dataPath, const QString& symbolPath)
+ItemLayers MapPlot::itemOfMap(const QString& dataPath, const QString& symbolPath, const LocalityCells& cells,
+                              const ItemMapSettings& settings)
 {
     load(dataPath, symbolPath);
-    drawItemOfMap(linguisticMapParts(m_varn), surfaces());
-    return m_frmMap.drawing();
+    return itemLayers(linguisticMapParts(m_varn), cells, settings, surfaces());
 }
 
 const Drawing& MapPlot::diffusionMap(DiffusionGraph graph, bool layered, int wordForm)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "dialectometry/ItemMaps.h"
 #include "plot/PlotListener.h"
 #include "plot/PlotOptions.h"
 #include "shell/VarnModule.h"
@@ -18,8 +19,9 @@ public:
     void load(const QString& dataPath, const QString& symbolPath);
     /// Paths of the program.
     const Drawing& linguisticMap(const QString& dataPath, const QString& symbolPath);
-    /// Of the linguistic map only what it draws over the base map.
-    const Drawing& itemOfMap(const QString& dataPath, const QString& symbolPath);
+    /// Of the map of an item what lies under the base map and what stands over it.
+    ItemLayers itemOfMap(const QString& dataPath, const QString& symbolPath, const LocalityCells& cells,
+                         const ItemMapSettings& settings);
     const Drawing& diffusionMap(DiffusionGraph graph, bool layered, int wordForm);
     const Drawing& symbolDiffusionMap(const QString& symbolPath, int wordForm);
     const Drawing& contrastMap(const QString& contrastPath);
