@@ -33,7 +33,8 @@ std::vector<CommandForm> makeCommandForms()
         {"symbols", Command::Symbols, "Draws all symbols with their numbers, page by page.", map, {}},
         {"atlas", Command::Atlas,
          "Draws the map of each item on a page of its own: of the items named, or of all that have a symbol "
-         "file of their name.",
+         "file of their name. Areas and isoglosses are of whole word forms where the symbols were made for "
+         "these.",
          map,
          list({"items", "kind", "location", "whole-word-forms", "hatched", "with-symbols", "smooth"}) + size +
              list({"keep-going", "jobs"})},
@@ -64,7 +65,9 @@ std::vector<CommandForm> makeCommandForms()
          "Compares every two localities by their answers and writes the table of their distances. Tells how "
          "far the items agree, and the localities with the map.",
          map, compared},
-        {"area-map", Command::AreaMap, "Draws the areas of an item, each in the colour of its symbol.",
+        {"area-map", Command::AreaMap,
+         "Draws the areas of an item, each in the colour of its symbol. They are of whole word forms "
+         "where the symbols were made for these.",
          map + list({"data", "symbols"}), list({"whole-word-forms", "hatched", "with-symbols"}) + picture},
         {"isogloss-map", Command::IsoglossMap,
          "Draws the isoglosses of an item, or of several each border as strong as the number of items that "

@@ -136,7 +136,7 @@ private:
 
     void drawAreas()
     {
-        m_map.load(path(m_options.data.value(0)), path(m_options.symbols));
+        m_map.loadAsMade(path(m_options.data.value(0)), path(m_options.symbols));
         const LocalityCells cells = localityCells(m_varn, m_varn);
         const AreaMapStyle& style = m_survey.items.areas;
         save([&](MapSurfaces on) { drawAreaMap(linguisticMapParts(m_varn), cells, style, on); },

@@ -1,6 +1,7 @@
 // Atlases of linguistic maps, of areas and of isoglosses.
 
 #include "plot/PlotCommands.h"
+#include "render/MadeSymbols.h"
 #include "tests/support/PlainPdf.h"
 #include "tests/support/TestDrive.h"
 
@@ -111,4 +112,27 @@ TEST_F(AtlasKinds, AreasAreTheSameForAnyNumberOfJobs)
     writeItem("c", "broken");
     EXPECT_EQ(plain(plotted("atlas --kind areas --keep-going", false)).count("/Type /Page\n"), 13);
     EXPECT_TRUE(listener.warnings.value(0).startsWith("c.dbs is left out"));
+}
+
+TEST_F(AtlasKinds, AreasAreOfWholeWordFormsWhereSymbolsWereMadeForThese)
+{
+    const QString comment = makeSymbols({{{QStringLiteral("am"), 1}}}, false, 0)[0].Explain;
+    writeItem("made", symbols("am", comment.toLatin1().replace('"', "\"\"")));
+    const auto page = [&](const char* name, const QByteArray& line) {
+        return shapesOf(ofItem(name, line), 0);
+    };
+    const QStringList parts = page("wind", AreaMap);
+    const QStringList none = page("wind", AreaMap + "--whole-word-forms");
+    ASSERT_NE(parts.size(), none.size()) << "\"am\" is a part of \"ame\"";
+    EXPECT_EQ(page("made", AreaMap), none);
+
+    const QByteArray atlas = plotted("atlas --jobs 1 --kind areas --items " + item("made.dbs").toLatin1() +
+                                     ' ' + item("wind.dbs").toLatin1());
+    EXPECT_EQ(shapesOf(atlas, 0).size(), none.size());
+    EXPECT_EQ(shapesOf(atlas, 1), parts) << "those after it are as they are asked for";
+    const QByteArray isoglosses = "atlas --items ITEM --kind isoglosses";
+    EXPECT_EQ(page("made", isoglosses).size(), page("wind", isoglosses + " --whole-word-forms").size());
+    EXPECT_LT(page("made", isoglosses).size(), page("wind", isoglosses).size());
+    const QByteArray described = "linguistic-map --data ITEM --symbols SYMBOLS";
+    EXPECT_EQ(page("made", described).size(), page("wind", described).size()) << "as ever";
 }
