@@ -5,7 +5,6 @@
 #include "platform/WholeFile.h"
 #include "plot/AtlasPdf.h"
 #include "render/BlankMap.h"
-#include "render/LinguisticMap.h"
 #include "render/MadeSymbols.h"
 #include "shell/VarnModule.h"
 
@@ -24,8 +23,8 @@ struct Stopped
 class AtlasDrawer
 {
 public:
-    AtlasDrawer(const VarnModule& varn, const PageOfItem& pageOf, const FormArea& area)
-        : m_varn(varn), m_pageOf(pageOf), m_area(area)
+    AtlasDrawer(const VarnModule& varn, const AtlasMaps& maps, const FormArea& area)
+        : m_varn(varn), m_maps(maps), m_area(area)
     {
         m_surface.setFont(textFont(varn));
     }
@@ -41,7 +40,7 @@ public:
     /// Raises what reading the page and drawing it raise.
     AtlasSheet sheet(const QString& path)
     {
-        const AtlasPage page = m_pageOf(path);
+        const AtlasPage page = m_maps.pageOf(path);
         const QString trouble = page.trouble.isEmpty() ? page.symbolTrouble : page.trouble;
         if (!trouble.isEmpty()) {
             throw RunTimeError(ErrorNumber::TypeMismatch, trouble);
@@ -49,19 +48,20 @@ public:
         MapGeometry geometry;
         MapStyle style = m_varn;
         style.WholeWordForms = isMadeForWholeWordForms(page.symbols);
-        drawItemOfMap({{m_varn, style, page.symbols.SymbolFileName, geometry},
-                       {m_varn, m_varn, style, m_varn.Pictures},
-                       page.item,
-                       page.symbols},
-                      surfaces());
-        return {page.item.Hanrei.isEmpty() ? stemOf(path) : page.item.Hanrei, m_surface.drawing()};
+        ItemLayers layers = itemLayers({{m_varn, style, page.symbols.SymbolFileName, geometry},
+                                        {m_varn, m_varn, style, m_varn.Pictures},
+                                        page.item,
+                                        page.symbols},
+                                       m_maps.cells, m_maps.settings, surfaces());
+        return {page.item.Hanrei.isEmpty() ? stemOf(path) : page.item.Hanrei, std::move(layers.under),
+                std::move(layers.over)};
     }
 
 private:
     MapSurfaces surfaces() { return {{m_surface, m_surface}, m_area}; }
 
     const VarnModule& m_varn;
-    const PageOfItem& m_pageOf;
+    const AtlasMaps& m_maps;
     FormArea m_area;
     DrawSurface m_surface;
 };
@@ -108,11 +108,11 @@ std::optional<QByteArray> paintedAtlas(AtlasSheets atlas, const ExportProgress& 
 
 } // namespace
 
-AtlasExport exportAtlas(const VarnModule& varn, const QStringList& itemPaths, const PageOfItem& pageOf,
+AtlasExport exportAtlas(const VarnModule& varn, const QStringList& itemPaths, const AtlasMaps& maps,
                         const FormArea& area, const QString& hostPath, const ExportProgress& progress)
 {
     AtlasExport result;
-    AtlasDrawer drawer(varn, pageOf, area);
+    AtlasDrawer drawer(varn, maps, area);
     AtlasSheets atlas{
         QFileInfo(hostPath).completeBaseName(), QSizeF(area.Width, area.Height), drawer.base(), {}};
     if (!drawSheets(drawer, itemPaths, progress, atlas, result)) {

@@ -1,33 +1,30 @@
 #include "atlas/AtlasOtherMap.h"
 
 #include "atlas/AtlasSurveyMaps.h"
-#include "dialectometry/AreaMap.h"
 #include "render/MapSize.h"
 #include "shell/VarnModule.h"
 
 namespace {
 
-void drawIsoglosses(const LinguisticMapParts& parts, AtlasSurveyMaps& survey, MapSurfaces surfaces)
+ItemMapKind itemMapKind(AtlasMapKind kind)
 {
-    const LocalityCells& cells = survey.cellMap().cells;
-    const LocalityKinds kinds = recordsOfLocalities(
-        parts.item, parts.symbols, parts.base.style.WholeWordForms, parts.base.map.NLocality);
-    drawIsoglossMap({parts.base, parts.text, cells}, parts.item.Hanrei, borderChanges(cells, kinds),
-                    survey.isoglossStyle(), surfaces);
+    switch (kind) {
+    case AtlasMapKind::Areas:
+        return ItemMapKind::Areas;
+    case AtlasMapKind::Isoglosses:
+        return ItemMapKind::Isoglosses;
+    default:
+        return ItemMapKind::Symbols;
+    }
 }
 
 OtherMap mapOfItem(AtlasMapKind kind, AtlasSurveyMaps& survey)
 {
     OtherMap map;
     map.isOfItem = true;
-    if (kind == AtlasMapKind::Areas) {
-        map.draw = [&survey](const LinguisticMapParts& parts, MapSurfaces surfaces) {
-            drawAreaMap(parts, survey.cellMap().cells, {survey.settings().look, survey.withSymbols()},
-                        surfaces);
-        };
-    } else if (kind == AtlasMapKind::Isoglosses) {
-        map.draw = [&survey](const LinguisticMapParts& parts, MapSurfaces surfaces) {
-            drawIsoglosses(parts, survey, surfaces);
+    if (kind != AtlasMapKind::Linguistic) {
+        map.draw = [kind, &survey](const LinguisticMapParts& parts, MapSurfaces surfaces) {
+            drawItemMap(parts, survey.cellMap().cells, itemMapSettings(kind, survey), surfaces);
         };
     }
     return map;
@@ -55,6 +52,11 @@ OtherMap mapOfSurvey(AtlasMapKind kind, AtlasSurveyMaps& survey)
 }
 
 } // namespace
+
+ItemMapSettings itemMapSettings(AtlasMapKind kind, const AtlasSurveyMaps& survey)
+{
+    return {itemMapKind(kind), {survey.settings().look, survey.withSymbols()}, survey.isoglossStyle()};
+}
 
 OtherMap otherMap(AtlasMapKind kind, int wordForm, VarnModule& varn, AtlasSurveyMaps& survey)
 {

@@ -170,10 +170,15 @@ void paintArea(const Rings& rings, std::span<const AreaFill> fills, DrawSurface&
     }
 }
 
-void drawFilledMap(const AreaMapParts& parts, const FilledCells& cells, MapSurfaces surfaces)
+void drawCells(const AreaMapParts& parts, const FilledCells& cells, MapSurfaces surfaces)
 {
     surfaces.frmMap.Cls();
     parts.base.geometry.Scale = FindMinMax(parts.base.map, surfaces.area, parts.base.geometry);
     paintCells(parts, cells, surfaces.DrawTarget);
+}
+
+void drawFilledMap(const AreaMapParts& parts, const FilledCells& cells, MapSurfaces surfaces)
+{
+    drawCells(parts, cells, surfaces);
     PlotBaseMap(parts.base, surfaces);
 }

@@ -43,8 +43,10 @@ struct FilledCells
     std::vector<std::vector<int>> ofLocality;
 };
 
-/// Begins a map: clears the map form and sets the scale, paints the cells, those of one fill as one area, and
-/// draws the base map over them.
+/// Begins a map: clears the map form and sets the scale, and paints the cells, those of one fill as one area.
+void drawCells(const AreaMapParts& parts, const FilledCells& cells, MapSurfaces surfaces);
+
+/// Begins a map by its cells, and draws the base map over them.
 void drawFilledMap(const AreaMapParts& parts, const FilledCells& cells, MapSurfaces surfaces);
 
 /// Draws thin lines between cells of different fills.

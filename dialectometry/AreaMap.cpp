@@ -93,6 +93,27 @@ AreaLegend legendOf(const LinguisticMapParts& parts, const FilledCells& cells)
     return legend;
 }
 
+FilledCells filledCells(const LinguisticMapParts& parts, AreaLook look)
+{
+    FilledCells filled{recordFills(parts.symbols, look),
+                       recordsOfLocalities(parts.item, parts.symbols, parts.base.style.WholeWordForms,
+                                           parts.base.map.NLocality)};
+    addUnmarked(parts.item, filled);
+    return filled;
+}
+
+void drawOverFills(const LinguisticMapParts& parts, const AreaMapParts& areas, const FilledCells& filled,
+                   const AreaMapStyle& style, MapSurfaces surfaces)
+{
+    if (style.look == AreaLook::Hatched) {
+        drawFillBorders(areas, filled, surfaces.DrawTarget);
+    }
+    if (style.withSymbols) {
+        PlotLinguisticData(parts, surfaces);
+    }
+    drawAreaLegend(areas, legendOf(parts, filled), surfaces);
+}
+
 } // namespace
 
 std::vector<std::vector<int>> recordsOfLocalities(const ItemAnswers& item, const SymbolSet& symbols,
@@ -129,20 +150,23 @@ std::vector<AreaFill> recordFills(const SymbolSet& symbols, AreaLook look)
     return fills;
 }
 
+void drawAreas(const LinguisticMapParts& parts, const LocalityCells& cells, AreaLook look,
+               MapSurfaces surfaces)
+{
+    drawCells({parts.base, parts.text, cells}, filledCells(parts, look), surfaces);
+}
+
+void drawOverAreas(const LinguisticMapParts& parts, const LocalityCells& cells, const AreaMapStyle& style,
+                   MapSurfaces surfaces)
+{
+    drawOverFills(parts, {parts.base, parts.text, cells}, filledCells(parts, style.look), style, surfaces);
+}
+
 void drawAreaMap(const LinguisticMapParts& parts, const LocalityCells& cells, const AreaMapStyle& style,
                  MapSurfaces surfaces)
 {
     const AreaMapParts areas{parts.base, parts.text, cells};
-    FilledCells filled{recordFills(parts.symbols, style.look),
-                       recordsOfLocalities(parts.item, parts.symbols, parts.base.style.WholeWordForms,
-                                           parts.base.map.NLocality)};
-    addUnmarked(parts.item, filled);
+    const FilledCells filled = filledCells(parts, style.look);
     drawFilledMap(areas, filled, surfaces);
-    if (style.look == AreaLook::Hatched) {
-        drawFillBorders(areas, filled, surfaces.DrawTarget);
-    }
-    if (style.withSymbols) {
-        PlotLinguisticData(parts, surfaces);
-    }
-    drawAreaLegend(areas, legendOf(parts, filled), surfaces);
+    drawOverFills(parts, areas, filled, style, surfaces);
 }

@@ -26,3 +26,11 @@ std::vector<AreaFill> recordFills(const SymbolSet& symbols, AreaLook look);
 /// hyphen. Cells whose word forms no record marks are a light grey; those without an answer stay white.
 void drawAreaMap(const LinguisticMapParts& parts, const LocalityCells& cells, const AreaMapStyle& style,
                  MapSurfaces surfaces);
+
+/// Begins the map of areas by what lies under the base map, the filled cells.
+void drawAreas(const LinguisticMapParts& parts, const LocalityCells& cells, AreaLook look,
+               MapSurfaces surfaces);
+
+/// Draws what stands over the base map of the map of areas: lines between areas, symbols and legend.
+void drawOverAreas(const LinguisticMapParts& parts, const LocalityCells& cells, const AreaMapStyle& style,
+                   MapSurfaces surfaces);

@@ -169,10 +169,9 @@ void addChanges(BorderChanges& sum, const BorderChanges& item)
     }
 }
 
-void drawIsoglossMap(const AreaMapParts& parts, const QString& title, const BorderChanges& changes,
-                     const IsoglossStyle& style, MapSurfaces surfaces)
+void drawIsoglosses(const AreaMapParts& parts, const QString& title, const BorderChanges& changes,
+                    const IsoglossStyle& style, MapSurfaces surfaces)
 {
-    DrawBlankMap(parts.base, surfaces);
     std::vector<int> classes;
     for (const double change : changes.changes) {
         classes.push_back(change == 0 ? NoLine : change < 1 ? 0 : 1);
@@ -189,6 +188,13 @@ void drawIsoglossMap(const AreaMapParts& parts, const QString& title, const Bord
         }
     }
     drawAreaLegend(parts, legend, surfaces);
+}
+
+void drawIsoglossMap(const AreaMapParts& parts, const QString& title, const BorderChanges& changes,
+                     const IsoglossStyle& style, MapSurfaces surfaces)
+{
+    DrawBlankMap(parts.base, surfaces);
+    drawIsoglosses(parts, title, changes, style, surfaces);
 }
 
 void drawBundleMap(const AreaMapParts& parts, const QString& title, const BorderChanges& changes,

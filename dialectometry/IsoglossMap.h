@@ -37,6 +37,10 @@ struct IsoglossStyle
 void drawIsoglossMap(const AreaMapParts& parts, const QString& title, const BorderChanges& changes,
                      const IsoglossStyle& style, MapSurfaces surfaces);
 
+/// Draws what stands over the base map of the isoglosses of one item: lines and legend.
+void drawIsoglosses(const AreaMapParts& parts, const QString& title, const BorderChanges& changes,
+                    const IsoglossStyle& style, MapSurfaces surfaces);
+
 /// Draws the bundles of isoglosses of several items: each border as wide and dark as the number of items that
 /// change there, and the legend of the classes of numbers.
 void drawBundleMap(const AreaMapParts& parts, const QString& title, const BorderChanges& changes,

@@ -62,46 +62,73 @@ QStringList chosenItems(const PlotOptions& options, const Folders& folders)
     return paths.isEmpty() ? itemsWithSymbols(folders) : paths;
 }
 
-RecordedItem recordItem(MapPlot& map, const QString& path, QuietListener& listener)
+/// Records the maps of items one after the other.
+class ItemRecorder
 {
-    RecordedItem item;
-    try {
-        item.sheet.drawing = map.itemOfMap(path, withEnding(path, SymbolFiles.ending));
-        const QString& caption = map.varn().Hanrei;
-        item.sheet.caption = caption.isEmpty() ? stemOf(path) : caption;
-    } catch (const RunTimeError& error) {
-        item.error = error;
-    }
-    item.warnings = listener.takeWarnings();
-    return item;
-}
+public:
+    ItemRecorder(const PlotOptions& options, const LocalityCells& cells)
+        : m_settings(options.survey.items), m_cells(cells), m_map(options, m_listener)
+    {}
 
-RecordedItems recordPart(const PlotOptions& options, const QStringList& paths)
+    RecordedItem record(const QString& path)
+    {
+        RecordedItem item;
+        try {
+            item.sheet = sheet(path);
+        } catch (const RunTimeError& error) {
+            item.error = error;
+        }
+        item.warnings = m_listener.takeWarnings();
+        return item;
+    }
+
+private:
+    AtlasSheet sheet(const QString& path)
+    {
+        ItemLayers layers = m_map.itemOfMap(path, withEnding(path, SymbolFiles.ending), m_cells, m_settings);
+        const QString& caption = m_map.varn().Hanrei;
+        return {caption.isEmpty() ? stemOf(path) : caption, std::move(layers.under), std::move(layers.over)};
+    }
+
+    const ItemMapSettings& m_settings;
+    const LocalityCells& m_cells;
+    QuietListener m_listener;
+    MapPlot m_map;
+};
+
+RecordedItems recordPart(const PlotOptions& options, const LocalityCells& cells, const QStringList& paths)
 {
-    QuietListener listener;
-    MapPlot map(options, listener);
+    ItemRecorder recorder(options, cells);
     RecordedItems items;
     for (const QString& path : paths) {
-        items.push_back(recordItem(map, path, listener));
+        items.push_back(recorder.record(path));
     }
     return items;
 }
 
 /// Records the maps of all items, an even share a thread.
-RecordedItems recordItems(const PlotOptions& options, const QStringList& paths, int jobs)
+RecordedItems recordItems(const PlotOptions& options, const LocalityCells& cells, const QStringList& paths,
+                          int jobs)
 {
     const qsizetype parts = std::clamp<qsizetype>(jobs, 1, paths.size());
     std::vector<std::future<RecordedItems>> recording;
     for (qsizetype part = 0; part < parts; ++part) {
         const qsizetype first = paths.size() * part / parts;
         const QStringList own = paths.mid(first, paths.size() * (part + 1) / parts - first);
-        recording.push_back(std::async(std::launch::async, recordPart, std::cref(options), own));
+        recording.push_back(
+            std::async(std::launch::async, recordPart, std::cref(options), std::cref(cells), own));
     }
     RecordedItems items;
     for (auto& part : recording) {
         std::ranges::move(part.get(), std::back_inserter(items));
     }
     return items;
+}
+
+/// The cells of the map, which linguistic maps need none of.
+LocalityCells cellsFor(ItemMapKind kind, const BaseMap& map)
+{
+    return kind == ItemMapKind::Symbols ? LocalityCells() : localityCells(map, map);
 }
 
 /// Takes the sheets of the items that could be drawn; returns whether these were all.
@@ -134,7 +161,7 @@ bool plotAtlas(const PlotOptions& options, PlotListener& listener)
     MapPlot map(options, listener);
     const QStringList paths = chosenItems(options, map.varn());
     const int jobs = options.jobs > 0 ? options.jobs : static_cast<int>(std::thread::hardware_concurrency());
-    RecordedItems items = recordItems(options, paths, jobs);
+    RecordedItems items = recordItems(options, cellsFor(options.survey.items.kind, map.varn()), paths, jobs);
     AtlasSheets atlas{options.map, map.size(), map.blankMap(), {}};
     const bool areAll = takeSheets(items, paths, options, listener, atlas);
     if (atlas.sheets.empty()) {

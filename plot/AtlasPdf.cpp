@@ -98,7 +98,7 @@ private:
     std::map<std::tuple<QString, int, bool, bool>, std::set<QString>> m_texts;
 };
 
-using Drawings = std::vector<const Drawing*>;
+using Drawings = std::vector<Drawing*>;
 
 /// Of all threads, how many pages are painted, and whether they are to end.
 struct Painting
@@ -108,7 +108,7 @@ struct Painting
 };
 
 /// A PDF of the seed and, a page each, the drawings.
-QByteArray paintedPart(const Drawing& seed, std::span<const Drawing* const> drawings, QSizeF size,
+QByteArray paintedPart(const Drawing& seed, std::span<Drawing* const> drawings, QSizeF size,
                        Painting& painting)
 {
     QBuffer buffer;
@@ -162,6 +162,26 @@ std::vector<QByteArray> paintedParts(const Drawing& seed, const Drawings& pages,
     return parts;
 }
 
+PdfLayers layersOf(const std::vector<AtlasSheet>& sheets)
+{
+    const bool haveUnder =
+        std::ranges::any_of(sheets, [](const AtlasSheet& sheet) { return !sheet.under.operations.empty(); });
+    return haveUnder ? PdfLayers::UnderAndOver : PdfLayers::Over;
+}
+
+/// The base map, and the layers of all sheets.
+Drawings pagesOf(AtlasSheets& atlas, PdfLayers layers)
+{
+    Drawings pages = {&atlas.base};
+    for (AtlasSheet& sheet : atlas.sheets) {
+        if (layers == PdfLayers::UnderAndOver) {
+            pages.push_back(&sheet.under);
+        }
+        pages.push_back(&sheet.over);
+    }
+    return pages;
+}
+
 Drawing seedOf(const Drawings& pages, const SharedPictures& pictures, bool wholeTexts)
 {
     Seed seed;
@@ -172,10 +192,11 @@ Drawing seedOf(const Drawings& pages, const SharedPictures& pictures, bool whole
 }
 
 /// The parts in one; nothing where their fonts are not the same.
-std::optional<QByteArray> joined(const std::vector<QByteArray>& parts, const PdfOutline& outline)
+std::optional<QByteArray> joined(const std::vector<QByteArray>& parts, PdfLayers layers,
+                                 const PdfOutline& outline)
 {
     try {
-        return joinedPdf(parts, outline);
+        return joinedPdf(parts, layers, outline);
     } catch (const std::runtime_error& error) {
         throw RunTimeError(ErrorNumber::DeviceIOError, QString::fromUtf8(error.what()));
     }
@@ -185,22 +206,24 @@ std::optional<QByteArray> joined(const std::vector<QByteArray>& parts, const Pdf
 
 QByteArray atlasPdf(AtlasSheets atlas, int jobs, const std::function<void(int, const QString&)>& progress)
 {
+    const PdfLayers layers = layersOf(atlas.sheets);
     SharedPictures pictures;
-    Drawings pages = {&atlas.base};
-    pictures.share(atlas.base);
+    const Drawings pages = pagesOf(atlas, layers);
+    for (Drawing* page : pages) {
+        pictures.share(*page);
+    }
     PdfOutline outline{atlas.title, {}};
-    for (AtlasSheet& sheet : atlas.sheets) {
-        pictures.share(sheet.drawing);
-        pages.push_back(&sheet.drawing);
+    for (const AtlasSheet& sheet : atlas.sheets) {
         outline.captions << sheet.caption;
     }
     const auto tell = [&](int painted) {
-        const qsizetype page = std::clamp<qsizetype>(painted, 1, outline.captions.size());
+        const qsizetype page =
+            std::clamp<qsizetype>(painted / static_cast<int>(layers), 1, outline.captions.size());
         progress(static_cast<int>(page), outline.captions[page - 1]);
     };
     for (const bool wholeTexts : {false, true}) {
         const Drawing seed = seedOf(pages, pictures, wholeTexts);
-        if (const auto pdf = joined(paintedParts(seed, pages, atlas.size, jobs, tell), outline)) {
+        if (const auto pdf = joined(paintedParts(seed, pages, atlas.size, jobs, tell), layers, outline)) {
             return *pdf;
         }
     }

@@ -8,11 +8,12 @@
 #include <functional>
 #include <vector>
 
-/// What a page of an atlas shows over the base map, and what its bookmark is called.
+/// What a page of an atlas shows under the base map and over it, and what its bookmark is called.
 struct AtlasSheet
 {
     QString caption;
-    Drawing drawing;
+    Drawing under;
+    Drawing over;
 };
 
 /// An atlas: the base map that all its pages share, and the pages.

@@ -8,6 +8,7 @@
 #include "mapdata/MapSearch.h"
 #include "render/BlankMap.h"
 #include "render/LinguisticMap.h"
+#include "render/MadeSymbols.h"
 #include "render/MapSize.h"
 #include "render/SymbolCatalogue.h"
 #include "shell/MapParts.h"
@@ -16,13 +17,13 @@
 #include <algorithm>
 
 MapPlot::MapPlot(const PlotOptions& options, PlotListener& listener)
-    : m_area(firstArea()), m_listener(listener)
+    : m_area(firstArea()), m_wholeWordForms(options.wholeWordForms), m_listener(listener)
 {
     m_varn.VarnPath = m_varn.Drive.varnPath(options.installation);
     m_varn.VarnMapName = QLatin1Char('\\') + options.map;
     m_varn.LingFolder = QStringLiteral("\\VarnData") + m_varn.VarnMapName + QStringLiteral("\\Ling");
     m_varn.PlotDots = options.localityDots;
-    m_varn.WholeWordForms = options.wholeWordForms;
+    m_varn.WholeWordForms = m_wholeWordForms;
     m_varn.HankoPosition = options.location;
     if (options.height > 0) {
         m_area = withHeight(m_area, options.height);
@@ -40,6 +41,12 @@ void MapPlot::load(const QString& dataPath, const QString& symbolPath)
     LoadHankoData(m_varn.Drive, symbolPath, m_varn);
 }
 
+void MapPlot::loadAsMade(const QString& dataPath, const QString& symbolPath)
+{
+    load(dataPath, symbolPath);
+    m_varn.WholeWordForms = m_wholeWordForms || isMadeForWholeWordForms(m_varn);
+}
+
 const Drawing& MapPlot::linguisticMap(const QString& dataPath, const QString& symbolPath)
 {
     load(dataPath, symbolPath);
@@ -47,11 +54,15 @@ const Drawing& MapPlot::linguisticMap(const QString& dataPath, const QString& sy
     return m_frmMap.drawing();
 }
 
-const Drawing& MapPlot::itemOfMap(const QString& dataPath, const QString& symbolPath)
+ItemLayers MapPlot::itemOfMap(const QString& dataPath, const QString& symbolPath, const LocalityCells& cells,
+                              const ItemMapSettings& settings)
 {
-    load(dataPath, symbolPath);
-    drawItemOfMap(linguisticMapParts(m_varn), surfaces());
-    return m_frmMap.drawing();
+    if (settings.kind == ItemMapKind::Symbols) {
+        load(dataPath, symbolPath);
+    } else {
+        loadAsMade(dataPath, symbolPath);
+    }
+    return itemLayers(linguisticMapParts(m_varn), cells, settings, surfaces());
 }
 
 const Drawing& MapPlot::diffusionMap(DiffusionGraph graph, bool layered, int wordForm)

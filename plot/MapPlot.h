@@ -1,5 +1,6 @@
 #pragma once
 
+#include "dialectometry/ItemMaps.h"
 #include "plot/PlotListener.h"
 #include "plot/PlotOptions.h"
 #include "shell/VarnModule.h"
@@ -14,12 +15,15 @@ public:
     /// Loads the base map that `options` name.
     MapPlot(const PlotOptions& options, PlotListener& listener);
 
-    /// Reads an item and its symbols. Paths of the program.
-    void load(const QString& dataPath, const QString& symbolPath);
+    /// Reads an item and its symbols, which mark whole word forms where they were made for these. Paths of
+    /// the program.
+    void loadAsMade(const QString& dataPath, const QString& symbolPath);
     /// Paths of the program.
     const Drawing& linguisticMap(const QString& dataPath, const QString& symbolPath);
-    /// Of the linguistic map only what it draws over the base map.
-    const Drawing& itemOfMap(const QString& dataPath, const QString& symbolPath);
+    /// Of the map of an item what lies under the base map and what stands over it. Areas and isoglosses are
+    /// of whole word forms where its symbols were made for these.
+    ItemLayers itemOfMap(const QString& dataPath, const QString& symbolPath, const LocalityCells& cells,
+                         const ItemMapSettings& settings);
     const Drawing& diffusionMap(DiffusionGraph graph, bool layered, int wordForm);
     const Drawing& symbolDiffusionMap(const QString& symbolPath, int wordForm);
     const Drawing& contrastMap(const QString& contrastPath);
@@ -35,10 +39,13 @@ public:
     VarnModule& varn() { return m_varn; }
 
 private:
+    void load(const QString& dataPath, const QString& symbolPath);
     MapSurfaces surfaces() { return {{m_frmMap, m_frmMap}, m_area}; }
 
     VarnModule m_varn;
     DrawSurface m_frmMap;
     FormArea m_area;
+    /// What the user asks for, of all items.
+    bool m_wholeWordForms;
     PlotListener& m_listener;
 };

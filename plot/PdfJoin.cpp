@@ -91,21 +91,22 @@ public:
         objects.replaceKey("/Base", base);
         m_resources.replaceKey("/XObject", objects);
         m_resources = m_pdf.makeIndirectObject(m_resources);
-        m_underneath = m_pdf.newStream("q /Base Do Q\n");
+        m_base = m_pdf.newStream("q /Base Do Q\n");
+        m_save = m_pdf.newStream("q\n");
+        m_restore = m_pdf.newStream("Q\n");
         nameFonts(fontsOf(parts.front()));
     }
 
-    void join()
+    void join(PdfLayers layers)
     {
-        Pages& first = m_parts.front().pages;
-        for (Part& part : m_parts) {
-            const bool isFirst = &part == &m_parts.front();
-            for (std::size_t page = isFirst ? 2 : 1; page < part.pages.size(); ++page) {
-                const QPDFObjectHandle content = part.pages[page].getObjectHandle().getKey("/Contents");
-                add(isFirst ? content : m_pdf.copyForeignObject(content));
-            }
+        const std::vector<QPDFObjectHandle> contents = takeContents();
+        const auto layersOfPage = static_cast<std::size_t>(layers);
+        for (std::size_t over = layersOfPage - 1; over < contents.size(); over += layersOfPage) {
+            add(layers == PdfLayers::Over
+                    ? std::vector{m_base, contents[over]}
+                    : std::vector{m_save, contents[over - 1], m_restore, m_base, contents[over]});
         }
-        for (QPDFPageObjectHelper& page : first) {
+        for (QPDFPageObjectHelper& page : m_parts.front().pages) {
             m_helper.removePage(page);
         }
     }
@@ -151,12 +152,26 @@ private:
         }
     }
 
-    void add(const QPDFObjectHandle& content)
+    /// What is painted on the pages of all parts behind the base.
+    std::vector<QPDFObjectHandle> takeContents()
+    {
+        std::vector<QPDFObjectHandle> contents;
+        for (Part& part : m_parts) {
+            const bool isFirst = &part == &m_parts.front();
+            for (std::size_t page = isFirst ? 2 : 1; page < part.pages.size(); ++page) {
+                const QPDFObjectHandle content = part.pages[page].getObjectHandle().getKey("/Contents");
+                contents.push_back(isFirst ? content : m_pdf.copyForeignObject(content));
+            }
+        }
+        return contents;
+    }
+
+    void add(const std::vector<QPDFObjectHandle>& contents)
     {
         QPDFObjectHandle page = QPDFObjectHandle::newDictionary();
         page.replaceKey("/Type", QPDFObjectHandle::newName("/Page"));
         page.replaceKey("/MediaBox", m_mediaBox);
-        page.replaceKey("/Contents", QPDFObjectHandle::newArray({m_underneath, content}));
+        page.replaceKey("/Contents", QPDFObjectHandle::newArray(contents));
         page.replaceKey("/Resources", m_resources);
         m_joined.push_back(m_pdf.makeIndirectObject(page));
         m_helper.addPage(QPDFPageObjectHelper(m_joined.back()), false);
@@ -190,13 +205,17 @@ private:
     QPDFPageDocumentHelper m_helper;
     QPDFObjectHandle m_mediaBox;
     QPDFObjectHandle m_resources;
-    QPDFObjectHandle m_underneath;
+    QPDFObjectHandle m_base;
+    /// Around what lies under the base, for its scale to end with it.
+    QPDFObjectHandle m_save;
+    QPDFObjectHandle m_restore;
     std::vector<QPDFObjectHandle> m_joined;
 };
 
 } // namespace
 
-std::optional<QByteArray> joinedPdf(const std::vector<QByteArray>& parts, const PdfOutline& outline)
+std::optional<QByteArray> joinedPdf(const std::vector<QByteArray>& parts, PdfLayers layers,
+                                    const PdfOutline& outline)
 {
     std::vector<Part> opened;
     opened.reserve(parts.size());
@@ -207,7 +226,7 @@ std::optional<QByteArray> joinedPdf(const std::vector<QByteArray>& parts, const 
         return std::nullopt;
     }
     Joiner joiner(opened);
-    joiner.join();
+    joiner.join(layers);
     joiner.addOutline(outline);
     return joiner.bytes();
 }

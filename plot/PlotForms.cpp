@@ -32,10 +32,12 @@ std::vector<CommandForm> makeCommandForms()
         {"blank-map", Command::BlankMap, "Draws the base map.", map, picture},
         {"symbols", Command::Symbols, "Draws all symbols with their numbers, page by page.", map, {}},
         {"atlas", Command::Atlas,
-         "Draws linguistic maps, a page an item: of the items named, or of all that have a symbol file of "
-         "their "
-         "name.",
-         map, list({"items", "location", "whole-word-forms"}) + size + list({"keep-going", "jobs"})},
+         "Draws the map of each item on a page of its own: of the items named, or of all that have a symbol "
+         "file of their name. Areas and isoglosses are of whole word forms where the symbols were made for "
+         "these.",
+         map,
+         list({"items", "kind", "location", "whole-word-forms", "hatched", "with-symbols", "smooth"}) + size +
+             list({"keep-going", "jobs"})},
         {"accumulate", Command::Accumulate,
          "Adds the items to the table and saves it after each. Items are left out and named that cannot be "
          "read, whose number of localities is not the map's, or that the table holds already.",
@@ -63,7 +65,9 @@ std::vector<CommandForm> makeCommandForms()
          "Compares every two localities by their answers and writes the table of their distances. Tells how "
          "far the items agree, and the localities with the map.",
          map, compared},
-        {"area-map", Command::AreaMap, "Draws the areas of an item, each in the colour of its symbol.",
+        {"area-map", Command::AreaMap,
+         "Draws the areas of an item, each in the colour of its symbol. They are of whole word forms "
+         "where the symbols were made for these.",
          map + list({"data", "symbols"}), list({"whole-word-forms", "hatched", "with-symbols"}) + picture},
         {"isogloss-map", Command::IsoglossMap,
          "Draws the isoglosses of an item, or of several each border as strong as the number of items that "
@@ -119,6 +123,8 @@ std::vector<OptionForm> makeOptionForms()
         {"locality-dots", nullptr, "localities are marked with dots", {}},
         {"height", "MM", "height of the drawing area in millimetres", {}},
         {"dpi", "N", "resolution of a PNG (192)", {}},
+        {"kind", "KIND", "what the maps of an atlas show (symbols)",
+         list({"symbols", "areas", "isoglosses"})},
         {"keep-going", nullptr, "an item that cannot be drawn is named and left out", {}},
         {"jobs", "N", "how many threads draw (as many as there are cores)", {}},
         {"compare", "WHAT", "whether word forms are compared, or the kinds that symbols tell apart",

@@ -136,9 +136,9 @@ private:
 
     void drawAreas()
     {
-        m_map.load(path(m_options.data.value(0)), path(m_options.symbols));
+        m_map.loadAsMade(path(m_options.data.value(0)), path(m_options.symbols));
         const LocalityCells cells = localityCells(m_varn, m_varn);
-        const AreaMapStyle style{m_survey.map.look, m_survey.withSymbols};
+        const AreaMapStyle& style = m_survey.items.areas;
         save([&](MapSurfaces on) { drawAreaMap(linguisticMapParts(m_varn), cells, style, on); },
              m_map.size());
     }
@@ -151,7 +151,7 @@ private:
         for (std::size_t i = 1; i < answers.items.size(); ++i) {
             addChanges(changes, borderChanges(cells, answers.items[i].answers));
         }
-        const IsoglossStyle style{m_survey.smooth, m_survey.numbers};
+        const IsoglossStyle& style = m_survey.items.isoglosses;
         const auto draw = [&](MapSurfaces on) {
             if (answers.items.size() == 1) {
                 drawIsoglossMap(areaParts(cells), answers.items.front().caption, changes, style, on);

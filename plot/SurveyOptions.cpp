@@ -1,3 +1,4 @@
+#include "plot/PlotForms.h"
 #include "plot/PlotOptions.h"
 #include "plot/PlotReading.h"
 
@@ -63,6 +64,39 @@ void readMeasure(const QCommandLineParser& parser, SurveyOptions& survey)
     }
 }
 
+/// The maps of an atlas take no settings of other kinds.
+void checkKind(const QCommandLineParser& parser, const ItemMapSettings& items)
+{
+    const std::pair<const char*, ItemMapKind> settings[] = {{"hatched", ItemMapKind::Areas},
+                                                            {"with-symbols", ItemMapKind::Areas},
+                                                            {"smooth", ItemMapKind::Isoglosses}};
+    for (const auto& [name, kind] : settings) {
+        if (parser.isSet(QLatin1String(name)) && items.kind != kind) {
+            throw UsageError(
+                QStringLiteral("--%1 goes with --kind %2")
+                    .arg(QLatin1String(name),
+                         optionForm(QStringLiteral("kind")).choices[static_cast<qsizetype>(kind)]));
+        }
+    }
+    const bool haveSymbols = items.kind == ItemMapKind::Symbols || items.areas.withSymbols;
+    if (parser.isSet(QStringLiteral("location")) && !haveSymbols) {
+        throw UsageError(QStringLiteral("--location goes with --kind symbols or --with-symbols"));
+    }
+}
+
+void readItemMaps(const QCommandLineParser& parser, Command command, SurveyOptions& survey)
+{
+    ItemMapSettings& items = survey.items;
+    items.areas = {survey.map.look, parser.isSet(QStringLiteral("with-symbols"))};
+    items.isoglosses = {parser.isSet(QStringLiteral("smooth")), parser.isSet(QStringLiteral("numbers"))};
+    if (parser.isSet(QStringLiteral("kind"))) {
+        items.kind = static_cast<ItemMapKind>(readChoice(parser, QStringLiteral("kind")));
+    }
+    if (command == Command::Atlas) {
+        checkKind(parser, items);
+    }
+}
+
 /// A file of distances was made of answers; it is not made again.
 void checkOneSource(const QCommandLineParser& parser)
 {
@@ -96,8 +130,6 @@ void readSurveyOptions(const QCommandLineParser& parser, PlotOptions& options)
         survey.map.rule = static_cast<ClassRule>(readChoice(parser, QStringLiteral("classes")));
     }
     readClusters(parser, survey.map);
-    survey.smooth = parser.isSet(QStringLiteral("smooth"));
-    survey.numbers = parser.isSet(QStringLiteral("numbers"));
-    survey.withSymbols = parser.isSet(QStringLiteral("with-symbols"));
+    readItemMaps(parser, options.command, survey);
     survey.itemsOfGroups = parser.value(QStringLiteral("marks")) == QLatin1String("items");
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "dialectometry/DistanceMaps.h"
+#include "dialectometry/ItemMaps.h"
 #include "dialectometry/SurveyAnswers.h"
 
 #include <QString>
@@ -16,11 +17,8 @@ struct SurveyOptions
     QString locality;
     /// How distances are drawn; which map, is the command's matter.
     DistanceMapSettings map;
-    /// Whether isoglosses are rounded, and whether the strongest have their numbers.
-    bool smooth = false;
-    bool numbers = false;
-    /// Whether the symbols of the item stand on its areas.
-    bool withSymbols = false;
+    /// How maps of items are drawn, and which an atlas is made of.
+    ItemMapSettings items;
     /// Whether the items that mark groups are listed, not the word forms.
     bool itemsOfGroups = false;
 };

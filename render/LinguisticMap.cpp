@@ -78,11 +78,3 @@ void drawLinguisticMap(const LinguisticMapParts& parts, MapSurfaces surfaces)
     PlotLinguisticData(parts, surfaces);
     PlotHanrei(parts, surfaces);
 }
-
-void drawItemOfMap(const LinguisticMapParts& parts, MapSurfaces surfaces)
-{
-    DrawBlankMap(parts.base, surfaces); // sets the scale, and leaves the font of the map
-    surfaces.DrawTarget.Cls();
-    PlotLinguisticData(parts, surfaces);
-    PlotHanrei(parts, surfaces);
-}

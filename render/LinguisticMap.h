@@ -23,7 +23,3 @@ void PlotLinguisticData(const LinguisticMapParts& parts, MapSurfaces surfaces,
 
 /// Draws the whole linguistic map: the base map, the symbols, and the legend.
 void drawLinguisticMap(const LinguisticMapParts& parts, MapSurfaces surfaces);
-
-/// Draws of the linguistic map only what stands over the base map: symbols and legend, as they are drawn
-/// there.
-void drawItemOfMap(const LinguisticMapParts& parts, MapSurfaces surfaces);

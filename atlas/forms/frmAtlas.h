@@ -17,6 +17,7 @@ class NoticeBar;
 class QActionGroup;
 class QSplitter;
 class QToolBar;
+struct AtlasMaps;
 struct ItemsQuestion;
 struct VarnModule;
 
@@ -111,6 +112,7 @@ private:
     void openDistances();
     void saveDistances();
     void askForItems(const ItemsQuestion& question, std::function<void(const QStringList&)> take);
+    AtlasMaps mapsToExport();
     void exportItems(const QStringList& itemPaths);
     AtlasPage pageOf(const QString& itemPath) const;
     /// What a file or a document of the map shown is called.

@@ -2,6 +2,7 @@
 
 #include "atlas/AtlasExport.h"
 #include "atlas/AtlasItem.h"
+#include "atlas/AtlasOtherMap.h"
 #include "atlas/forms/AtlasMapView.h"
 #include "atlas/forms/ItemsDialog.h"
 #include "atlas/forms/frmAtlas.h"
@@ -17,6 +18,23 @@
 #include <QPrintPreviewDialog>
 #include <QPrinter>
 #include <QProgressDialog>
+
+namespace {
+
+/// What each page of an atlas shows of its item.
+QString mapOf(ItemMapKind kind)
+{
+    switch (kind) {
+    case ItemMapKind::Areas:
+        return QStringLiteral("the areas");
+    case ItemMapKind::Isoglosses:
+        return QStringLiteral("the isoglosses");
+    default:
+        return QStringLiteral("the linguistic map");
+    }
+}
+
+} // namespace
 
 QString frmAtlas::mapName() const
 {
@@ -64,8 +82,9 @@ void frmAtlas::mnuPrint_Click()
 
 void frmAtlas::mnuExportAtlas_Click()
 {
+    const ItemMapKind kind = itemMapSettings(m_kind, m_survey).kind;
     askForItems({QStringLiteral("Export Atlas"),
-                 QStringLiteral("A PDF with a page for each of these &items:"),
+                 QStringLiteral("A PDF with %1 of each of these &items:").arg(mapOf(kind)),
                  QStringLiteral("&Export 1 Page..."),
                  QStringLiteral("&Export %1 Pages..."),
                  {}},
@@ -97,6 +116,15 @@ AtlasPage frmAtlas::pageOf(const QString& itemPath) const
     return readAtlasPage(m_varn, itemPath);
 }
 
+/// Pages show what is shown of the item, and linguistic maps where that is something else.
+AtlasMaps frmAtlas::mapsToExport()
+{
+    const ItemMapSettings settings = itemMapSettings(m_kind, m_survey);
+    const bool needCells = settings.kind != ItemMapKind::Symbols;
+    return {[this](const QString& path) { return pageOf(path); }, settings,
+            needCells ? m_survey.cellMap().cells : LocalityCells()};
+}
+
 void frmAtlas::exportItems(const QStringList& itemPaths)
 {
     const QString title = QStringLiteral("Export Atlas");
@@ -109,14 +137,13 @@ void frmAtlas::exportItems(const QStringList& itemPaths)
     QProgressDialog progress(title, QStringLiteral("Stop"), 0, static_cast<int>(itemPaths.size()), this);
     progress.setWindowTitle(title);
     progress.setWindowModality(Qt::WindowModal);
-    const AtlasExport done = exportAtlas(
-        m_varn, itemPaths, [this](const QString& path) { return pageOf(path); }, firstArea(), *file,
-        [&](int number, int, const QString& item) {
-            progress.setLabelText(item);
-            progress.setValue(number);
-            QApplication::processEvents(); // a click on Stop
-            return !progress.wasCanceled();
-        });
+    const AtlasExport done = exportAtlas(m_varn, itemPaths, mapsToExport(), firstArea(), *file,
+                                         [&](int number, int, const QString& item) {
+                                             progress.setLabelText(item);
+                                             progress.setValue(number);
+                                             QApplication::processEvents(); // a click on Stop
+                                             return !progress.wasCanceled();
+                                         });
     progress.reset();
     if (done.saved) {
         QStringList lines = {QStringLiteral("%1 pages are saved.").arg(done.pages)};

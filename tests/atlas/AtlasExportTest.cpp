@@ -43,7 +43,8 @@ protected:
     }
     AtlasExport save(const PageOfItem& pageOf, const ExportProgress& progress = goOn)
     {
-        return exportAtlas(varn, atlasItemPaths(varn), pageOf, firstArea(), file, progress);
+        return exportAtlas(varn, atlasItemPaths(varn), {pageOf, settings, localityCells(varn, varn)},
+                           firstArea(), file, progress);
     }
     AtlasPage read(const QString& path) const { return readAtlasPage(varn, path); }
     QByteArray written() const
@@ -56,6 +57,7 @@ protected:
     TestSurvey survey;
     VarnModule& varn = survey.varn;
     QString file = survey.hostPath("atlas.pdf");
+    ItemMapSettings settings;
     const PageOfItem fromFiles = [this](const QString& path) { return read(path); };
 };
 
@@ -123,6 +125,30 @@ TEST_F(ExportedAtlas, MadeSymbolsMarkWholeWordForms)
     const auto parts = painted(plain(written()));
     save(madePages);
     EXPECT_LT(painted(plain(written())), parts) << "\"ame\" is a part of \"amer\"";
+}
+
+TEST_F(ExportedAtlas, PagesShowTheKindOfMapThatIsAskedFor)
+{
+    survey.write(ling("a.dbs"), "3,\"\",\"Rain\",\"\"\r\n1\r\n\"ame\"\r\n1\r\n\"uyu\"\r\n0\r\n");
+    survey.write(ling("a.han"), QByteArray(survey.read(ling("a.han"))).replace("1\r\n\"ame", "2\r\n\"ame") +
+                                    "\"uyu\",\"UYU\"\r\n2\r\n1\r\n1\r\n1\r\n1\r\n1\r\n");
+    save(fromFiles);
+    const QStringList symbols = shapesOf(written(), 0);
+    settings = {ItemMapKind::Areas, {AreaLook::Colored, true}, {}};
+    save(fromFiles);
+    const QStringList areas = shapesOf(written(), 0);
+    EXPECT_TRUE(areas[0].startsWith("f") && symbols[0].startsWith("S")) << "areas lie under the base map";
+    EXPECT_TRUE(areas.contains(symbols[0])) << "which is there";
+    EXPECT_EQ(shapesOf(written(), 1)[0], symbols[0]) << "no record marks anything there";
+    settings.areas.withSymbols = false;
+    save(fromFiles);
+    EXPECT_LT(shapesOf(written(), 0).size(), areas.size());
+    settings.kind = ItemMapKind::Isoglosses;
+    save(fromFiles);
+    const QStringList isoglosses = shapesOf(written(), 0);
+    EXPECT_EQ(isoglosses[0], symbols[0]);
+    EXPECT_FALSE(isoglosses.filter("S 0.698").isEmpty()) << "a red line";
+    EXPECT_TRUE(symbols.filter("S 0.698").isEmpty() && areas.filter("S 0.698").isEmpty());
 }
 
 TEST_F(ExportedAtlas, MapsOfTheTableAreThoseOfTheMapForm)

@@ -7,6 +7,7 @@
 #include "tests/support/PlainPdf.h"
 #include "tests/support/TestProgram.h"
 
+#include <QCheckBox>
 #include <QClipboard>
 #include <QFile>
 #include <QLabel>
@@ -152,6 +153,35 @@ TEST_F(AtlasWindow, AnAtlasIsSavedOfTheItemsChosen)
     survey.write(ling("broken.dbs"), "many");
     exportItems("cmdWithSymbols");
     EXPECT_EQ(plain(written("some.pdf")).count("/Type /Page\n"), 1);
+    EXPECT_EQ(program.dialogs.errors, std::vector<Shown>());
+}
+
+TEST_F(AtlasWindow, AnAtlasIsOfTheKindOfMapThatIsShown)
+{
+    const auto firstPage = [&](const char* kind, const char* map) {
+        if (*kind != 0) {
+            entry(kind).trigger();
+        }
+        program.dialogs.savedFiles = {survey.hostPath("page.pdf")};
+        entry("mnuExportAtlas").trigger();
+        auto& dialog = opened<ItemsDialog>();
+        EXPECT_EQ(dialog.findChild<QLabel*>()->text(),
+                  QStringLiteral("A PDF with %1 of each of these &items:").arg(map));
+        child<QPushButton>(dialog, "cmdWithSymbols").click();
+        child<QPushButton>(dialog, "cmdChoose").click();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        return shapesOf(written("page.pdf"), 0);
+    };
+    document().setWords({{2, {"uyu"}}}, "Words"); // neighbours that differ, not saved yet
+    const QStringList symbols = firstPage("", "the linguistic map");
+    const QStringList areas = firstPage("mnuKindAreasoftheItem", "the areas");
+    EXPECT_TRUE(areas.value(0).startsWith("f") && symbols.value(0).startsWith("S")) << "they lie under lines";
+    control<frmAtlas, QCheckBox>("chkWithSymbols").click();
+    EXPECT_GT(firstPage("", "the areas").size(), areas.size());
+    const QStringList isoglosses = firstPage("mnuKindIsoglossesoftheItem", "the isoglosses");
+    EXPECT_EQ(isoglosses.filter("S 0.698").size(), 2) << "a red line and its sample";
+    EXPECT_EQ(isoglosses.value(0), symbols.value(0));
+    EXPECT_EQ(firstPage("mnuKindGroupsofLocalities", "the linguistic map"), symbols);
     EXPECT_EQ(program.dialogs.errors, std::vector<Shown>());
 }
 

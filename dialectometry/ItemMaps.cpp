@@ -1,0 +1,67 @@
+#include "dialectometry/ItemMaps.h"
+
+#include "render/BlankMap.h"
+#include "render/Legend.h"
+#include "render/LinguisticMap.h"
+
+namespace {
+
+/// Begins the map by what lies under the base map.
+void drawUnder(const LinguisticMapParts& parts, const LocalityCells& cells, const ItemMapSettings& settings,
+               MapSurfaces surfaces)
+{
+    if (settings.kind == ItemMapKind::Areas) {
+        drawAreas(parts, cells, settings.areas.look, surfaces);
+    } else {
+        surfaces.frmMap.Cls();
+    }
+}
+
+void drawIsoglossesOfRecords(const LinguisticMapParts& parts, const LocalityCells& cells,
+                             const IsoglossStyle& style, MapSurfaces surfaces)
+{
+    const LocalityKinds kinds = recordsOfLocalities(
+        parts.item, parts.symbols, parts.base.style.WholeWordForms, parts.base.map.NLocality);
+    drawIsoglosses({parts.base, parts.text, cells}, parts.item.Hanrei, borderChanges(cells, kinds), style,
+                   surfaces);
+}
+
+void drawOver(const LinguisticMapParts& parts, const LocalityCells& cells, const ItemMapSettings& settings,
+              MapSurfaces surfaces)
+{
+    switch (settings.kind) {
+    case ItemMapKind::Symbols:
+        PlotLinguisticData(parts, surfaces);
+        PlotHanrei(parts, surfaces);
+        break;
+    case ItemMapKind::Areas:
+        drawOverAreas(parts, cells, settings.areas, surfaces);
+        break;
+    case ItemMapKind::Isoglosses:
+        drawIsoglossesOfRecords(parts, cells, settings.isoglosses, surfaces);
+        break;
+    }
+}
+
+} // namespace
+
+void drawItemMap(const LinguisticMapParts& parts, const LocalityCells& cells, const ItemMapSettings& settings,
+                 MapSurfaces surfaces)
+{
+    drawUnder(parts, cells, settings, surfaces);
+    PlotBaseMap(parts.base, surfaces);
+    drawOver(parts, cells, settings, surfaces);
+}
+
+ItemLayers itemLayers(const LinguisticMapParts& parts, const LocalityCells& cells,
+                      const ItemMapSettings& settings, MapSurfaces surfaces)
+{
+    ItemLayers layers;
+    drawUnder(parts, cells, settings, surfaces);
+    layers.under = surfaces.DrawTarget.drawing();
+    DrawBlankMap(parts.base, surfaces); // sets the scale, and leaves the font of the map
+    surfaces.DrawTarget.Cls();
+    drawOver(parts, cells, settings, surfaces);
+    layers.over = surfaces.DrawTarget.drawing();
+    return layers;
+}
