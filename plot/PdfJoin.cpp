@@ -1,5 +1,7 @@
 #include "plot/PdfJoin.h"
 
+#include "plot/PdfShapes.h"
+
 #include <qpdf/QPDF.hh>
 #include <qpdf/QPDFPageDocumentHelper.hh>
 #include <qpdf/QPDFPageObjectHelper.hh>
@@ -152,18 +154,47 @@ private:
         }
     }
 
-    /// What is painted on the pages of all parts behind the base.
+    /// What is painted on the pages of all parts behind the base, with the shapes that they share as objects.
     std::vector<QPDFObjectHandle> takeContents()
     {
+        const std::vector<std::string> texts = textsOfPages();
+        PdfShapes shapes;
+        for (const std::string& text : texts) {
+            shapes.add(text);
+        }
+        for (const PdfShapes::Object& object : shapes.objects()) {
+            m_resources.getKey("/XObject").replaceKey(object.name, formOf(object));
+        }
         std::vector<QPDFObjectHandle> contents;
+        for (std::size_t page = 0; page < texts.size(); ++page) {
+            contents.push_back(m_pdf.newStream(shapes.page(page)));
+        }
+        return contents;
+    }
+
+    std::vector<std::string> textsOfPages()
+    {
+        std::vector<std::string> texts;
         for (Part& part : m_parts) {
             const bool isFirst = &part == &m_parts.front();
             for (std::size_t page = isFirst ? 2 : 1; page < part.pages.size(); ++page) {
-                const QPDFObjectHandle content = part.pages[page].getObjectHandle().getKey("/Contents");
-                contents.push_back(isFirst ? content : m_pdf.copyForeignObject(content));
+                texts.push_back(bytesOf(part.pages[page].getObjectHandle().getKey("/Contents")));
             }
         }
-        return contents;
+        return texts;
+    }
+
+    QPDFObjectHandle formOf(const PdfShapes::Object& object)
+    {
+        constexpr double WidestPen = 1000; // lines reach beyond the box of their points
+
+        QPDFObjectHandle form = m_pdf.newStream(object.content);
+        form.getDict().replaceKey("/Type", QPDFObjectHandle::newName("/XObject"));
+        form.getDict().replaceKey("/Subtype", QPDFObjectHandle::newName("/Form"));
+        form.getDict().replaceKey("/BBox", QPDFObjectHandle::newFromRectangle(
+                                               {object.box[0] - WidestPen, object.box[1] - WidestPen,
+                                                object.box[2] + WidestPen, object.box[3] + WidestPen}));
+        return form;
     }
 
     void add(const std::vector<QPDFObjectHandle>& contents)

@@ -5,6 +5,8 @@
 #include <qpdf/QPDFPageObjectHelper.hh>
 #include <qpdf/QPDFWriter.hh>
 
+#include <algorithm>
+#include <cmath>
 #include <set>
 
 namespace {
@@ -27,12 +29,14 @@ public:
     }
     void handleEOF() override {}
 
-    QStringList takeShapes() { return std::move(m_shapes); }
+    QList<PaintedShape> takeShapes() { return std::move(m_shapes); }
 
 private:
     struct State
     {
         QByteArray scale;
+        /// Where (0, 0) is.
+        double origin[2] = {0, 0};
         QByteArray fill;
         QByteArray line;
     };
@@ -45,7 +49,7 @@ private:
         } else if (name == "Q") {
             m_state = m_saved.takeLast();
         } else if (name == "cm") {
-            m_state.scale += operands == "1 0 0 1 0 0 " ? QByteArray() : operands;
+            transform(operands);
         } else if (name == "scn") {
             m_state.fill = operands;
         } else if (name == "SCN") {
@@ -54,9 +58,29 @@ private:
             show(m_forms.getKey(operands.trimmed().toStdString()));
         } else if (paints.count(name) > 0) {
             const QByteArray color = name == "S" ? m_state.line : m_state.fill;
-            m_shapes << QString::fromLatin1(name + ' ' + color + m_state.scale + std::exchange(m_path, {}));
+            m_shapes << PaintedShape{name + ' ' + color + m_state.scale, std::exchange(m_path, {})};
         } else if (std::set<QByteArray>{"m", "l", "c", "re"}.count(name) > 0) {
-            m_path += operands;
+            addPoints(operands, name == "re" ? 2 : 6);
+        }
+    }
+
+    void transform(const QByteArray& operands)
+    {
+        if (!operands.startsWith("1 0 0 1 ")) {
+            m_state.scale += operands;
+            return;
+        }
+        const QList<QByteArray> numbers = operands.split(' ');
+        m_state.origin[0] += numbers[4].toDouble();
+        m_state.origin[1] += numbers[5].toDouble();
+    }
+
+    /// Behind the places there are sizes.
+    void addPoints(const QByteArray& operands, int places)
+    {
+        const QList<QByteArray> numbers = operands.trimmed().split(' ');
+        for (int i = 0; i < numbers.size(); ++i) {
+            m_path << numbers[i].toDouble() + (i < places ? m_state.origin[i % 2] : 0);
         }
     }
 
@@ -71,13 +95,20 @@ private:
 
     QPDFObjectHandle m_forms;
     QByteArray m_operands;
-    QByteArray m_path;
+    QList<double> m_path;
     State m_state;
     QList<State> m_saved;
-    QStringList m_shapes;
+    QList<PaintedShape> m_shapes;
 };
 
 } // namespace
+
+bool PaintedShape::operator==(const PaintedShape& other) const
+{
+    const auto areNear = [](double a, double b) { return std::abs(a - b) < 0.1; };
+    return painting == other.painting &&
+           std::equal(points.begin(), points.end(), other.points.begin(), other.points.end(), areNear);
+}
 
 QByteArray plain(const QByteArray& bytes)
 {
@@ -97,7 +128,7 @@ qsizetype painted(const QByteArray& plainPdf)
            plainPdf.count("\nBT\n");
 }
 
-QStringList shapesOf(const QByteArray& bytes, int page)
+QList<PaintedShape> shapesOf(const QByteArray& bytes, int page)
 {
     QPDF pdf;
     pdf.processMemoryFile("pdf", bytes.constData(), static_cast<std::size_t>(bytes.size()));
@@ -105,4 +136,11 @@ QStringList shapesOf(const QByteArray& bytes, int page)
     ShapeReader shapes(shown.getAttribute("/Resources", false).getKey("/XObject"));
     shown.parseContents(&shapes);
     return shapes.takeShapes();
+}
+
+qsizetype countOf(const QList<PaintedShape>& shapes, const QByteArray& painting)
+{
+    return std::count_if(shapes.begin(), shapes.end(), [&painting](const PaintedShape& shape) {
+        return shape.painting.startsWith(painting);
+    });
 }

@@ -173,15 +173,16 @@ TEST_F(AtlasWindow, AnAtlasIsOfTheKindOfMapThatIsShown)
         return shapesOf(written("page.pdf"), 0);
     };
     document().setWords({{2, {"uyu"}}}, "Words"); // neighbours that differ, not saved yet
-    const QStringList symbols = firstPage("", "the linguistic map");
-    const QStringList areas = firstPage("mnuKindAreasoftheItem", "the areas");
-    EXPECT_TRUE(areas.value(0).startsWith("f") && symbols.value(0).startsWith("S")) << "they lie under lines";
+    const auto symbols = firstPage("", "the linguistic map");
+    const auto areas = firstPage("mnuKindAreasoftheItem", "the areas");
+    EXPECT_TRUE(areas.value(0).painting.startsWith("f") && symbols.value(0).painting.startsWith("S"))
+        << "they lie under lines";
     control<frmAtlas, QCheckBox>("chkWithSymbols").click();
     EXPECT_GT(firstPage("", "the areas").size(), areas.size());
-    const QStringList isoglosses = firstPage("mnuKindIsoglossesoftheItem", "the isoglosses");
-    EXPECT_EQ(isoglosses.filter("S 0.698").size(), 2) << "a red line and its sample";
-    EXPECT_EQ(isoglosses.value(0), symbols.value(0));
-    EXPECT_EQ(firstPage("mnuKindGroupsofLocalities", "the linguistic map"), symbols);
+    const auto isoglosses = firstPage("mnuKindIsoglossesoftheItem", "the isoglosses");
+    EXPECT_EQ(countOf(isoglosses, "S 0.698"), 2) << "a red line and its sample";
+    EXPECT_TRUE(isoglosses.value(0) == symbols.value(0));
+    EXPECT_TRUE(firstPage("mnuKindGroupsofLocalities", "the linguistic map") == symbols);
     EXPECT_EQ(program.dialogs.errors, std::vector<Shown>());
 }
 
