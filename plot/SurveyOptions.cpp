@@ -4,6 +4,8 @@
 
 #include <QCommandLineParser>
 
+#include <array>
+
 namespace {
 
 using Command = PlotOptions::Command;
@@ -67,10 +69,11 @@ void readMeasure(const QCommandLineParser& parser, SurveyOptions& survey)
 /// The maps of an atlas take no settings of other kinds.
 void checkKind(const QCommandLineParser& parser, const ItemMapSettings& items)
 {
-    const std::pair<const char*, ItemMapKind> settings[] = {{"hatched", ItemMapKind::Areas},
-                                                            {"with-symbols", ItemMapKind::Areas},
-                                                            {"smooth", ItemMapKind::Isoglosses}};
-    for (const auto& [name, kind] : settings) {
+    constexpr std::array Settings = {std::pair{"hatched", ItemMapKind::Areas},
+                                     std::pair{"with-symbols", ItemMapKind::Areas},
+                                     std::pair{"smooth", ItemMapKind::Isoglosses}};
+
+    for (const auto& [name, kind] : Settings) {
         if (parser.isSet(QLatin1String(name)) && items.kind != kind) {
             throw UsageError(
                 QStringLiteral("--%1 goes with --kind %2")
