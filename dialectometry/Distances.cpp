@@ -1,6 +1,6 @@
 #include "dialectometry/Distances.h"
 
-#include "dialectometry/Parallel.h"
+#include "platform/Parallel.h"
 
 #include <algorithm>
 #include <limits>

@@ -1,7 +1,7 @@
 #include "dialectometry/NoisyClusters.h"
 
 #include "dialectometry/Moments.h"
-#include "dialectometry/Parallel.h"
+#include "platform/Parallel.h"
 
 #include <algorithm>
 #include <cmath>

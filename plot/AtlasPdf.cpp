@@ -193,10 +193,10 @@ Drawing seedOf(const Drawings& pages, const SharedPictures& pictures, bool whole
 
 /// The parts in one; nothing where their fonts are not the same.
 std::optional<QByteArray> joined(const std::vector<QByteArray>& parts, PdfLayers layers,
-                                 const PdfOutline& outline)
+                                 const PdfOutline& outline, int jobs)
 {
     try {
-        return joinedPdf(parts, layers, outline);
+        return joinedPdf(parts, layers, outline, jobs);
     } catch (const std::runtime_error& error) {
         throw RunTimeError(ErrorNumber::DeviceIOError, QString::fromUtf8(error.what()));
     }
@@ -223,7 +223,8 @@ QByteArray atlasPdf(AtlasSheets atlas, int jobs, const std::function<void(int, c
     };
     for (const bool wholeTexts : {false, true}) {
         const Drawing seed = seedOf(pages, pictures, wholeTexts);
-        if (const auto pdf = joined(paintedParts(seed, pages, atlas.size, jobs, tell), layers, outline)) {
+        if (const auto pdf =
+                joined(paintedParts(seed, pages, atlas.size, jobs, tell), layers, outline, jobs)) {
             return *pdf;
         }
     }

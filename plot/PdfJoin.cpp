@@ -1,5 +1,6 @@
 #include "plot/PdfJoin.h"
 
+#include "platform/Parallel.h"
 #include "plot/PdfShapes.h"
 
 #include <qpdf/QPDF.hh>
@@ -35,6 +36,15 @@ std::string bytesOf(QPDFObjectHandle stream)
 {
     const auto data = stream.getStreamData();
     return {reinterpret_cast<const char*>(data->getBuffer()), data->getSize()};
+}
+
+std::string compressed(const std::string& text)
+{
+    constexpr int SizeOfSize = 4; // what the toolkit writes before the data
+
+    return qCompress(QByteArray::fromRawData(text.data(), static_cast<qsizetype>(text.size())))
+        .mid(SizeOfSize)
+        .toStdString();
 }
 
 /// The letters of a font: those that were written of it, in the order of their numbers.
@@ -99,9 +109,9 @@ public:
         nameFonts(fontsOf(parts.front()));
     }
 
-    void join(PdfLayers layers)
+    void join(PdfLayers layers, int jobs)
     {
-        const std::vector<QPDFObjectHandle> contents = takeContents();
+        const std::vector<QPDFObjectHandle> contents = takeContents(jobs);
         const auto layersOfPage = static_cast<std::size_t>(layers);
         for (std::size_t over = layersOfPage - 1; over < contents.size(); over += layersOfPage) {
             add(layers == PdfLayers::Over
@@ -155,33 +165,51 @@ private:
     }
 
     /// What is painted on the pages of all parts behind the base, with the shapes that they share as objects.
-    std::vector<QPDFObjectHandle> takeContents()
+    std::vector<QPDFObjectHandle> takeContents(int jobs)
     {
-        const std::vector<std::string> texts = textsOfPages();
+        std::vector<QPDFObjectHandle> contents = contentsOfPages();
+        std::vector<std::string> texts;
         PdfShapes shapes;
-        for (const std::string& text : texts) {
-            shapes.add(text);
+        texts.reserve(contents.size()); // they stay where they are
+        for (const QPDFObjectHandle& content : contents) {
+            shapes.add(texts.emplace_back(bytesOf(content)));
         }
         for (const PdfShapes::Object& object : shapes.objects()) {
             m_resources.getKey("/XObject").replaceKey(object.name, formOf(object));
         }
-        std::vector<QPDFObjectHandle> contents;
-        for (std::size_t page = 0; page < texts.size(); ++page) {
-            contents.push_back(m_pdf.newStream(shapes.page(page)));
-        }
+        placeShapes(shapes, contents, jobs);
         return contents;
     }
 
-    std::vector<std::string> textsOfPages()
+    static void placeShapes(const PdfShapes& shapes, std::vector<QPDFObjectHandle>& contents, int jobs)
     {
-        std::vector<std::string> texts;
+        std::vector<std::string> changed(contents.size());
+        const auto change = [&](int page) {
+            const auto number = static_cast<std::size_t>(page);
+            if (const auto text = shapes.page(number)) {
+                changed[number] = compressed(*text);
+            }
+        };
+        inParallel(static_cast<int>(contents.size()), change, jobs);
+        for (std::size_t page = 0; page < contents.size(); ++page) {
+            if (!changed[page].empty()) {
+                contents[page].replaceStreamData(changed[page], QPDFObjectHandle::newName("/FlateDecode"),
+                                                 QPDFObjectHandle::newNull());
+            }
+        }
+    }
+
+    std::vector<QPDFObjectHandle> contentsOfPages()
+    {
+        std::vector<QPDFObjectHandle> contents;
         for (Part& part : m_parts) {
             const bool isFirst = &part == &m_parts.front();
             for (std::size_t page = isFirst ? 2 : 1; page < part.pages.size(); ++page) {
-                texts.push_back(bytesOf(part.pages[page].getObjectHandle().getKey("/Contents")));
+                const QPDFObjectHandle content = part.pages[page].getObjectHandle().getKey("/Contents");
+                contents.push_back(isFirst ? content : m_pdf.copyForeignObject(content));
             }
         }
-        return texts;
+        return contents;
     }
 
     QPDFObjectHandle formOf(const PdfShapes::Object& object)
@@ -246,7 +274,7 @@ private:
 } // namespace
 
 std::optional<QByteArray> joinedPdf(const std::vector<QByteArray>& parts, PdfLayers layers,
-                                    const PdfOutline& outline)
+                                    const PdfOutline& outline, int jobs)
 {
     std::vector<Part> opened;
     opened.reserve(parts.size());
@@ -257,7 +285,7 @@ std::optional<QByteArray> joinedPdf(const std::vector<QByteArray>& parts, PdfLay
         return std::nullopt;
     }
     Joiner joiner(opened);
-    joiner.join(layers);
+    joiner.join(layers, jobs);
     joiner.addOutline(outline);
     return joiner.bytes();
 }

@@ -168,22 +168,24 @@ bool PdfShapes::isObject(const Shape& shape)
     return shape.uses * size > shape.uses * Placing + size + Frame;
 }
 
-std::string PdfShapes::page(std::size_t number) const
+std::optional<std::string> PdfShapes::page(std::size_t number) const
 {
     std::string content;
+    bool isChanged = false;
     for (const Piece& piece : m_pages[number].pieces) {
         content += piece.before;
         if (!isObject(m_shapes[piece.shape])) {
             content += piece.path;
             continue;
         }
+        isChanged = true;
         content += "q 1 0 0 1 ";
         appendNumber(content, piece.x, 2);
         appendNumber(content, piece.y, 2);
         content += "cm " + nameOf(piece.shape) + " Do Q\n";
     }
     content += m_pages[number].rest;
-    return content;
+    return isChanged ? std::optional(std::move(content)) : std::nullopt;
 }
 
 std::vector<PdfShapes::Object> PdfShapes::objects() const

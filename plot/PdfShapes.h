@@ -3,6 +3,7 @@
 #include <array>
 #include <cstddef>
 #include <map>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -20,8 +21,8 @@ public:
     void add(std::string_view content);
 
     /// The content of a page (from 0 in the order they were added), where shapes are placed as the objects of
-    /// their names. Shapes that are not worth an object are left as they are.
-    std::string page(std::size_t number) const;
+    /// their names; those that are not worth an object are left as they are. Nothing where all are.
+    std::optional<std::string> page(std::size_t number) const;
 
     /// What pages place.
     struct Object

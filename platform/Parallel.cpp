@@ -1,4 +1,4 @@
-#include "dialectometry/Parallel.h"
+#include "platform/Parallel.h"
 
 #include <algorithm>
 #include <atomic>
@@ -12,7 +12,7 @@ int workers()
     return std::clamp(static_cast<int>(std::thread::hardware_concurrency()), 1, Most);
 }
 
-void inParallel(int steps, const std::function<void(int)>& step)
+void inParallel(int steps, const std::function<void(int)>& step, int threads)
 {
     std::atomic<int> next = 0;
     const auto work = [&] {
@@ -20,12 +20,12 @@ void inParallel(int steps, const std::function<void(int)>& step)
             step(i);
         }
     };
-    std::vector<std::future<void>> threads;
-    for (int thread = 1; thread < std::min(workers(), steps); ++thread) {
-        threads.push_back(std::async(std::launch::async, work));
+    std::vector<std::future<void>> others;
+    for (int thread = 1; thread < std::min(threads, steps); ++thread) {
+        others.push_back(std::async(std::launch::async, work));
     }
     work();
-    for (std::future<void>& thread : threads) {
-        thread.get();
+    for (std::future<void>& other : others) {
+        other.get();
     }
 }
