@@ -100,7 +100,7 @@ void expectWholeCover(const SmallMap& map)
     EXPECT_NEAR(areaOf(joinedCells(cells, one, 1).front()), sum, 1e-5 * sum);
     for (int i = 0; i < map.localities.NLocality; ++i) {
         for (std::size_t j = 0; j < alone.size(); ++j) {
-            const bool isOwn = cells.cellOf[static_cast<std::size_t>(i)] == static_cast<int>(j);
+            const bool isOwn = std::ranges::count(cells.localities[j], i) == 1;
             EXPECT_EQ(isIn(alone[j], map.place(i)), isOwn) << i << " in " << j;
         }
     }
