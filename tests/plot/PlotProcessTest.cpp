@@ -151,9 +151,18 @@ TEST_F(PlotProcess, ASurveyAsAWholeIsComparedAndDrawn)
     }
     expectDone("group-marks --items Ling/rain.dbs Ling/snow.dbs --clusters 2 --output marks.csv");
     EXPECT_TRUE(read("marks.csv").contains("2,\"snow\",\"hyo\",1,1,1\r\n")) << read("marks.csv").constData();
+    // Localities 1 and 2 are alike in snow and unlike 3; the kinds of rain by other distances.
+    expectDone("group-marks --items Ling/snow.dbs --clusters 2 --marks items --output marks.csv");
+    EXPECT_EQ(read("marks.csv"),
+              "\"group\",\"item\",\"within\",\"between\",\"score\"\r\n1,\"snow\",0,1,2.1213\r\n");
+    expectDone("group-marks --distances d.csv --items Ling/rain.dbs --compare kinds --clusters 2 --output "
+               "marks.csv");
+    EXPECT_TRUE(read("marks.csv").contains("1,\"rain\",\"the word\",1,0,0.5\r\n"))
+        << read("marks.csv").constData();
 
     expectTold("distances --output all.csv", 1, {"The item has 2 localities", file("Ling/short.dbs")});
-    expectTold("distances --output all.csv --keep-going", 1, {"short.dbs is left out: "});
+    expectTold("distances --output all.csv --keep-going", 1,
+               {"short.dbs is left out: ", file("Ling/short.dbs")});
     expectTold("cluster-map --distances d.csv --clusters 4 --output x.svg", 1,
                {"4 groups cannot be made of 3 localities."});
     expectTold("reference-map --distances d.csv --locality Nowhere --output x.svg", 1,
