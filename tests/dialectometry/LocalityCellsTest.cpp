@@ -170,6 +170,8 @@ TEST(LocalityCells, LieWithinTheCoastThatHoldsThem)
     open.line({{100, 200}, {200, 100}, {300, 200}});
     EXPECT_LT(areaOf(open.cells().area), Diamond) << "the hull of the localities and a margin";
     EXPECT_TRUE(isIn(open.cells().area, {180, 190}));
+    const SmallMap scattered = SmallMap().at({{0, 0}, {10, 0}, {500, 0}, {510, 0}, {250, 400}});
+    EXPECT_TRUE(isIn(scattered.cells().area, {250, 100})) << "far from all of them";
 }
 
 TEST(LocalityCells, AreBoundedHalfwayToTheirNeighbours)

@@ -158,6 +158,11 @@ TEST(GroupMarks, FormsAndItemsOfAGroupAreInOrder)
     EXPECT_DOUBLE_EQ(items[1].within, 1);
     EXPECT_DOUBLE_EQ(items[1].between, 0.5);
 
+    // The better item comes first, wherever it stands in the survey.
+    const SurveyComparison turned(surveyOf({"x | y | x | x", "a | a | b | b"}), {});
+    EXPECT_EQ(itemsOfGroups(turned, {1, 1, 2, 2}, goOnAlways)->front().front().item, 1);
+    EXPECT_FALSE(itemsOfGroups(turned, {1, 1, 2, 2}, [](int done, int) { return done != 1; }));
+
     // All in one group, and a group of one.
     EXPECT_EQ(formsOfGroup(survey, {1, 1, 1, 1, 1}, 1).front().distinctiveness, 0);
     EXPECT_TRUE(itemsOfGroups(SurveyComparison(survey, {}), {1, 2, 2, 2, 2}, goOnAlways)->front().empty());

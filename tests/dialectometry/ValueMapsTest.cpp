@@ -140,11 +140,14 @@ TEST(ClusterMap, ShowsGroupsTheirSizesAndFirmBorders)
         << "cells of a group are one";
 
     MapOfCells noisy(gridOfPlaces());
-    const std::vector<BorderShare> shares = {{{1, 2}, 1}, {{6, 5}, 0.3}, {{9, 10}, 0}};
+    const std::vector<BorderShare> shares = {{{1, 2}, 1}, {{6, 5}, 0.3}, {{9, 10}, 0}, {{8, 9}, 0.02}};
     drawClusterMap(noisy.parts(), QStringLiteral("Groups"), groups, shares, {AreaLook::Hatched, true},
                    noisy.surfaces());
     EXPECT_EQ(linesOfWidth(noisy.surface.drawing(), 4), 2) << "the border and its sample";
     EXPECT_EQ(linesOfWidth(noisy.surface.drawing(), 2), 2);
+    EXPECT_EQ(std::ranges::count(noisy.surface.drawing().pens, qRgb(190, 190, 190), &LinePen::color), 1)
+        << "that of two in a hundred runs";
+    EXPECT_TRUE(textsOf(noisy.surface.drawing()).contains(QStringLiteral("border in 1 - 25 % of the runs")));
     EXPECT_EQ(operationsOf<EllipseOperation>(noisy.surface.drawing()).size(), 11U + 1);
 }
 

@@ -53,6 +53,38 @@ TEST(PlotOptions, AnImportIsRead)
     EXPECT_EQ(options.source.columns["c"], ColumnRole::Left);
 }
 
+TEST(PlotOptions, MapsOfTheSurveyAreRead)
+{
+    const auto survey = [](const QByteArray& line) {
+        return readPlotOptions(words(line + " --installation i --map m")).survey;
+    };
+    const SurveyOptions groups =
+        survey("cluster-map --output o.svg --method average --clusters 9 --noise 0.5 "
+               "--seed 7 --hatched --group-symbols --dendrogram");
+    const DistanceMapSettings wanted = {DistanceMapKind::Clusters, 0,    ClassRule::AroundMean,
+                                        LinkageMethod::Average,    9,    {0.5, 100, 7},
+                                        AreaLook::Hatched,         true, true};
+    EXPECT_EQ(groups.map, wanted);
+    const SurveyOptions plain = survey("cluster-map --output o.svg");
+    EXPECT_EQ(plain.map, DistanceMapSettings());
+    EXPECT_EQ(plain.answers, AnswerRule());
+    EXPECT_EQ(survey("reference-map --output o.svg --locality 1 --classes equal-widths").map.rule,
+              ClassRule::EqualWidths);
+
+    const SurveyOptions lines = survey("isogloss-map --output o.svg --numbers --whole-word-forms");
+    EXPECT_EQ(lines.answers, (AnswerRule{AnswersBy::Kinds, true})) << "the kinds that symbols tell apart";
+    EXPECT_TRUE(lines.numbers && !lines.smooth);
+    EXPECT_TRUE(survey("isogloss-map --output o.svg --smooth").smooth);
+    EXPECT_TRUE(survey("area-map --output o.svg --data a.dbs --symbols a.han --with-symbols").withSymbols);
+
+    const SurveyOptions marks =
+        survey("group-marks --output o.csv --distances d.csv --items a.dbs --marks items "
+               "--measure levenshtein --vowels-apart");
+    EXPECT_TRUE(marks.itemsOfGroups) << "and items are looked for whatever made the groups";
+    EXPECT_EQ(marks.measure, (DistanceSettings{DistanceMeasure::Levenshtein, true}));
+    EXPECT_FALSE(survey("group-marks --output o.csv --marks forms").itemsOfGroups);
+}
+
 TEST(PlotOptions, WhatIsNotUnderstoodIsSaid)
 {
     // Endings: a file of another ending would be read, and one of the right ending written over.
@@ -89,6 +121,7 @@ TEST(PlotOptions, WhatIsNotUnderstoodIsSaid)
         {"distances", "--output d.csv --vowels-apart", "--vowels-apart goes with --measure levenshtein"},
         {"distances", "--output d.csv --measure levenshtein --compare kinds", "compares word forms"},
         {"cluster-map", "--output o.svg --distances d.csv --items a.dbs", "--items goes with items, not"},
+        {"cluster-map", "--output o.svg --distances d.csv --keep-going", "--keep-going goes with items, not"},
         {"cluster-map", "--output o.svg --items a.han", "--items must end in .dbs"},
         {"cluster-map", "--output o.svg --method nearest", "--method is one of single, complete"},
         {"cluster-map", "--output o.svg --clusters 0", "--clusters is a whole number from 1 to 1000"},
