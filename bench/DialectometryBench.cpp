@@ -53,15 +53,6 @@ void distancesOfAll(benchmark::State& state)
     }
 }
 
-/// What a reference map asks for each time that a locality is clicked.
-void distancesOfOne(benchmark::State& state)
-{
-    const SurveyComparison comparison(countrySurvey(), settingsOf(state));
-    for ([[maybe_unused]] auto step : state) {
-        benchmark::DoNotOptimize(comparison.row(100));
-    }
-}
-
 void alphaOfItems(benchmark::State& state)
 {
     const SurveyComparison comparison(countrySurvey(), settingsOf(state));
@@ -97,7 +88,6 @@ void scalingOfRandom(benchmark::State& state)
 }
 
 BENCHMARK(distancesOfAll)->DenseRange(0, 2)->Unit(benchmark::kMillisecond);
-BENCHMARK(distancesOfOne)->DenseRange(0, 2)->Unit(benchmark::kMillisecond);
 BENCHMARK(alphaOfItems)->Arg(2)->Unit(benchmark::kMillisecond);
 BENCHMARK(linkageOfRandom)
     ->ArgsProduct({benchmark::CreateDenseRange(0, 4, 1), {347, 1000}})

@@ -121,8 +121,7 @@ void writeMatrix(const Survey& survey, const QString& measure, const QString& pa
            {"correlation", valueOf(lengthCorrelation(matrix, lengths.lengths))},
            {"tables", bestTime([&] { std::ranges::for_each(items, &ItemComparison::table); })},
            {"matrix", bestTime([&] { distances(survey.answers, settings, goOn); })},
-           {"alphaTime", bestTime([&] { cronbachAlpha(comparison, goOn); })},
-           {"row", bestTime([&] { comparison.row(survey.answers.localities / 2); })}});
+           {"alphaTime", bestTime([&] { cronbachAlpha(comparison, goOn); })}});
 }
 
 /// Each letter as one character, so that programs that know no marks align the same.
@@ -193,7 +192,7 @@ void analyse(const QString& path)
         const Linkage tree = linkage(matrix, named.method);
         trees[QLatin1String(named.name)] =
             QJsonObject{{"rows", rowsOf(tree)},
-                        {"leftOut", static_cast<int>(leftOut(tree, count).size())},
+                        {"leftOut", count - static_cast<int>(tree.localities.size())},
                         {"time", bestTime([&] { linkage(matrix, named.method); })}};
     }
     const Scaling scaling = classicalScaling(matrix);

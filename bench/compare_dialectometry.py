@@ -202,7 +202,7 @@ def main():
                 times = run(program, "distances", *sys.argv[2:4], measure, path)
                 print(f"{sys.argv[3]}, {measure}: alpha {times['alpha']:.4f} ({times['alphaTime']:.0f} ms), incoherence "
                       f"{times['incoherence']:.4f}, correlation {times['correlation']:.4f}; matrix "
-                      f"{times['matrix']:.1f} ms, one locality {times['row']:.2f} ms")
+                      f"{times['matrix']:.1f} ms")
                 square = read_matrix(path)
                 if measure == "levenshtein":
                     compare_distances(forms, square)

@@ -29,8 +29,7 @@ public:
 private:
     static constexpr double Fineness = 1e-7;
 
-    /// Distances of 2^31 squares from the origin and more would meet in one key: a map so far away from it
-    /// has no such fine coordinates.
+    /// Of the number of a square its last 32 bits, which tell the squares of one map apart: it is 10^7 wide.
     std::uint64_t key(QPointF point) const
     {
         const auto half = [this](double value) {

@@ -1,8 +1,8 @@
 #include "dialectometry/CompleteDistances.h"
+#include "dialectometry/LeadingEigen.h"
 #include "dialectometry/Moments.h"
 #include "dialectometry/Scaling.h"
 
-#include <Eigen/Eigenvalues>
 #include <algorithm>
 #include <cmath>
 #include <numeric>
@@ -46,13 +46,13 @@ void fixSign(Eigen::Ref<Eigen::VectorXd> dimension)
 /// The places on the dimensions of the greatest eigenvalues, one row a locality.
 Eigen::MatrixXd placesOf(const Eigen::MatrixXd& products)
 {
-    const Eigen::SelfAdjointEigenSolver<Eigen::MatrixXd> solver(products);
-    const double least = 1e-12 * solver.eigenvalues().cwiseAbs().maxCoeff(); // below it all is rounding
+    const Eigen::Index count = std::min<Eigen::Index>(Scaling::Dimensions, products.rows());
+    const LeadingEigen eigen = leadingEigen(products, count);
+    const double least = 1e-12 * eigen.largest; // below it all is rounding
     Eigen::MatrixXd places = Eigen::MatrixXd::Zero(products.rows(), Scaling::Dimensions);
-    for (Eigen::Index k = 0; k < std::min<Eigen::Index>(Scaling::Dimensions, products.rows()); ++k) {
-        const Eigen::Index column = products.cols() - 1 - k; // eigenvalues are in rising order
-        if (const double value = solver.eigenvalues()[column]; value > least) {
-            places.col(k) = solver.eigenvectors().col(column) * std::sqrt(value);
+    for (Eigen::Index k = 0; k < count; ++k) {
+        if (eigen.values[k] > least) {
+            places.col(k) = eigen.vectors.col(k) * std::sqrt(eigen.values[k]);
             fixSign(places.col(k));
         }
     }

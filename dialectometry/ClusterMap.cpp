@@ -40,9 +40,7 @@ AreaLegend legendOf(const QString& title, std::span<const int> groups, const Fil
             return;
         }
         AreaLegendRow entry;
-        if (style.areas) {
-            entry.fills = {cells.fills[static_cast<std::size_t>(group)]};
-        }
+        entry.fills = {cells.fills[static_cast<std::size_t>(group)]};
         entry.groupSymbol = style.symbols ? group : 0;
         entry.text = withCount(text, count);
         legend.rows.push_back(entry);
@@ -139,7 +137,7 @@ void drawClusterMap(const AreaMapParts& parts, const QString& title, std::span<c
                     std::span<const BorderShare> shares, const ClusterMapStyle& style, MapSurfaces surfaces)
 {
     const FilledCells cells = filledCells(groups, style.look);
-    drawFilledMap(parts, style.areas ? cells : FilledCells{}, surfaces);
+    drawFilledMap(parts, cells, surfaces);
     drawBorders(parts, cells, shares, surfaces.DrawTarget);
     if (style.symbols) {
         drawSymbols(parts, groups, style.look, surfaces.DrawTarget);

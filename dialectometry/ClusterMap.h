@@ -15,8 +15,6 @@ struct BorderShare
 struct ClusterMapStyle
 {
     AreaLook look = AreaLook::Colored;
-    /// Whether cells are filled.
-    bool areas = true;
     /// Whether each locality has the symbol of its group.
     bool symbols = false;
 };

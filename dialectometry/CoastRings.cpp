@@ -1,5 +1,6 @@
 #include "dialectometry/CoastRings.h"
 
+#include <QLineF>
 #include <QPolygonF>
 #include <QRectF>
 
@@ -34,11 +35,6 @@ std::vector<MapLine> linesOf(const MapLines& map)
         }
     }
     return lines;
-}
-
-double distance(QPointF a, QPointF b)
-{
-    return std::hypot(a.x() - b.x(), a.y() - b.y());
 }
 
 QRectF boxAround(const Ring& points)
@@ -94,7 +90,7 @@ private:
     bool isClosed(const Ring& points) const
     {
         constexpr std::size_t FewestPoints = 4; // a triangle, its first point repeated
-        return points.size() >= FewestPoints && distance(points.front(), points.back()) <= m_tolerance;
+        return points.size() >= FewestPoints && QLineF(points.front(), points.back()).length() <= m_tolerance;
     }
 
     /// Adds pieces at both ends until the line closes or there is no more.
@@ -117,10 +113,10 @@ private:
             if (!areAlike(m_map, line, *piece) || isClosed(piece->points)) {
                 continue;
             }
-            if (distance(piece->points.back(), end) <= m_tolerance) {
+            if (QLineF(piece->points.back(), end).length() <= m_tolerance) {
                 std::reverse(piece->points.begin(), piece->points.end());
             }
-            if (distance(piece->points.front(), end) <= m_tolerance) {
+            if (QLineF(piece->points.front(), end).length() <= m_tolerance) {
                 line.points.insert(line.points.end(), piece->points.begin() + 1, piece->points.end());
                 m_lines.erase(piece);
                 return true;

@@ -22,11 +22,13 @@ struct Node
     int group = 0;
 };
 
-/// Puts the localities in order: those of the first part of a joining above those of the second.
-void appendLeaves(const Linkage& tree, std::size_t root, std::vector<std::size_t>& leaves)
+/// The leaves of the tree, from 0, in the order in which they are drawn: those of the first part of a joining
+/// above those of the second.
+std::vector<std::size_t> drawnLeaves(const Linkage& tree)
 {
     const std::size_t count = tree.localities.size();
-    std::vector<std::size_t> open = {root};
+    std::vector<std::size_t> leaves;
+    std::vector<std::size_t> open = {count + tree.merges.size() - 1};
     while (!open.empty()) {
         const std::size_t node = open.back();
         open.pop_back();
@@ -37,22 +39,6 @@ void appendLeaves(const Linkage& tree, std::size_t root, std::vector<std::size_t
         const Merge& merge = tree.merges[node - count];
         open.push_back(static_cast<std::size_t>(merge.second));
         open.push_back(static_cast<std::size_t>(merge.first));
-    }
-}
-
-/// The leaves of the tree, from 0, in the order in which they are drawn.
-std::vector<std::size_t> drawnLeaves(const Linkage& tree)
-{
-    std::vector<bool> joined(tree.localities.size() + tree.merges.size());
-    for (const Merge& merge : tree.merges) {
-        joined[static_cast<std::size_t>(merge.first)] = true;
-        joined[static_cast<std::size_t>(merge.second)] = true;
-    }
-    std::vector<std::size_t> leaves;
-    for (std::size_t node = 0; node < joined.size(); ++node) {
-        if (!joined[node]) {
-            appendLeaves(tree, node, leaves);
-        }
     }
     return leaves;
 }
@@ -234,15 +220,6 @@ private:
 };
 
 } // namespace
-
-std::vector<int> leafOrder(const Linkage& tree)
-{
-    std::vector<int> order;
-    for (const std::size_t leaf : drawnLeaves(tree)) {
-        order.push_back(tree.localities[leaf]);
-    }
-    return order;
-}
 
 void drawDendrogram(const DendrogramParts& parts, const QString& title, const QRectF& area, AreaLook look,
                     DrawSurface& target)

@@ -23,6 +23,3 @@ struct DendrogramParts
 /// number of localities.
 void drawDendrogram(const DendrogramParts& parts, const QString& title, const QRectF& area, AreaLook look,
                     DrawSurface& target);
-
-/// The localities (from 0) in the order of the tree, from top to bottom.
-std::vector<int> leafOrder(const Linkage& tree);

@@ -3,7 +3,6 @@
 #include "platform/SequentialFile.h"
 
 #include <QHash>
-#include <QLocale>
 #include <QStringList>
 
 #include <algorithm>
@@ -116,7 +115,7 @@ private:
             return std::numeric_limits<double>::quiet_NaN();
         }
         bool isNumber = false;
-        const double distance = QLocale::c().toDouble(text, &isNumber);
+        const double distance = text.toDouble(&isNumber);
         if (!isNumber || !std::isfinite(distance)) {
             throw RunTimeError(ErrorNumber::TypeMismatch,
                                QStringLiteral("\"%1\" is not a number.").arg(text));

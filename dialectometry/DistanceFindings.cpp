@@ -69,6 +69,9 @@ Regression regressionOf(const DistanceMatrix& lengths, const DistanceMatrix& dis
             y.push_back(distances.pairs()[i]);
         }
     }
+    require(x.size() > 1,
+            QStringLiteral("Fewer than two pairs of localities have a distance, so there is no line "
+                           "through them."));
     const Moments across = momentsOf(x);
     const Moments up = momentsOf(y);
     const double correlation = correlationOf(x, y);

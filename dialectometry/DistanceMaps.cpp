@@ -51,7 +51,7 @@ public:
     void clusters() const
     {
         drawClusterMap(m_parts, twoLines(groupsTitle()), m_findings.groups, m_findings.shares,
-                       {m_settings.look, true, m_settings.symbols}, m_surfaces);
+                       {m_settings.look, m_settings.symbols}, m_surfaces);
         if (m_settings.withDendrogram) {
             tree(page(m_surfaces.area.Width), nameOf(m_settings.method));
         }

@@ -57,8 +57,8 @@ struct DistanceFindings
 };
 
 /// Finds out what the map shows; nothing where `goOn` returned false. Raises invalid procedure call for fewer
-/// than two localities with distances, more groups than localities in the tree, and a reference that is no
-/// locality.
+/// than two localities with distances, more groups than localities in the tree, a reference that is no
+/// locality, and distances through which no line goes.
 std::optional<DistanceFindings> findingsFor(const DistanceMapSettings& settings,
                                             const DistanceMatrix& distances, const BaseMap& map,
                                             const LocalityCells& cells, const DistanceProgress& goOn);

@@ -3,7 +3,6 @@
 #include "platform/Parallel.h"
 
 #include <algorithm>
-#include <limits>
 
 namespace {
 
@@ -62,21 +61,6 @@ SurveyComparison::SurveyComparison(const SurveyAnswers& survey, const DistanceSe
         const auto item = static_cast<std::size_t>(k);
         m_items[item] = ItemComparison(survey.items[item], settings);
     });
-}
-
-std::vector<double> SurveyComparison::row(int locality) const
-{
-    std::vector<Difference> sums(static_cast<std::size_t>(m_localities));
-    for (const ItemComparison& item : m_items) {
-        const std::vector<Difference> differences = item.row(item.answerOf(locality));
-        for (int i = 0; i < m_localities; ++i) {
-            sums[static_cast<std::size_t>(i)] += differences[static_cast<std::size_t>(item.answerOf(i))];
-        }
-    }
-    std::vector<double> row(sums.size());
-    std::ranges::transform(sums, row.begin(), &Difference::distance);
-    row[static_cast<std::size_t>(locality)] = 0;
-    return row;
 }
 
 DistanceMatrix SurveyComparison::ofItem(int k) const

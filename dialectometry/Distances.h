@@ -21,9 +21,6 @@ public:
     int localities() const { return m_localities; }
     int items() const { return static_cast<int>(m_items.size()); }
 
-    /// The distances of a locality (from 0) to all; not a number where there is none. 0 to itself.
-    std::vector<double> row(int locality) const;
-
     /// The distances of item k (from 0) alone.
     DistanceMatrix ofItem(int k) const;
 

@@ -43,7 +43,7 @@ Sound soundOf(char32_t character)
     if (isOneOf(u"jwɥɰʍ", letter)) {
         return Sound::Semivowel;
     }
-    if (isOneOf(u"mɱnɳɲŋɴlɫɭʎʟrɾɹɻɽʀʋ", letter)) {
+    if (isOneOf(u"mɱnɳɲŋɴlɫɭʎʟɺrɾɹɻɽʀʙⱱʋ", letter)) {
         return Sound::Sonorant;
     }
     return isLetterOfSounds(letter) ? Sound::Consonant : Sound::Other;

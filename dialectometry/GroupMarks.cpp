@@ -3,7 +3,8 @@
 #include "dialectometry/Moments.h"
 
 #include <algorithm>
-#include <limits>
+#include <cmath>
+#include <functional>
 
 namespace {
 
@@ -50,23 +51,48 @@ void addFormsOfItem(const SurveyAnswers& survey, int item, const std::vector<int
     }
 }
 
-/// The mean of the distances from the group to itself, or to the others; not a number where there is none.
-double meanDistance(const DistanceMatrix& distances, const std::vector<int>& groups, int group, bool isWithin)
+/// The mean of some distances; not a number where there is none.
+struct MeanDistance
 {
     double sum = 0;
     double count = 0;
-    for (int a = 0; a < distances.size(); ++a) {
-        for (int b = a + 1; b < distances.size(); ++b) {
-            const int first = groups[static_cast<std::size_t>(a)];
-            const int second = groups[static_cast<std::size_t>(b)];
-            const bool touches = (first == group || second == group) && first != 0 && second != 0;
-            if (touches && (first == second) == isWithin && distances.has(a, b)) {
-                sum += distances(a, b);
-                ++count;
+
+    void add(double distance)
+    {
+        sum += distance;
+        ++count;
+    }
+    double value() const { return sum / count; }
+};
+
+/// The distances from a group to itself, and to all others.
+struct GroupDistances
+{
+    MeanDistance within;
+    MeanDistance between;
+};
+
+/// Those of group 0 (which does not count), group 1, and so on up to `last`.
+std::vector<GroupDistances> groupDistances(const DistanceMatrix& distances, const std::vector<int>& groups,
+                                           int last)
+{
+    std::vector<GroupDistances> found(static_cast<std::size_t>(last) + 1);
+    auto pair = distances.pairs().begin();
+    for (std::size_t a = 0; a < groups.size(); ++a) {
+        for (std::size_t b = a + 1; b < groups.size(); ++b, ++pair) {
+            if (std::isnan(*pair) || groups[a] == 0 || groups[b] == 0) {
+                continue;
+            }
+            GroupDistances& first = found[static_cast<std::size_t>(groups[a])];
+            if (groups[a] == groups[b]) {
+                first.within.add(*pair);
+            } else {
+                first.between.add(*pair);
+                found[static_cast<std::size_t>(groups[b])].between.add(*pair);
             }
         }
     }
-    return count > 0 ? sum / count : std::numeric_limits<double>::quiet_NaN();
+    return found;
 }
 
 /// The distances between localities that count.
@@ -96,23 +122,28 @@ std::vector<FormOfGroup> formsOfGroup(const SurveyAnswers& survey, const std::ve
     return found;
 }
 
-std::optional<std::vector<ItemOfGroup>> itemsOfGroup(const SurveyComparison& survey,
-                                                     const std::vector<int>& groups, int group,
-                                                     const DistanceProgress& goOn)
+std::optional<std::vector<std::vector<ItemOfGroup>>>
+itemsOfGroups(const SurveyComparison& survey, const std::vector<int>& groups, const DistanceProgress& goOn)
 {
-    std::vector<ItemOfGroup> found;
+    const int last = groups.empty() ? 0 : std::ranges::max(groups);
+    std::vector<std::vector<ItemOfGroup>> found(static_cast<std::size_t>(last));
     for (int item = 0; item < survey.items(); ++item) {
         if (!goOn(item, survey.items())) {
             return std::nullopt;
         }
         const DistanceMatrix distances = survey.ofItem(item);
-        const double within = meanDistance(distances, groups, group, true);
-        const double between = meanDistance(distances, groups, group, false);
         const double deviation = momentsOf(countedDistances(distances, groups)).deviation();
-        if (const double score = (between - within) / deviation; std::isfinite(score)) {
-            found.push_back({item, within, between, score});
+        const std::vector<GroupDistances> means = groupDistances(distances, groups, last);
+        for (std::size_t group = 1; group < means.size(); ++group) {
+            const double within = means[group].within.value();
+            const double between = means[group].between.value();
+            if (const double score = (between - within) / deviation; std::isfinite(score)) {
+                found[group - 1].push_back({item, within, between, score});
+            }
         }
     }
-    std::ranges::stable_sort(found, std::greater<>(), &ItemOfGroup::score);
+    for (std::vector<ItemOfGroup>& items : found) {
+        std::ranges::stable_sort(items, std::greater<>(), &ItemOfGroup::score);
+    }
     return goOn(survey.items(), survey.items()) ? std::optional(std::move(found)) : std::nullopt;
 }

@@ -36,9 +36,8 @@ struct ItemOfGroup
     double score = 0;
 };
 
-/// The items that a group is known by, the best first: Prokić, Çöltekin & Nerbonne (2012), Detecting
-/// shibboleths. Items are left out that have no distance within the group or to the others, or none that
-/// varies. Nothing where `goOn` returned false.
-std::optional<std::vector<ItemOfGroup>> itemsOfGroup(const SurveyComparison& survey,
-                                                     const std::vector<int>& groups, int group,
-                                                     const DistanceProgress& goOn);
+/// The items that each group is known by, the best first, of group 1, group 2, and so on: Prokić, Çöltekin &
+/// Nerbonne (2012), Detecting shibboleths. Items are left out that have no distance within the group or to
+/// the others, or none that varies. Nothing where `goOn` returned false.
+std::optional<std::vector<std::vector<ItemOfGroup>>>
+itemsOfGroups(const SurveyComparison& survey, const std::vector<int>& groups, const DistanceProgress& goOn);

@@ -145,7 +145,6 @@ BorderChanges borderChanges(const LocalityCells& cells, const LocalityKinds& kin
     BorderChanges changes;
     for (const CellBorder& border : cells.borders) {
         changes.changes.push_back(0);
-        changes.compared.push_back(0);
         if (border.left == CellBorder::Outside || border.right == CellBorder::Outside) {
             continue;
         }
@@ -153,7 +152,6 @@ BorderChanges borderChanges(const LocalityCells& cells, const LocalityKinds& kin
         const Kinds& right = ofCell[static_cast<std::size_t>(border.right)];
         if (!left.empty() && !right.empty()) {
             changes.changes.back() = changeBetween(left, right);
-            changes.compared.back() = 1;
         }
     }
     return changes;
@@ -162,10 +160,8 @@ BorderChanges borderChanges(const LocalityCells& cells, const LocalityKinds& kin
 void addChanges(BorderChanges& sum, const BorderChanges& item)
 {
     sum.changes.resize(item.changes.size());
-    sum.compared.resize(item.compared.size());
     for (std::size_t i = 0; i < item.changes.size(); ++i) {
         sum.changes[i] += item.changes[i];
-        sum.compared[i] += item.compared[i];
     }
 }
 

@@ -12,8 +12,6 @@ struct BorderChanges
     /// The sum over the items that both sides answered: 1 where they have no kind in common, a half where
     /// they share some but not all.
     std::vector<double> changes;
-    /// How many items both sides answered.
-    std::vector<int> compared;
 };
 
 /// The changes of one item.

@@ -1,6 +1,7 @@
 #include "dialectometry/ItemComparison.h"
 
 #include <algorithm>
+#include <iterator>
 #include <map>
 
 namespace {
@@ -65,21 +66,9 @@ void ItemComparison::weighForms()
     std::ranges::transform(having, m_weights.begin(), [&](int n) { return 1 - (n - 1) / answered; });
 }
 
-std::vector<Difference> ItemComparison::row(int answer) const
-{
-    const Forms& forms = m_answers[static_cast<std::size_t>(answer)];
-    const FormDistances distances = distancesOf(forms);
-    std::vector<Difference> row;
-    row.reserve(m_answers.size());
-    for (const Forms& other : m_answers) {
-        row.push_back(compare(forms, other, distances));
-    }
-    return row;
-}
-
 std::vector<Difference> ItemComparison::table() const
 {
-    const FormDistances distances = allDistances();
+    const FormDistances distances = formDistances();
     const std::size_t size = m_answers.size();
     std::vector<Difference> table(size * size);
     for (std::size_t a = 1; a < size; ++a) {
@@ -91,20 +80,7 @@ std::vector<Difference> ItemComparison::table() const
     return table;
 }
 
-ItemComparison::FormDistances ItemComparison::distancesOf(const Forms& forms) const
-{
-    Aligner aligner;
-    FormDistances distances(m_spelled.size());
-    for (const int form : m_spelled.empty() ? Forms() : forms) {
-        for (const SpelledForm& other : m_spelled) {
-            const auto number = static_cast<std::size_t>(form);
-            distances[number].push_back(aligner.distance(m_spelled[number], other));
-        }
-    }
-    return distances;
-}
-
-ItemComparison::FormDistances ItemComparison::allDistances() const
+ItemComparison::FormDistances ItemComparison::formDistances() const
 {
     Aligner aligner;
     FormDistances distances(m_spelled.size(), std::vector<double>(m_spelled.size()));

@@ -62,20 +62,17 @@ public:
     int answers() const { return static_cast<int>(m_answers.size()); }
     int answerOf(int locality) const { return m_answerOf[static_cast<std::size_t>(locality)]; }
 
-    /// The differences of an answer to each.
-    std::vector<Difference> row(int answer) const;
     /// The differences of all answers to all, row by row. Each distinct pair of word forms is compared once.
     std::vector<Difference> table() const;
 
 private:
     using Forms = std::vector<int>;
-    /// For each word form that was asked for, its distances to all.
+    /// The distances of each word form to all.
     using FormDistances = std::vector<std::vector<double>>;
 
     void collectAnswers(const ComparedItem& item);
     void weighForms();
-    FormDistances distancesOf(const Forms& forms) const;
-    FormDistances allDistances() const;
+    FormDistances formDistances() const;
     Difference compare(const Forms& a, const Forms& b, const FormDistances& distances) const;
     Difference identity(const Forms& a, const Forms& b) const;
 

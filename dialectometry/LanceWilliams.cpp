@@ -16,8 +16,9 @@ struct JoinedPair
     double secondSize;
 };
 
-/// The distance of a cluster of `size`, at `first` and `second` from the two, to the joined cluster.
-double joinedDistance(LinkageMethod method, const JoinedPair& pair, double first, double second, double size)
+/// By the formula: the distance of a cluster of `size`, at `first` and `second` from the two, to the joined
+/// one.
+double formulaDistance(LinkageMethod method, const JoinedPair& pair, double first, double second, double size)
 {
     const double both = pair.firstSize + pair.secondSize;
     switch (method) {
@@ -35,6 +36,13 @@ double joinedDistance(LinkageMethod method, const JoinedPair& pair, double first
     return std::sqrt((size + pair.firstSize) * share * first * first +
                      (size + pair.secondSize) * share * second * second -
                      size * share * pair.distance * pair.distance);
+}
+
+/// No joining brings a cluster nearer than the nearer part was, and rounding must not either: a chain of
+/// nearest neighbours would come back to itself.
+double joinedDistance(LinkageMethod method, const JoinedPair& pair, double first, double second, double size)
+{
+    return std::max(formulaDistance(method, pair, first, second, size), std::min(first, second));
 }
 
 /// Clusters by chains of nearest neighbours: each chain goes from a cluster to its nearest until two are each
@@ -201,13 +209,4 @@ Linkage linkage(const DistanceMatrix& distances, LinkageMethod method)
         numberClusters(tree.merges);
     }
     return tree;
-}
-
-std::vector<int> leftOut(const Linkage& tree, int localities)
-{
-    std::vector<int> all(static_cast<std::size_t>(localities));
-    std::iota(all.begin(), all.end(), 0);
-    std::vector<int> out;
-    std::ranges::set_difference(all, tree.localities, std::back_inserter(out));
-    return out;
 }

@@ -1,7 +1,6 @@
 #include "dialectometry/Levenshtein.h"
 
 #include <algorithm>
-#include <numeric>
 
 namespace {
 

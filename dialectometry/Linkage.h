@@ -33,9 +33,6 @@ struct Linkage
 /// `second`. Equal heights are joined in a fixed order, which begins at the first locality.
 Linkage linkage(const DistanceMatrix& distances, LinkageMethod method);
 
-/// The localities (from 0) that the tree of a map of `localities` leaves out.
-std::vector<int> leftOut(const Linkage& tree, int localities);
-
 /// The number (from 1) of each locality's group when the tree is cut into `groups`; 0 of a locality that is
 /// not in the tree. The numbers stay when there is one group more: of the group that parts the larger half
 /// (of two alike the one with the first locality) keeps its number, the other gets the new one. With more

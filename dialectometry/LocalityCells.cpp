@@ -4,6 +4,8 @@
 #include "dialectometry/CellGeometry.h"
 #include "dialectometry/CoastRings.h"
 
+#include <QLineF>
+
 #include <algorithm>
 #include <cmath>
 #include <limits>
@@ -16,7 +18,6 @@ namespace {
 struct Places
 {
     std::vector<QPointF> points;
-    std::vector<int> ofLocality;
     std::vector<std::vector<int>> localities;
 };
 
@@ -31,15 +32,9 @@ Places placesOf(const Localities& map)
             places.points.emplace_back(map.LocXY(i, 0), map.LocXY(i, 1));
             places.localities.emplace_back();
         }
-        places.ofLocality.push_back(place->second);
         places.localities[static_cast<std::size_t>(place->second)].push_back(i - 1);
     }
     return places;
-}
-
-double distance(QPointF a, QPointF b)
-{
-    return std::hypot(a.x() - b.x(), a.y() - b.y());
 }
 
 /// The width of what the places and the lines cover.
@@ -47,11 +42,11 @@ double extentOf(const std::vector<QPointF>& points, const std::vector<Ring>& coa
 {
     double furthest = 0;
     for (const QPointF point : points) {
-        furthest = std::max(furthest, distance(points.front(), point));
+        furthest = std::max(furthest, QLineF(points.front(), point).length());
     }
     for (const Ring& coast : coasts) {
         for (const QPointF point : coast) {
-            furthest = std::max(furthest, distance(points.front(), point));
+            furthest = std::max(furthest, QLineF(points.front(), point).length());
         }
     }
     return furthest;
@@ -70,7 +65,7 @@ double commonWay(const std::vector<QPointF>& points, double extent)
     for (const QPointF& point : points) {
         double nearest = std::numeric_limits<double>::max();
         for (const QPointF& other : points) {
-            nearest = &other == &point ? nearest : std::min(nearest, distance(point, other));
+            nearest = &other == &point ? nearest : std::min(nearest, QLineF(point, other).length());
         }
         ways.push_back(nearest);
     }
@@ -104,7 +99,6 @@ LocalityCells localityCells(const Localities& localities, const MapLines& lines)
     const CellArea area = areaOf(places.points, joinedLines(lines));
     const CutCells cut = cutCells(places.points, area);
     result.spacing = area.margin;
-    result.cellOf = std::move(places.ofLocality);
     result.localities = std::move(places.localities);
     result.borders = bordersOf(cut.cells, extentOf(places.points, area.coasts));
     for (const CellPolygon& polygon : cut.area) {

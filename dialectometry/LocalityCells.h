@@ -29,8 +29,6 @@ using LocalityPair = std::pair<int, int>;
 /// Localities at one point have one cell in common.
 struct LocalityCells
 {
-    /// The number (from 0) of the cell of each locality (from 0).
-    std::vector<int> cellOf;
     /// The localities (from 0) of each cell.
     std::vector<std::vector<int>> localities;
     /// The lines that bound the cells. Cells have no outlines of their own: `joinedCells` makes them of

@@ -41,9 +41,10 @@ public:
         if (count == 0) {
             return std::nullopt;
         }
+        constexpr double Rounding = 1e-12;
         const double correlation = products / count;
         const double spread = 1 + (m_items - 1) * correlation;
-        return spread > 0 ? std::optional(m_items * correlation / spread) : std::nullopt;
+        return spread > Rounding ? std::optional(m_items * correlation / spread) : std::nullopt;
     }
 
 private:

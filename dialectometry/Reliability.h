@@ -8,7 +8,7 @@
 /// chance, and good from 0.7 on (Heeringa 2004, 6.4.1). It follows from the mean correlation of the distances
 /// by every two items. Where distances are lacking, each pair of localities counts for those pairs of items
 /// that have it; an item whose distances are all the same is no item. Linear in the items. Nothing with fewer
-/// than two items, and where `goOn` returned false.
+/// than two items, with items that contradict each other throughout, and where `goOn` returned false.
 std::optional<double> cronbachAlpha(const SurveyComparison& survey, const DistanceProgress& goOn);
 
 /// Local incoherence: how much farther away than the eight nearest localities the eight most alike ones lie,

@@ -4,6 +4,7 @@
 #include "platform/FileName.h"
 #include "platform/WholeFile.h"
 #include "plot/AtlasPdf.h"
+#include "plot/HostError.h"
 #include "plot/MapPlot.h"
 #include "symbols/SymbolFile.h"
 
@@ -146,8 +147,9 @@ bool takeSheets(RecordedItems& items, const QStringList& paths, const PlotOption
         } else if (!options.keepGoing) {
             throw *item.error;
         } else {
-            listener.warning(QStringLiteral("%1 is left out: %2")
-                                 .arg(fileNameOf(paths[static_cast<qsizetype>(i)]), item.error->message()));
+            listener.warning(
+                QStringLiteral("%1 is left out: %2")
+                    .arg(fileNameOf(paths[static_cast<qsizetype>(i)]), onThisMachine(*item.error).message()));
             areAll = false;
         }
     }

@@ -49,13 +49,13 @@ void writeFormsOfGroups(SequentialWriter& file, const SurveyAnswers& answers, co
 }
 
 void writeItemsOfGroups(SequentialWriter& file, const SurveyAnswers& answers,
-                        const SurveyComparison& comparison, const std::vector<int>& groups)
+                        const std::vector<std::vector<ItemOfGroup>>& marks)
 {
-    const auto goOn = [](int, int) { return true; };
     writeHeadings(file, {"group", "item", "within", "between", "score"});
-    for (int group = 1; group <= groupCount(groups); ++group) {
-        const auto marks = itemsOfGroup(comparison, groups, group, goOn);
-        for (const ItemOfGroup& mark : *marks) {
+    int group = 0;
+    for (const std::vector<ItemOfGroup>& ofGroup : marks) {
+        ++group;
+        for (const ItemOfGroup& mark : ofGroup) {
             file.write(group, itemOf(answers, mark.item).name, rounded(mark.within), rounded(mark.between),
                        rounded(mark.score));
         }

@@ -71,8 +71,8 @@ PlotOptions readPlotOptions(const QStringList& arguments)
 {
     constexpr double LargestHeight = 2000;
     constexpr double LargestResolution = 2400;
-    constexpr double MostJobs = 256;
-    constexpr double MostWordForms = decltype(CumulativeTable::WordformName)::last();
+    constexpr int MostJobs = 256;
+    constexpr int MostWordForms = decltype(CumulativeTable::WordformName)::last();
 
     QCommandLineParser parser;
     addOptions(parser);
@@ -119,13 +119,13 @@ PlotOptions readPlotOptions(const QStringList& arguments)
         options.dotsPerInch = readPositive(parser, QStringLiteral("dpi"), LargestResolution);
     }
     if (parser.isSet(QStringLiteral("jobs"))) {
-        options.jobs = static_cast<int>(readPositive(parser, QStringLiteral("jobs"), MostJobs));
+        options.jobs = readCount(parser, QStringLiteral("jobs"), MostJobs);
     }
     if (parser.isSet(QStringLiteral("graph"))) {
         readGraph(parser, options);
     }
     if (parser.isSet(QStringLiteral("word-form"))) {
-        options.wordForm = static_cast<int>(readPositive(parser, QStringLiteral("word-form"), MostWordForms));
+        options.wordForm = readCount(parser, QStringLiteral("word-form"), MostWordForms);
     }
     if (options.command == PlotOptions::Command::Import) {
         readImportOptions(parser, options);

@@ -14,6 +14,16 @@ qsizetype readChoice(const QCommandLineParser& parser, const QString& name)
     return choice;
 }
 
+int readCount(const QCommandLineParser& parser, const QString& name, int largest)
+{
+    bool isNumber = false;
+    const int value = parser.value(name).toInt(&isNumber);
+    if (!isNumber || value < 1 || value > largest) {
+        throw UsageError(QStringLiteral("--%1 is a whole number from 1 to %2").arg(name).arg(largest));
+    }
+    return value;
+}
+
 double readPositive(const QCommandLineParser& parser, const QString& name, double largest)
 {
     bool isNumber = false;

@@ -9,6 +9,7 @@
 #include "platform/FileName.h"
 #include "plot/DrawingFile.h"
 #include "plot/GroupMarksFile.h"
+#include "plot/HostError.h"
 #include "shell/MapParts.h"
 
 namespace {
@@ -69,7 +70,8 @@ private:
 
     void leaveOut(const QString& itemPath, const RunTimeError& error)
     {
-        m_listener.warning(QStringLiteral("%1 is left out: %2").arg(fileNameOf(itemPath), error.message()));
+        m_listener.warning(
+            QStringLiteral("%1 is left out: %2").arg(fileNameOf(itemPath), onThisMachine(error).message()));
         m_isWhole = false;
     }
 
@@ -129,6 +131,11 @@ private:
         saveDrawing(m_map.otherMap(draw), size, m_options.output, m_options.dotsPerInch);
     }
 
+    void saveTable(const std::function<void(SequentialWriter&)>& write) const
+    {
+        writeSequentialFile(m_varn.Drive, path(m_options.output), write);
+    }
+
     AreaMapParts areaParts(const LocalityCells& cells) const
     {
         return {blankMapParts(m_varn), textParts(m_varn), cells};
@@ -166,25 +173,27 @@ private:
     {
         const SurveyComparison comparison(readAnswers(), m_survey.measure);
         const NamedDistances compared = compare(comparison);
-        writeSequentialFile(m_varn.Drive, path(m_options.output), [&](SequentialWriter& file) {
-            writeDistances(file, m_varn, compared.distances);
-        });
-        report(comparison, compared);
+        const QStringList found = agreement(comparison, compared); // can be stopped: nothing is written yet
+        saveTable([&](SequentialWriter& file) { writeDistances(file, m_varn, compared.distances); });
+        for (const QString& line : found) {
+            m_listener.report(line);
+        }
     }
 
-    void report(const SurveyComparison& comparison, const NamedDistances& compared)
+    /// How far the items agree, and the distances with the map, in lines.
+    QStringList agreement(const SurveyComparison& comparison, const NamedDistances& compared)
     {
-        const auto tell = [this](const char* what, std::optional<double> value) {
-            m_listener.report(QStringLiteral("%1: %2").arg(
-                QLatin1String(what), value ? QString::number(*value, 'f', 3) : QStringLiteral("none")));
+        const auto told = [](const char* what, std::optional<double> value) {
+            return QStringLiteral("%1: %2").arg(QLatin1String(what), value ? QString::number(*value, 'f', 3)
+                                                                           : QStringLiteral("none"));
         };
         const Lengths ways = localityLengths(m_varn, m_varn, m_varn);
         const bool inKilometres = ways.unit == LengthUnit::Kilometres;
-        m_listener.report(QStringLiteral("%1 localities, %2").arg(m_varn.NLocality).arg(compared.name));
-        tell("Cronbach's alpha", cronbachAlpha(comparison, progress(QStringLiteral("alpha"))));
-        tell("Local incoherence", localIncoherence(compared.distances, ways.lengths));
-        tell(inKilometres ? "Correlation with kilometres" : "Correlation with the ways on the map",
-             lengthCorrelation(compared.distances, ways.lengths));
+        return {QStringLiteral("%1 localities, %2").arg(m_varn.NLocality).arg(compared.name),
+                told("Cronbach's alpha", cronbachAlpha(comparison, progress(QStringLiteral("alpha")))),
+                told("Local incoherence", localIncoherence(compared.distances, ways.lengths)),
+                told(inKilometres ? "Correlation with kilometres" : "Correlation with the ways on the map",
+                     lengthCorrelation(compared.distances, ways.lengths))};
     }
 
     /// The locality (from 0) that is asked for.
@@ -228,13 +237,12 @@ private:
         const DistanceFindings found =
             *findingsFor(m_survey.map, matrix, m_varn, {}, progress(QStringLiteral("clusters")));
         warnOfLeftOut(leftOutOfMap(m_survey.map, found, m_varn));
-        writeSequentialFile(m_varn.Drive, path(m_options.output), [&](SequentialWriter& file) {
-            if (m_survey.itemsOfGroups) {
-                writeItemsOfGroups(file, answers, comparison, found.groups);
-            } else {
-                writeFormsOfGroups(file, answers, found.groups);
-            }
-        });
+        if (m_survey.itemsOfGroups) {
+            const auto marks = *itemsOfGroups(comparison, found.groups, progress(QStringLiteral("items")));
+            saveTable([&](SequentialWriter& file) { writeItemsOfGroups(file, answers, marks); });
+        } else {
+            saveTable([&](SequentialWriter& file) { writeFormsOfGroups(file, answers, found.groups); });
+        }
     }
 
     void warnOfLeftOut(const QStringList& localities)

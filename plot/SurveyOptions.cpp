@@ -32,22 +32,21 @@ DistanceMapKind mapOf(Command command)
 
 void readClusters(const QCommandLineParser& parser, DistanceMapSettings& map)
 {
-    constexpr double MostGroups = decltype(Localities::LocXY)::last();
+    constexpr int MostGroups = decltype(Localities::LocXY)::last();
     constexpr double MostNoise = 10;
-    constexpr double LargestSeed = 1e9;
+    constexpr int LargestSeed = 1'000'000'000;
 
     if (parser.isSet(QStringLiteral("method"))) {
         map.method = static_cast<LinkageMethod>(readChoice(parser, QStringLiteral("method")));
     }
     if (parser.isSet(QStringLiteral("clusters"))) {
-        map.groups = static_cast<int>(readPositive(parser, QStringLiteral("clusters"), MostGroups));
+        map.groups = readCount(parser, QStringLiteral("clusters"), MostGroups);
     }
     if (parser.isSet(QStringLiteral("noise"))) {
         map.noise.noise = readPositive(parser, QStringLiteral("noise"), MostNoise);
     }
     if (parser.isSet(QStringLiteral("seed"))) {
-        map.noise.seed =
-            static_cast<std::uint64_t>(readPositive(parser, QStringLiteral("seed"), LargestSeed));
+        map.noise.seed = static_cast<std::uint64_t>(readCount(parser, QStringLiteral("seed"), LargestSeed));
     }
 }
 
@@ -100,7 +99,8 @@ void readItemMaps(const QCommandLineParser& parser, Command command, SurveyOptio
     }
 }
 
-/// A file of distances was made of answers; it is not made again.
+/// A file of distances was made of answers; it is not made again. What marks groups is looked for in items
+/// whichever distances the groups were made by.
 void checkOneSource(const QCommandLineParser& parser)
 {
     for (const char* name : {"items", "measure", "vowels-apart", "compare", "keep-going"}) {
@@ -122,7 +122,9 @@ void readSurveyOptions(const QCommandLineParser& parser, PlotOptions& options)
         survey.answers.by = static_cast<AnswersBy>(readChoice(parser, QStringLiteral("compare")));
     }
     readMeasure(parser, survey);
-    checkOneSource(parser);
+    if (options.command != Command::GroupMarks) {
+        checkOneSource(parser);
+    }
     survey.distances = parser.value(QStringLiteral("distances"));
     survey.locality = parser.value(QStringLiteral("locality"));
     survey.map.kind = mapOf(options.command);
@@ -134,5 +136,6 @@ void readSurveyOptions(const QCommandLineParser& parser, PlotOptions& options)
     }
     readClusters(parser, survey.map);
     readItemMaps(parser, options.command, survey);
-    survey.itemsOfGroups = parser.value(QStringLiteral("marks")) == QLatin1String("items");
+    survey.itemsOfGroups =
+        parser.isSet(QStringLiteral("marks")) && readChoice(parser, QStringLiteral("marks")) == 1;
 }

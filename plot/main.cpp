@@ -1,5 +1,4 @@
-#include "platform/DriveC.h"
-#include "platform/RunTimeError.h"
+#include "plot/HostError.h"
 #include "plot/PlotCommands.h"
 #include "plot/PlotHelp.h"
 #include "plot/PlotOptions.h"
@@ -56,14 +55,9 @@ public:
     }
 };
 
-/// Shows the error, its file named as on this machine.
 int failed(const RunTimeError& error)
 {
-    FilePlace place = error.place();
-    if (const auto hostPath = DriveC().knownHostPath(place.path)) {
-        place.path = *hostPath;
-    }
-    std::fprintf(stderr, "%s\n", error.at(place).what());
+    std::fprintf(stderr, "%s\n", onThisMachine(error).what());
     return Failed;
 }
 

@@ -88,6 +88,7 @@ TEST(DistanceFile, WhatDoesNotFitIsToldAtItsCell)
         {",A,B,C\nA,0,,2\nB,1,0,3\nC,2,3,0\n", ErrorNumber::TypeMismatch, 3, 2},      // nor where it is empty
         {",A,B,C\nA,0,-1,2\nB,-1,0,3\nC,2,3,0\n", ErrorNumber::TypeMismatch, 2, 3},   // negative
         {",A,B,C\nA,0,far,2\nB,far,0,3\nC,2,3,0\n", ErrorNumber::TypeMismatch, 2, 3}, // a word
+        {",A,B,C\nA,0,\"0,125\",2\nB,\"0,125\",0,3\nC,2,3,0\n", ErrorNumber::TypeMismatch, 2, 3}, // no 125
         {",A,B,C\nA,0,nan,2\nB,nan,0,3\nC,2,3,0\n", ErrorNumber::TypeMismatch, 2, 3},
         {",A,B,C\nA,0,1e31,2\nB,1e31,0,3\nC,2,3,0\n", ErrorNumber::Overflow, 2, 3},
         {",A,B,C\nA,0,inf,2\nB,inf,0,3\nC,2,3,0\n", ErrorNumber::TypeMismatch, 2, 3},

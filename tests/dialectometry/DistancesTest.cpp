@@ -1,4 +1,5 @@
 #include "tests/dialectometry/SmallSurvey.h"
+#include "tests/support/TestDrive.h"
 
 #include <cmath>
 #include <gtest/gtest.h>
@@ -60,19 +61,24 @@ TEST(Distances, OfTwoLocalitiesAreThoseByHand)
     }
 }
 
-TEST(Distances, ARowHoldsTheVeryDistancesOfTheMatrix)
+TEST(Distances, OfASurveyAreTheMeansOfThoseOfItsItems)
 {
     const SurveyAnswers survey =
         surveyOf({"hus/hys | hʊs | | hœys | hus", "mɛlk | mɔlək/mylk | mɛlk | | mɪlk",
                   " | kɪnt | kint/kɪnər | blaɣ | kint", "a | a | a | a | a"});
-    for (const auto measure : {DistanceMeasure::RelativeIdentity, DistanceMeasure::WeightedIdentity,
-                               DistanceMeasure::Levenshtein}) {
+    for (const auto measure : {DistanceMeasure::RelativeIdentity, DistanceMeasure::Levenshtein}) {
         const SurveyComparison comparison(survey, {measure, true});
         const DistanceMatrix all = *comparison.matrix(goOnAlways);
         for (int a = 0; a < 5; ++a) {
-            const std::vector<double> row = comparison.row(a);
-            for (int b = 0; b < 5; ++b) {
-                EXPECT_EQ(row[static_cast<std::size_t>(b)], all(a, b)) << a << ' ' << b;
+            for (int b = a + 1; b < 5; ++b) {
+                double sum = 0;
+                int items = 0;
+                for (int k = 0; k < comparison.items(); ++k) {
+                    const DistanceMatrix ofItem = comparison.ofItem(k);
+                    sum += ofItem.has(a, b) ? ofItem(a, b) : 0;
+                    items += ofItem.has(a, b) ? 1 : 0;
+                }
+                EXPECT_DOUBLE_EQ(all(a, b), sum / items) << a << ' ' << b;
             }
         }
         EXPECT_EQ(comparison.ofItem(3)(1, 2), 0);
@@ -93,4 +99,44 @@ TEST(Distances, StopWhenAskedTo)
     EXPECT_FALSE(matrix.has_value());
     EXPECT_LT(last, 100);
     EXPECT_EQ(distances(surveyOf({"a"}), {}, goOnAlways)->size(), 1);
+}
+
+TEST(SurveyAnswers, HaveEachWordFormOnceAndNoEmptyOne)
+{
+    ItemAnswers item;
+    item.NLocate = 2;
+    item.WordCount(1) = 4;
+    item.WordData(1, 2) = item.WordData(1, 4) = QStringLiteral("ame");
+    item.WordData(1, 3) = QStringLiteral("yuki");
+    item.WordCount(2) = 1;
+    item.WordData(2, 1) = QStringLiteral("yuki");
+    const ComparedItem compared = comparedItem(item, QStringLiteral("rain"));
+    EXPECT_EQ(compared.forms, QStringList({"ame", "yuki"}));
+    EXPECT_EQ(compared.answers, std::vector<std::vector<int>>({{0, 1}, {1}}));
+    EXPECT_EQ(compared.caption, QStringLiteral("rain")) << "for want of its own";
+    item.Hanrei = QStringLiteral("Rain");
+    EXPECT_EQ(comparedItem(item, QStringLiteral("rain")).caption, QStringLiteral("Rain"));
+}
+
+TEST(SurveyAnswers, AreKindsByTheRuleOfTheMapOrOfTheSymbols)
+{
+    const TestDrive drive;
+    const QString item = QStringLiteral("C:\\rain.dbs");
+    drive.write(item, "2,\"\",\"Rain\",\"\"\n1\n\"ame\"\n1\n\"amefuri\"\n");
+    const auto write = [&](const QByteArray& comment) {
+        drive.write(QStringLiteral("C:\\rain.han"),
+                    '"' + comment + "\"\n1\n\"ame\",\"the word\"\n50\n4\n12\n1\n1\n0\n");
+    };
+    const auto kinds = [&](bool wholeWordForms) {
+        return readComparedItem(drive.drive(), item, {AnswersBy::Kinds, wholeWordForms}, 2).answers;
+    };
+    using Answers = std::vector<std::vector<int>>;
+    write("");
+    EXPECT_EQ(kinds(false), Answers({{0}, {0}}));
+    EXPECT_EQ(kinds(true), Answers({{0}, {}}));
+    write("Made for whole word forms: choose \"\"Whole Word Forms\"\" before drawing.");
+    EXPECT_EQ(kinds(false), Answers({{0}, {}}));
+    const RunTimeError error = errorOf([&] { readComparedItem(drive.drive(), item, {}, 3); });
+    EXPECT_EQ(error.number(), ErrorNumber::SubscriptOutOfRange);
+    EXPECT_EQ(error.place().path, item);
 }

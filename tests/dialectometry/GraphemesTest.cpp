@@ -63,6 +63,7 @@ TEST(Graphemes, ALetterWithItsMarksIsOne)
         {QStringLiteral("岡\U00020BB7"), QStringLiteral("岡-\U00020BB7")},
         {QStringLiteral("ˈ"), QString()},
         {QStringLiteral("ː"), QStringLiteral("ː")},
+        {QStringLiteral("\u0361ts"), QStringLiteral("\u0361t-s")}, // a tie that ties nothing
     };
     for (const Row& row : rows) {
         EXPECT_EQ(LettersOf(row.word), row.letters.normalized(QString::NormalizationForm_C))
@@ -131,6 +132,10 @@ TEST(Levenshtein, IsDividedByTheLengthOfTheLongestAlignment)
         {QStringLiteral("jak"), QStringLiteral("tak"), 1. / 3, 1. / 3}, // and against consonant
         {QStringLiteral("bən"), QStringLiteral("brn"), 1. / 3, 1. / 3}, // schwa against sonorant
         {QStringLiteral("bət"), QStringLiteral("bpt"), 1. / 3, 2. / 4}, // not against another
+        {QStringLiteral("bɚn"), QStringLiteral("bɺn"), 1. / 3, 1. / 3},
+        {QStringLiteral("Ab"), QStringLiteral("eb"), 1. / 2, 1. / 2},          // a capital is a vowel too
+        {QStringLiteral("\U00010061b"), QStringLiteral("tb"), 1. / 2, 1. / 2}, // another script
+        {QString(70, u'a'), QString(70, u't'), 1, 1},
         {QStringLiteral("nãːt"), QStringLiteral("nat"), 1. / 3, 1. / 3},
         {QStringLiteral("t͡sa"), QStringLiteral("ã"), 2. / 2, 2. / 2},
         {QString(), QStringLiteral("ab"), 1, 1},

@@ -100,7 +100,7 @@ void expectWholeCover(const SmallMap& map)
     EXPECT_NEAR(areaOf(joinedCells(cells, one, 1).front()), sum, 1e-5 * sum);
     for (int i = 0; i < map.localities.NLocality; ++i) {
         for (std::size_t j = 0; j < alone.size(); ++j) {
-            const bool isOwn = cells.cellOf[static_cast<std::size_t>(i)] == static_cast<int>(j);
+            const bool isOwn = std::ranges::count(cells.localities[j], i) == 1;
             EXPECT_EQ(isIn(alone[j], map.place(i)), isOwn) << i << " in " << j;
         }
     }
@@ -170,6 +170,8 @@ TEST(LocalityCells, LieWithinTheCoastThatHoldsThem)
     open.line({{100, 200}, {200, 100}, {300, 200}});
     EXPECT_LT(areaOf(open.cells().area), Diamond) << "the hull of the localities and a margin";
     EXPECT_TRUE(isIn(open.cells().area, {180, 190}));
+    const SmallMap scattered = SmallMap().at({{0, 0}, {10, 0}, {500, 0}, {510, 0}, {250, 400}});
+    EXPECT_TRUE(isIn(scattered.cells().area, {250, 100})) << "far from all of them";
 }
 
 TEST(LocalityCells, EndAtAnOpenCoast)

@@ -30,6 +30,11 @@ TEST(Reliability, AlphaIsThatByHand)
     EXPECT_FALSE(alphaOf({"| |"}));
     // Where the fourth locality lacks an item the other pairs decide, as (1, 1, 0) does here.
     EXPECT_NEAR(*alphaOf({"a | b | b |", "c | d | d |"}), 1, 1e-12);
+    // All six pairs have the second item, three the first one: standardised (1, 1, -2) / sqrt 2 and (1, 1,
+    // -1).
+    const double correlation = 4 / (3 * std::sqrt(2));
+    EXPECT_NEAR(*alphaOf({"a | b | b |", "c | d | d | d"}), 2 * correlation / (1 + correlation), 1e-12);
+    EXPECT_FALSE(alphaOf({"a | b | b", "x/y | x | y"})) << "(1, 1, 0) against (1/2, 1/2, 1)";
     EXPECT_FALSE(
         cronbachAlpha(SurveyComparison(surveyOf({"a | b", "a | b"}), {}), [](int, int) { return false; }));
 }
@@ -55,6 +60,29 @@ TEST(Reliability, IncoherenceAndCorrelationAreThoseByHand)
     EXPECT_FALSE(localIncoherence(matrixOf(3, {-1, -1, -1}), lengths));
     EXPECT_FALSE(localIncoherence(matrixOf(2, {1}), matrixOf(2, {0}))); // at one point
     EXPECT_FALSE(localIncoherence(DistanceMatrix(1), DistanceMatrix(1)));
+}
+
+TEST(Reliability, IncoherenceAsksForEightNeighbours)
+{
+    // Eleven localities on a line; only the first and the last have neighbours nine and ten steps away.
+    const auto incoherence = [](const std::vector<double>& distanceOfSteps) {
+        DistanceMatrix lengths(11);
+        DistanceMatrix distances(11);
+        for (int a = 0; a < 11; ++a) {
+            for (int b = a + 1; b < 11; ++b) {
+                lengths.set(a, b, b - a);
+                distances.set(a, b, distanceOfSteps[static_cast<std::size_t>(b - a)]);
+            }
+        }
+        return *localIncoherence(distances, lengths);
+    };
+    EXPECT_EQ(incoherence({0, 1, 2, 3, 4, 5, 6, 7, 8, 10, 9}), 0);
+    double nearest = 0;
+    for (int j = 1; j <= 8; ++j) {
+        nearest += j * std::exp2(-0.5 * j);
+    }
+    // For two of eleven the eighth is one step farther.
+    EXPECT_NEAR(incoherence({0, 1, 2, 3, 4, 5, 6, 7, 9, 8, 10}), 2 * std::exp2(-4) / nearest / 11, 1e-12);
 }
 
 TEST(Kilometres, ComeFromDegreesElseFromTheScaleBar)
@@ -122,7 +150,7 @@ TEST(GroupMarks, FormsAndItemsOfAGroupAreInOrder)
         EXPECT_DOUBLE_EQ(forms[i].representativeness, rows[i].representativeness);
         EXPECT_DOUBLE_EQ(forms[i].distinctiveness, rows[i].distinctiveness);
     }
-    const auto items = *itemsOfGroup(SurveyComparison(survey, {}), groups, 1, goOnAlways);
+    const auto items = itemsOfGroups(SurveyComparison(survey, {}), groups, goOnAlways)->front();
     ASSERT_EQ(items.size(), 2U); // one has one kind, one no distance within
     EXPECT_EQ(items[0].item, 0);
     EXPECT_DOUBLE_EQ(items[0].score, 1 / std::sqrt(2. / 9)); // 4 of 6 pairs differ
@@ -130,7 +158,12 @@ TEST(GroupMarks, FormsAndItemsOfAGroupAreInOrder)
     EXPECT_DOUBLE_EQ(items[1].within, 1);
     EXPECT_DOUBLE_EQ(items[1].between, 0.5);
 
+    // The better item comes first, wherever it stands in the survey.
+    const SurveyComparison turned(surveyOf({"x | y | x | x", "a | a | b | b"}), {});
+    EXPECT_EQ(itemsOfGroups(turned, {1, 1, 2, 2}, goOnAlways)->front().front().item, 1);
+    EXPECT_FALSE(itemsOfGroups(turned, {1, 1, 2, 2}, [](int done, int) { return done != 1; }));
+
     // All in one group, and a group of one.
     EXPECT_EQ(formsOfGroup(survey, {1, 1, 1, 1, 1}, 1).front().distinctiveness, 0);
-    EXPECT_TRUE(itemsOfGroup(SurveyComparison(survey, {}), {1, 2, 2, 2, 2}, 1, goOnAlways)->empty());
+    EXPECT_TRUE(itemsOfGroups(SurveyComparison(survey, {}), {1, 2, 2, 2, 2}, goOnAlways)->front().empty());
 }

@@ -4,6 +4,8 @@
 
 #include <cmath>
 #include <gtest/gtest.h>
+#include <numbers>
+#include <random>
 
 TEST(Scaling, PlacesAreTheEigenvectorsOfNumPy)
 {
@@ -67,5 +69,62 @@ TEST(Scaling, ShowsWhatItCanOfFewLocalities)
         EXPECT_NEAR(scaling.variance[0], row.variance, 1e-9);
         EXPECT_NEAR(scaling.stress[0], row.stress, 1e-7);
         EXPECT_NEAR(scaling.stress[2], 0, 1e-7);
+    }
+}
+
+TEST(Scaling, OfStepsOnALineIsCosines)
+{
+    // Squares of distances that grow by 1 a step are resistances of a path, whose products are the inverse of
+    // its Laplacian: their vectors are cosines, their values 1 / (4 sin^2).
+    for (const int size : {30, 400}) {
+        DistanceMatrix distances(size);
+        for (int a = 0; a < size; ++a) {
+            for (int b = a + 1; b < size; ++b) {
+                distances.set(a, b, std::sqrt(b - a));
+            }
+        }
+        const Scaling scaling = classicalScaling(distances);
+        for (int k = 1; k <= Scaling::Dimensions; ++k) {
+            const double angle = std::numbers::pi * k / size;
+            const auto dimension = static_cast<std::size_t>(k - 1);
+            const double sign = scaling.places[0][dimension] < 0 ? -1 : 1;
+            for (int i = 0; i < size; ++i) {
+                const double place =
+                    std::sqrt(2. / size) * std::cos(angle * (i + 0.5)) / (2 * std::sin(angle / 2));
+                EXPECT_NEAR(sign * scaling.places[static_cast<std::size_t>(i)][dimension], place, 1e-9)
+                    << size << ' ' << i;
+            }
+        }
+    }
+}
+
+TEST(Scaling, OfDistancesWithoutAPatternIsExactToo)
+{
+    constexpr int Size = 230;
+    std::mt19937 random(3);
+    DistanceMatrix distances(Size);
+    std::vector<double> mean(Size, 0);
+    for (int a = 0; a < Size; ++a) {
+        for (int b = a + 1; b < Size; ++b) {
+            distances.set(a, b, 0.5 + static_cast<double>(random()) / 1e10);
+            mean[static_cast<std::size_t>(a)] += std::pow(distances(a, b), 2) / Size;
+            mean[static_cast<std::size_t>(b)] += std::pow(distances(a, b), 2) / Size;
+        }
+    }
+    // Each dimension is a vector of the centred products: multiplied, it only gets longer.
+    const Scaling scaling = classicalScaling(distances);
+    for (std::size_t k = 0; k < Scaling::Dimensions; ++k) {
+        double squares = 0;
+        for (const std::vector<double>& place : scaling.places) {
+            squares += place[k] * place[k]; // the value of the dimension
+        }
+        for (int a = 0; a < Size; ++a) {
+            double product = 0;
+            for (int b = 0; b < Size; ++b) {
+                const double ofBoth = std::pow(distances(a, b), 2) - mean[static_cast<std::size_t>(b)];
+                product -= ofBoth / 2 * scaling.places[static_cast<std::size_t>(b)][k];
+            }
+            EXPECT_NEAR(product, squares * scaling.places[static_cast<std::size_t>(a)][k], 1e-9) << a;
+        }
     }
 }

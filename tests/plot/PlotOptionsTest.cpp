@@ -53,6 +53,39 @@ TEST(PlotOptions, AnImportIsRead)
     EXPECT_EQ(options.source.columns["c"], ColumnRole::Left);
 }
 
+TEST(PlotOptions, MapsOfTheSurveyAreRead)
+{
+    const auto survey = [](const QByteArray& line) {
+        return readPlotOptions(words(line + " --installation i --map m")).survey;
+    };
+    const SurveyOptions groups =
+        survey("cluster-map --output o.svg --method average --clusters 9 --noise 0.5 "
+               "--seed 7 --hatched --group-symbols --dendrogram");
+    const DistanceMapSettings wanted = {DistanceMapKind::Clusters, 0,    ClassRule::AroundMean,
+                                        LinkageMethod::Average,    9,    {0.5, 100, 7},
+                                        AreaLook::Hatched,         true, true};
+    EXPECT_EQ(groups.map, wanted);
+    const SurveyOptions plain = survey("cluster-map --output o.svg");
+    EXPECT_EQ(plain.map, DistanceMapSettings());
+    EXPECT_EQ(plain.answers, AnswerRule());
+    EXPECT_EQ(survey("reference-map --output o.svg --locality 1 --classes equal-widths").map.rule,
+              ClassRule::EqualWidths);
+
+    const SurveyOptions lines = survey("isogloss-map --output o.svg --numbers --whole-word-forms");
+    EXPECT_EQ(lines.answers, (AnswerRule{AnswersBy::Kinds, true})) << "the kinds that symbols tell apart";
+    EXPECT_TRUE(lines.items.isoglosses.numbers && !lines.items.isoglosses.smooth);
+    EXPECT_TRUE(survey("isogloss-map --output o.svg --smooth").items.isoglosses.smooth);
+    EXPECT_TRUE(survey("area-map --output o.svg --data a.dbs --symbols a.han --with-symbols")
+                    .items.areas.withSymbols);
+
+    const SurveyOptions marks =
+        survey("group-marks --output o.csv --distances d.csv --items a.dbs --marks items "
+               "--measure levenshtein --vowels-apart");
+    EXPECT_TRUE(marks.itemsOfGroups) << "and items are looked for whatever made the groups";
+    EXPECT_EQ(marks.measure, (DistanceSettings{DistanceMeasure::Levenshtein, true}));
+    EXPECT_FALSE(survey("group-marks --output o.csv --marks forms").itemsOfGroups);
+}
+
 TEST(PlotOptions, WhatIsNotUnderstoodIsSaid)
 {
     // Endings: a file of another ending would be read, and one of the right ending written over.
@@ -86,7 +119,7 @@ TEST(PlotOptions, WhatIsNotUnderstoodIsSaid)
         {"accumulate", "--counts a.ttl --characters a.sum --data a.dbs x.han", "--data must end in .dbs"},
         {"diffusion-map", "--counts c.ttl --graph pie --output o.svg", "--graph is one of bar, layered-bar"},
         {"symbol-diffusion-map", "--counts c.ttl --symbols s.htl --output o.png --word-form 11",
-         "--word-form is a number above 0, at most 10"},
+         "--word-form is a whole number from 1 to 10"},
         {"symbol-diffusion-map", "--counts c.ttl --symbols a.han --output o.svg",
          "--symbols must end in .htl"},
         {"contrast-map", "--counts c.ttl --contrast c.ttl --output o.svg", "--contrast must end in .rnk"},
@@ -95,9 +128,13 @@ TEST(PlotOptions, WhatIsNotUnderstoodIsSaid)
         {"distances", "--output d.csv --vowels-apart", "--vowels-apart goes with --measure levenshtein"},
         {"distances", "--output d.csv --measure levenshtein --compare kinds", "compares word forms"},
         {"cluster-map", "--output o.svg --distances d.csv --items a.dbs", "--items goes with items, not"},
+        {"cluster-map", "--output o.svg --distances d.csv --keep-going", "--keep-going goes with items, not"},
         {"cluster-map", "--output o.svg --items a.han", "--items must end in .dbs"},
         {"cluster-map", "--output o.svg --method nearest", "--method is one of single, complete"},
-        {"cluster-map", "--output o.svg --clusters 0", "--clusters is a number above 0"},
+        {"cluster-map", "--output o.svg --clusters 0", "--clusters is a whole number from 1 to 1000"},
+        {"cluster-map", "--output o.svg --clusters 2.5", "--clusters is a whole number"},
+        {"cluster-map", "--output o.svg --noise 11", "--noise is a number above 0, at most 10"},
+        {"group-marks", "--output o.csv --marks words", "--marks is one of forms, items"},
         {"reference-map", "--output o.svg", "reference-map needs --locality"},
         {"isogloss-map", "--output o.svg --distances d.csv", "isogloss-map takes no --distances"},
     };

@@ -136,7 +136,10 @@ TEST_F(PlotProcess, ASurveyAsAWholeIsComparedAndDrawn)
         {"area-map --data Ling/rain.dbs --symbols Ling/rain.han", "areas.svg", ">the word (2)<"},
         {"isogloss-map --compare forms --items Ling/rain.dbs", "line.svg", ">Rain<"},
         {"isogloss-map --compare forms --items Ling/rain.dbs Ling/snow.dbs", "lines.svg", "of 2 items<"},
+        {"isogloss-map --compare forms --numbers --items Ling/rain.dbs Ling/snow.dbs", "numbers.svg",
+         ">1<"},
         {"reference-map --distances d.csv --locality 3", "far.svg", ">Distance to locality 3<"},
+        {"reference-map --distances d.csv --locality 3 --hatched", "hatched.svg", ">0.750 - 0.792 (1)<"},
         {"beam-map --distances d.csv", "beams.svg", ">Neighbours<"},
         {"cluster-map --distances d.csv --clusters 2 --noise 0.2 --dendrogram", "groups.svg",
          ">group 1 (2)<"},
@@ -149,11 +152,27 @@ TEST_F(PlotProcess, ASurveyAsAWholeIsComparedAndDrawn)
         expectDone(line + " --output " + output);
         EXPECT_TRUE(read(output).contains(text)) << line.constData() << '\n' << read(output).constData();
     }
+    EXPECT_FALSE(read("lines.svg").contains(">1<"));
+    expectDone("area-map --data Ling/rain.dbs --symbols Ling/rain.han --with-symbols --output marked.svg");
+    EXPECT_GT(read("marked.svg").size(), read("areas.svg").size());
     expectDone("group-marks --items Ling/rain.dbs Ling/snow.dbs --clusters 2 --output marks.csv");
     EXPECT_TRUE(read("marks.csv").contains("2,\"snow\",\"hyo\",1,1,1\r\n")) << read("marks.csv").constData();
+    // Localities 1 and 2 are alike in snow and unlike 3; the kinds of rain by other distances.
+    expectDone("group-marks --items Ling/snow.dbs --clusters 2 --marks items --output marks.csv");
+    EXPECT_EQ(read("marks.csv"),
+              "\"group\",\"item\",\"within\",\"between\",\"score\"\r\n1,\"snow\",0,1,2.1213\r\n");
+    expectDone("group-marks --distances d.csv --items Ling/rain.dbs --compare kinds --clusters 2 --output "
+               "marks.csv");
+    EXPECT_TRUE(read("marks.csv").contains("1,\"rain\",\"the word\",1,0,0.5\r\n"))
+        << read("marks.csv").constData();
 
     expectTold("distances --output all.csv", 1, {"The item has 2 localities", file("Ling/short.dbs")});
-    expectTold("distances --output all.csv --keep-going", 1, {"short.dbs is left out: "});
+    expectTold("distances --output all.csv --keep-going", 1,
+               {"short.dbs is left out: ", file("Ling/short.dbs")});
+    for (const QByteArray command : {"cluster-map --output left.svg", "group-marks --output left.csv"}) {
+        expectTold(command + " --items Ling/rain.dbs --clusters 2", 0,
+                   {"Left out, for want of a distance to others: 2"});
+    }
     expectTold("cluster-map --distances d.csv --clusters 4 --output x.svg", 1,
                {"4 groups cannot be made of 3 localities."});
     expectTold("reference-map --distances d.csv --locality Nowhere --output x.svg", 1,
@@ -161,6 +180,10 @@ TEST_F(PlotProcess, ASurveyAsAWholeIsComparedAndDrawn)
     write("bad.csv", read("d.csv").replace("0.75,1,0", "0.25,1,0"));
     expectTold("beam-map --distances bad.csv --output x.svg", 1, {"'13': Type mismatch", file("bad.csv")});
     EXPECT_FALSE(QFile::exists(file("x.svg")));
+    write("Map/Localities.csv",
+          "id,name,longitude,latitude,projection\r\na,Amele,1,1,\r\nb,Bau,2,1,\r\nc,Sihan,3,2,\r\n");
+    expectDone("reference-map --items Ling/snow.dbs --locality amele --output named.svg");
+    EXPECT_TRUE(read("named.svg").contains(">Distance to locality 1 Amele<"));
 }
 
 TEST_F(PlotProcess, HelpAndWrongUsage)
