@@ -23,41 +23,65 @@ namespace {
 
 using Kind = AtlasMapKind;
 
+/// Shows lines of plain text, broken where they are too long.
+QLabel* textLabel()
+{
+    auto* label = new QLabel; // a layout takes it
+    label->setTextFormat(Qt::PlainText);
+    label->setWordWrap(true);
+    return label;
+}
+
 } // namespace
 
 SurveyPane::SurveyPane(const VarnModule& varn, AtlasSurveyMaps& survey)
-    : m_varn(varn), m_survey(survey), m_rows(new QFormLayout), m_title(new QLabel),
-      m_marks(new GroupMarksTable)
+    : m_varn(varn), m_survey(survey), m_rows(new QFormLayout), m_title(new QLabel), m_compared(textLabel()),
+      m_marks(new GroupMarksTable), m_notes(textLabel())
 {
     m_marks->setParent(this);
+    QFont bold = m_title->font();
+    bold.setBold(true);
+    m_title->setFont(bold);
+    m_compared->setObjectName(QStringLiteral("lblCompared"));
+    m_notes->setObjectName(QStringLiteral("lblNotes"));
+    m_notes->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    addSource();
+    addClusters();
+    addLook();
+    addMarks();
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->addWidget(scrolledSettings(), 1);
+    column->addLayout(progressRow());
+    connect(&m_survey, &AtlasSurveyMaps::changed, this, &SurveyPane::showFound);
+    connect(&m_survey, &AtlasSurveyMaps::progressed, this, &SurveyPane::showProgress);
+    showKind(m_kind);
+}
+
+/// The rows stand apart from texts that are broken into lines: beside such a text, a form layout gives a row
+/// the height of one that is hidden.
+QWidget* SurveyPane::scrolledSettings()
+{
     auto* content = new QWidget;
-    content->setLayout(m_rows);
+    auto* column = new QVBoxLayout(content);
+    column->addWidget(m_title);
+    column->addWidget(m_compared);
+    column->addLayout(m_rows);
+    column->addWidget(m_notes);
+    column->addStretch();
     auto* scroll = new QScrollArea;
     scroll->setWidget(content);
     scroll->setWidgetResizable(true);
     scroll->setFrameShape(QFrame::NoFrame);
     scroll->setFocusPolicy(Qt::NoFocus);
-    auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(0, 0, 0, 0);
-    column->addWidget(scroll);
-    QFont bold = m_title->font();
-    bold.setBold(true);
-    m_title->setFont(bold);
-    m_rows->addRow(m_title);
-    addSource();
-    addClusters();
-    addLook();
-    addMarks();
-    addWork();
-    connect(&m_survey, &AtlasSurveyMaps::changed, this, &SurveyPane::showFound);
-    connect(&m_survey, &AtlasSurveyMaps::progressed, this, &SurveyPane::showProgress);
-    showKind(m_kind);
+    return scroll;
 }
 
 void SurveyPane::showKind(AtlasMapKind kind)
 {
     m_kind = kind;
     m_title->setText(nameOf(kind));
+    m_compared->setVisible(isOfSurvey(kind));
     for (const auto& [row, kinds] : m_kindsOfRow) {
         m_rows->setRowVisible(row, std::ranges::find(kinds, kind) != kinds.end());
     }

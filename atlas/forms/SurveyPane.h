@@ -14,6 +14,7 @@ class QComboBox;
 class QDoubleSpinBox;
 class QFormLayout;
 class QLabel;
+class QLayout;
 class QProgressBar;
 class QSpinBox;
 class QTableView;
@@ -46,7 +47,8 @@ private:
     void addClusters();
     void addLook();
     void addMarks();
-    void addWork();
+    QLayout* progressRow();
+    QWidget* scrolledSettings();
     void addRow(const QString& label, QWidget* row, Kinds kinds);
     QComboBox* addChoice(const char* name, const QString& label, const QStringList& choices, Kinds kinds);
     QCheckBox* addSwitch(const char* name, const QString& text, Kinds kinds);
@@ -67,7 +69,7 @@ private:
     /// The rows, and the kinds of map that each is shown for.
     std::vector<std::pair<QWidget*, std::vector<AtlasMapKind>>> m_kindsOfRow;
     QLabel* m_title;
-    QLabel* m_compared = nullptr;
+    QLabel* m_compared;
     QComboBox* m_answers = nullptr;
     QComboBox* m_measure = nullptr;
     QCheckBox* m_vowels = nullptr;
@@ -86,7 +88,7 @@ private:
     QComboBox* m_group = nullptr;
     GroupMarksTable* m_marks;
     QTableView* m_marksView = nullptr;
-    QLabel* m_notes = nullptr;
+    QLabel* m_notes;
     QProgressBar* m_progress = nullptr;
     QToolButton* m_stop = nullptr;
 };

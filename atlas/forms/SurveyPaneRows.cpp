@@ -68,11 +68,6 @@ void SurveyPane::addSource()
     const Kinds all = {Kind::Bundles,    Kind::Reference, Kind::Beams,       Kind::Clusters,
                        Kind::Dendrogram, Kind::Scaling,   Kind::ScalingPlot, Kind::LengthPlot};
 
-    m_compared = new QLabel;
-    m_compared->setObjectName(QStringLiteral("lblCompared"));
-    m_compared->setTextFormat(Qt::PlainText);
-    m_compared->setWordWrap(true);
-    addRow({}, m_compared, all);
     auto* buttons = new QWidget;
     auto* row = new QHBoxLayout(buttons);
     row->setContentsMargins(0, 0, 0, 0);
@@ -181,14 +176,9 @@ void SurveyPane::addMarks()
     connect(m_group, &QComboBox::currentIndexChanged, this, &SurveyPane::showMarks);
 }
 
-void SurveyPane::addWork()
+/// Under the settings, so that it is always seen.
+QLayout* SurveyPane::progressRow()
 {
-    m_notes = new QLabel;
-    m_notes->setObjectName(QStringLiteral("lblNotes"));
-    m_notes->setTextFormat(Qt::PlainText);
-    m_notes->setWordWrap(true);
-    m_notes->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
-    m_rows->addRow(m_notes);
     m_progress = new QProgressBar;
     m_progress->setObjectName(QStringLiteral("barProgress"));
     m_progress->setAccessibleName(QStringLiteral("Progress"));
@@ -200,6 +190,6 @@ void SurveyPane::addWork()
     auto* row = new QHBoxLayout;
     row->addWidget(m_progress, 1);
     row->addWidget(m_stop);
-    m_rows->addRow(row);
     showProgress(0, 0);
+    return row;
 }

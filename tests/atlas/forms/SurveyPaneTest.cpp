@@ -8,6 +8,7 @@
 
 #include <QCheckBox>
 #include <QComboBox>
+#include <QDoubleSpinBox>
 #include <QLabel>
 #include <QListWidget>
 #include <QSpinBox>
@@ -129,4 +130,42 @@ TEST_F(SurveyMapsOfWindow, AreOfTheItemsOrTheFileThatAreChosen)
     EXPECT_TRUE(texts().contains("Neighbours\ndistances"));
     EXPECT_TRUE(pane<QLabel>("lblCompared").text().contains("distances.csv"));
     EXPECT_FALSE(pane<QComboBox>("cboMeasure").isEnabled());
+}
+
+/// Rows come and go; each that can be seen has its full height, whatever was shown before.
+TEST_F(SurveyMapsOfWindow, ShowTheControlsOfTheirKindInFull)
+{
+    pane<QSpinBox>("spnGroups").setValue(2);
+    const QStringList source = {"lblCompared", "cboAnswers"};
+    const QStringList distances = source + QStringList{"cboMeasure", "chkVowels"};
+    const QStringList tree = distances + QStringList{"cboMethod", "spnGroups"};
+    const std::vector<std::pair<const char*, QStringList>> kinds = {
+        {"mnuKindGroupsofLocalities",
+         tree + QStringList{"spnNoise", "chkHatched", "chkGroupSymbols", "chkTree", "cboGroup", "tblMarks"}},
+        {"mnuKindIsoglossesofManyItems", source + QStringList{"chkSmooth", "chkNumbers"}},
+        {"mnuKindDistancestoaLocality", distances + QStringList{"cboLocality", "cboClasses", "chkHatched"}},
+        {"mnuKindBeamsbetweenNeighbours", distances},
+        {"mnuKindTreeofLocalities", tree + QStringList{"chkHatched"}},
+        {"mnuKindAreasoftheItem", {"chkHatched", "chkWithSymbols"}},
+        {"mnuKindPlotbyScaling", tree},
+        {"mnuKindIsoglossesoftheItem", {"chkSmooth"}}};
+    QStringList all;
+    for (const auto& [entry, shown] : kinds) {
+        all += shown;
+    }
+    all.removeDuplicates();
+    for (const auto& [entry, shown] : kinds) {
+        show(entry);
+        QApplication::processEvents();
+        for (const QString& name : std::as_const(all)) {
+            const auto& row = pane<QWidget>(qPrintable(name));
+            EXPECT_EQ(row.isVisible(), shown.contains(name)) << entry << ' ' << qPrintable(name);
+            EXPECT_TRUE(row.isHidden() || row.height() >= row.minimumSizeHint().height())
+                << entry << ' ' << qPrintable(name);
+        }
+    }
+    show("mnuKindGroupsofLocalities");
+    pane<QDoubleSpinBox>("spnNoise").setValue(0.5);
+    wait();
+    EXPECT_GE(pane<QSpinBox>("spnSeed").height(), pane<QSpinBox>("spnSeed").minimumSizeHint().height());
 }
