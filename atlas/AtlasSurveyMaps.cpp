@@ -9,6 +9,7 @@
 #include <QtConcurrentRun>
 
 #include <new>
+#include <utility>
 
 namespace {
 
@@ -51,8 +52,9 @@ void AtlasSurveyMaps::setKind(AtlasMapKind kind)
     begin();
 }
 
-void AtlasSurveyMaps::setSource(const SurveySource& source)
+void AtlasSurveyMaps::setSource(const SurveySource& asked)
 {
+    const SurveySource source = withPossibleMeasure(asked);
     if (source != m_source) {
         m_source = source;
         begin();
@@ -109,6 +111,7 @@ void AtlasSurveyMaps::followMap()
     m_work.cancel();
     m_cells.reset();
     m_found = SurveyMap();
+    m_compared.reset();
     m_source.items.clear();
     m_source.distancesFile.clear();
     m_settings.reference = 0;
@@ -155,6 +158,7 @@ void AtlasSurveyMaps::findOut(QPromise<Outcome>& promise, const SurveyFiles& fil
         if (!map.survey) {
             map.survey = compareSurvey(files, source, goOn);
         }
+        outcome.compared = map.survey;
         if (map.survey && map.kind != AtlasMapKind::Bundles) {
             auto findings =
                 findingsFor(map.settings, map.survey->distances, map.map->map, map.map->cells, goOn);
@@ -187,19 +191,23 @@ SurveySource AtlasSurveyMaps::wanted() const
 void AtlasSurveyMaps::begin()
 {
     m_work.cancel();
-    m_trouble.clear();
+    m_isStopped = false;
+    const bool wasTold = !std::exchange(m_trouble, QString()).isEmpty();
     if (!isOfSurvey(m_kind) || m_varn.NLocality == 0) {
         Q_EMIT changed();
         return;
     }
     ItemMarks now = marks();
-    const bool areSame = m_found.survey && m_found.survey->source == wanted() && now == m_foundMarks;
+    const bool areSame = m_compared && m_compared->source == wanted() && now == m_comparedMarks;
     m_marks = std::move(now);
     SurveyFiles source = files();
-    SurveyMap next{m_kind, m_cells, areSame ? m_found.survey : nullptr, m_settings, DistanceFindings()};
+    SurveyMap next{m_kind, m_cells, areSame ? m_compared : nullptr, m_settings, DistanceFindings()};
     m_work.setFuture(QtConcurrent::run(findOut, std::move(source), std::move(next), wanted()));
     m_isBusy = true;
     Q_EMIT progressed(0, 0);
+    if (wasTold) {
+        Q_EMIT changed();
+    }
 }
 
 void AtlasSurveyMaps::takeOutcome()
@@ -209,7 +217,8 @@ void AtlasSurveyMaps::takeOutcome()
         Outcome outcome = m_work.future().takeResult();
         m_trouble = outcome.trouble;
         m_found = std::move(outcome.map).value_or(SurveyMap());
-        m_foundMarks = m_marks;
+        m_compared = std::move(outcome.compared);
+        m_comparedMarks = m_marks;
     }
     Q_EMIT progressed(0, 0);
     Q_EMIT changed();
@@ -217,7 +226,16 @@ void AtlasSurveyMaps::takeOutcome()
 
 void AtlasSurveyMaps::stop()
 {
-    m_work.cancel();
+    if (m_isBusy) {
+        m_isStopped = true;
+        m_trouble = QStringLiteral("Stopped: this is not yet the map that the settings ask for.");
+        m_work.cancel();
+    }
+}
+
+void AtlasSurveyMaps::goOn()
+{
+    begin();
 }
 
 void AtlasSurveyMaps::draw(const AreaMapParts& parts, MapSurfaces surfaces) const
@@ -231,7 +249,8 @@ void AtlasSurveyMaps::draw(const AreaMapParts& parts, MapSurfaces surfaces) cons
 
 QSizeF AtlasSurveyMaps::size(const FormArea& area) const
 {
-    return distanceMapSize(m_found.settings, area);
+    return m_found.kind == AtlasMapKind::Bundles ? QSizeF(area.Width, area.Height)
+                                                 : distanceMapSize(m_found.settings, area);
 }
 
 QStringList AtlasSurveyMaps::notes() const

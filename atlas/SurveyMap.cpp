@@ -121,6 +121,14 @@ QStringList leftOutNotes(const SurveyMap& map)
 
 } // namespace
 
+SurveySource withPossibleMeasure(SurveySource source)
+{
+    if (source.answers.by == AnswersBy::Kinds && source.measure.measure == DistanceMeasure::Levenshtein) {
+        source.measure.measure = DistanceMeasure::RelativeIdentity;
+    }
+    return source;
+}
+
 std::shared_ptr<const ComparedSurvey> compareSurvey(const SurveyFiles& files, const SurveySource& source,
                                                     const DistanceProgress& goOn)
 {

@@ -21,6 +21,9 @@ struct SurveySource
     bool operator==(const SurveySource&) const = default;
 };
 
+/// `source` with a measure that its answers allow: kinds have no sounds that could be compared.
+SurveySource withPossibleMeasure(SurveySource source);
+
 /// How far distances can be trusted; what cannot be told is nothing.
 struct Agreement
 {

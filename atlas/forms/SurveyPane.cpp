@@ -13,6 +13,7 @@
 #include <QProgressBar>
 #include <QScrollArea>
 #include <QSignalBlocker>
+#include <QStandardItemModel>
 #include <QToolButton>
 #include <QVBoxLayout>
 
@@ -105,7 +106,6 @@ void SurveyPane::setSettings()
     settings.groups = m_groups->value();
     settings.noise.noise = m_noise->value();
     settings.noise.seed = static_cast<std::uint64_t>(m_seed->value());
-    settings.reference = std::max(0, m_locality->currentIndex());
     settings.rule = static_cast<ClassRule>(m_classes->currentIndex());
     settings.look = m_hatched->isChecked() ? AreaLook::Hatched : AreaLook::Colored;
     settings.symbols = m_groupSymbols->isChecked();
@@ -128,10 +128,12 @@ void SurveyPane::showSettings()
     m_answers->setCurrentIndex(static_cast<int>(source.answers.by));
     m_measure->setCurrentIndex(static_cast<int>(source.measure.measure));
     m_vowels->setChecked(source.measure.vowelsApart);
-    m_vowels->setEnabled(source.measure.measure == DistanceMeasure::Levenshtein);
-    for (QWidget* control : {static_cast<QWidget*>(m_answers), static_cast<QWidget*>(m_measure)}) {
-        control->setEnabled(source.distancesFile.isEmpty());
-    }
+    m_answers->setEnabled(!isOfFile());
+    m_measure->setEnabled(!isOfFile());
+    m_vowels->setEnabled(!isOfFile() && source.measure.measure == DistanceMeasure::Levenshtein);
+    auto& measures = *qobject_cast<QStandardItemModel*>(m_measure->model());
+    measures.item(static_cast<int>(DistanceMeasure::Levenshtein))
+        ->setEnabled(source.answers.by == AnswersBy::WordForms);
     m_method->setCurrentIndex(static_cast<int>(settings.method));
     m_groups->setValue(settings.groups);
     m_noise->setValue(settings.noise.noise);
@@ -147,25 +149,41 @@ void SurveyPane::showSettings()
     m_withSymbols->setChecked(m_survey.withSymbols());
 }
 
+/// Isoglosses are of items whatever the distances are of.
+bool SurveyPane::isOfFile() const
+{
+    return m_kind != Kind::Bundles && !m_survey.source().distancesFile.isEmpty();
+}
+
 QString SurveyPane::compared() const
 {
-    const SurveySource& source = m_survey.source();
-    if (!source.distancesFile.isEmpty()) {
-        return QStringLiteral("Distances of the file %1").arg(fileNameOf(source.distancesFile));
+    if (isOfFile()) {
+        return QStringLiteral("Distances of the file %1").arg(fileNameOf(m_survey.source().distancesFile));
     }
     const auto survey = m_survey.survey();
-    return survey ? QStringLiteral("Answers to %1 items").arg(survey->answers.items.size())
-                  : QStringLiteral("Answers to the items");
+    const std::size_t items = survey ? survey->answers.items.size() : 0;
+    return items == 0   ? QStringLiteral("Answers to the items")
+           : items == 1 ? QStringLiteral("Answers to 1 item")
+                        : QStringLiteral("Answers to %1 items").arg(items);
+}
+
+/// Another map may have as many localities.
+void SurveyPane::showLocalities()
+{
+    QStringList names;
+    for (int i = 1; i <= m_varn.NLocality; ++i) {
+        names << localityTitle(m_varn, i);
+    }
+    if (names != m_localities) {
+        m_localities = names;
+        m_locality->clear();
+        m_locality->addItems(names);
+    }
 }
 
 void SurveyPane::showFound()
 {
-    if (m_locality->count() != m_varn.NLocality) {
-        m_locality->clear();
-        for (int i = 1; i <= m_varn.NLocality; ++i) {
-            m_locality->addItem(localityTitle(m_varn, i));
-        }
-    }
+    showLocalities();
     m_compared->setText(compared());
     m_notes->setText(m_survey.trouble().isEmpty() ? m_survey.notes().join(QLatin1Char('\n'))
                                                   : m_survey.trouble());
@@ -195,6 +213,7 @@ void SurveyPane::showProgress(int done, int of)
     const bool isBusy = m_survey.isBusy();
     m_progress->setVisible(isBusy);
     m_stop->setVisible(isBusy);
+    m_goOn->setVisible(m_survey.isStopped() && !isBusy);
     m_progress->setRange(0, of);
     m_progress->setValue(done);
 }

@@ -39,6 +39,8 @@ Q_SIGNALS:
     /// The user wants to take distances from a file, or to save those that were found.
     void openWanted();
     void saveWanted();
+    /// The user wants the distances to that locality (from 1).
+    void localityWanted(int locality);
 
 private:
     using Kinds = std::initializer_list<AtlasMapKind>;
@@ -60,6 +62,9 @@ private:
     void showFound();
     void showMarks();
     void showProgress(int done, int of);
+    void showLocalities();
+    /// Whether what is shown is made of distances of a file.
+    bool isOfFile() const;
     QString compared() const;
 
     const VarnModule& m_varn;
@@ -78,6 +83,7 @@ private:
     QDoubleSpinBox* m_noise = nullptr;
     QSpinBox* m_seed = nullptr;
     QComboBox* m_locality = nullptr;
+    QStringList m_localities;
     QComboBox* m_classes = nullptr;
     QCheckBox* m_hatched = nullptr;
     QCheckBox* m_groupSymbols = nullptr;
@@ -91,4 +97,5 @@ private:
     QLabel* m_notes;
     QProgressBar* m_progress = nullptr;
     QToolButton* m_stop = nullptr;
+    QToolButton* m_goOn = nullptr;
 };

@@ -145,9 +145,8 @@ void SurveyPane::addLook()
     m_tree = addSwitch("chkTree", QStringLiteral("&Tree beside the map"), {Kind::Clusters});
     m_smooth = addSwitch("chkSmooth", QStringLiteral("&Rounded lines"), {Kind::Isoglosses, Kind::Bundles});
     m_numbers = addSwitch("chkNumbers", QStringLiteral("&Numbers on the strongest"), {Kind::Bundles});
-    for (QComboBox* box : {m_locality, m_classes}) {
-        connect(box, &QComboBox::activated, this, &SurveyPane::setSettings);
-    }
+    connect(m_locality, &QComboBox::activated, this, [this](int row) { Q_EMIT localityWanted(row + 1); });
+    connect(m_classes, &QComboBox::activated, this, &SurveyPane::setSettings);
     for (QCheckBox* box : {m_hatched, m_groupSymbols, m_tree}) {
         connect(box, &QCheckBox::clicked, this, &SurveyPane::setSettings);
     }
@@ -182,14 +181,19 @@ QLayout* SurveyPane::progressRow()
     m_progress = new QProgressBar;
     m_progress->setObjectName(QStringLiteral("barProgress"));
     m_progress->setAccessibleName(QStringLiteral("Progress"));
-    m_stop = new QToolButton;
-    m_stop->setObjectName(QStringLiteral("cmdStop"));
-    m_stop->setText(QStringLiteral("Stop"));
-    m_stop->setFocusPolicy(Qt::StrongFocus);
-    connect(m_stop, &QToolButton::clicked, &m_survey, &AtlasSurveyMaps::stop);
     auto* row = new QHBoxLayout;
     row->addWidget(m_progress, 1);
-    row->addWidget(m_stop);
+    const auto add = [&](const char* name, const QString& text, void (AtlasSurveyMaps::*slot)()) {
+        auto* button = new QToolButton; // the row takes it
+        button->setObjectName(QLatin1String(name));
+        button->setText(text);
+        button->setFocusPolicy(Qt::StrongFocus);
+        connect(button, &QToolButton::clicked, &m_survey, slot);
+        row->addWidget(button);
+        return button;
+    };
+    m_stop = add("cmdStop", QStringLiteral("Stop"), &AtlasSurveyMaps::stop);
+    m_goOn = add("cmdGoOn", QStringLiteral("Go On"), &AtlasSurveyMaps::goOn);
     showProgress(0, 0);
     return row;
 }

@@ -120,7 +120,9 @@ void frmAtlas::keepLayout() const
     QSettings settings = layoutSettings();
     settings.setValue(QStringLiteral("window"), saveGeometry());
     settings.setValue(QStringLiteral("panes"), m_panes->saveState());
-    settings.setValue(QStringLiteral("details"), m_details->saveState());
+    settings.setValue(QStringLiteral("details"), m_shownDetails == Details::Records
+                                                     ? m_details->saveState()
+                                                     : m_detailStates.at(Details::Records));
     for (const QAction* layer : m_map->layerActions()) {
         settings.setValue(layerSetting(*layer), layer->isChecked());
     }

@@ -21,6 +21,8 @@ void frmAtlas::connectSurvey()
         });
     });
     connect(&m_selection, &AtlasSelection::localitiesChanged, this, &frmAtlas::followReference);
+    connect(m_surveyPane, &SurveyPane::localityWanted, this,
+            [this](int locality) { m_selection.setLocalities({locality}); });
     handle(m_surveyPane, &SurveyPane::itemsWanted, &frmAtlas::chooseItems);
     handle(m_surveyPane, &SurveyPane::openWanted, &frmAtlas::openDistances);
     handle(m_surveyPane, &SurveyPane::saveWanted, &frmAtlas::saveDistances);
