@@ -51,7 +51,7 @@ OtherMap mapOfSurvey(AtlasSurveyMaps& survey)
     map.paper = survey.size(firstArea());
     map.hasLocalities = !isPlot(survey.shownKind());
     map.message = survey.trouble();
-    if (!survey.survey() && survey.isBusy()) {
+    if (survey.isAwaited()) {
         map.message = QStringLiteral("The localities are being compared.");
     }
     return map;

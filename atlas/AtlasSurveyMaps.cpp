@@ -21,6 +21,16 @@ bool isSameLand(const BaseMap& a, const BaseMap& b)
            a.LineXY == b.LineXY;
 }
 
+/// `settings` with that of `others` which changes nothing in what is found.
+DistanceMapSettings withLookOf(DistanceMapSettings settings, const DistanceMapSettings& others)
+{
+    settings.rule = others.rule;
+    settings.look = others.look;
+    settings.symbols = others.symbols;
+    settings.withDendrogram = others.withDendrogram;
+    return settings;
+}
+
 } // namespace
 
 AtlasSurveyMaps::AtlasSurveyMaps(VarnModule& varn, AtlasDocument& document)
@@ -63,8 +73,15 @@ void AtlasSurveyMaps::setSource(const SurveySource& asked)
 
 void AtlasSurveyMaps::setSettings(const DistanceMapSettings& settings)
 {
-    if (settings != m_settings) {
-        m_settings = settings;
+    if (settings == m_settings) {
+        return;
+    }
+    const bool isLookAlone = withLookOf(m_settings, settings) == settings;
+    m_settings = settings;
+    if (isLookAlone) {
+        m_found.settings = withLookOf(m_found.settings, settings);
+        Q_EMIT changed();
+    } else {
         begin();
     }
 }
@@ -82,6 +99,14 @@ void AtlasSurveyMaps::setWithSymbols(bool with)
     if (with != m_withSymbols) {
         m_withSymbols = with;
         Q_EMIT changed();
+    }
+}
+
+void AtlasSurveyMaps::setWithItemMarks(bool with)
+{
+    if (with != m_withItemMarks) {
+        m_withItemMarks = with;
+        begin();
     }
 }
 
@@ -159,13 +184,7 @@ void AtlasSurveyMaps::findOut(QPromise<Outcome>& promise, const SurveyFiles& fil
             map.survey = compareSurvey(files, source, goOn);
         }
         outcome.compared = map.survey;
-        if (map.survey && map.kind != AtlasMapKind::Bundles) {
-            auto findings =
-                findingsFor(map.settings, map.survey->distances, map.map->map, map.map->cells, goOn);
-            map.survey = findings ? map.survey : nullptr;
-            map.findings = std::move(findings).value_or(DistanceFindings());
-        }
-        if (map.survey) {
+        if (map.survey && findFor(map, goOn)) {
             outcome.map = std::move(map);
         }
     } catch (const RunTimeError& error) {
@@ -201,9 +220,11 @@ void AtlasSurveyMaps::begin()
     const bool areSame = m_compared && m_compared->source == wanted() && now == m_comparedMarks;
     m_marks = std::move(now);
     SurveyFiles source = files();
-    SurveyMap next{m_kind, m_cells, areSame ? m_compared : nullptr, m_settings, DistanceFindings()};
+    SurveyMap next{m_kind,          m_cells, areSame ? m_compared : nullptr, m_settings, DistanceFindings(),
+                   m_withItemMarks, {}};
     m_work.setFuture(QtConcurrent::run(findOut, std::move(source), std::move(next), wanted()));
     m_isBusy = true;
+    m_isComparing = !areSame;
     Q_EMIT progressed(0, 0);
     if (wasTold) {
         Q_EMIT changed();
@@ -217,6 +238,7 @@ void AtlasSurveyMaps::takeOutcome()
         Outcome outcome = m_work.future().takeResult();
         m_trouble = outcome.trouble;
         m_found = std::move(outcome.map).value_or(SurveyMap());
+        m_found.settings = withLookOf(m_found.settings, m_settings);
         m_compared = std::move(outcome.compared);
         m_comparedMarks = m_marks;
     }

@@ -31,6 +31,8 @@ public:
     void setSettings(const DistanceMapSettings& settings);
     void setIsoglossStyle(const IsoglossStyle& style);
     void setWithSymbols(bool with);
+    /// Whether the items that groups are known by are wanted, which takes longer than their word forms.
+    void setWithItemMarks(bool with);
     /// Shows the distances to locality i (from 1).
     void setReference(int i);
 
@@ -49,12 +51,19 @@ public:
     /// The kind of the map that is shown, which is another one until that which is wanted was found.
     AtlasMapKind shownKind() const { return m_found.survey ? m_found.kind : m_kind; }
     const DistanceFindings& findings() const { return m_found.findings; }
+    /// The items that group 1 and the following are known by; none unless they are wanted.
+    const std::vector<ItemsOfGroup>& itemMarks() const { return m_found.itemMarks; }
     /// What the user is to know of the map, a line each.
     QStringList notes() const;
     /// Why there is no map, or not the one that is wanted; empty where there is one or will be.
     const QString& trouble() const { return m_trouble; }
 
     bool isBusy() const { return m_isBusy; }
+    /// Whether localities are being compared, and nothing is shown meanwhile that is of the wanted kind.
+    bool isAwaited() const
+    {
+        return m_isBusy && m_isComparing && (!m_found.survey || m_found.kind != m_kind);
+    }
     /// Whether the work was stopped and nothing else was asked for since.
     bool isStopped() const { return m_isStopped; }
     /// Ends the work; what was shown stays.
@@ -103,6 +112,7 @@ private:
     DistanceMapSettings m_settings;
     IsoglossStyle m_style;
     bool m_withSymbols = false;
+    bool m_withItemMarks = false;
     /// The map that the cells are of, by name.
     QString m_mapName;
     std::shared_ptr<const CellMap> m_cells;
@@ -115,6 +125,7 @@ private:
     QString m_trouble;
     /// Whether there is work whose outcome has not been taken.
     bool m_isBusy = false;
+    bool m_isComparing = false;
     bool m_isStopped = false;
     QFutureWatcher<Outcome> m_work;
 };

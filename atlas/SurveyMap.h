@@ -38,6 +38,8 @@ struct ComparedSurvey
 {
     SurveySource source;
     SurveyAnswers answers;
+    /// The answers prepared to be compared; null for distances of a file.
+    std::shared_ptr<const SurveyComparison> comparison;
     DistanceMatrix distances;
     /// What the distances are called in titles.
     QString name;
@@ -77,7 +79,14 @@ struct SurveyMap
     std::shared_ptr<const ComparedSurvey> survey;
     DistanceMapSettings settings;
     DistanceFindings findings;
+    /// Whether the items are wanted that groups are known by, and those of group 1 and the following.
+    bool withItemMarks = false;
+    std::vector<ItemsOfGroup> itemMarks;
 };
+
+/// Finds out what the map shows of its compared survey; returns whether `goOn` let it end. Raises what
+/// `findingsFor` raises.
+bool findFor(SurveyMap& map, const DistanceProgress& goOn);
 
 void drawSurveyMap(const SurveyMap& map, const IsoglossStyle& style, const AreaMapParts& parts,
                    MapSurfaces surfaces);

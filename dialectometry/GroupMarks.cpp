@@ -3,6 +3,7 @@
 #include "dialectometry/Moments.h"
 
 #include <algorithm>
+#include <cmath>
 #include <limits>
 
 namespace {
@@ -50,23 +51,51 @@ void addFormsOfItem(const SurveyAnswers& survey, int item, const std::vector<int
     }
 }
 
-/// The mean of the distances from the group to itself, or to the others; not a number where there is none.
-double meanDistance(const DistanceMatrix& distances, const std::vector<int>& groups, int group, bool isWithin)
+/// The mean of some distances; not a number where there is none.
+class MeanDistance
 {
-    double sum = 0;
-    double count = 0;
-    for (int a = 0; a < distances.size(); ++a) {
-        for (int b = a + 1; b < distances.size(); ++b) {
-            const int first = groups[static_cast<std::size_t>(a)];
-            const int second = groups[static_cast<std::size_t>(b)];
-            const bool touches = (first == group || second == group) && first != 0 && second != 0;
-            if (touches && (first == second) == isWithin && distances.has(a, b)) {
-                sum += distances(a, b);
-                ++count;
+public:
+    void add(double distance)
+    {
+        m_sum += distance;
+        ++m_count;
+    }
+    double mean() const { return m_count > 0 ? m_sum / m_count : std::numeric_limits<double>::quiet_NaN(); }
+
+private:
+    double m_sum = 0;
+    double m_count = 0;
+};
+
+/// The distances from a group to itself, and to the others.
+struct PartedDistances
+{
+    MeanDistance within;
+    MeanDistance between;
+};
+
+/// Those of group 1 and the following.
+std::vector<PartedDistances> partedDistances(const DistanceMatrix& distances, const std::vector<int>& groups)
+{
+    std::vector<PartedDistances> parted(static_cast<std::size_t>(groupCount(groups)));
+    const auto of = [&](int group) -> PartedDistances& {
+        return parted[static_cast<std::size_t>(group - 1)];
+    };
+    auto pair = distances.pairs().begin();
+    for (std::size_t a = 0; a < groups.size(); ++a) {
+        for (std::size_t b = a + 1; b < groups.size(); ++b, ++pair) {
+            if (groups[a] == 0 || groups[b] == 0 || std::isnan(*pair)) {
+                continue;
+            }
+            if (groups[a] == groups[b]) {
+                of(groups[a]).within.add(*pair);
+            } else {
+                of(groups[a]).between.add(*pair);
+                of(groups[b]).between.add(*pair);
             }
         }
     }
-    return count > 0 ? sum / count : std::numeric_limits<double>::quiet_NaN();
+    return parted;
 }
 
 /// The distances between localities that count.
@@ -96,23 +125,32 @@ std::vector<FormOfGroup> formsOfGroup(const SurveyAnswers& survey, const std::ve
     return found;
 }
 
-std::optional<std::vector<ItemOfGroup>> itemsOfGroup(const SurveyComparison& survey,
-                                                     const std::vector<int>& groups, int group,
-                                                     const DistanceProgress& goOn)
+int groupCount(const std::vector<int>& groups)
 {
-    std::vector<ItemOfGroup> found;
+    return groups.empty() ? 0 : std::ranges::max(groups);
+}
+
+std::optional<std::vector<ItemsOfGroup>>
+itemsOfGroups(const SurveyComparison& survey, const std::vector<int>& groups, const DistanceProgress& goOn)
+{
+    std::vector<ItemsOfGroup> found(static_cast<std::size_t>(groupCount(groups)));
     for (int item = 0; item < survey.items(); ++item) {
         if (!goOn(item, survey.items())) {
             return std::nullopt;
         }
         const DistanceMatrix distances = survey.ofItem(item);
-        const double within = meanDistance(distances, groups, group, true);
-        const double between = meanDistance(distances, groups, group, false);
         const double deviation = momentsOf(countedDistances(distances, groups)).deviation();
-        if (const double score = (between - within) / deviation; std::isfinite(score)) {
-            found.push_back({item, within, between, score});
+        const std::vector<PartedDistances> parted = partedDistances(distances, groups);
+        for (std::size_t i = 0; i < parted.size(); ++i) {
+            const double within = parted[i].within.mean();
+            const double between = parted[i].between.mean();
+            if (const double score = (between - within) / deviation; std::isfinite(score)) {
+                found[i].push_back({item, within, between, score});
+            }
         }
     }
-    std::ranges::stable_sort(found, std::greater<>(), &ItemOfGroup::score);
+    for (ItemsOfGroup& items : found) {
+        std::ranges::stable_sort(items, std::greater<>(), &ItemOfGroup::score);
+    }
     return goOn(survey.items(), survey.items()) ? std::optional(std::move(found)) : std::nullopt;
 }

@@ -119,6 +119,12 @@ std::vector<PlottedLocality> plotted(const Scaling& scaling)
     return all;
 }
 
+/// Half the width of a locality's mark.
+double markSize(int group)
+{
+    return group > 0 ? 2 * Dot : Dot;
+}
+
 void drawLocality(int group, QPointF at, DrawSurface& target)
 {
     const auto x = static_cast<float>(at.x());
@@ -233,8 +239,10 @@ void drawScalingPlot(const Scaling& scaling, const QStringList& names, std::span
     const auto at = [&plot](QPointF place) { return QPointF(plot.x.at(place.x()), plot.y.at(place.y())); };
     for (const auto& [number, place] : localities) {
         const auto index = static_cast<std::size_t>(number);
-        drawLocality(index < groups.size() ? groups[index] : 0, at(place), target);
-        labels.reserve(QRectF(at(place) - QPointF(Dot, Dot), QSizeF(2 * Dot, 2 * Dot)));
+        const int group = index < groups.size() ? groups[index] : 0;
+        const double size = markSize(group);
+        drawLocality(group, at(place), target);
+        labels.reserve(QRectF(at(place) - QPointF(size, size), QSizeF(2 * size, 2 * size)));
     }
     target.FontSize = std::max(target.FontSize * 4 / 5, 1);
     for (const auto& [number, place] : localities) {

@@ -3,15 +3,9 @@
 #include "dialectometry/GlyphLetters.h"
 #include "platform/SequentialFile.h"
 
-#include <algorithm>
 #include <cmath>
 
 namespace {
-
-int groupCount(const std::vector<int>& groups)
-{
-    return groups.empty() ? 0 : std::ranges::max(groups);
-}
 
 const ComparedItem& itemOf(const SurveyAnswers& answers, int item)
 {
@@ -53,9 +47,9 @@ void writeItemsOfGroups(SequentialWriter& file, const SurveyAnswers& answers,
 {
     const auto goOn = [](int, int) { return true; };
     writeHeadings(file, {"group", "item", "within", "between", "score"});
+    const auto marks = itemsOfGroups(comparison, groups, goOn);
     for (int group = 1; group <= groupCount(groups); ++group) {
-        const auto marks = itemsOfGroup(comparison, groups, group, goOn);
-        for (const ItemOfGroup& mark : *marks) {
+        for (const ItemOfGroup& mark : (*marks)[static_cast<std::size_t>(group - 1)]) {
             file.write(group, itemOf(answers, mark.item).name, rounded(mark.within), rounded(mark.between),
                        rounded(mark.score));
         }

@@ -8,12 +8,15 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDoubleSpinBox>
+#include <QEvent>
 #include <QFormLayout>
+#include <QHeaderView>
 #include <QLabel>
 #include <QProgressBar>
 #include <QScrollArea>
 #include <QSignalBlocker>
 #include <QStandardItemModel>
+#include <QTableView>
 #include <QToolButton>
 #include <QVBoxLayout>
 
@@ -54,6 +57,7 @@ SurveyPane::SurveyPane(const VarnModule& varn, AtlasSurveyMaps& survey)
     column->setContentsMargins(0, 0, 0, 0);
     column->addWidget(scrolledSettings(), 1);
     column->addLayout(progressRow());
+    keepFromWheel();
     connect(&m_survey, &AtlasSurveyMaps::changed, this, &SurveyPane::showFound);
     connect(&m_survey, &AtlasSurveyMaps::progressed, this, &SurveyPane::showProgress);
     showKind(m_kind);
@@ -76,6 +80,27 @@ QWidget* SurveyPane::scrolledSettings()
     scroll->setFrameShape(QFrame::NoFrame);
     scroll->setFocusPolicy(Qt::NoFocus);
     return scroll;
+}
+
+/// The wheel scrolls the settings, and changes only the one that has the focus.
+void SurveyPane::keepFromWheel()
+{
+    for (QWidget* box : findChildren<QWidget*>()) {
+        if (qobject_cast<QComboBox*>(box) != nullptr || qobject_cast<QAbstractSpinBox*>(box) != nullptr) {
+            box->setFocusPolicy(Qt::StrongFocus);
+            box->installEventFilter(this);
+        }
+    }
+}
+
+bool SurveyPane::eventFilter(QObject* watched, QEvent* event)
+{
+    const auto* box = qobject_cast<QWidget*>(watched);
+    if (event->type() == QEvent::Wheel && box != nullptr && !box->hasFocus()) {
+        event->ignore();
+        return true;
+    }
+    return QWidget::eventFilter(watched, event);
 }
 
 void SurveyPane::showKind(AtlasMapKind kind)
@@ -162,9 +187,13 @@ QString SurveyPane::compared() const
     }
     const auto survey = m_survey.survey();
     const std::size_t items = survey ? survey->answers.items.size() : 0;
-    return items == 0   ? QStringLiteral("Answers to the items")
-           : items == 1 ? QStringLiteral("Answers to 1 item")
-                        : QStringLiteral("Answers to %1 items").arg(items);
+    if (items == 0) {
+        return QStringLiteral("Answers to the items");
+    }
+    const QString answers =
+        items == 1 ? QStringLiteral("Answers to 1 item") : QStringLiteral("Answers to %1 items").arg(items);
+    const qsizetype leftOut = survey->leftOut.size(); // named under the settings
+    return leftOut == 0 ? answers : answers + QStringLiteral(", %1 left out").arg(leftOut);
 }
 
 /// Another map may have as many localities.
@@ -201,19 +230,42 @@ void SurveyPane::showFound()
     showSettings();
 }
 
+/// Distances of a file are not of items that could mark a group.
 void SurveyPane::showMarks()
 {
+    for (QWidget* row : {static_cast<QWidget*>(m_group), static_cast<QWidget*>(m_marksBy),
+                         static_cast<QWidget*>(m_marksView)}) {
+        m_rows->setRowVisible(row, m_kind == Kind::Clusters && !isOfFile());
+    }
+    listMarks();
+    QHeaderView& header = *m_marksView->horizontalHeader();
+    for (int column = 0; column < header.count(); ++column) {
+        header.setSectionResizeMode(column, column < m_marks->textColumns() ? QHeaderView::Stretch
+                                                                            : QHeaderView::ResizeToContents);
+    }
+}
+
+void SurveyPane::listMarks()
+{
+    const auto survey = m_survey.survey();
     const int group = m_group->currentIndex() + 1;
-    m_marks->setGroup(group > 0 && m_kind == Kind::Clusters ? m_survey.survey() : nullptr,
-                      m_survey.findings().groups, group);
+    const std::vector<ItemsOfGroup>& items = m_survey.itemMarks();
+    if (!survey || group == 0 || m_kind != Kind::Clusters) {
+        m_marks->clear();
+    } else if (m_marksBy->currentIndex() != ByItems) {
+        m_marks->setForms(*survey, m_survey.findings().groups, group);
+    } else {
+        m_marks->setItems(*survey,
+                          items.empty() ? ItemsOfGroup() : items[static_cast<std::size_t>(group - 1)]);
+    }
 }
 
 void SurveyPane::showProgress(int done, int of)
 {
     const bool isBusy = m_survey.isBusy();
     m_progress->setVisible(isBusy);
+    m_goOn->setVisible(m_survey.isStopped() && !isBusy); // before Stop goes, whose focus it takes
     m_stop->setVisible(isBusy);
-    m_goOn->setVisible(m_survey.isStopped() && !isBusy);
     m_progress->setRange(0, of);
     m_progress->setValue(done);
 }

@@ -42,8 +42,13 @@ Q_SIGNALS:
     /// The user wants the distances to that locality (from 1).
     void localityWanted(int locality);
 
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
 private:
     using Kinds = std::initializer_list<AtlasMapKind>;
+    /// The row of the choice what marks are listed.
+    static constexpr int ByItems = 1;
 
     void addSource();
     void addClusters();
@@ -51,6 +56,7 @@ private:
     void addMarks();
     QLayout* progressRow();
     QWidget* scrolledSettings();
+    void keepFromWheel();
     void addRow(const QString& label, QWidget* row, Kinds kinds);
     QComboBox* addChoice(const char* name, const QString& label, const QStringList& choices, Kinds kinds);
     QCheckBox* addSwitch(const char* name, const QString& text, Kinds kinds);
@@ -61,6 +67,7 @@ private:
     void showSettings();
     void showFound();
     void showMarks();
+    void listMarks();
     void showProgress(int done, int of);
     void showLocalities();
     /// Whether what is shown is made of distances of a file.
@@ -92,6 +99,7 @@ private:
     QCheckBox* m_numbers = nullptr;
     QCheckBox* m_withSymbols = nullptr;
     QComboBox* m_group = nullptr;
+    QComboBox* m_marksBy = nullptr;
     GroupMarksTable* m_marks;
     QTableView* m_marksView = nullptr;
     QLabel* m_notes;

@@ -158,6 +158,9 @@ void SurveyPane::addLook()
 void SurveyPane::addMarks()
 {
     m_group = addChoice("cboGroup", QStringLiteral("&What marks"), {}, {Kind::Clusters});
+    m_marksBy = addChoice("cboMarksBy", QStringLiteral("Shown &by"),
+                          {QStringLiteral("Its word forms"), QStringLiteral("The items it is known by")},
+                          {Kind::Clusters});
     m_marksView = new QTableView;
     m_marksView->setObjectName(QStringLiteral("tblMarks"));
     m_marksView->setAccessibleName(QStringLiteral("What marks the group"));
@@ -165,23 +168,26 @@ void SurveyPane::addMarks()
     m_marksView->setSelectionBehavior(QAbstractItemView::SelectRows);
     m_marksView->setTabKeyNavigation(false);
     m_marksView->verticalHeader()->hide();
-    m_marksView->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
-    for (const int column : {GroupMarksTable::Item, GroupMarksTable::WordForm}) {
-        m_marksView->horizontalHeader()->setSectionResizeMode(column, QHeaderView::Stretch);
-    }
     m_marksView->verticalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
     m_marksView->setMinimumHeight(220);
     addRow({}, m_marksView, {Kind::Clusters});
     connect(m_group, &QComboBox::currentIndexChanged, this, &SurveyPane::showMarks);
+    connect(m_marksBy, &QComboBox::activated, this, [this](int row) {
+        m_survey.setWithItemMarks(row == ByItems);
+        showMarks();
+    });
 }
 
 /// Under the settings, so that it is always seen.
 QLayout* SurveyPane::progressRow()
 {
+    constexpr int RowRim = 9;
+
     m_progress = new QProgressBar;
     m_progress->setObjectName(QStringLiteral("barProgress"));
     m_progress->setAccessibleName(QStringLiteral("Progress"));
     auto* row = new QHBoxLayout;
+    row->setContentsMargins(RowRim, 0, RowRim, 0);
     row->addWidget(m_progress, 1);
     const auto add = [&](const char* name, const QString& text, void (AtlasSurveyMaps::*slot)()) {
         auto* button = new QToolButton; // the row takes it

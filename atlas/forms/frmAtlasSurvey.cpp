@@ -44,7 +44,7 @@ void frmAtlas::chooseItems()
                  m_survey.source().items},
                 [this](const QStringList& paths) {
                     SurveySource source = m_survey.source();
-                    source.items = paths;
+                    source.items = paths == atlasItemPaths(m_varn) ? QStringList() : paths; // later ones too
                     source.distancesFile.clear();
                     m_survey.setSource(source);
                 });

@@ -122,7 +122,7 @@ TEST(GroupMarks, FormsAndItemsOfAGroupAreInOrder)
         EXPECT_DOUBLE_EQ(forms[i].representativeness, rows[i].representativeness);
         EXPECT_DOUBLE_EQ(forms[i].distinctiveness, rows[i].distinctiveness);
     }
-    const auto items = *itemsOfGroup(SurveyComparison(survey, {}), groups, 1, goOnAlways);
+    const auto items = itemsOfGroups(SurveyComparison(survey, {}), groups, goOnAlways)->front();
     ASSERT_EQ(items.size(), 2U); // one has one kind, one no distance within
     EXPECT_EQ(items[0].item, 0);
     EXPECT_DOUBLE_EQ(items[0].score, 1 / std::sqrt(2. / 9)); // 4 of 6 pairs differ
@@ -132,5 +132,5 @@ TEST(GroupMarks, FormsAndItemsOfAGroupAreInOrder)
 
     // All in one group, and a group of one.
     EXPECT_EQ(formsOfGroup(survey, {1, 1, 1, 1, 1}, 1).front().distinctiveness, 0);
-    EXPECT_TRUE(itemsOfGroup(SurveyComparison(survey, {}), {1, 2, 2, 2, 2}, 1, goOnAlways)->empty());
+    EXPECT_TRUE(itemsOfGroups(SurveyComparison(survey, {}), {1, 2, 2, 2, 2}, goOnAlways)->front().empty());
 }
