@@ -275,6 +275,11 @@ QSizeF AtlasSurveyMaps::size(const FormArea& area) const
                                                  : distanceMapSize(m_found.settings, area);
 }
 
+QString AtlasSurveyMaps::name() const
+{
+    return m_found.survey ? nameOf(m_found) : QString();
+}
+
 QStringList AtlasSurveyMaps::notes() const
 {
     return m_found.survey ? notesOf(m_found) : QStringList();

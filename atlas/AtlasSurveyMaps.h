@@ -53,6 +53,9 @@ public:
     const DistanceFindings& findings() const { return m_found.findings; }
     /// The items that group 1 and the following are known by; none unless they are wanted.
     const std::vector<ItemsOfGroup>& itemMarks() const { return m_found.itemMarks; }
+    /// What the map that is shown is of: "Levenshtein distances over 166 items"; empty before the first was
+    /// found.
+    QString name() const;
     /// What the user is to know of the map, a line each.
     QStringList notes() const;
     /// Why there is no map, or not the one that is wanted; empty where there is one or will be.

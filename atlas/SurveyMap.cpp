@@ -162,12 +162,17 @@ bool findFor(SurveyMap& map, const DistanceProgress& goOn)
     return !map.itemMarks.empty();
 }
 
+QString nameOf(const SurveyMap& map)
+{
+    return map.kind == AtlasMapKind::Bundles ? isoglossesOf(map.survey->answers.items.size())
+                                             : map.survey->name;
+}
+
 void drawSurveyMap(const SurveyMap& map, const IsoglossStyle& style, const AreaMapParts& parts,
                    MapSurfaces surfaces)
 {
     if (map.kind == AtlasMapKind::Bundles) {
-        drawBundleMap(parts, isoglossesOf(map.survey->answers.items.size()), map.survey->changes, style,
-                      surfaces);
+        drawBundleMap(parts, nameOf(map), map.survey->changes, style, surfaces);
     } else {
         drawDistanceMap(parts, map.survey->distances, map.findings, map.settings, map.survey->name, surfaces);
     }

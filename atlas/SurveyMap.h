@@ -91,6 +91,9 @@ bool findFor(SurveyMap& map, const DistanceProgress& goOn);
 void drawSurveyMap(const SurveyMap& map, const IsoglossStyle& style, const AreaMapParts& parts,
                    MapSurfaces surfaces);
 
+/// What the map is of: "Isoglosses of 12 items".
+QString nameOf(const SurveyMap& map);
+
 /// What the user is to know of the map: what is left out of it, and how far the distances can be trusted; a
 /// line each.
 QStringList notesOf(const SurveyMap& map);

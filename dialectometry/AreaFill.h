@@ -43,8 +43,11 @@ struct FilledCells
     std::vector<std::vector<int>> ofLocality;
 };
 
-/// Begins a map: clears the map form and sets the scale, paints the cells, those of one fill as one area, and
-/// draws the base map over them.
+/// Begins a map: clears the map form and sets the scale. The base map is drawn over what follows, so that its
+/// names can be read.
+void beginMap(const AreaMapParts& parts, MapSurfaces surfaces);
+
+/// Begins a map, paints the cells, those of one fill as one area, and draws the base map over them.
 void drawFilledMap(const AreaMapParts& parts, const FilledCells& cells, MapSurfaces surfaces);
 
 /// Draws thin lines between cells of different fills.

@@ -172,13 +172,14 @@ void addChanges(BorderChanges& sum, const BorderChanges& item)
 void drawIsoglossMap(const AreaMapParts& parts, const QString& title, const BorderChanges& changes,
                      const IsoglossStyle& style, MapSurfaces surfaces)
 {
-    DrawBlankMap(parts.base, surfaces);
+    beginMap(parts, surfaces);
     std::vector<int> classes;
     for (const double change : changes.changes) {
         classes.push_back(change == 0 ? NoLine : change < 1 ? 0 : 1);
     }
     const std::vector<LinePen> pens = fittingPens(IsoglossPens, parts);
     drawCellLines(linesOf(parts, classes, style.smooth), pens, surfaces.DrawTarget);
+    PlotBaseMap(parts.base, surfaces);
     AreaLegend legend;
     legend.title = title;
     const std::array texts = {QStringLiteral("some answers change"), QStringLiteral("all answers change")};
@@ -194,7 +195,7 @@ void drawIsoglossMap(const AreaMapParts& parts, const QString& title, const Bord
 void drawBundleMap(const AreaMapParts& parts, const QString& title, const BorderChanges& changes,
                    const IsoglossStyle& style, MapSurfaces surfaces)
 {
-    DrawBlankMap(parts.base, surfaces);
+    beginMap(parts, surfaces);
     const BundleClasses classOf(changes.changes);
     std::vector<int> classes;
     std::ranges::transform(changes.changes, std::back_inserter(classes), classOf);
@@ -205,6 +206,7 @@ void drawBundleMap(const AreaMapParts& parts, const QString& title, const Border
         legend.rows.push_back(lineRow(pens[static_cast<std::size_t>(i)], classOf.text(i)));
     }
     drawCellLines(linesOf(parts, classes, style.smooth), pens, surfaces.DrawTarget);
+    PlotBaseMap(parts.base, surfaces);
     if (style.numbers) {
         drawBorderNumbers(parts, changes.changes, surfaces.DrawTarget);
     }

@@ -48,7 +48,7 @@ Plot plotOf(const std::vector<QPointF>& points, const QRectF& area, const DrawSu
     plot.x = {std::numeric_limits<double>::max(), std::numeric_limits<double>::lowest(),
               static_cast<float>(left), static_cast<float>(area.right() - line)};
     plot.y = {plot.x.least, plot.x.most, static_cast<float>(area.bottom() - 3 * line),
-              static_cast<float>(area.top() + 2 * line)};
+              static_cast<float>(area.top() + 2.5 * line)};
     for (const QPointF point : points) {
         plot.x.least = std::min(plot.x.least, point.x());
         plot.x.most = std::max(plot.x.most, point.x());
@@ -85,7 +85,7 @@ void drawAxes(const Plot& plot, const PlotCaptions& captions, DrawSurface& targe
 /// Writes `name` beside (x, y) where there is room for it.
 void placeName(const QString& name, QPointF at, PlacedLabels& labels, DrawSurface& target)
 {
-    constexpr double Away = 2 * Dot + 15;
+    constexpr double Away = 2 * Dot + 30;
 
     const QSizeF size(target.TextWidth(name), target.TextHeight());
     const double middle = -size.height() / 2;

@@ -135,7 +135,7 @@ void SurveyPane::addLook()
     m_locality = addChoice("cboLocality", QStringLiteral("&Locality"), {}, {Kind::Reference});
     m_classes = addChoice(
         "cboClasses", QStringLiteral("Cl&asses"),
-        {QStringLiteral("Three below and three above the mean"), QStringLiteral("Six of one width")},
+        {QStringLiteral("Three on each side of the mean"), QStringLiteral("Six of one width")},
         {Kind::Reference});
     m_hatched = addSwitch("chkHatched", QStringLiteral("&Patterns for print without colours"),
                           {Kind::Areas, Kind::Reference, Kind::Clusters, Kind::Dendrogram});

@@ -169,7 +169,7 @@ QStringList frmAtlas::loaded() const
 {
     const QString map = m_varn.hasMap() ? QStringLiteral("Map: ") + m_varn.VarnMapName.mid(1) : QString();
     if (isOfSurvey(m_kind)) {
-        return {map, nameOf(m_kind), m_survey.survey() ? m_survey.survey()->name : QString()};
+        return {map, nameOf(m_kind), m_survey.name()};
     }
     if (isOfTable(m_kind)) {
         return {map, QStringLiteral("%1: %2 word forms over %3 items")
