@@ -178,13 +178,11 @@ void AtlasSurveyMaps::findOut(QPromise<Outcome>& promise, const SurveyFiles& fil
         promise.setProgressValue(done);
         return !promise.isCanceled();
     };
-    Outcome outcome;
+    Outcome outcome{map.survey, std::nullopt, {}};
     try {
         if (!map.survey) {
-            map.survey = compareSurvey(files, source, goOn);
-        }
-        outcome.compared = map.survey;
-        if (map.survey && findFor(map, goOn)) {
+            outcome.compared = compareSurvey(files, source, goOn);
+        } else if (findFor(map, goOn)) {
             outcome.map = std::move(map);
         }
     } catch (const RunTimeError& error) {
@@ -206,25 +204,36 @@ SurveySource AtlasSurveyMaps::wanted() const
     return source;
 }
 
-/// What is known of the same answers is kept.
+/// Whether what is wanted is being compared; the map that is wanted of it may be another one meanwhile.
+bool AtlasSurveyMaps::isComparing(const ItemMarks& marks) const
+{
+    return m_isBusy && m_isComparing && !m_work.isCanceled() && m_comparing == wanted() && m_marks == marks;
+}
+
+/// First localities are compared, unless they were; then it is found out what the map shows of it.
 void AtlasSurveyMaps::begin()
 {
-    m_work.cancel();
     m_isStopped = false;
     const bool wasTold = !std::exchange(m_trouble, QString()).isEmpty();
     if (!isOfSurvey(m_kind) || m_varn.NLocality == 0) {
+        m_work.cancel();
         Q_EMIT changed();
         return;
     }
     ItemMarks now = marks();
+    if (isComparing(now)) {
+        return;
+    }
+    m_work.cancel();
     const bool areSame = m_compared && m_compared->source == wanted() && now == m_comparedMarks;
+    m_isComparing = !areSame;
+    m_comparing = wanted();
     m_marks = std::move(now);
     SurveyFiles source = files();
     SurveyMap next{m_kind,          m_cells, areSame ? m_compared : nullptr, m_settings, DistanceFindings(),
                    m_withItemMarks, {}};
     m_work.setFuture(QtConcurrent::run(findOut, std::move(source), std::move(next), wanted()));
     m_isBusy = true;
-    m_isComparing = !areSame;
     Q_EMIT progressed(0, 0);
     if (wasTold) {
         Q_EMIT changed();
@@ -236,11 +245,15 @@ void AtlasSurveyMaps::takeOutcome()
     m_isBusy = false;
     if (!m_work.isCanceled() && m_work.future().resultCount() > 0) {
         Outcome outcome = m_work.future().takeResult();
-        m_trouble = outcome.trouble;
-        m_found = std::move(outcome.map).value_or(SurveyMap());
-        m_found.settings = withLookOf(m_found.settings, m_settings);
         m_compared = std::move(outcome.compared);
         m_comparedMarks = m_marks;
+        m_trouble = outcome.trouble;
+        if (m_compared && !outcome.map && m_trouble.isEmpty()) {
+            begin();
+            return;
+        }
+        m_found = std::move(outcome.map).value_or(SurveyMap());
+        m_found.settings = withLookOf(m_found.settings, m_settings);
     }
     Q_EMIT progressed(0, 0);
     Q_EMIT changed();

@@ -81,8 +81,8 @@ Q_SIGNALS:
     void progressed(int done, int of);
 
 private:
-    /// What came of work: nothing where it was stopped. Localities may have been compared although there is
-    /// no map.
+    /// What came of work: localities that were compared, and a map of those that were before; nothing where
+    /// it was stopped.
     struct Outcome
     {
         std::shared_ptr<const ComparedSurvey> compared;
@@ -103,6 +103,7 @@ private:
     /// What the map that is shown is compared from.
     SurveySource wanted() const;
     void followMap();
+    bool isComparing(const ItemMarks& marks) const;
     void begin();
     void takeOutcome();
     SurveyFiles files();
@@ -123,6 +124,7 @@ private:
     /// What was compared last, and of what; and of what the work is that was begun last.
     std::shared_ptr<const ComparedSurvey> m_compared;
     ItemMarks m_comparedMarks;
+    SurveySource m_comparing;
     ItemMarks m_marks;
     int m_edits = 0;
     QString m_trouble;

@@ -108,6 +108,29 @@ TEST_F(SurveyOfTwoItems, IsDrawnAsAskedFor)
     EXPECT_TRUE(drawn(AtlasMapKind::Isoglosses).contains("Rain"));
 }
 
+TEST_F(SurveyOfTwoItems, IsComparedOnceForAllMapsThatAreAskedForMeanwhile)
+{
+    int begun = 0;
+    QObject::connect(&maps, &AtlasSurveyMaps::progressed, &maps,
+                     [&](int, int of) { begun += of == 0 && maps.isBusy() ? 1 : 0; });
+    maps.setKind(AtlasMapKind::Clusters);
+    maps.setKind(AtlasMapKind::Reference);
+    maps.setReference(3);
+    maps.setKind(AtlasMapKind::Beams);
+    EXPECT_EQ(begun, 1);
+    wait();
+    EXPECT_EQ(maps.shownKind(), AtlasMapKind::Beams);
+    EXPECT_EQ(maps.trouble(), "");
+
+    SurveySource source = maps.source();
+    source.measure.measure = DistanceMeasure::WeightedIdentity;
+    maps.setSource(source);
+    source.measure.measure = DistanceMeasure::Levenshtein;
+    maps.setSource(source);
+    wait();
+    EXPECT_EQ(maps.name(), "Levenshtein distances over 2 items") << "what is not wanted any more is left";
+}
+
 TEST_F(SurveyOfTwoItems, TakesAnotherLookWithoutWork)
 {
     maps.setKind(AtlasMapKind::Clusters);

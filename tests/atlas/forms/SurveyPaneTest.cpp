@@ -120,6 +120,18 @@ TEST_F(SurveyMapsOfWindow, FollowTheLocalityThatIsChosen)
     EXPECT_TRUE(texts().contains("Distance to locality 3")) << "chosen before";
 }
 
+TEST_F(SurveyMapsOfWindow, AreExportedByTheNameOfWhatTheyShow)
+{
+    program.dialogs.savedFiles = {std::nullopt, std::nullopt};
+    show("mnuKindAreasoftheItem");
+    trigger<frmAtlas>("mnuExportMap");
+    show("mnuKindBeamsbetweenNeighbours");
+    trigger<frmAtlas>("mnuExportMap");
+    ASSERT_EQ(program.dialogs.proposals.size(), 2U);
+    EXPECT_EQ(program.dialogs.proposals[0].name, "rain - Areas of the Item");
+    EXPECT_EQ(program.dialogs.proposals[1].name, "Beams between Neighbours");
+}
+
 TEST_F(SurveyMapsOfWindow, ScrollWithoutBeingChanged)
 {
     show("mnuKindGroupsofLocalities");
