@@ -39,15 +39,18 @@ OtherMap mapOfTable(AtlasMapKind kind, int wordForm, VarnModule& varn)
     return map;
 }
 
-OtherMap mapOfSurvey(AtlasMapKind kind, AtlasSurveyMaps& survey)
+OtherMap mapOfSurvey(AtlasSurveyMaps& survey)
 {
     OtherMap map;
     map.draw = [&survey](const LinguisticMapParts& parts, MapSurfaces surfaces) {
         survey.draw({parts.base, parts.text, survey.cellMap().cells}, surfaces);
     };
     map.paper = survey.size(firstArea());
-    map.hasLocalities = !isPlot(kind);
+    map.hasLocalities = !isPlot(survey.shownKind());
     map.message = survey.trouble();
+    if (survey.isAwaited()) {
+        map.message = QStringLiteral("The localities are being compared.");
+    }
     return map;
 }
 
@@ -63,5 +66,5 @@ OtherMap otherMap(AtlasMapKind kind, int wordForm, VarnModule& varn, AtlasSurvey
     if (isOfItem(kind)) {
         return mapOfItem(kind, survey);
     }
-    return isOfSurvey(kind) ? mapOfSurvey(kind, survey) : mapOfTable(kind, wordForm, varn);
+    return isOfSurvey(kind) ? mapOfSurvey(survey) : mapOfTable(kind, wordForm, varn);
 }

@@ -9,6 +9,7 @@
 #include <QtConcurrentRun>
 
 #include <new>
+#include <utility>
 
 namespace {
 
@@ -18,6 +19,16 @@ bool isSameLand(const BaseMap& a, const BaseMap& b)
     return a.NLocality == b.NLocality && a.LocXY == b.LocXY && a.localityNames == b.localityNames &&
            a.NLine == b.NLine && a.LinePoints == b.LinePoints && a.LineOffset == b.LineOffset &&
            a.LineXY == b.LineXY;
+}
+
+/// `settings` with that of `others` which changes nothing in what is found.
+DistanceMapSettings withLookOf(DistanceMapSettings settings, const DistanceMapSettings& others)
+{
+    settings.rule = others.rule;
+    settings.look = others.look;
+    settings.symbols = others.symbols;
+    settings.withDendrogram = others.withDendrogram;
+    return settings;
 }
 
 } // namespace
@@ -51,8 +62,9 @@ void AtlasSurveyMaps::setKind(AtlasMapKind kind)
     begin();
 }
 
-void AtlasSurveyMaps::setSource(const SurveySource& source)
+void AtlasSurveyMaps::setSource(const SurveySource& asked)
 {
+    const SurveySource source = withPossibleMeasure(asked);
     if (source != m_source) {
         m_source = source;
         begin();
@@ -61,8 +73,15 @@ void AtlasSurveyMaps::setSource(const SurveySource& source)
 
 void AtlasSurveyMaps::setSettings(const DistanceMapSettings& settings)
 {
-    if (settings != m_settings) {
-        m_settings = settings;
+    if (settings == m_settings) {
+        return;
+    }
+    const bool isLookAlone = withLookOf(m_settings, settings) == settings;
+    m_settings = settings;
+    if (isLookAlone) {
+        m_found.settings = withLookOf(m_found.settings, settings);
+        Q_EMIT changed();
+    } else {
         begin();
     }
 }
@@ -80,6 +99,14 @@ void AtlasSurveyMaps::setWithSymbols(bool with)
     if (with != m_withSymbols) {
         m_withSymbols = with;
         Q_EMIT changed();
+    }
+}
+
+void AtlasSurveyMaps::setWithItemMarks(bool with)
+{
+    if (with != m_withItemMarks) {
+        m_withItemMarks = with;
+        begin();
     }
 }
 
@@ -109,6 +136,7 @@ void AtlasSurveyMaps::followMap()
     m_work.cancel();
     m_cells.reset();
     m_found = SurveyMap();
+    m_compared.reset();
     m_source.items.clear();
     m_source.distancesFile.clear();
     m_settings.reference = 0;
@@ -150,18 +178,11 @@ void AtlasSurveyMaps::findOut(QPromise<Outcome>& promise, const SurveyFiles& fil
         promise.setProgressValue(done);
         return !promise.isCanceled();
     };
-    Outcome outcome;
+    Outcome outcome{map.survey, std::nullopt, {}};
     try {
         if (!map.survey) {
-            map.survey = compareSurvey(files, source, goOn);
-        }
-        if (map.survey && map.kind != AtlasMapKind::Bundles) {
-            auto findings =
-                findingsFor(map.settings, map.survey->distances, map.map->map, map.map->cells, goOn);
-            map.survey = findings ? map.survey : nullptr;
-            map.findings = std::move(findings).value_or(DistanceFindings());
-        }
-        if (map.survey) {
+            outcome.compared = compareSurvey(files, source, goOn);
+        } else if (findFor(map, goOn)) {
             outcome.map = std::move(map);
         }
     } catch (const RunTimeError& error) {
@@ -183,23 +204,40 @@ SurveySource AtlasSurveyMaps::wanted() const
     return source;
 }
 
-/// What is known of the same answers is kept.
+/// Whether what is wanted is being compared; the map that is wanted of it may be another one meanwhile.
+bool AtlasSurveyMaps::isComparing(const ItemMarks& marks) const
+{
+    return m_isBusy && m_isComparing && !m_work.isCanceled() && m_comparing == wanted() && m_marks == marks;
+}
+
+/// First localities are compared, unless they were; then it is found out what the map shows of it.
 void AtlasSurveyMaps::begin()
 {
-    m_work.cancel();
-    m_trouble.clear();
+    m_isStopped = false;
+    const bool wasTold = !std::exchange(m_trouble, QString()).isEmpty();
     if (!isOfSurvey(m_kind) || m_varn.NLocality == 0) {
+        m_work.cancel();
         Q_EMIT changed();
         return;
     }
     ItemMarks now = marks();
-    const bool areSame = m_found.survey && m_found.survey->source == wanted() && now == m_foundMarks;
+    if (isComparing(now)) {
+        return;
+    }
+    m_work.cancel();
+    const bool areSame = m_compared && m_compared->source == wanted() && now == m_comparedMarks;
+    m_isComparing = !areSame;
+    m_comparing = wanted();
     m_marks = std::move(now);
     SurveyFiles source = files();
-    SurveyMap next{m_kind, m_cells, areSame ? m_found.survey : nullptr, m_settings, DistanceFindings()};
+    SurveyMap next{m_kind,          m_cells, areSame ? m_compared : nullptr, m_settings, DistanceFindings(),
+                   m_withItemMarks, {}};
     m_work.setFuture(QtConcurrent::run(findOut, std::move(source), std::move(next), wanted()));
     m_isBusy = true;
     Q_EMIT progressed(0, 0);
+    if (wasTold) {
+        Q_EMIT changed();
+    }
 }
 
 void AtlasSurveyMaps::takeOutcome()
@@ -207,9 +245,15 @@ void AtlasSurveyMaps::takeOutcome()
     m_isBusy = false;
     if (!m_work.isCanceled() && m_work.future().resultCount() > 0) {
         Outcome outcome = m_work.future().takeResult();
+        m_compared = std::move(outcome.compared);
+        m_comparedMarks = m_marks;
         m_trouble = outcome.trouble;
+        if (m_compared && !outcome.map && m_trouble.isEmpty()) {
+            begin();
+            return;
+        }
         m_found = std::move(outcome.map).value_or(SurveyMap());
-        m_foundMarks = m_marks;
+        m_found.settings = withLookOf(m_found.settings, m_settings);
     }
     Q_EMIT progressed(0, 0);
     Q_EMIT changed();
@@ -217,7 +261,16 @@ void AtlasSurveyMaps::takeOutcome()
 
 void AtlasSurveyMaps::stop()
 {
-    m_work.cancel();
+    if (m_isBusy) {
+        m_isStopped = true;
+        m_trouble = QStringLiteral("Stopped: this is not yet the map that the settings ask for.");
+        m_work.cancel();
+    }
+}
+
+void AtlasSurveyMaps::goOn()
+{
+    begin();
 }
 
 void AtlasSurveyMaps::draw(const AreaMapParts& parts, MapSurfaces surfaces) const
@@ -231,7 +284,13 @@ void AtlasSurveyMaps::draw(const AreaMapParts& parts, MapSurfaces surfaces) cons
 
 QSizeF AtlasSurveyMaps::size(const FormArea& area) const
 {
-    return distanceMapSize(m_found.settings, area);
+    return m_found.kind == AtlasMapKind::Bundles ? QSizeF(area.Width, area.Height)
+                                                 : distanceMapSize(m_found.settings, area);
+}
+
+QString AtlasSurveyMaps::name() const
+{
+    return m_found.survey ? nameOf(m_found) : QString();
 }
 
 QStringList AtlasSurveyMaps::notes() const

@@ -26,10 +26,13 @@ public:
 
     /// Which map is shown from now on; of one that is not of the survey nothing is found out.
     void setKind(AtlasMapKind kind);
-    void setSource(const SurveySource& source);
+    /// Takes a measure that is possible where the one that is asked for is not.
+    void setSource(const SurveySource& asked);
     void setSettings(const DistanceMapSettings& settings);
     void setIsoglossStyle(const IsoglossStyle& style);
     void setWithSymbols(bool with);
+    /// Whether the items that groups are known by are wanted, which takes longer than their word forms.
+    void setWithItemMarks(bool with);
     /// Shows the distances to locality i (from 1).
     void setReference(int i);
 
@@ -45,15 +48,31 @@ public:
 
     /// What is shown; null before the first was found.
     std::shared_ptr<const ComparedSurvey> survey() const { return m_found.survey; }
+    /// The kind of the map that is shown, which is another one until that which is wanted was found.
+    AtlasMapKind shownKind() const { return m_found.survey ? m_found.kind : m_kind; }
     const DistanceFindings& findings() const { return m_found.findings; }
+    /// The items that group 1 and the following are known by; none unless they are wanted.
+    const std::vector<ItemsOfGroup>& itemMarks() const { return m_found.itemMarks; }
+    /// What the map that is shown is of: "Levenshtein distances over 166 items"; empty before the first was
+    /// found.
+    QString name() const;
     /// What the user is to know of the map, a line each.
     QStringList notes() const;
-    /// Why there is no map; empty where there is one or will be.
+    /// Why there is no map, or not the one that is wanted; empty where there is one or will be.
     const QString& trouble() const { return m_trouble; }
 
     bool isBusy() const { return m_isBusy; }
+    /// Whether localities are being compared, and nothing is shown meanwhile that is of the wanted kind.
+    bool isAwaited() const
+    {
+        return m_isBusy && m_isComparing && (!m_found.survey || m_found.kind != m_kind);
+    }
+    /// Whether the work was stopped and nothing else was asked for since.
+    bool isStopped() const { return m_isStopped; }
     /// Ends the work; what was shown stays.
     void stop();
+    /// Begins the work that was stopped again.
+    void goOn();
 
 Q_SIGNALS:
     /// Another map is to be drawn, or other settings are shown.
@@ -62,9 +81,11 @@ Q_SIGNALS:
     void progressed(int done, int of);
 
 private:
-    /// What came of work: nothing where it was stopped.
+    /// What came of work: localities that were compared, and a map of those that were before; nothing where
+    /// it was stopped.
     struct Outcome
     {
+        std::shared_ptr<const ComparedSurvey> compared;
         std::optional<SurveyMap> map;
         QString trouble;
     };
@@ -82,6 +103,7 @@ private:
     /// What the map that is shown is compared from.
     SurveySource wanted() const;
     void followMap();
+    bool isComparing(const ItemMarks& marks) const;
     void begin();
     void takeOutcome();
     SurveyFiles files();
@@ -94,16 +116,21 @@ private:
     DistanceMapSettings m_settings;
     IsoglossStyle m_style;
     bool m_withSymbols = false;
+    bool m_withItemMarks = false;
     /// The map that the cells are of, by name.
     QString m_mapName;
     std::shared_ptr<const CellMap> m_cells;
     SurveyMap m_found;
-    /// What `m_found` was compared of, and what the work that was begun last is.
-    ItemMarks m_foundMarks;
+    /// What was compared last, and of what; and of what the work is that was begun last.
+    std::shared_ptr<const ComparedSurvey> m_compared;
+    ItemMarks m_comparedMarks;
+    SurveySource m_comparing;
     ItemMarks m_marks;
     int m_edits = 0;
     QString m_trouble;
     /// Whether there is work whose outcome has not been taken.
     bool m_isBusy = false;
+    bool m_isComparing = false;
+    bool m_isStopped = false;
     QFutureWatcher<Outcome> m_work;
 };

@@ -2,43 +2,88 @@
 
 #include "dialectometry/GlyphLetters.h"
 
-#include <array>
+#include <algorithm>
 
-void GroupMarksTable::setGroup(std::shared_ptr<const ComparedSurvey> survey, const std::vector<int>& groups,
-                               int group)
+namespace {
+
+/// As many rows as somebody reads.
+constexpr std::size_t MostRows = 200;
+
+struct Column
 {
-    constexpr std::size_t Most = 200;
+    const char* name;
+    const char* explained;
+};
+using ColumnsOfTable = std::array<Column, GroupMarksTable::Columns>;
 
+constexpr ColumnsOfTable OfForms = {
+    {{"Item", "The item"},
+     {"Form", "Its word form or kind"},
+     {"Represents", "The share of the group's localities that have it"},
+     {"Marks Off", "How far it is found in the group only: 1 for nowhere else"}}};
+constexpr ColumnsOfTable OfItems = {
+    {{"Item", "The item"},
+     {"Within", "The mean distance within the group"},
+     {"Between", "The mean distance between the group and all others"},
+     {"Score", "How much farther the others are, in standard deviations of the item's distances"}}};
+
+QString itemOf(const ComparedSurvey& survey, int item)
+{
+    return inLetters(survey.answers.items[static_cast<std::size_t>(item)].caption);
+}
+
+QString inDigits(double value)
+{
+    return QString::number(value, 'f', 2);
+}
+
+} // namespace
+
+void GroupMarksTable::clear()
+{
+    setRows(m_areItems, {});
+}
+
+void GroupMarksTable::setForms(const ComparedSurvey& survey, const std::vector<int>& groups, int group)
+{
+    std::vector<FormOfGroup> marks = formsOfGroup(survey.answers, groups, group);
+    marks.resize(std::min(marks.size(), MostRows));
+    std::vector<Row> rows;
+    for (const FormOfGroup& mark : marks) {
+        const ComparedItem& item = survey.answers.items[static_cast<std::size_t>(mark.item)];
+        rows.push_back({itemOf(survey, mark.item), inLetters(item.forms[mark.form]),
+                        inDigits(mark.representativeness), inDigits(mark.distinctiveness)});
+    }
+    setRows(false, std::move(rows));
+}
+
+void GroupMarksTable::setItems(const ComparedSurvey& survey, const ItemsOfGroup& items)
+{
+    std::vector<Row> rows;
+    for (const ItemOfGroup& mark : items) {
+        rows.push_back(
+            {itemOf(survey, mark.item), inDigits(mark.within), inDigits(mark.between), inDigits(mark.score)});
+    }
+    rows.resize(std::min(rows.size(), MostRows));
+    setRows(true, std::move(rows));
+}
+
+void GroupMarksTable::setRows(bool areItems, std::vector<Row> rows)
+{
     beginResetModel();
-    m_survey = std::move(survey);
-    m_marks = m_survey ? formsOfGroup(m_survey->answers, groups, group) : std::vector<FormOfGroup>();
-    m_marks.resize(std::min(m_marks.size(), Most));
+    m_areItems = areItems;
+    m_rows = std::move(rows);
     endResetModel();
 }
 
 int GroupMarksTable::rowCount(const QModelIndex& parent) const
 {
-    return parent.isValid() ? 0 : static_cast<int>(m_marks.size());
+    return parent.isValid() ? 0 : static_cast<int>(m_rows.size());
 }
 
 int GroupMarksTable::columnCount(const QModelIndex& parent) const
 {
     return parent.isValid() ? 0 : Columns;
-}
-
-QString GroupMarksTable::text(const FormOfGroup& mark, int column) const
-{
-    const ComparedItem& item = m_survey->answers.items[static_cast<std::size_t>(mark.item)];
-    switch (column) {
-    case Item:
-        return inLetters(item.caption);
-    case WordForm:
-        return inLetters(item.forms[mark.form]);
-    case Representative:
-        return QString::number(mark.representativeness, 'f', 2);
-    default:
-        return QString::number(mark.distinctiveness, 'f', 2);
-    }
 }
 
 QVariant GroupMarksTable::data(const QModelIndex& index, int role) const
@@ -47,9 +92,9 @@ QVariant GroupMarksTable::data(const QModelIndex& index, int role) const
         return {};
     }
     if (role == Qt::DisplayRole || role == Qt::ToolTipRole) {
-        return text(m_marks[static_cast<std::size_t>(index.row())], index.column());
+        return m_rows[static_cast<std::size_t>(index.row())][static_cast<std::size_t>(index.column())];
     }
-    if (role == Qt::TextAlignmentRole && index.column() >= Representative) {
+    if (role == Qt::TextAlignmentRole && index.column() >= textColumns()) {
         return (Qt::AlignRight | Qt::AlignVCenter).toInt();
     }
     return {};
@@ -57,13 +102,9 @@ QVariant GroupMarksTable::data(const QModelIndex& index, int role) const
 
 QVariant GroupMarksTable::headerData(int section, Qt::Orientation orientation, int role) const
 {
-    constexpr std::array Names = {"Item", "Word Form", "Represents", "Marks Off"};
-    constexpr std::array Explained = {"The item", "Its word form or kind",
-                                      "The share of the group's localities that have it",
-                                      "How far it is found in the group only: 1 for nowhere else"};
     if (orientation != Qt::Horizontal || (role != Qt::DisplayRole && role != Qt::ToolTipRole)) {
         return {};
     }
-    const auto column = static_cast<std::size_t>(section);
-    return QLatin1String(role == Qt::DisplayRole ? Names.at(column) : Explained.at(column));
+    const Column& column = (m_areItems ? OfItems : OfForms).at(static_cast<std::size_t>(section));
+    return QLatin1String(role == Qt::DisplayRole ? column.name : column.explained);
 }

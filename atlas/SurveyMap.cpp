@@ -69,11 +69,10 @@ void findChanges(const CellMap& map, ComparedSurvey& survey)
     }
 }
 
-void findAgreement(const BaseMap& map, const SurveyComparison* comparison, ComparedSurvey& survey,
-                   const DistanceProgress& goOn)
+void findAgreement(const BaseMap& map, ComparedSurvey& survey, const DistanceProgress& goOn)
 {
     const Lengths ways = localityLengths(map, map, map);
-    survey.agreement = {comparison != nullptr ? cronbachAlpha(*comparison, goOn) : std::nullopt,
+    survey.agreement = {survey.comparison ? cronbachAlpha(*survey.comparison, goOn) : std::nullopt,
                         localIncoherence(survey.distances, ways.lengths),
                         lengthCorrelation(survey.distances, ways.lengths), ways.unit};
 }
@@ -83,15 +82,15 @@ bool compareItems(const SurveyFiles& files, ComparedSurvey& survey, const Distan
     if (!readAnswers(files, survey, goOn)) {
         return false;
     }
-    const SurveyComparison comparison(survey.answers, survey.source.measure);
-    auto distances = comparison.matrix(goOn);
+    survey.comparison = std::make_shared<const SurveyComparison>(survey.answers, survey.source.measure);
+    auto distances = survey.comparison->matrix(goOn);
     if (!distances) {
         return false;
     }
     survey.distances = std::move(*distances);
     survey.name = nameOf(survey.source.measure, survey.answers.items.size());
     findChanges(*files.map, survey);
-    findAgreement(files.map->map, &comparison, survey, goOn);
+    findAgreement(files.map->map, survey, goOn);
     return goOn(0, 0);
 }
 
@@ -103,7 +102,7 @@ void readDistancesOf(const SurveyFiles& files, ComparedSurvey& survey, const Dis
             return readDistances(file, map, map.NLocality);
         });
     survey.name = stemOf(survey.source.distancesFile);
-    findAgreement(map, nullptr, survey, goOn);
+    findAgreement(map, survey, goOn);
 }
 
 QStringList leftOutNotes(const SurveyMap& map)
@@ -121,6 +120,14 @@ QStringList leftOutNotes(const SurveyMap& map)
 
 } // namespace
 
+SurveySource withPossibleMeasure(SurveySource source)
+{
+    if (source.answers.by == AnswersBy::Kinds && source.measure.measure == DistanceMeasure::Levenshtein) {
+        source.measure.measure = DistanceMeasure::RelativeIdentity;
+    }
+    return source;
+}
+
 std::shared_ptr<const ComparedSurvey> compareSurvey(const SurveyFiles& files, const SurveySource& source,
                                                     const DistanceProgress& goOn)
 {
@@ -134,12 +141,38 @@ std::shared_ptr<const ComparedSurvey> compareSurvey(const SurveyFiles& files, co
     return survey;
 }
 
+bool findFor(SurveyMap& map, const DistanceProgress& goOn)
+{
+    if (map.kind == AtlasMapKind::Bundles) {
+        return true;
+    }
+    const ComparedSurvey& survey = *map.survey;
+    auto findings = findingsFor(map.settings, survey.distances, map.map->map, map.map->cells, goOn);
+    if (!findings) {
+        return false;
+    }
+    map.findings = std::move(*findings);
+    if (map.kind != AtlasMapKind::Clusters || !map.withItemMarks || !survey.comparison) {
+        return true;
+    }
+    auto marks = itemsOfGroups(*survey.comparison, map.findings.groups, goOn);
+    if (marks) {
+        map.itemMarks = std::move(*marks);
+    }
+    return !map.itemMarks.empty();
+}
+
+QString nameOf(const SurveyMap& map)
+{
+    return map.kind == AtlasMapKind::Bundles ? isoglossesOf(map.survey->answers.items.size())
+                                             : map.survey->name;
+}
+
 void drawSurveyMap(const SurveyMap& map, const IsoglossStyle& style, const AreaMapParts& parts,
                    MapSurfaces surfaces)
 {
     if (map.kind == AtlasMapKind::Bundles) {
-        drawBundleMap(parts, isoglossesOf(map.survey->answers.items.size()), map.survey->changes, style,
-                      surfaces);
+        drawBundleMap(parts, nameOf(map), map.survey->changes, style, surfaces);
     } else {
         drawDistanceMap(parts, map.survey->distances, map.findings, map.settings, map.survey->name, surfaces);
     }

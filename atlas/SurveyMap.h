@@ -21,6 +21,9 @@ struct SurveySource
     bool operator==(const SurveySource&) const = default;
 };
 
+/// `source` with a measure that its answers allow: kinds have no sounds that could be compared.
+SurveySource withPossibleMeasure(SurveySource source);
+
 /// How far distances can be trusted; what cannot be told is nothing.
 struct Agreement
 {
@@ -35,6 +38,8 @@ struct ComparedSurvey
 {
     SurveySource source;
     SurveyAnswers answers;
+    /// The answers prepared to be compared; null for distances of a file.
+    std::shared_ptr<const SurveyComparison> comparison;
     DistanceMatrix distances;
     /// What the distances are called in titles.
     QString name;
@@ -74,10 +79,20 @@ struct SurveyMap
     std::shared_ptr<const ComparedSurvey> survey;
     DistanceMapSettings settings;
     DistanceFindings findings;
+    /// Whether the items are wanted that groups are known by, and those of group 1 and the following.
+    bool withItemMarks = false;
+    std::vector<ItemsOfGroup> itemMarks;
 };
+
+/// Finds out what the map shows of its compared survey; returns whether `goOn` let it end. Raises what
+/// `findingsFor` raises.
+bool findFor(SurveyMap& map, const DistanceProgress& goOn);
 
 void drawSurveyMap(const SurveyMap& map, const IsoglossStyle& style, const AreaMapParts& parts,
                    MapSurfaces surfaces);
+
+/// What the map is of: "Isoglosses of 12 items".
+QString nameOf(const SurveyMap& map);
 
 /// What the user is to know of the map: what is left out of it, and how far the distances can be trusted; a
 /// line each.

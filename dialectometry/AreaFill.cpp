@@ -170,10 +170,15 @@ void paintArea(const Rings& rings, std::span<const AreaFill> fills, DrawSurface&
     }
 }
 
-void drawCells(const AreaMapParts& parts, const FilledCells& cells, MapSurfaces surfaces)
+void beginMap(const AreaMapParts& parts, MapSurfaces surfaces)
 {
     surfaces.frmMap.Cls();
     parts.base.geometry.Scale = FindMinMax(parts.base.map, surfaces.area, parts.base.geometry);
+}
+
+void drawCells(const AreaMapParts& parts, const FilledCells& cells, MapSurfaces surfaces)
+{
+    beginMap(parts, surfaces);
     paintCells(parts, cells, surfaces.DrawTarget);
 }
 

@@ -43,7 +43,11 @@ struct FilledCells
     std::vector<std::vector<int>> ofLocality;
 };
 
-/// Begins a map: clears the map form and sets the scale, and paints the cells, those of one fill as one area.
+/// Begins a map: clears the map form and sets the scale. The base map is drawn over what follows, so that its
+/// names can be read.
+void beginMap(const AreaMapParts& parts, MapSurfaces surfaces);
+
+/// Begins a map by its cells, those of one fill painted as one area.
 void drawCells(const AreaMapParts& parts, const FilledCells& cells, MapSurfaces surfaces);
 
 /// Begins a map by its cells, and draws the base map over them.

@@ -70,7 +70,7 @@ void drawBeamMap(const AreaMapParts& parts, const QString& title, const Distance
     // The strongest lie on top.
     std::stable_sort(beams.begin(), beams.end(),
                      [](const Beam& a, const Beam& b) { return a.number > b.number; });
-    DrawBlankMap(parts.base, surfaces);
+    beginMap(parts, surfaces);
     const std::vector<LinePen> pens = fittingPens(BeamPens, parts);
     {
         const KeptStyle kept(surfaces.DrawTarget);
@@ -78,5 +78,6 @@ void drawBeamMap(const AreaMapParts& parts, const QString& title, const Distance
             drawBeam(parts, beam.ends, pens[static_cast<std::size_t>(beam.number)], surfaces.DrawTarget);
         }
     }
+    PlotBaseMap(parts.base, surfaces);
     drawAreaLegend(parts, legendOf(title, classes, beams, pens), surfaces);
 }

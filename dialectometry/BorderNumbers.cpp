@@ -56,6 +56,8 @@ void writeNumber(const QString& text, const QRectF& place, DrawSurface& target)
 
 void drawBorderNumbers(const AreaMapParts& parts, std::span<const double> numbers, DrawSurface& target)
 {
+    constexpr double Apart = 30; // side by side they would be read as one number
+
     const KeptStyle kept(target);
     const TextFont font = target.font();
     target.FontSize = std::max(font.size * 4 / 5, 1);
@@ -68,7 +70,7 @@ void drawBorderNumbers(const AreaMapParts& parts, std::span<const double> number
         const QPointF at(parts.base.geometry.toScreen(static_cast<float>(middle.x())),
                          parts.base.geometry.toScreen(static_cast<float>(middle.y())));
         const QRectF place(at - QPointF(size.width() / 2, size.height() / 2), size);
-        if (labels.take(place)) {
+        if (labels.take(place.adjusted(-Apart, 0, Apart, 0))) {
             writeNumber(text, place, target);
         }
     }

@@ -192,11 +192,13 @@ private:
     void drawBracket(int group, float from, float to, int localities, float& lastText)
     {
         constexpr float Size = 80;
+        constexpr float MostApart = 30; // brackets of one colour are told apart
 
         const KeptStyle kept(m_target);
         const float x = m_axis.start - Gap;
         m_target.DrawWidth = 3;
-        m_target.Line(x, from, x, to, colorOf(group));
+        const float apart = std::min(MostApart, (to - from) / 4);
+        m_target.Line(x, from + apart, x, to - apart, colorOf(group));
         const float middle = (from + to) / 2;
         if (middle - m_target.TextHeight() / 2 < lastText) {
             return;

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cmath>
 #include <functional>
+#include <limits>
 
 namespace {
 
@@ -52,47 +53,50 @@ void addFormsOfItem(const SurveyAnswers& survey, int item, const std::vector<int
 }
 
 /// The mean of some distances; not a number where there is none.
-struct MeanDistance
+class MeanDistance
 {
-    double sum = 0;
-    double count = 0;
-
+public:
     void add(double distance)
     {
-        sum += distance;
-        ++count;
+        m_sum += distance;
+        ++m_count;
     }
-    double value() const { return sum / count; }
+    double mean() const { return m_count > 0 ? m_sum / m_count : std::numeric_limits<double>::quiet_NaN(); }
+
+private:
+    double m_sum = 0;
+    double m_count = 0;
 };
 
-/// The distances from a group to itself, and to all others.
-struct GroupDistances
+/// The distances from a group to itself, and to the others.
+struct PartedDistances
 {
     MeanDistance within;
     MeanDistance between;
 };
 
-/// Those of group 0 (which does not count), group 1, and so on up to `last`.
-std::vector<GroupDistances> groupDistances(const DistanceMatrix& distances, const std::vector<int>& groups,
-                                           int last)
+/// Those of group 1 and the following.
+std::vector<PartedDistances> partedDistances(const DistanceMatrix& distances, const std::vector<int>& groups)
 {
-    std::vector<GroupDistances> found(static_cast<std::size_t>(last) + 1);
+    std::vector<PartedDistances> parted(static_cast<std::size_t>(groupCount(groups)));
+    const auto of = [&](int group) -> PartedDistances& {
+        return parted[static_cast<std::size_t>(group - 1)];
+    };
     auto pair = distances.pairs().begin();
     for (std::size_t a = 0; a < groups.size(); ++a) {
         for (std::size_t b = a + 1; b < groups.size(); ++b, ++pair) {
-            if (std::isnan(*pair) || groups[a] == 0 || groups[b] == 0) {
+            if (groups[a] == 0 || groups[b] == 0 || std::isnan(*pair)) {
                 continue;
             }
-            GroupDistances& first = found[static_cast<std::size_t>(groups[a])];
             if (groups[a] == groups[b]) {
-                first.within.add(*pair);
+                of(groups[a]).within.add(*pair);
             } else {
-                first.between.add(*pair);
-                found[static_cast<std::size_t>(groups[b])].between.add(*pair);
+                of(groups[a]).between.add(*pair);
+                of(groups[b]).between.add(*pair);
             }
         }
     }
-    return found;
+    return parted;
 }
 
 /// The distances between localities that count.
@@ -122,27 +126,31 @@ std::vector<FormOfGroup> formsOfGroup(const SurveyAnswers& survey, const std::ve
     return found;
 }
 
-std::optional<std::vector<std::vector<ItemOfGroup>>>
+int groupCount(const std::vector<int>& groups)
+{
+    return groups.empty() ? 0 : std::ranges::max(groups);
+}
+
+std::optional<std::vector<ItemsOfGroup>>
 itemsOfGroups(const SurveyComparison& survey, const std::vector<int>& groups, const DistanceProgress& goOn)
 {
-    const int last = groups.empty() ? 0 : std::ranges::max(groups);
-    std::vector<std::vector<ItemOfGroup>> found(static_cast<std::size_t>(last));
+    std::vector<ItemsOfGroup> found(static_cast<std::size_t>(groupCount(groups)));
     for (int item = 0; item < survey.items(); ++item) {
         if (!goOn(item, survey.items())) {
             return std::nullopt;
         }
         const DistanceMatrix distances = survey.ofItem(item);
         const double deviation = momentsOf(countedDistances(distances, groups)).deviation();
-        const std::vector<GroupDistances> means = groupDistances(distances, groups, last);
-        for (std::size_t group = 1; group < means.size(); ++group) {
-            const double within = means[group].within.value();
-            const double between = means[group].between.value();
+        const std::vector<PartedDistances> parted = partedDistances(distances, groups);
+        for (std::size_t i = 0; i < parted.size(); ++i) {
+            const double within = parted[i].within.mean();
+            const double between = parted[i].between.mean();
             if (const double score = (between - within) / deviation; std::isfinite(score)) {
-                found[group - 1].push_back({item, within, between, score});
+                found[i].push_back({item, within, between, score});
             }
         }
     }
-    for (std::vector<ItemOfGroup>& items : found) {
+    for (ItemsOfGroup& items : found) {
         std::ranges::stable_sort(items, std::greater<>(), &ItemOfGroup::score);
     }
     return goOn(survey.items(), survey.items()) ? std::optional(std::move(found)) : std::nullopt;

@@ -36,8 +36,14 @@ struct ItemOfGroup
     double score = 0;
 };
 
-/// The items that each group is known by, the best first, of group 1, group 2, and so on: Prokić, Çöltekin &
-/// Nerbonne (2012), Detecting shibboleths. Items are left out that have no distance within the group or to
-/// the others, or none that varies. Nothing where `goOn` returned false.
-std::optional<std::vector<std::vector<ItemOfGroup>>>
+/// The items that a group is known by, the best first.
+using ItemsOfGroup = std::vector<ItemOfGroup>;
+
+/// How many groups there are; the last has the highest number.
+int groupCount(const std::vector<int>& groups);
+
+/// Those of group 1 and the following: Prokić, Çöltekin & Nerbonne (2012), Detecting shibboleths. Items are
+/// left out that have no distance within the group or to the others, or none that varies. Nothing where
+/// `goOn` returned false.
+std::optional<std::vector<ItemsOfGroup>>
 itemsOfGroups(const SurveyComparison& survey, const std::vector<int>& groups, const DistanceProgress& goOn);

@@ -125,6 +125,16 @@ std::vector<QPointF> cutCorners(const std::vector<QPointF>& line, bool closed)
     return result;
 }
 
+/// The number of each border's pen among those of isoglosses.
+std::vector<int> isoglossClasses(const BorderChanges& changes)
+{
+    std::vector<int> classes;
+    for (const double change : changes.changes) {
+        classes.push_back(change == 0 ? NoLine : change < 1 ? 0 : 1);
+    }
+    return classes;
+}
+
 } // namespace
 
 std::vector<QPointF> smoothed(const std::vector<QPointF>& line)
@@ -165,17 +175,21 @@ void addChanges(BorderChanges& sum, const BorderChanges& item)
     }
 }
 
-void drawIsoglosses(const AreaMapParts& parts, const QString& title, const BorderChanges& changes,
-                    const IsoglossStyle& style, MapSurfaces surfaces)
+void drawIsoglosses(const AreaMapParts& parts, const BorderChanges& changes, const IsoglossStyle& style,
+                    MapSurfaces surfaces)
 {
-    std::vector<int> classes;
-    for (const double change : changes.changes) {
-        classes.push_back(change == 0 ? NoLine : change < 1 ? 0 : 1);
-    }
-    const std::vector<LinePen> pens = fittingPens(IsoglossPens, parts);
-    drawCellLines(linesOf(parts, classes, style.smooth), pens, surfaces.DrawTarget);
+    beginMap(parts, surfaces);
+    drawCellLines(linesOf(parts, isoglossClasses(changes), style.smooth), fittingPens(IsoglossPens, parts),
+                  surfaces.DrawTarget);
+}
+
+void drawIsoglossLegend(const AreaMapParts& parts, const QString& title, const BorderChanges& changes,
+                        MapSurfaces surfaces)
+{
     AreaLegend legend;
     legend.title = title;
+    const std::vector<int> classes = isoglossClasses(changes);
+    const std::vector<LinePen> pens = fittingPens(IsoglossPens, parts);
     const std::array texts = {QStringLiteral("some answers change"), QStringLiteral("all answers change")};
     for (int i = 1; i >= 0; --i) {
         if (std::ranges::count(classes, i) > 0) {
@@ -189,14 +203,15 @@ void drawIsoglosses(const AreaMapParts& parts, const QString& title, const Borde
 void drawIsoglossMap(const AreaMapParts& parts, const QString& title, const BorderChanges& changes,
                      const IsoglossStyle& style, MapSurfaces surfaces)
 {
-    DrawBlankMap(parts.base, surfaces);
-    drawIsoglosses(parts, title, changes, style, surfaces);
+    drawIsoglosses(parts, changes, style, surfaces);
+    PlotBaseMap(parts.base, surfaces);
+    drawIsoglossLegend(parts, title, changes, surfaces);
 }
 
 void drawBundleMap(const AreaMapParts& parts, const QString& title, const BorderChanges& changes,
                    const IsoglossStyle& style, MapSurfaces surfaces)
 {
-    DrawBlankMap(parts.base, surfaces);
+    beginMap(parts, surfaces);
     const BundleClasses classOf(changes.changes);
     std::vector<int> classes;
     std::ranges::transform(changes.changes, std::back_inserter(classes), classOf);
@@ -207,6 +222,7 @@ void drawBundleMap(const AreaMapParts& parts, const QString& title, const Border
         legend.rows.push_back(lineRow(pens[static_cast<std::size_t>(i)], classOf.text(i)));
     }
     drawCellLines(linesOf(parts, classes, style.smooth), pens, surfaces.DrawTarget);
+    PlotBaseMap(parts.base, surfaces);
     if (style.numbers) {
         drawBorderNumbers(parts, changes.changes, surfaces.DrawTarget);
     }

@@ -35,9 +35,12 @@ struct IsoglossStyle
 void drawIsoglossMap(const AreaMapParts& parts, const QString& title, const BorderChanges& changes,
                      const IsoglossStyle& style, MapSurfaces surfaces);
 
-/// Draws what stands over the base map of the isoglosses of one item: lines and legend.
-void drawIsoglosses(const AreaMapParts& parts, const QString& title, const BorderChanges& changes,
-                    const IsoglossStyle& style, MapSurfaces surfaces);
+/// Begins that map by its lines, which lie under the base map so that its names can be read.
+void drawIsoglosses(const AreaMapParts& parts, const BorderChanges& changes, const IsoglossStyle& style,
+                    MapSurfaces surfaces);
+/// Draws its legend. The title is coded as the captions of symbols.
+void drawIsoglossLegend(const AreaMapParts& parts, const QString& title, const BorderChanges& changes,
+                        MapSurfaces surfaces);
 
 /// Draws the bundles of isoglosses of several items: each border as wide and dark as the number of items that
 /// change there, and the legend of the classes of numbers.

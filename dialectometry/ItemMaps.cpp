@@ -6,24 +6,30 @@
 
 namespace {
 
+/// Isoglosses run where the records change.
+BorderChanges changesOfRecords(const LinguisticMapParts& parts, const LocalityCells& cells)
+{
+    return borderChanges(cells,
+                         recordsOfLocalities(parts.item, parts.symbols, parts.base.style.WholeWordForms,
+                                             parts.base.map.NLocality));
+}
+
 /// Begins the map by what lies under the base map.
 void drawUnder(const LinguisticMapParts& parts, const LocalityCells& cells, const ItemMapSettings& settings,
                MapSurfaces surfaces)
 {
-    if (settings.kind == ItemMapKind::Areas) {
-        drawAreas(parts, cells, settings.areas.look, surfaces);
-    } else {
+    switch (settings.kind) {
+    case ItemMapKind::Symbols:
         surfaces.frmMap.Cls();
+        break;
+    case ItemMapKind::Areas:
+        drawAreas(parts, cells, settings.areas.look, surfaces);
+        break;
+    case ItemMapKind::Isoglosses:
+        drawIsoglosses({parts.base, parts.text, cells}, changesOfRecords(parts, cells), settings.isoglosses,
+                       surfaces);
+        break;
     }
-}
-
-void drawIsoglossesOfRecords(const LinguisticMapParts& parts, const LocalityCells& cells,
-                             const IsoglossStyle& style, MapSurfaces surfaces)
-{
-    const LocalityKinds kinds = recordsOfLocalities(
-        parts.item, parts.symbols, parts.base.style.WholeWordForms, parts.base.map.NLocality);
-    drawIsoglosses({parts.base, parts.text, cells}, parts.item.Hanrei, borderChanges(cells, kinds), style,
-                   surfaces);
 }
 
 void drawOver(const LinguisticMapParts& parts, const LocalityCells& cells, const ItemMapSettings& settings,
@@ -38,7 +44,8 @@ void drawOver(const LinguisticMapParts& parts, const LocalityCells& cells, const
         drawOverAreas(parts, cells, settings.areas, surfaces);
         break;
     case ItemMapKind::Isoglosses:
-        drawIsoglossesOfRecords(parts, cells, settings.isoglosses, surfaces);
+        drawIsoglossLegend({parts.base, parts.text, cells}, parts.item.Hanrei, changesOfRecords(parts, cells),
+                           surfaces);
         break;
     }
 }

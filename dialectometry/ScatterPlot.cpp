@@ -48,7 +48,7 @@ Plot plotOf(const std::vector<QPointF>& points, const QRectF& area, const DrawSu
     plot.x = {std::numeric_limits<double>::max(), std::numeric_limits<double>::lowest(),
               static_cast<float>(left), static_cast<float>(area.right() - line)};
     plot.y = {plot.x.least, plot.x.most, static_cast<float>(area.bottom() - 3 * line),
-              static_cast<float>(area.top() + 2 * line)};
+              static_cast<float>(area.top() + 2.5 * line)};
     for (const QPointF point : points) {
         plot.x.least = std::min(plot.x.least, point.x());
         plot.x.most = std::max(plot.x.most, point.x());
@@ -85,7 +85,7 @@ void drawAxes(const Plot& plot, const PlotCaptions& captions, DrawSurface& targe
 /// Writes `name` beside (x, y) where there is room for it.
 void placeName(const QString& name, QPointF at, PlacedLabels& labels, DrawSurface& target)
 {
-    constexpr double Away = 2 * Dot + 15;
+    constexpr double Away = 2 * Dot + 30;
 
     const QSizeF size(target.TextWidth(name), target.TextHeight());
     const double middle = -size.height() / 2;
@@ -117,6 +117,12 @@ std::vector<PlottedLocality> plotted(const Scaling& scaling)
         }
     }
     return all;
+}
+
+/// Half the width of a locality's mark.
+double markSize(int group)
+{
+    return group > 0 ? 2 * Dot : Dot;
 }
 
 void drawLocality(int group, QPointF at, DrawSurface& target)
@@ -233,8 +239,10 @@ void drawScalingPlot(const Scaling& scaling, const QStringList& names, std::span
     const auto at = [&plot](QPointF place) { return QPointF(plot.x.at(place.x()), plot.y.at(place.y())); };
     for (const auto& [number, place] : localities) {
         const auto index = static_cast<std::size_t>(number);
-        drawLocality(index < groups.size() ? groups[index] : 0, at(place), target);
-        labels.reserve(QRectF(at(place) - QPointF(Dot, Dot), QSizeF(2 * Dot, 2 * Dot)));
+        const int group = index < groups.size() ? groups[index] : 0;
+        const double size = markSize(group);
+        drawLocality(group, at(place), target);
+        labels.reserve(QRectF(at(place) - QPointF(size, size), QSizeF(2 * size, 2 * size)));
     }
     target.FontSize = std::max(target.FontSize * 4 / 5, 1);
     for (const auto& [number, place] : localities) {

@@ -3,15 +3,9 @@
 #include "dialectometry/GlyphLetters.h"
 #include "platform/SequentialFile.h"
 
-#include <algorithm>
 #include <cmath>
 
 namespace {
-
-int groupCount(const std::vector<int>& groups)
-{
-    return groups.empty() ? 0 : std::ranges::max(groups);
-}
 
 const ComparedItem& itemOf(const SurveyAnswers& answers, int item)
 {
@@ -49,11 +43,11 @@ void writeFormsOfGroups(SequentialWriter& file, const SurveyAnswers& answers, co
 }
 
 void writeItemsOfGroups(SequentialWriter& file, const SurveyAnswers& answers,
-                        const std::vector<std::vector<ItemOfGroup>>& marks)
+                        const std::vector<ItemsOfGroup>& marks)
 {
     writeHeadings(file, {"group", "item", "within", "between", "score"});
     int group = 0;
-    for (const std::vector<ItemOfGroup>& ofGroup : marks) {
+    for (const ItemsOfGroup& ofGroup : marks) {
         ++group;
         for (const ItemOfGroup& mark : ofGroup) {
             file.write(group, itemOf(answers, mark.item).name, rounded(mark.within), rounded(mark.between),

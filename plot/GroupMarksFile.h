@@ -12,4 +12,4 @@ void writeFormsOfGroups(SequentialWriter& file, const SurveyAnswers& answers, co
 /// A line for each item that parts a group from the others, the best first. `marks` holds those of group 1,
 /// group 2, and so on.
 void writeItemsOfGroups(SequentialWriter& file, const SurveyAnswers& answers,
-                        const std::vector<std::vector<ItemOfGroup>>& marks);
+                        const std::vector<ItemsOfGroup>& marks);

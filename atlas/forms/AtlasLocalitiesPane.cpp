@@ -19,7 +19,7 @@ AtlasLocalitiesPane::AtlasLocalitiesPane(VarnModule& varn, AtlasDocument& docume
     : m_varn(varn), m_document(document), m_selection(selection), m_table(varn, document),
       m_filter(new AtlasLocalityFilter(this)),
       m_delegate(new AtlasLocalityDelegate(varn, document, *new WordDelegate(varn, this), this)),
-      m_filterBox(new QLineEdit), m_onlySelected(new QCheckBox(QStringLiteral("Only &selected"))),
+      m_filterBox(new QLineEdit), m_onlySelected(new QCheckBox(QStringLiteral("Only selected"))),
       m_list(new QTableView), m_state(new QLabel)
 {
     addControls();

@@ -12,6 +12,12 @@
 #include <array>
 #include <utility>
 
+namespace {
+
+const QString DotsName = QStringLiteral("actDots");
+
+} // namespace
+
 QAction* AtlasMapView::makeAction(const QString& text, const QString& name)
 {
     auto* action = new QAction(text, this);
@@ -57,7 +63,7 @@ void AtlasMapView::addLayerActions()
 {
     m_layerActions = {
         makeLayer(QStringLiteral("&Lines"), QStringLiteral("actLines"), &AtlasLayers::lines),
-        makeLayer(QStringLiteral("&Dots"), QStringLiteral("actDots"), &AtlasLayers::dots),
+        makeLayer(QStringLiteral("&Dots"), DotsName, &AtlasLayers::dots),
         makeLayer(QStringLiteral("&Place Names"), QStringLiteral("actPlaceNames"), &AtlasLayers::placeNames),
         makeLayer(QStringLiteral("Le&gend"), QStringLiteral("actLegend"), &AtlasLayers::legend),
     };
@@ -88,6 +94,17 @@ void AtlasMapView::addLabelActions()
             renew();
         });
     }
+}
+
+/// Other maps draw their lines, names and legend as one with what they show, and plots have no localities.
+void AtlasMapView::enableLayers()
+{
+    const bool isLinguistic = !m_other.draw;
+    for (QAction* layer : std::as_const(m_layerActions)) {
+        const bool isOfLocalities = layer->actionGroup() != nullptr || layer->objectName() == DotsName;
+        layer->setEnabled(isLinguistic || (isOfLocalities && m_other.hasLocalities));
+    }
+    m_freePlace->setEnabled(isLinguistic);
 }
 
 void AtlasMapView::addPlaceActions()

@@ -76,6 +76,7 @@ void AtlasMapView::follow()
 void AtlasMapView::setOtherMap(OtherMap map)
 {
     m_other = std::move(map);
+    enableLayers();
     renew();
 }
 

@@ -58,6 +58,7 @@ private:
     void addActions();
     void addLayerActions();
     void addLabelActions();
+    void enableLayers();
     void addPlaceActions();
     void addZoomActions();
     QAction* makeAction(const QString& text, const QString& name);

@@ -8,11 +8,15 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDoubleSpinBox>
+#include <QEvent>
 #include <QFormLayout>
+#include <QHeaderView>
 #include <QLabel>
 #include <QProgressBar>
 #include <QScrollArea>
 #include <QSignalBlocker>
+#include <QStandardItemModel>
+#include <QTableView>
 #include <QToolButton>
 #include <QVBoxLayout>
 
@@ -23,41 +27,87 @@ namespace {
 
 using Kind = AtlasMapKind;
 
+/// Shows lines of plain text, broken where they are too long.
+QLabel* textLabel()
+{
+    auto* label = new QLabel; // a layout takes it
+    label->setTextFormat(Qt::PlainText);
+    label->setWordWrap(true);
+    return label;
+}
+
 } // namespace
 
 SurveyPane::SurveyPane(const VarnModule& varn, AtlasSurveyMaps& survey)
-    : m_varn(varn), m_survey(survey), m_rows(new QFormLayout), m_title(new QLabel),
-      m_marks(new GroupMarksTable)
+    : m_varn(varn), m_survey(survey), m_rows(new QFormLayout), m_title(new QLabel), m_compared(textLabel()),
+      m_marks(new GroupMarksTable), m_notes(textLabel())
 {
     m_marks->setParent(this);
+    QFont bold = m_title->font();
+    bold.setBold(true);
+    m_title->setFont(bold);
+    m_compared->setObjectName(QStringLiteral("lblCompared"));
+    m_notes->setObjectName(QStringLiteral("lblNotes"));
+    m_notes->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    addSource();
+    addClusters();
+    addLook();
+    addMarks();
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->addWidget(scrolledSettings(), 1);
+    column->addLayout(progressRow());
+    keepFromWheel();
+    connect(&m_survey, &AtlasSurveyMaps::changed, this, &SurveyPane::showFound);
+    connect(&m_survey, &AtlasSurveyMaps::progressed, this, &SurveyPane::showProgress);
+    showKind(m_kind);
+}
+
+/// The rows stand apart from texts that are broken into lines: beside such a text, a form layout gives a row
+/// the height of one that is hidden.
+QWidget* SurveyPane::scrolledSettings()
+{
     auto* content = new QWidget;
-    content->setLayout(m_rows);
+    auto* column = new QVBoxLayout(content);
+    column->addWidget(m_title);
+    column->addWidget(m_compared);
+    column->addLayout(m_rows);
+    column->addWidget(m_notes);
+    column->addStretch();
     auto* scroll = new QScrollArea;
     scroll->setWidget(content);
     scroll->setWidgetResizable(true);
     scroll->setFrameShape(QFrame::NoFrame);
     scroll->setFocusPolicy(Qt::NoFocus);
-    auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(0, 0, 0, 0);
-    column->addWidget(scroll);
-    QFont bold = m_title->font();
-    bold.setBold(true);
-    m_title->setFont(bold);
-    m_rows->addRow(m_title);
-    addSource();
-    addClusters();
-    addLook();
-    addMarks();
-    addWork();
-    connect(&m_survey, &AtlasSurveyMaps::changed, this, &SurveyPane::showFound);
-    connect(&m_survey, &AtlasSurveyMaps::progressed, this, &SurveyPane::showProgress);
-    showKind(m_kind);
+    return scroll;
+}
+
+/// The wheel scrolls the settings, and changes only the one that has the focus.
+void SurveyPane::keepFromWheel()
+{
+    for (QWidget* box : findChildren<QWidget*>()) {
+        if (qobject_cast<QComboBox*>(box) != nullptr || qobject_cast<QAbstractSpinBox*>(box) != nullptr) {
+            box->setFocusPolicy(Qt::StrongFocus);
+            box->installEventFilter(this);
+        }
+    }
+}
+
+bool SurveyPane::eventFilter(QObject* watched, QEvent* event)
+{
+    const auto* box = qobject_cast<QWidget*>(watched);
+    if (event->type() == QEvent::Wheel && box != nullptr && !box->hasFocus()) {
+        event->ignore();
+        return true;
+    }
+    return QWidget::eventFilter(watched, event);
 }
 
 void SurveyPane::showKind(AtlasMapKind kind)
 {
     m_kind = kind;
     m_title->setText(nameOf(kind));
+    m_compared->setVisible(isOfSurvey(kind));
     for (const auto& [row, kinds] : m_kindsOfRow) {
         m_rows->setRowVisible(row, std::ranges::find(kinds, kind) != kinds.end());
     }
@@ -81,7 +131,6 @@ void SurveyPane::setSettings()
     settings.groups = m_groups->value();
     settings.noise.noise = m_noise->value();
     settings.noise.seed = static_cast<std::uint64_t>(m_seed->value());
-    settings.reference = std::max(0, m_locality->currentIndex());
     settings.rule = static_cast<ClassRule>(m_classes->currentIndex());
     settings.look = m_hatched->isChecked() ? AreaLook::Hatched : AreaLook::Colored;
     settings.symbols = m_groupSymbols->isChecked();
@@ -104,10 +153,12 @@ void SurveyPane::showSettings()
     m_answers->setCurrentIndex(static_cast<int>(source.answers.by));
     m_measure->setCurrentIndex(static_cast<int>(source.measure.measure));
     m_vowels->setChecked(source.measure.vowelsApart);
-    m_vowels->setEnabled(source.measure.measure == DistanceMeasure::Levenshtein);
-    for (QWidget* control : {static_cast<QWidget*>(m_answers), static_cast<QWidget*>(m_measure)}) {
-        control->setEnabled(source.distancesFile.isEmpty());
-    }
+    m_answers->setEnabled(!isOfFile());
+    m_measure->setEnabled(!isOfFile());
+    m_vowels->setEnabled(!isOfFile() && source.measure.measure == DistanceMeasure::Levenshtein);
+    auto& measures = *qobject_cast<QStandardItemModel*>(m_measure->model());
+    measures.item(static_cast<int>(DistanceMeasure::Levenshtein))
+        ->setEnabled(source.answers.by == AnswersBy::WordForms);
     m_method->setCurrentIndex(static_cast<int>(settings.method));
     m_groups->setValue(settings.groups);
     m_noise->setValue(settings.noise.noise);
@@ -123,25 +174,45 @@ void SurveyPane::showSettings()
     m_withSymbols->setChecked(m_survey.withSymbols());
 }
 
+/// Isoglosses are of items whatever the distances are of.
+bool SurveyPane::isOfFile() const
+{
+    return m_kind != Kind::Bundles && !m_survey.source().distancesFile.isEmpty();
+}
+
 QString SurveyPane::compared() const
 {
-    const SurveySource& source = m_survey.source();
-    if (!source.distancesFile.isEmpty()) {
-        return QStringLiteral("Distances of the file %1").arg(fileNameOf(source.distancesFile));
+    if (isOfFile()) {
+        return QStringLiteral("Distances of the file %1").arg(fileNameOf(m_survey.source().distancesFile));
     }
     const auto survey = m_survey.survey();
-    return survey ? QStringLiteral("Answers to %1 items").arg(survey->answers.items.size())
-                  : QStringLiteral("Answers to the items");
+    const std::size_t items = survey ? survey->answers.items.size() : 0;
+    if (items == 0) {
+        return QStringLiteral("Answers to the items");
+    }
+    const QString answers =
+        items == 1 ? QStringLiteral("Answers to 1 item") : QStringLiteral("Answers to %1 items").arg(items);
+    const qsizetype leftOut = survey->leftOut.size(); // named under the settings
+    return leftOut == 0 ? answers : answers + QStringLiteral(", %1 left out").arg(leftOut);
+}
+
+/// Another map may have as many localities.
+void SurveyPane::showLocalities()
+{
+    QStringList names;
+    for (int i = 1; i <= m_varn.NLocality; ++i) {
+        names << localityTitle(m_varn, i);
+    }
+    if (names != m_localities) {
+        m_localities = names;
+        m_locality->clear();
+        m_locality->addItems(names);
+    }
 }
 
 void SurveyPane::showFound()
 {
-    if (m_locality->count() != m_varn.NLocality) {
-        m_locality->clear();
-        for (int i = 1; i <= m_varn.NLocality; ++i) {
-            m_locality->addItem(localityTitle(m_varn, i));
-        }
-    }
+    showLocalities();
     m_compared->setText(compared());
     m_notes->setText(m_survey.trouble().isEmpty() ? m_survey.notes().join(QLatin1Char('\n'))
                                                   : m_survey.trouble());
@@ -159,17 +230,41 @@ void SurveyPane::showFound()
     showSettings();
 }
 
+/// Distances of a file are not of items that could mark a group.
 void SurveyPane::showMarks()
 {
+    for (QWidget* row : {static_cast<QWidget*>(m_group), static_cast<QWidget*>(m_marksBy),
+                         static_cast<QWidget*>(m_marksView)}) {
+        m_rows->setRowVisible(row, m_kind == Kind::Clusters && !isOfFile());
+    }
+    listMarks();
+    QHeaderView& header = *m_marksView->horizontalHeader();
+    for (int column = 0; column < header.count(); ++column) {
+        header.setSectionResizeMode(column, column < m_marks->textColumns() ? QHeaderView::Stretch
+                                                                            : QHeaderView::ResizeToContents);
+    }
+}
+
+void SurveyPane::listMarks()
+{
+    const auto survey = m_survey.survey();
     const int group = m_group->currentIndex() + 1;
-    m_marks->setGroup(group > 0 && m_kind == Kind::Clusters ? m_survey.survey() : nullptr,
-                      m_survey.findings().groups, group);
+    const std::vector<ItemsOfGroup>& items = m_survey.itemMarks();
+    if (!survey || group == 0 || m_kind != Kind::Clusters) {
+        m_marks->clear();
+    } else if (m_marksBy->currentIndex() != ByItems) {
+        m_marks->setForms(*survey, m_survey.findings().groups, group);
+    } else {
+        m_marks->setItems(*survey,
+                          items.empty() ? ItemsOfGroup() : items[static_cast<std::size_t>(group - 1)]);
+    }
 }
 
 void SurveyPane::showProgress(int done, int of)
 {
     const bool isBusy = m_survey.isBusy();
     m_progress->setVisible(isBusy);
+    m_goOn->setVisible(m_survey.isStopped() && !isBusy); // before Stop goes, whose focus it takes
     m_stop->setVisible(isBusy);
     m_progress->setRange(0, of);
     m_progress->setValue(done);

@@ -68,11 +68,6 @@ void SurveyPane::addSource()
     const Kinds all = {Kind::Bundles,    Kind::Reference, Kind::Beams,       Kind::Clusters,
                        Kind::Dendrogram, Kind::Scaling,   Kind::ScalingPlot, Kind::LengthPlot};
 
-    m_compared = new QLabel;
-    m_compared->setObjectName(QStringLiteral("lblCompared"));
-    m_compared->setTextFormat(Qt::PlainText);
-    m_compared->setWordWrap(true);
-    addRow({}, m_compared, all);
     auto* buttons = new QWidget;
     auto* row = new QHBoxLayout(buttons);
     row->setContentsMargins(0, 0, 0, 0);
@@ -140,7 +135,7 @@ void SurveyPane::addLook()
     m_locality = addChoice("cboLocality", QStringLiteral("&Locality"), {}, {Kind::Reference});
     m_classes = addChoice(
         "cboClasses", QStringLiteral("Cl&asses"),
-        {QStringLiteral("Three below and three above the mean"), QStringLiteral("Six of one width")},
+        {QStringLiteral("Three on each side of the mean"), QStringLiteral("Six of one width")},
         {Kind::Reference});
     m_hatched = addSwitch("chkHatched", QStringLiteral("&Patterns for print without colours"),
                           {Kind::Areas, Kind::Reference, Kind::Clusters, Kind::Dendrogram});
@@ -150,9 +145,8 @@ void SurveyPane::addLook()
     m_tree = addSwitch("chkTree", QStringLiteral("&Tree beside the map"), {Kind::Clusters});
     m_smooth = addSwitch("chkSmooth", QStringLiteral("&Rounded lines"), {Kind::Isoglosses, Kind::Bundles});
     m_numbers = addSwitch("chkNumbers", QStringLiteral("&Numbers on the strongest"), {Kind::Bundles});
-    for (QComboBox* box : {m_locality, m_classes}) {
-        connect(box, &QComboBox::activated, this, &SurveyPane::setSettings);
-    }
+    connect(m_locality, &QComboBox::activated, this, [this](int row) { Q_EMIT localityWanted(row + 1); });
+    connect(m_classes, &QComboBox::activated, this, &SurveyPane::setSettings);
     for (QCheckBox* box : {m_hatched, m_groupSymbols, m_tree}) {
         connect(box, &QCheckBox::clicked, this, &SurveyPane::setSettings);
     }
@@ -164,6 +158,9 @@ void SurveyPane::addLook()
 void SurveyPane::addMarks()
 {
     m_group = addChoice("cboGroup", QStringLiteral("&What marks"), {}, {Kind::Clusters});
+    m_marksBy = addChoice("cboMarksBy", QStringLiteral("Shown &by"),
+                          {QStringLiteral("Its word forms"), QStringLiteral("The items it is known by")},
+                          {Kind::Clusters});
     m_marksView = new QTableView;
     m_marksView->setObjectName(QStringLiteral("tblMarks"));
     m_marksView->setAccessibleName(QStringLiteral("What marks the group"));
@@ -171,35 +168,38 @@ void SurveyPane::addMarks()
     m_marksView->setSelectionBehavior(QAbstractItemView::SelectRows);
     m_marksView->setTabKeyNavigation(false);
     m_marksView->verticalHeader()->hide();
-    m_marksView->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
-    for (const int column : {GroupMarksTable::Item, GroupMarksTable::WordForm}) {
-        m_marksView->horizontalHeader()->setSectionResizeMode(column, QHeaderView::Stretch);
-    }
     m_marksView->verticalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
     m_marksView->setMinimumHeight(220);
     addRow({}, m_marksView, {Kind::Clusters});
     connect(m_group, &QComboBox::currentIndexChanged, this, &SurveyPane::showMarks);
+    connect(m_marksBy, &QComboBox::activated, this, [this](int row) {
+        m_survey.setWithItemMarks(row == ByItems);
+        showMarks();
+    });
 }
 
-void SurveyPane::addWork()
+/// Under the settings, so that it is always seen.
+QLayout* SurveyPane::progressRow()
 {
-    m_notes = new QLabel;
-    m_notes->setObjectName(QStringLiteral("lblNotes"));
-    m_notes->setTextFormat(Qt::PlainText);
-    m_notes->setWordWrap(true);
-    m_notes->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
-    m_rows->addRow(m_notes);
+    constexpr int RowRim = 9;
+
     m_progress = new QProgressBar;
     m_progress->setObjectName(QStringLiteral("barProgress"));
     m_progress->setAccessibleName(QStringLiteral("Progress"));
-    m_stop = new QToolButton;
-    m_stop->setObjectName(QStringLiteral("cmdStop"));
-    m_stop->setText(QStringLiteral("Stop"));
-    m_stop->setFocusPolicy(Qt::StrongFocus);
-    connect(m_stop, &QToolButton::clicked, &m_survey, &AtlasSurveyMaps::stop);
     auto* row = new QHBoxLayout;
+    row->setContentsMargins(RowRim, 0, RowRim, 0);
     row->addWidget(m_progress, 1);
-    row->addWidget(m_stop);
-    m_rows->addRow(row);
+    const auto add = [&](const char* name, const QString& text, void (AtlasSurveyMaps::*slot)()) {
+        auto* button = new QToolButton; // the row takes it
+        button->setObjectName(QLatin1String(name));
+        button->setText(text);
+        button->setFocusPolicy(Qt::StrongFocus);
+        connect(button, &QToolButton::clicked, &m_survey, slot);
+        row->addWidget(button);
+        return button;
+    };
+    m_stop = add("cmdStop", QStringLiteral("Stop"), &AtlasSurveyMaps::stop);
+    m_goOn = add("cmdGoOn", QStringLiteral("Go On"), &AtlasSurveyMaps::goOn);
     showProgress(0, 0);
+    return row;
 }

@@ -120,7 +120,9 @@ void frmAtlas::keepLayout() const
     QSettings settings = layoutSettings();
     settings.setValue(QStringLiteral("window"), saveGeometry());
     settings.setValue(QStringLiteral("panes"), m_panes->saveState());
-    settings.setValue(QStringLiteral("details"), m_details->saveState());
+    settings.setValue(QStringLiteral("details"), m_shownDetails == Details::Records
+                                                     ? m_details->saveState()
+                                                     : m_detailStates.at(Details::Records));
     for (const QAction* layer : m_map->layerActions()) {
         settings.setValue(layerSetting(*layer), layer->isChecked());
     }
@@ -167,7 +169,7 @@ QStringList frmAtlas::loaded() const
 {
     const QString map = m_varn.hasMap() ? QStringLiteral("Map: ") + m_varn.VarnMapName.mid(1) : QString();
     if (isOfSurvey(m_kind)) {
-        return {map, nameOf(m_kind), m_survey.survey() ? m_survey.survey()->name : QString()};
+        return {map, nameOf(m_kind), m_survey.name()};
     }
     if (isOfTable(m_kind)) {
         return {map, QStringLiteral("%1: %2 word forms over %3 items")

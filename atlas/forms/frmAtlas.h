@@ -66,6 +66,9 @@ protected:
     void hideEvent(QHideEvent* event) override;
 
 private:
+    /// Which panes stand over the list of localities.
+    enum class Details { Records, RecordsAndSettings, Settings };
+
     void addPanes();
     void connectSurvey();
     void restoreLayout();
@@ -105,6 +108,7 @@ private:
 
     void showMapOf(AtlasMapKind kind);
     void showSettingsOf(AtlasMapKind kind);
+    void sizeDetails();
     void drawKind();
     void followTable();
     void followReference();
@@ -135,6 +139,9 @@ private:
     NoticeBar* m_notice;
     QSplitter* m_panes;
     QSplitter* m_details;
+    Details m_shownDetails = Details::Records;
+    /// How high the panes were when others were shown last.
+    std::map<Details, QByteArray> m_detailStates;
     QLabel* m_selected;
 
     /// The entries by name.

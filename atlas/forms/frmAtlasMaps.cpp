@@ -26,6 +26,7 @@ void frmAtlas::mnuOpenMap_Click()
 void frmAtlas::showMapOf(AtlasMapKind kind)
 {
     m_kind = kind;
+    followReference();
     m_survey.setKind(kind);
     showSettingsOf(kind);
     drawKind();
@@ -33,20 +34,33 @@ void frmAtlas::showMapOf(AtlasMapKind kind)
     showLoaded();
 }
 
-/// Beside a map of the survey as a whole they have most of the room.
 void frmAtlas::showSettingsOf(AtlasMapKind kind)
 {
     const bool hasSettings =
         isOfSurvey(kind) || kind == AtlasMapKind::Areas || kind == AtlasMapKind::Isoglosses;
-    const bool areNew = hasSettings && m_surveyPane->isHidden();
+    const Details details = isOfSurvey(kind) ? Details::Settings
+                            : hasSettings    ? Details::RecordsAndSettings
+                                             : Details::Records;
     m_surveyPane->showKind(kind);
-    m_surveyPane->setVisible(hasSettings);
-    m_records->setVisible(!isOfSurvey(kind));
-    if (areNew) {
-        const int room = m_details->height();
-        m_details->setSizes(isOfSurvey(kind) ? QList<int>{0, room * 3 / 4, room / 4}
-                                             : QList<int>{room / 2, room / 4, room / 4});
+    if (details != m_shownDetails) {
+        m_detailStates[m_shownDetails] = m_details->saveState();
+        m_shownDetails = details;
+        m_records->setVisible(details != Details::Settings);
+        m_surveyPane->setVisible(hasSettings);
+        sizeDetails();
     }
+}
+
+/// As the user left them. Beside a map of the survey as a whole the settings have most of the room.
+void frmAtlas::sizeDetails()
+{
+    if (const auto known = m_detailStates.find(m_shownDetails); known != m_detailStates.end()) {
+        m_details->restoreState(known->second);
+        return;
+    }
+    const int room = m_details->height();
+    m_details->setSizes(m_shownDetails == Details::Settings ? QList<int>{0, room * 3 / 4, room / 4}
+                                                            : QList<int>{room / 2, room / 4, room / 4});
 }
 
 /// The table may be another one meanwhile. Without what the map needs the linguistic map takes its place.

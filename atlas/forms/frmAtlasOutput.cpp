@@ -38,7 +38,11 @@ QString mapOf(ItemMapKind kind)
 
 QString frmAtlas::mapName() const
 {
-    return m_kind == AtlasMapKind::Linguistic ? stemOf(m_document.page().item.ItemPath) : nameOf(m_kind);
+    const QString item = stemOf(m_document.page().item.ItemPath);
+    if (m_kind == AtlasMapKind::Linguistic) {
+        return item;
+    }
+    return isOfItem(m_kind) ? QStringLiteral("%1 - %2").arg(item, nameOf(m_kind)) : nameOf(m_kind);
 }
 
 void frmAtlas::mnuCopyMap_Click()

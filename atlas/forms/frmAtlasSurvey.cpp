@@ -21,6 +21,8 @@ void frmAtlas::connectSurvey()
         });
     });
     connect(&m_selection, &AtlasSelection::localitiesChanged, this, &frmAtlas::followReference);
+    connect(m_surveyPane, &SurveyPane::localityWanted, this,
+            [this](int locality) { m_selection.setLocalities({locality}); });
     handle(m_surveyPane, &SurveyPane::itemsWanted, &frmAtlas::chooseItems);
     handle(m_surveyPane, &SurveyPane::openWanted, &frmAtlas::openDistances);
     handle(m_surveyPane, &SurveyPane::saveWanted, &frmAtlas::saveDistances);
@@ -42,7 +44,7 @@ void frmAtlas::chooseItems()
                  m_survey.source().items},
                 [this](const QStringList& paths) {
                     SurveySource source = m_survey.source();
-                    source.items = paths;
+                    source.items = paths == atlasItemPaths(m_varn) ? QStringList() : paths; // later ones too
                     source.distancesFile.clear();
                     m_survey.setSource(source);
                 });

@@ -2,6 +2,8 @@
 
 #include "atlas/AtlasOtherMap.h"
 #include "atlas/AtlasSurveyMaps.h"
+#include "atlas/GroupMarksTable.h"
+#include "render/MapSize.h"
 #include "shell/MapParts.h"
 #include "tests/atlas/AtlasSurvey.h"
 #include "tests/support/Transcript.h"
@@ -106,15 +108,104 @@ TEST_F(SurveyOfTwoItems, IsDrawnAsAskedFor)
     EXPECT_TRUE(drawn(AtlasMapKind::Isoglosses).contains("Rain"));
 }
 
+TEST_F(SurveyOfTwoItems, IsComparedOnceForAllMapsThatAreAskedForMeanwhile)
+{
+    int begun = 0;
+    QObject::connect(&maps, &AtlasSurveyMaps::progressed, &maps,
+                     [&](int, int of) { begun += of == 0 && maps.isBusy() ? 1 : 0; });
+    maps.setKind(AtlasMapKind::Clusters);
+    maps.setKind(AtlasMapKind::Reference);
+    maps.setReference(3);
+    maps.setKind(AtlasMapKind::Beams);
+    EXPECT_EQ(begun, 1);
+    wait();
+    EXPECT_EQ(maps.shownKind(), AtlasMapKind::Beams);
+    EXPECT_EQ(maps.trouble(), "");
+
+    SurveySource source = maps.source();
+    source.measure.measure = DistanceMeasure::WeightedIdentity;
+    maps.setSource(source);
+    source.measure.measure = DistanceMeasure::Levenshtein;
+    maps.setSource(source);
+    wait();
+    EXPECT_EQ(maps.name(), "Levenshtein distances over 2 items") << "what is not wanted any more is left";
+}
+
+TEST_F(SurveyOfTwoItems, TakesAnotherLookWithoutWork)
+{
+    maps.setKind(AtlasMapKind::Clusters);
+    wait();
+    DistanceMapSettings settings = maps.settings();
+    settings.withDendrogram = true;
+    settings.look = AreaLook::Hatched;
+    maps.setSettings(settings);
+    EXPECT_FALSE(maps.isBusy());
+    const double map = firstArea().Width;
+    EXPECT_GT(maps.size(firstArea()).width(), map) << "the tree stands beside it";
+    settings.noise.noise = 0.5;
+    maps.setSettings(settings);
+    settings.symbols = true;
+    maps.setSettings(settings);
+    EXPECT_TRUE(maps.isBusy()) << "another look does not end the work";
+    wait();
+    EXPECT_FALSE(maps.findings().shares.empty());
+    maps.setKind(AtlasMapKind::Bundles);
+    wait();
+    EXPECT_EQ(maps.size(firstArea()).width(), map) << "no tree stands beside isoglosses";
+}
+
+TEST_F(SurveyOfTwoItems, ComparesKindsByIdentityAlone)
+{
+    SurveySource source = maps.source();
+    source.measure.measure = DistanceMeasure::Levenshtein;
+    maps.setSource(source);
+    EXPECT_EQ(maps.source().measure.measure, DistanceMeasure::Levenshtein);
+    source.answers.by = AnswersBy::Kinds;
+    maps.setSource(source);
+    EXPECT_EQ(maps.source().measure.measure, DistanceMeasure::RelativeIdentity) << "kinds have no sounds";
+}
+
+TEST_F(SurveyOfTwoItems, TellsWhatMarksItsGroups)
+{
+    survey.write(ling("rain.dbs"),
+                 "3,\"\",\"Rain\",\"\"\r\n1\r\n\"ame\"\r\n1\r\n\"ame\"\r\n1\r\n\"uyu\"\r\n");
+    maps.setKind(AtlasMapKind::Clusters);
+    wait();
+    EXPECT_TRUE(maps.itemMarks().empty()) << "not asked for";
+    maps.setWithItemMarks(true);
+    wait();
+    ASSERT_EQ(maps.itemMarks().size(), 2U);
+    GroupMarksTable table;
+    const auto row = [&table](int i) {
+        QStringList texts;
+        for (int column = 0; column < GroupMarksTable::Columns; ++column) {
+            texts << table.index(i, column).data().toString();
+        }
+        return texts;
+    };
+    table.setForms(*maps.survey(), maps.findings().groups, 1);
+    EXPECT_EQ(row(0), QStringList({"Rain", "ame", "1.00", "1.00"}));
+    EXPECT_EQ(table.headerData(1, Qt::Horizontal), "Form");
+    table.setItems(*maps.survey(), maps.itemMarks()[0]);
+    EXPECT_EQ(row(0), QStringList({"Rain", "0.00", "1.00", "2.12"})) << "the root of 2/9 deviates";
+    EXPECT_EQ(table.rowCount(), 1) << "snow has no distance that varies";
+    EXPECT_EQ(table.headerData(1, Qt::Horizontal), "Within");
+    table.clear();
+    EXPECT_EQ(table.rowCount(), 0);
+}
+
 TEST_F(SurveyOfTwoItems, SaysWhyThereIsNoMap)
 {
     maps.setKind(AtlasMapKind::Clusters);
     maps.stop();
     wait();
-    EXPECT_FALSE(maps.survey()) << "stopped";
-    maps.setKind(AtlasMapKind::Clusters);
+    EXPECT_FALSE(maps.survey());
+    EXPECT_TRUE(maps.trouble().startsWith("Stopped")) << qPrintable(maps.trouble());
+    maps.goOn();
     wait();
-    EXPECT_TRUE(maps.survey());
+    EXPECT_EQ(maps.trouble(), "");
+    const auto compared = maps.survey();
+    EXPECT_TRUE(compared);
     DistanceMapSettings settings = maps.settings();
     settings.groups = 3;
     maps.setSettings(settings);
@@ -126,6 +217,7 @@ TEST_F(SurveyOfTwoItems, SaysWhyThereIsNoMap)
     maps.setSettings(settings);
     wait();
     EXPECT_EQ(maps.trouble(), "");
+    EXPECT_EQ(maps.survey(), compared) << "nothing is compared again for other groups";
 
     SurveySource source = maps.source();
     source.distancesFile = ling("d.csv");

@@ -274,6 +274,26 @@ TEST(ScatterPlot, WritesNamesWhereTheyDoNotCollide)
     EXPECT_FALSE(wasPrinted(drawing, QStringLiteral("left out")));
 }
 
+TEST(ScatterPlot, WritesNamesBesideTheSymbolsOfGroups)
+{
+    Scaling scaling;
+    scaling.places = {{0, 0}, {0.5, 0}, {0.515, 0}, {1, 0}};
+    scaling.stress = {0, 0};
+    scaling.variance = {1, 1};
+    MapOfCells map({});
+    const std::vector<int> groups = {1, 1, 1, 1};
+    const QStringList names = {"aa", "bb", "cc", "dd"};
+    drawScalingPlot(scaling, names, groups, map.varn, QString(), {0, 0, 12000, 9000}, map.surface);
+    const Drawing& drawing = map.surface.drawing();
+    for (const TextOperation& text : operationsOf<TextOperation>(drawing)) {
+        for (const EllipseOperation& symbol : operationsOf<EllipseOperation>(drawing)) {
+            const QRectF box(symbol.x - symbol.halfWidth, symbol.y - symbol.halfHeight, 2 * symbol.halfWidth,
+                             2 * symbol.halfHeight);
+            EXPECT_TRUE(!names.contains(drawing.texts[text.text]) || !boxOf(drawing, text).intersects(box));
+        }
+    }
+}
+
 TEST(ScatterPlot, ShowsDistancesOverKilometres)
 {
     DistanceMatrix kilometers = columnDistances();

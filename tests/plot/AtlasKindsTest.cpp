@@ -93,7 +93,7 @@ TEST_F(AtlasKinds, PagesAreTheMapsOfTheirKind)
     const auto base = shapesOf(plotted("blank-map"), 0);
     EXPECT_TRUE(pages[0].mid(0, base.size()) == base) << "nothing lies under the base map";
     EXPECT_TRUE(pages[2][0].painting.startsWith("f")) << "areas lie under it";
-    EXPECT_TRUE(pages[5].mid(0, base.size()) == base);
+    EXPECT_TRUE(pages[5].contains(base[0]) && !(pages[5][0] == base[0])) << "and so do isoglosses";
 }
 
 TEST_F(AtlasKinds, AreasAreTheSameForAnyNumberOfJobs)

@@ -8,11 +8,13 @@
 
 #include <QCheckBox>
 #include <QComboBox>
+#include <QDoubleSpinBox>
 #include <QLabel>
 #include <QListWidget>
 #include <QSpinBox>
 #include <QTableView>
 #include <QTest>
+#include <QWheelEvent>
 
 namespace {
 
@@ -73,7 +75,12 @@ TEST_F(SurveyMapsOfWindow, HaveTheirSettingsBesideThem)
     EXPECT_TRUE(pane<QLabel>("lblNotes").text().contains("Local incoherence"))
         << "how far they can be trusted";
     EXPECT_EQ(pane<QComboBox>("cboGroup").count(), 2);
-    EXPECT_EQ(pane<QTableView>("tblMarks").model()->rowCount(), 3) << "ame, uyu and yuki";
+    const QAbstractItemModel& marks = *pane<QTableView>("tblMarks").model();
+    EXPECT_EQ(marks.rowCount(), 3) << "ame, uyu and yuki";
+    choose("cboMarksBy", 1);
+    EXPECT_EQ(marks.headerData(3, Qt::Horizontal), "Score");
+    choose("cboMarksBy", 0);
+    EXPECT_EQ(marks.rowCount(), 3);
     EXPECT_FALSE(pane<QComboBox>("cboClasses").isVisible()) << "of another kind of map";
     choose("cboMethod", 0);
     EXPECT_TRUE(texts().contains("single linkage"));
@@ -106,6 +113,79 @@ TEST_F(SurveyMapsOfWindow, FollowTheLocalityThatIsChosen)
     EXPECT_EQ(pane<QComboBox>("cboLocality").currentIndex(), 2);
     choose("cboLocality", 1);
     EXPECT_TRUE(texts().contains("Distance to locality 2"));
+    EXPECT_EQ(form<frmAtlas>().selection().localities(), std::set<int>{2}) << "the same everywhere";
+    show("mnuKindBeamsbetweenNeighbours");
+    form<frmAtlas>().selection().setLocalities({3});
+    show("mnuKindDistancestoaLocality");
+    EXPECT_TRUE(texts().contains("Distance to locality 3")) << "chosen before";
+}
+
+TEST_F(SurveyMapsOfWindow, AreExportedByTheNameOfWhatTheyShow)
+{
+    program.dialogs.savedFiles = {std::nullopt, std::nullopt};
+    show("mnuKindAreasoftheItem");
+    trigger<frmAtlas>("mnuExportMap");
+    show("mnuKindBeamsbetweenNeighbours");
+    trigger<frmAtlas>("mnuExportMap");
+    ASSERT_EQ(program.dialogs.proposals.size(), 2U);
+    EXPECT_EQ(program.dialogs.proposals[0].name, "rain - Areas of the Item");
+    EXPECT_EQ(program.dialogs.proposals[1].name, "Beams between Neighbours");
+}
+
+TEST_F(SurveyMapsOfWindow, ScrollWithoutBeingChanged)
+{
+    show("mnuKindGroupsofLocalities");
+    auto& groups = pane<QSpinBox>("spnGroups");
+    const int before = groups.value();
+    const auto turnWheel = [&groups] {
+        const QPointF middle = QRectF(groups.rect()).center();
+        QWheelEvent turn(middle, groups.mapToGlobal(middle), {}, {0, 120}, Qt::NoButton, Qt::NoModifier,
+                         Qt::NoScrollPhase, false);
+        QApplication::sendEvent(&groups, &turn);
+    };
+    turnWheel();
+    EXPECT_EQ(groups.value(), before);
+    groups.setFocus();
+    turnWheel();
+    EXPECT_EQ(groups.value(), before + 1) << "it has the focus";
+    wait();
+}
+
+TEST_F(SurveyMapsOfWindow, GiveTheirRoomBack)
+{
+    auto& records = pane<QWidget>("tblRecords");
+    const int before = records.height();
+    EXPECT_GT(before, 0);
+    show("mnuKindBeamsbetweenNeighbours");
+    EXPECT_FALSE(records.isVisible());
+    show("mnuKindAreasoftheItem");
+    EXPECT_GT(records.height(), 0);
+    show("mnuKindBeamsbetweenNeighbours");
+    show("mnuKindLinguisticMap");
+    QApplication::processEvents();
+    EXPECT_TRUE(records.isVisible());
+    EXPECT_NEAR(records.height(), before, 5);
+}
+
+TEST_F(SurveyMapsOfWindow, OfferTheLayersThatTheyHave)
+{
+    const auto enabled = [] {
+        QStringList names;
+        for (const QAction* layer : form<frmAtlas>().findChild<AtlasMapView*>()->layerActions()) {
+            if (layer->isEnabled()) {
+                names << layer->objectName();
+            }
+        }
+        return names;
+    };
+    const QStringList ofLocalities = {"actDots", "actNoLabels", "actNumbers", "actNames"};
+    EXPECT_EQ(enabled().size(), 7);
+    show("mnuKindBeamsbetweenNeighbours");
+    EXPECT_EQ(enabled(), ofLocalities);
+    show("mnuKindDistancesandKilometres");
+    EXPECT_EQ(enabled(), QStringList());
+    show("mnuKindLinguisticMap");
+    EXPECT_EQ(enabled().size(), 7);
 }
 
 TEST_F(SurveyMapsOfWindow, AreOfTheItemsOrTheFileThatAreChosen)
@@ -129,4 +209,47 @@ TEST_F(SurveyMapsOfWindow, AreOfTheItemsOrTheFileThatAreChosen)
     EXPECT_TRUE(texts().contains("Neighbours\ndistances"));
     EXPECT_TRUE(pane<QLabel>("lblCompared").text().contains("distances.csv"));
     EXPECT_FALSE(pane<QComboBox>("cboMeasure").isEnabled());
+    show("mnuKindGroupsofLocalities");
+    EXPECT_FALSE(pane<QTableView>("tblMarks").isVisible()) << "a file has no word forms";
+    show("mnuKindIsoglossesofManyItems");
+    EXPECT_TRUE(pane<QComboBox>("cboAnswers").isEnabled()) << "isoglosses are of items";
+    EXPECT_EQ(pane<QLabel>("lblCompared").text(), "Answers to 1 item");
+}
+
+/// Rows come and go; each that can be seen has its full height, whatever was shown before.
+TEST_F(SurveyMapsOfWindow, ShowTheControlsOfTheirKindInFull)
+{
+    pane<QSpinBox>("spnGroups").setValue(2);
+    const QStringList source = {"lblCompared", "cboAnswers"};
+    const QStringList distances = source + QStringList{"cboMeasure", "chkVowels"};
+    const QStringList tree = distances + QStringList{"cboMethod", "spnGroups"};
+    const std::vector<std::pair<const char*, QStringList>> kinds = {
+        {"mnuKindGroupsofLocalities", tree + QStringList{"spnNoise", "chkHatched", "chkGroupSymbols",
+                                                         "chkTree", "cboGroup", "cboMarksBy", "tblMarks"}},
+        {"mnuKindIsoglossesofManyItems", source + QStringList{"chkSmooth", "chkNumbers"}},
+        {"mnuKindDistancestoaLocality", distances + QStringList{"cboLocality", "cboClasses", "chkHatched"}},
+        {"mnuKindBeamsbetweenNeighbours", distances},
+        {"mnuKindTreeofLocalities", tree + QStringList{"chkHatched"}},
+        {"mnuKindAreasoftheItem", {"chkHatched", "chkWithSymbols"}},
+        {"mnuKindPlotbyScaling", tree},
+        {"mnuKindIsoglossesoftheItem", {"chkSmooth"}}};
+    QStringList all;
+    for (const auto& [entry, shown] : kinds) {
+        all += shown;
+    }
+    all.removeDuplicates();
+    for (const auto& [entry, shown] : kinds) {
+        show(entry);
+        QApplication::processEvents();
+        for (const QString& name : std::as_const(all)) {
+            const auto& row = pane<QWidget>(qPrintable(name));
+            EXPECT_EQ(row.isVisible(), shown.contains(name)) << entry << ' ' << qPrintable(name);
+            EXPECT_TRUE(row.isHidden() || row.height() >= row.minimumSizeHint().height())
+                << entry << ' ' << qPrintable(name);
+        }
+    }
+    show("mnuKindGroupsofLocalities");
+    pane<QDoubleSpinBox>("spnNoise").setValue(0.5);
+    wait();
+    EXPECT_GE(pane<QSpinBox>("spnSeed").height(), pane<QSpinBox>("spnSeed").minimumSizeHint().height());
 }
