@@ -123,7 +123,7 @@ void SurveyPane::addClusters()
                                        "standard deviations: borders that stay are dark."));
     addRow(QStringLiteral("&Noise"), m_noise, {Kind::Clusters});
     m_seed = numberBox("spnSeed", QStringLiteral("Noise begins with"), 1, 999999);
-    addRow(QStringLiteral("Noise &begins with"), m_seed, {Kind::Clusters});
+    addRow(QStringLiteral("Noise begins with"), m_seed, {Kind::Clusters});
     connect(m_method, &QComboBox::activated, this, &SurveyPane::setSettings);
     connect(m_groups, &QSpinBox::valueChanged, this, &SurveyPane::setSettings);
     connect(m_noise, &QDoubleSpinBox::valueChanged, this, &SurveyPane::setSettings);

@@ -86,6 +86,7 @@ private:
                       const QKeySequence& key, void (frmAtlas::*handler)());
 
     void showPage();
+    void showMapOfItem();
     void showLoaded();
     /// What is loaded, for the status bar.
     QStringList loaded() const;
@@ -150,6 +151,7 @@ private:
     QMenu* m_kindMenu = nullptr;
     QMenu* m_wordForms = nullptr;
     AtlasMapKind m_kind = AtlasMapKind::Linguistic;
+    QString m_shownItem;
     /// The word form that maps of one word form show.
     int m_wordForm = 1;
     /// What is at the pointer on the map; empty where nothing is.
