@@ -239,6 +239,7 @@ void AtlasSurveyMaps::takeOutcome()
     m_isBusy = false;
     if (!m_work.isCanceled() && m_work.future().resultCount() > 0) {
         Outcome outcome = m_work.future().takeResult();
+        m_isStopped = false; // too late
         m_compared = std::move(outcome.compared);
         m_comparedMarks = m_marks;
         m_trouble = outcome.trouble;

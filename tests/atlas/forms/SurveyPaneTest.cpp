@@ -15,6 +15,7 @@
 #include <QSpinBox>
 #include <QTableView>
 #include <QTest>
+#include <QToolButton>
 #include <QWheelEvent>
 
 namespace {
@@ -131,6 +132,20 @@ TEST_F(SurveyMapsOfWindow, AreExportedByTheNameOfWhatTheyShow)
     ASSERT_EQ(program.dialogs.proposals.size(), 2U);
     EXPECT_EQ(program.dialogs.proposals[0].name, "rain - Areas of the Item");
     EXPECT_EQ(program.dialogs.proposals[1].name, "Beams between Neighbours");
+}
+
+TEST_F(SurveyMapsOfWindow, CanBeStoppedAndGoOn)
+{
+    trigger<frmAtlas>("mnuKindBeamsbetweenNeighbours");
+    pane<QToolButton>("cmdStop").click();
+    wait();
+    EXPECT_FALSE(texts().contains("Neighbours"));
+    EXPECT_TRUE(pane<QLabel>("mapMessage").text().startsWith("Stopped"));
+    EXPECT_TRUE(pane<QToolButton>("cmdGoOn").isVisible());
+    pane<QToolButton>("cmdGoOn").click();
+    wait();
+    EXPECT_TRUE(texts().contains("Neighbours"));
+    EXPECT_FALSE(pane<QToolButton>("cmdGoOn").isVisible());
 }
 
 TEST_F(SurveyMapsOfWindow, StayUntilAnItemIsChosen)
