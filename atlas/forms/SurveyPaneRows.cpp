@@ -133,10 +133,10 @@ void SurveyPane::addClusters()
 void SurveyPane::addLook()
 {
     m_locality = addChoice("cboLocality", QStringLiteral("&Locality"), {}, {Kind::Reference});
-    m_classes = addChoice(
-        "cboClasses", QStringLiteral("Cl&asses"),
-        {QStringLiteral("Three on each side of the mean"), QStringLiteral("Six of one width")},
-        {Kind::Reference});
+    m_classes =
+        addChoice("cboClasses", QStringLiteral("Cl&asses"),
+                  {QStringLiteral("Three on each side of the mean"), QStringLiteral("Six of one width")},
+                  {Kind::Reference});
     m_hatched = addSwitch("chkHatched", QStringLiteral("&Patterns for print without colours"),
                           {Kind::Areas, Kind::Reference, Kind::Clusters, Kind::Dendrogram});
     m_withSymbols = addSwitch("chkWithSymbols", QStringLiteral("S&ymbols on the areas"), {Kind::Areas});
