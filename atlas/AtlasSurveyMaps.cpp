@@ -21,16 +21,6 @@ bool isSameLand(const BaseMap& a, const BaseMap& b)
            a.LineXY == b.LineXY;
 }
 
-/// `settings` with that of `others` which changes nothing in what is found.
-DistanceMapSettings withLookOf(DistanceMapSettings settings, const DistanceMapSettings& others)
-{
-    settings.rule = others.rule;
-    settings.look = others.look;
-    settings.symbols = others.symbols;
-    settings.withDendrogram = others.withDendrogram;
-    return settings;
-}
-
 } // namespace
 
 AtlasSurveyMaps::AtlasSurveyMaps(VarnModule& varn, AtlasDocument& document)
@@ -41,7 +31,11 @@ AtlasSurveyMaps::AtlasSurveyMaps(VarnModule& varn, AtlasDocument& document)
         followFiles();
     };
     connect(&m_document, &AtlasDocument::wordsChanged, this, edited);
-    connect(&m_document, &AtlasDocument::symbolsChanged, this, edited);
+    connect(&m_document, &AtlasDocument::symbolsChanged, this, [this, edited] {
+        if (m_source.answers.by == AnswersBy::Kinds) {
+            edited();
+        }
+    });
     connect(&m_document, &AtlasDocument::baseMapChanged, this, &AtlasSurveyMaps::followMap);
     connect(&m_work, &QFutureWatcherBase::finished, this, &AtlasSurveyMaps::takeOutcome);
     connect(&m_work, &QFutureWatcherBase::progressValueChanged, this,
@@ -245,6 +239,7 @@ void AtlasSurveyMaps::takeOutcome()
     m_isBusy = false;
     if (!m_work.isCanceled() && m_work.future().resultCount() > 0) {
         Outcome outcome = m_work.future().takeResult();
+        m_isStopped = false; // too late
         m_compared = std::move(outcome.compared);
         m_comparedMarks = m_marks;
         m_trouble = outcome.trouble;

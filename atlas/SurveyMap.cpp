@@ -141,6 +141,15 @@ std::shared_ptr<const ComparedSurvey> compareSurvey(const SurveyFiles& files, co
     return survey;
 }
 
+DistanceMapSettings withLookOf(DistanceMapSettings settings, const DistanceMapSettings& others)
+{
+    settings.rule = others.rule;
+    settings.look = others.look;
+    settings.symbols = others.symbols;
+    settings.withDendrogram = others.withDendrogram;
+    return settings;
+}
+
 bool findFor(SurveyMap& map, const DistanceProgress& goOn)
 {
     if (map.kind == AtlasMapKind::Bundles) {

@@ -84,6 +84,9 @@ struct SurveyMap
     std::vector<ItemsOfGroup> itemMarks;
 };
 
+/// `settings` with that of `others` which changes the drawing, but nothing in what is found out for it.
+DistanceMapSettings withLookOf(DistanceMapSettings settings, const DistanceMapSettings& others);
+
 /// Finds out what the map shows of its compared survey; returns whether `goOn` let it end. Raises what
 /// `findingsFor` raises.
 bool findFor(SurveyMap& map, const DistanceProgress& goOn);

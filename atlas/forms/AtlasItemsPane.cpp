@@ -26,6 +26,9 @@ AtlasItemsPane::AtlasItemsPane(VarnModule& varn, AtlasDocument& document, AtlasS
     connect(m_filterBox, &QLineEdit::textChanged, this, &AtlasItemsPane::filter);
     connect(m_list->selectionModel(), &QItemSelectionModel::currentChanged, this,
             &AtlasItemsPane::turnToCurrent);
+    for (auto chosen : {&QListView::clicked, &QListView::activated}) {
+        connect(m_list, chosen, this, &AtlasItemsPane::itemChosen);
+    }
     connect(&m_reading, &QTimer::timeout, this, &AtlasItemsPane::readSome);
     m_filterBox->installEventFilter(this);
 }

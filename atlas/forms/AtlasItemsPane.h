@@ -32,6 +32,10 @@ public:
     /// The box that the list is filtered by.
     QLineEdit* filterBox() { return m_filterBox; }
 
+Q_SIGNALS:
+    /// An item was clicked or entered, which may be the page already.
+    void itemChosen();
+
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 

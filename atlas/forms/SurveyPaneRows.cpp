@@ -123,7 +123,7 @@ void SurveyPane::addClusters()
                                        "standard deviations: borders that stay are dark."));
     addRow(QStringLiteral("&Noise"), m_noise, {Kind::Clusters});
     m_seed = numberBox("spnSeed", QStringLiteral("Noise begins with"), 1, 999999);
-    addRow(QStringLiteral("Noise &begins with"), m_seed, {Kind::Clusters});
+    addRow(QStringLiteral("Noise begins with"), m_seed, {Kind::Clusters});
     connect(m_method, &QComboBox::activated, this, &SurveyPane::setSettings);
     connect(m_groups, &QSpinBox::valueChanged, this, &SurveyPane::setSettings);
     connect(m_noise, &QDoubleSpinBox::valueChanged, this, &SurveyPane::setSettings);
@@ -133,10 +133,10 @@ void SurveyPane::addClusters()
 void SurveyPane::addLook()
 {
     m_locality = addChoice("cboLocality", QStringLiteral("&Locality"), {}, {Kind::Reference});
-    m_classes = addChoice(
-        "cboClasses", QStringLiteral("Cl&asses"),
-        {QStringLiteral("Three on each side of the mean"), QStringLiteral("Six of one width")},
-        {Kind::Reference});
+    m_classes =
+        addChoice("cboClasses", QStringLiteral("Cl&asses"),
+                  {QStringLiteral("Three on each side of the mean"), QStringLiteral("Six of one width")},
+                  {Kind::Reference});
     m_hatched = addSwitch("chkHatched", QStringLiteral("&Patterns for print without colours"),
                           {Kind::Areas, Kind::Reference, Kind::Clusters, Kind::Dendrogram});
     m_withSymbols = addSwitch("chkWithSymbols", QStringLiteral("S&ymbols on the areas"), {Kind::Areas});

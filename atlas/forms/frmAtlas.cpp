@@ -16,6 +16,8 @@
 #include <QStatusBar>
 #include <QVBoxLayout>
 
+#include <utility>
+
 namespace {
 
 /// Where the window keeps its size, that of its panes and the layers it shows, beside the settings of other
@@ -59,6 +61,7 @@ frmAtlas::frmAtlas(VarnModule& varn, Dialogs& dialogs)
     statusLine().setAccessibleName(QStringLiteral("Loaded"));
     restoreLayout();
     connect(&m_document, &AtlasDocument::pageTurned, this, &frmAtlas::showPage);
+    connect(m_items, &AtlasItemsPane::itemChosen, this, [this] { run([this] { showMapOfItem(); }); });
     connect(&m_document, &AtlasDocument::savedChanged, this, &frmAtlas::showLoaded);
     connect(&m_document.steps(), &QUndoStack::indexChanged, this, &frmAtlas::showSteps);
     connect(&m_selection, &AtlasSelection::localitiesChanged, this, &frmAtlas::showSelected);
@@ -207,12 +210,21 @@ void frmAtlas::showSelected()
                             : chosen.join(QStringLiteral(" and ")) + QStringLiteral(" selected"));
 }
 
+/// A page that is read again stays behind the map that is shown.
 void frmAtlas::showPage()
+{
+    const QString item = m_document.page().item.ItemPath;
+    if (std::exchange(m_shownItem, item) != item) {
+        showMapOfItem();
+    }
+    showLoaded();
+}
+
+void frmAtlas::showMapOfItem()
 {
     if (!isOfItem(m_kind)) {
         showMapOf(AtlasMapKind::Linguistic);
     }
-    showLoaded();
 }
 
 /// In the place of what is loaded, as long as the pointer is at a locality.

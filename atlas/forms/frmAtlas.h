@@ -87,6 +87,7 @@ private:
                       const QKeySequence& key, void (frmAtlas::*handler)());
 
     void showPage();
+    void showMapOfItem();
     void showLoaded();
     /// What is loaded, for the status bar.
     QStringList loaded() const;
@@ -152,6 +153,7 @@ private:
     QMenu* m_kindMenu = nullptr;
     QMenu* m_wordForms = nullptr;
     AtlasMapKind m_kind = AtlasMapKind::Linguistic;
+    QString m_shownItem;
     /// The word form that maps of one word form show.
     int m_wordForm = 1;
     /// What is at the pointer on the map; empty where nothing is.

@@ -10,10 +10,12 @@
 #include <QComboBox>
 #include <QDoubleSpinBox>
 #include <QLabel>
+#include <QListView>
 #include <QListWidget>
 #include <QSpinBox>
 #include <QTableView>
 #include <QTest>
+#include <QToolButton>
 #include <QWheelEvent>
 
 namespace {
@@ -130,6 +132,35 @@ TEST_F(SurveyMapsOfWindow, AreExportedByTheNameOfWhatTheyShow)
     ASSERT_EQ(program.dialogs.proposals.size(), 2U);
     EXPECT_EQ(program.dialogs.proposals[0].name, "rain - Areas of the Item");
     EXPECT_EQ(program.dialogs.proposals[1].name, "Beams between Neighbours");
+}
+
+TEST_F(SurveyMapsOfWindow, CanBeStoppedAndGoOn)
+{
+    trigger<frmAtlas>("mnuKindBeamsbetweenNeighbours");
+    pane<QToolButton>("cmdStop").click();
+    wait();
+    EXPECT_FALSE(texts().contains("Neighbours"));
+    EXPECT_TRUE(pane<QLabel>("mapMessage").text().startsWith("Stopped"));
+    EXPECT_TRUE(pane<QToolButton>("cmdGoOn").isVisible());
+    pane<QToolButton>("cmdGoOn").click();
+    wait();
+    EXPECT_TRUE(texts().contains("Neighbours"));
+    EXPECT_FALSE(pane<QToolButton>("cmdGoOn").isVisible());
+}
+
+TEST_F(SurveyMapsOfWindow, StayUntilAnItemIsChosen)
+{
+    form<frmAtlas>().document().turnTo(ling("rain.dbs"));
+    show("mnuKindBeamsbetweenNeighbours");
+    survey.write(ling("rain.dbs"),
+                 "3,\"\",\"Hail\",\"\"\r\n1\r\n\"ame\"\r\n1\r\n\"ame\"\r\n1\r\n\"hyo\"\r\n");
+    form<frmAtlas>().document().readChanged();
+    wait();
+    EXPECT_EQ(form<frmAtlas>().document().page().item.Hanrei, "Hail");
+    EXPECT_TRUE(texts().contains("Neighbours")) << "another program changed the item";
+    auto& items = pane<QListView>("lstItems");
+    Q_EMIT items.clicked(items.currentIndex());
+    EXPECT_TRUE(texts().contains("Hail")) << "the item is its own map, also where it was the page before";
 }
 
 TEST_F(SurveyMapsOfWindow, ScrollWithoutBeingChanged)
