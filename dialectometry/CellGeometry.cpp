@@ -40,11 +40,11 @@ private:
     std::unique_ptr<GEOSGeometry, Destroyer> m_geometry;
 };
 
-/// GEOS for one computation.
+/// GEOS for one computation. Its coordinates count from `origin`.
 class Geos
 {
 public:
-    Geos() : m_context(GEOS_init_r()) {}
+    explicit Geos(QPointF origin) : m_context(GEOS_init_r()), m_origin(origin) {}
     ~Geos() { GEOS_finish_r(m_context); }
     Geos(const Geos&) = delete;
     Geos& operator=(const Geos&) = delete;
@@ -55,7 +55,8 @@ public:
     {
         std::vector<GEOSGeometry*> all;
         for (const QPointF place : places) {
-            all.push_back(GEOSGeom_createPointFromXY_r(m_context, place.x(), place.y()));
+            const QPointF point = place - m_origin;
+            all.push_back(GEOSGeom_createPointFromXY_r(m_context, point.x(), point.y()));
         }
         return collection(GEOS_MULTIPOINT, all);
     }
@@ -66,8 +67,9 @@ public:
         std::vector<double> numbers;
         numbers.reserve(2 * (ring.size() + 1));
         for (std::size_t i = 0; i <= ring.size(); ++i) {
-            numbers.push_back(ring[i % ring.size()].x());
-            numbers.push_back(ring[i % ring.size()].y());
+            const QPointF point = ring[i % ring.size()] - m_origin;
+            numbers.push_back(point.x());
+            numbers.push_back(point.y());
         }
         GEOSCoordSequence* points = GEOSCoordSeq_copyFromBuffer_r(
             m_context, numbers.data(), static_cast<unsigned>(ring.size() + 1), 0, 0);
@@ -143,7 +145,7 @@ private:
             double x = 0;
             double y = 0;
             GEOSCoordSeq_getXY_r(m_context, points, i, &x, &y);
-            result.emplace_back(x, y);
+            result.push_back(QPointF(x, y) + m_origin);
         }
         return result;
     }
@@ -158,6 +160,7 @@ private:
     }
 
     Context m_context;
+    QPointF m_origin;
 };
 
 /// Tests many shapes against one.
@@ -226,6 +229,15 @@ std::vector<QPointF> guarded(std::span<const QPointF> places, const QRectF& box)
     return all;
 }
 
+/// A point as far left of and above all places as they lie apart. From there all their coordinates have as
+/// many digits: near to 0, or far away from it, corners that differ by rounding are not told from others.
+QPointF originFor(std::span<const QPointF> places)
+{
+    const QRectF box = boxAround(places, {});
+    const double away = box.isNull() ? 1 : std::max(box.width(), box.height());
+    return box.topLeft() - QPointF(away, away);
+}
+
 /// The number of the place in a cell; -1 of the cell of none. Cells are convex and hold one place each.
 int placeIn(const Ring& cell, std::span<const QPointF> places)
 {
@@ -237,7 +249,7 @@ int placeIn(const Ring& cell, std::span<const QPointF> places)
 
 CutCells cutCells(std::span<const QPointF> places, const CellArea& area)
 {
-    const Geos geos;
+    const Geos geos(originFor(places));
     const Shape whole = areaOf(geos, places, area);
     CutCells result;
     result.area = geos.polygons(whole.get());

@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <numbers>
 #include <numeric>
 #include <random>
 #include <set>
@@ -116,8 +117,13 @@ TEST(LocalityCells, FillTheAreaOnceWhereverLocalitiesAre)
     for (int i = 0; i < 49; ++i) {
         grid.at({{i % 7 * 10.0, i / 7 * 10.0}});
     }
+    SmallMap circle; // all cells meet at 0, where the digits are finest
+    for (int i = 0; i < 10; ++i) {
+        circle.at({{std::cos(std::numbers::pi * i / 5), std::sin(std::numbers::pi * i / 5)}});
+    }
     const std::pair<const char*, SmallMap> maps[] = {
         {"random", randomMap(150)},
+        {"a circle about 0", circle},
         {"islands", islands},
         {"a grid", grid},
         {"one locality", SmallMap().at({{7, 3}})},
