@@ -172,6 +172,14 @@ TEST(LocalityCells, LieWithinTheCoastThatHoldsThem)
     EXPECT_TRUE(isIn(cells.area, {400, 200}));
     expectWholeCover(outside);
 
+    SmallMap jetty; // one of thirteen between coast and shore line does not make that the coast
+    for (int i = 0; i < 12; ++i) {
+        jetty.at({{180 + i % 4 * 10.0, 190 + i / 4 * 10.0}});
+    }
+    jetty.at({{305, 200}});
+    diamond(diamond(jetty, 200, 200, 100), 200, 200, 110);
+    EXPECT_LT(areaOf(jetty.cells().area), Diamond + 400);
+
     SmallMap open = inner();
     open.line({{100, 200}, {200, 100}, {300, 200}});
     EXPECT_LT(areaOf(open.cells().area), Diamond) << "the hull of the localities and a margin";
