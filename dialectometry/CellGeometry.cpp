@@ -65,6 +65,15 @@ std::vector<QPointF> guarded(std::span<const QPointF> places, const QRectF& box)
     return all;
 }
 
+/// A point as far left of and above all places as they lie apart. From there all their coordinates have as
+/// many digits: near to 0, or far away from it, corners that differ by rounding are not told from others.
+QPointF originFor(std::span<const QPointF> places)
+{
+    const QRectF box = boxAround(places, {});
+    const double away = box.isNull() ? 1 : std::max(box.width(), box.height());
+    return box.topLeft() - QPointF(away, away);
+}
+
 /// The number of the place in a cell; -1 of the cell of none. Cells are convex and hold one place each.
 int placeIn(const Ring& cell, std::span<const QPointF> places)
 {
@@ -76,7 +85,7 @@ int placeIn(const Ring& cell, std::span<const QPointF> places)
 
 CutCells cutCells(std::span<const QPointF> places, const CellArea& area)
 {
-    const Geos geos;
+    const Geos geos(originFor(places));
     const Shape whole = areaOf(geos, places, area);
     CutCells result;
     result.area = geos.polygons(whole.get());

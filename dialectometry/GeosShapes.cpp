@@ -28,7 +28,8 @@ Shape::Shape(GeosContext context, GEOSGeometry* geometry) : m_geometry(geometry,
 
 Shape Geos::point(QPointF place) const
 {
-    return {m_context, GEOSGeom_createPointFromXY_r(m_context, place.x(), place.y())};
+    const QPointF point = place - m_origin;
+    return {m_context, GEOSGeom_createPointFromXY_r(m_context, point.x(), point.y())};
 }
 
 Shape Geos::points(std::span<const QPointF> places) const
@@ -111,12 +112,13 @@ std::vector<Shape> Geos::polygonsBetween(const Shape& pieces) const
 QPointF Geos::nearest(const Shape& to, QPointF from) const
 {
     GEOSCoordSequence* points = GEOSNearestPoints_r(m_context, to.get(), point(from).get());
-    QPointF nearest = from;
-    if (points != nullptr) {
-        GEOSCoordSeq_getXY_r(m_context, points, 0, &nearest.rx(), &nearest.ry());
-        GEOSCoordSeq_destroy_r(m_context, points);
+    if (points == nullptr) {
+        return from;
     }
-    return nearest;
+    QPointF nearest;
+    GEOSCoordSeq_getXY_r(m_context, points, 0, &nearest.rx(), &nearest.ry());
+    GEOSCoordSeq_destroy_r(m_context, points);
+    return nearest + m_origin;
 }
 
 double Geos::area(const Shape& shape) const
@@ -149,8 +151,8 @@ GEOSCoordSequence* Geos::sequence(std::span<const QPointF> points) const
     std::vector<double> numbers;
     numbers.reserve(2 * points.size());
     for (const QPointF point : points) {
-        numbers.push_back(point.x());
-        numbers.push_back(point.y());
+        numbers.push_back(point.x() - m_origin.x());
+        numbers.push_back(point.y() - m_origin.y());
     }
     return GEOSCoordSeq_copyFromBuffer_r(m_context, numbers.data(), static_cast<unsigned>(points.size()), 0,
                                          0);
@@ -181,7 +183,7 @@ Ring Geos::ring(const GEOSGeometry* line) const
         double x = 0;
         double y = 0;
         GEOSCoordSeq_getXY_r(m_context, points, i, &x, &y);
-        result.emplace_back(x, y);
+        result.push_back(QPointF(x, y) + m_origin);
     }
     return result;
 }

@@ -34,11 +34,12 @@ private:
 /// A polygon: its first ring runs counter-clockwise on the screen, the others, its holes, clockwise.
 using CellPolygon = std::vector<Ring>;
 
-/// GEOS for one computation. What it cannot compute raises invalid procedure call.
+/// GEOS for one computation, whose coordinates count from `origin`. What it cannot compute raises invalid
+/// procedure call.
 class Geos
 {
 public:
-    Geos() : m_context(GEOS_init_r()) {}
+    explicit Geos(QPointF origin) : m_context(GEOS_init_r()), m_origin(origin) {}
     ~Geos() { GEOS_finish_r(m_context); }
     Geos(const Geos&) = delete;
     Geos& operator=(const Geos&) = delete;
@@ -76,6 +77,7 @@ private:
     Ring ring(const GEOSGeometry* line) const;
 
     GeosContext m_context;
+    QPointF m_origin;
 };
 
 /// Tests many shapes against one, which must outlive this.

@@ -199,15 +199,22 @@ private:
     /// The locality (from 0) that is asked for.
     int locality() const
     {
+        std::vector<int> named;
         for (int i = 1; i <= m_varn.NLocality; ++i) {
-            if (m_survey.locality == QString::number(i) ||
-                m_survey.locality.compare(localityName(m_varn, i), Qt::CaseInsensitive) == 0) {
+            if (m_survey.locality == QString::number(i)) {
                 return i - 1;
             }
+            if (m_survey.locality.compare(localityName(m_varn, i), Qt::CaseInsensitive) == 0) {
+                named.push_back(i - 1);
+            }
         }
-        throw RunTimeError(
-            ErrorNumber::InvalidProcedureCall,
-            QStringLiteral("No locality of the map has the number or the name %1.").arg(m_survey.locality));
+        if (named.size() == 1) {
+            return named.front();
+        }
+        const QString text =
+            named.empty() ? QStringLiteral("No locality of the map has the number or the name %1.")
+                          : QStringLiteral("Several localities of the map have the name %1: give a number.");
+        throw RunTimeError(ErrorNumber::InvalidProcedureCall, text.arg(m_survey.locality));
     }
 
     void drawDistances()

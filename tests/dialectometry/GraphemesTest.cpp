@@ -133,6 +133,7 @@ TEST(Levenshtein, IsDividedByTheLengthOfTheLongestAlignment)
         {QStringLiteral("bən"), QStringLiteral("brn"), 1. / 3, 1. / 3}, // schwa against sonorant
         {QStringLiteral("bət"), QStringLiteral("bpt"), 1. / 3, 2. / 4}, // not against another
         {QStringLiteral("bɚn"), QStringLiteral("bɺn"), 1. / 3, 1. / 3},
+        {QStringLiteral("bɚn"), QStringLiteral("ban"), 1. / 3, 1. / 3},
         {QStringLiteral("Ab"), QStringLiteral("eb"), 1. / 2, 1. / 2},          // a capital is a vowel too
         {QStringLiteral("\U00010061b"), QStringLiteral("tb"), 1. / 2, 1. / 2}, // another script
         {QString(70, u'a'), QString(70, u't'), 1, 1},

@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <numbers>
 #include <numeric>
 #include <random>
 #include <set>
@@ -116,8 +117,13 @@ TEST(LocalityCells, FillTheAreaOnceWhereverLocalitiesAre)
     for (int i = 0; i < 49; ++i) {
         grid.at({{i % 7 * 10.0, i / 7 * 10.0}});
     }
+    SmallMap circle; // all cells meet at 0, where the digits are finest
+    for (int i = 0; i < 10; ++i) {
+        circle.at({{std::cos(std::numbers::pi * i / 5), std::sin(std::numbers::pi * i / 5)}});
+    }
     const std::pair<const char*, SmallMap> maps[] = {
         {"random", randomMap(150)},
+        {"a circle about 0", circle},
         {"islands", islands},
         {"a grid", grid},
         {"one locality", SmallMap().at({{7, 3}})},
@@ -165,6 +171,14 @@ TEST(LocalityCells, LieWithinTheCoastThatHoldsThem)
     EXPECT_GT(areaOf(cells.area), Diamond + 100) << "a disc around the locality off the coast";
     EXPECT_TRUE(isIn(cells.area, {400, 200}));
     expectWholeCover(outside);
+
+    SmallMap jetty; // one of thirteen between coast and shore line does not make that the coast
+    for (int i = 0; i < 12; ++i) {
+        jetty.at({{180 + i % 4 * 10.0, 190 + i / 4 * 10.0}});
+    }
+    jetty.at({{305, 200}});
+    diamond(diamond(jetty, 200, 200, 100), 200, 200, 110);
+    EXPECT_LT(areaOf(jetty.cells().area), Diamond + 400);
 
     SmallMap open = inner();
     open.line({{100, 200}, {200, 100}, {300, 200}});

@@ -150,13 +150,18 @@ TEST(GroupMarks, FormsAndItemsOfAGroupAreInOrder)
         EXPECT_DOUBLE_EQ(forms[i].representativeness, rows[i].representativeness);
         EXPECT_DOUBLE_EQ(forms[i].distinctiveness, rows[i].distinctiveness);
     }
-    const auto items = itemsOfGroups(SurveyComparison(survey, {}), groups, goOnAlways)->front();
+    const auto ofGroups = *itemsOfGroups(SurveyComparison(survey, {}), groups, goOnAlways);
+    const std::vector<ItemOfGroup>& items = ofGroups.front();
     ASSERT_EQ(items.size(), 2U); // one has one kind, one no distance within
     EXPECT_EQ(items[0].item, 0);
     EXPECT_DOUBLE_EQ(items[0].score, 1 / std::sqrt(2. / 9)); // 4 of 6 pairs differ
     EXPECT_EQ(items[1].item, 1);
     EXPECT_DOUBLE_EQ(items[1].within, 1);
     EXPECT_DOUBLE_EQ(items[1].between, 0.5);
+
+    ASSERT_EQ(ofGroups.size(), 2U);
+    EXPECT_EQ(ofGroups[1].front().item, 0);
+    EXPECT_DOUBLE_EQ(ofGroups[1].front().between, 1);
 
     // The better item comes first, wherever it stands in the survey.
     const SurveyComparison turned(surveyOf({"x | y | x | x", "a | a | b | b"}), {});

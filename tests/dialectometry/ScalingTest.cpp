@@ -98,6 +98,26 @@ TEST(Scaling, OfStepsOnALineIsCosines)
     }
 }
 
+TEST(Scaling, OfASquareFindsBothOfItsEqualDimensions)
+{
+    constexpr int Side = 15;
+    constexpr int Size = Side * Side;
+    DistanceMatrix distances(Size);
+    for (int a = 0; a < Size; ++a) {
+        for (int b = a + 1; b < Size; ++b) {
+            distances.set(a, b, std::hypot(a % Side - b % Side, a / Side - b / Side));
+        }
+    }
+    const Scaling scaling = classicalScaling(distances);
+    EXPECT_NEAR(scaling.variance[1], 1, 1e-9);
+    for (int a = 0; a < Size; ++a) {
+        const std::vector<double>& place = scaling.places[static_cast<std::size_t>(a)];
+        const std::vector<double>& first = scaling.places.front();
+        EXPECT_NEAR(std::hypot(place[0] - first[0], place[1] - first[1]), distances(0, a), 1e-9);
+        EXPECT_EQ(place[2], 0);
+    }
+}
+
 TEST(Scaling, OfDistancesWithoutAPatternIsExactToo)
 {
     constexpr int Size = 230;

@@ -136,8 +136,7 @@ TEST_F(PlotProcess, ASurveyAsAWholeIsComparedAndDrawn)
         {"area-map --data Ling/rain.dbs --symbols Ling/rain.han", "areas.svg", ">the word (2)<"},
         {"isogloss-map --compare forms --items Ling/rain.dbs", "line.svg", ">Rain<"},
         {"isogloss-map --compare forms --items Ling/rain.dbs Ling/snow.dbs", "lines.svg", "of 2 items<"},
-        {"isogloss-map --compare forms --numbers --items Ling/rain.dbs Ling/snow.dbs", "numbers.svg",
-         ">1<"},
+        {"isogloss-map --compare forms --numbers --items Ling/rain.dbs Ling/snow.dbs", "numbers.svg", ">1<"},
         {"reference-map --distances d.csv --locality 3", "far.svg", ">Distance to locality 3<"},
         {"reference-map --distances d.csv --locality 3 --hatched", "hatched.svg", ">0.750 - 0.792 (1)<"},
         {"beam-map --distances d.csv", "beams.svg", ">Neighbours<"},
@@ -184,6 +183,9 @@ TEST_F(PlotProcess, ASurveyAsAWholeIsComparedAndDrawn)
           "id,name,longitude,latitude,projection\r\na,Amele,1,1,\r\nb,Bau,2,1,\r\nc,Sihan,3,2,\r\n");
     expectDone("reference-map --items Ling/snow.dbs --locality amele --output named.svg");
     EXPECT_TRUE(read("named.svg").contains(">Distance to locality 1 Amele<"));
+    write("Map/Localities.csv", read("Map/Localities.csv").replace("Sihan", "Amele"));
+    expectTold("reference-map --items Ling/snow.dbs --locality amele --output x.svg", 1,
+               {"Several localities of the map have the name amele"});
 }
 
 TEST_F(PlotProcess, HelpAndWrongUsage)
