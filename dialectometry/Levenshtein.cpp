@@ -24,6 +24,19 @@ std::int64_t replacement(std::uint32_t a, std::uint32_t b)
     return (a & b & AllKinds) == 0 ? NoReplacement : Change;
 }
 
+/// Cuts off the letters that two forms begin or end with alike: some alignment of least cost matches them. Of
+/// alignments with as many steps the longest has the most matches, and whatever another one does with two
+/// equal letters at the same end, matching them instead takes no step more and no match less.
+void cutCommonEnds(std::span<const std::uint32_t>& a, std::span<const std::uint32_t>& b)
+{
+    const auto start = std::ranges::mismatch(a, b).in1 - a.begin();
+    a = a.subspan(static_cast<std::size_t>(start));
+    b = b.subspan(static_cast<std::size_t>(start));
+    const auto end = std::mismatch(a.rbegin(), a.rend(), b.rbegin(), b.rend()).first - a.rbegin();
+    a = a.first(a.size() - static_cast<std::size_t>(end));
+    b = b.first(b.size() - static_cast<std::size_t>(end));
+}
+
 } // namespace
 
 SpelledForm Speller::spell(QStringView coded)
@@ -44,6 +57,16 @@ SpelledForm Speller::spell(QStringView coded)
 
 Alignment Aligner::align(std::span<const std::uint32_t> a, std::span<const std::uint32_t> b)
 {
+    const std::size_t all = a.size();
+    cutCommonEnds(a, b);
+    const auto same = static_cast<int>(all - a.size());
+    const std::int64_t best = leastCost(a, b);
+    const std::int64_t steps = (best + Step - 1) >> StepBits;
+    return {static_cast<int>(steps), static_cast<int>(steps * Step - best) + same};
+}
+
+std::int64_t Aligner::leastCost(std::span<const std::uint32_t> a, std::span<const std::uint32_t> b)
+{
     m_row.resize(b.size() + 1);
     for (std::size_t j = 0; j <= b.size(); ++j) {
         m_row[j] = static_cast<std::int64_t>(j) * Change;
@@ -59,9 +82,7 @@ Alignment Aligner::align(std::span<const std::uint32_t> a, std::span<const std::
             diagonal = above;
         }
     }
-    const std::int64_t best = m_row.back();
-    const std::int64_t steps = (best + Step - 1) >> StepBits;
-    return {static_cast<int>(steps), static_cast<int>(steps * Step - best)};
+    return m_row.back();
 }
 
 double Aligner::distance(std::span<const std::uint32_t> a, std::span<const std::uint32_t> b)

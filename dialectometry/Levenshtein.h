@@ -48,5 +48,7 @@ public:
     double distance(std::span<const std::uint32_t> a, std::span<const std::uint32_t> b);
 
 private:
+    std::int64_t leastCost(std::span<const std::uint32_t> a, std::span<const std::uint32_t> b);
+
     std::vector<std::int64_t> m_row;
 };
