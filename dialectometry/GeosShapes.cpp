@@ -99,8 +99,8 @@ Shape Geos::voronoi(const Shape& places) const
 
 std::vector<Shape> Geos::polygonsBetween(const Shape& pieces) const
 {
-    const GEOSGeometry* const all[] = {pieces.get()};
-    const Shape polygons(m_context, GEOSPolygonize_r(m_context, all, 1));
+    const GEOSGeometry* const all = pieces.get();
+    const Shape polygons(m_context, GEOSPolygonize_r(m_context, &all, 1));
     std::vector<Shape> result;
     for (int i = 0; i < GEOSGetNumGeometries_r(m_context, polygons.get()); ++i) {
         const GEOSGeometry* polygon = GEOSGetGeometryN_r(m_context, polygons.get(), i);

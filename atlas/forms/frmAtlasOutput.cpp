@@ -38,7 +38,7 @@ QString mapOf(ItemMapKind kind)
 
 QString frmAtlas::mapName() const
 {
-    const QString item = stemOf(m_document.page().item.ItemPath);
+    QString item = stemOf(m_document.page().item.ItemPath);
     if (m_kind == AtlasMapKind::Linguistic) {
         return item;
     }
