@@ -55,9 +55,18 @@ void drawOver(const LinguisticMapParts& parts, const LocalityCells& cells, const
 void drawItemMap(const LinguisticMapParts& parts, const LocalityCells& cells, const ItemMapSettings& settings,
                  MapSurfaces surfaces)
 {
-    drawUnder(parts, cells, settings, surfaces);
-    PlotBaseMap(parts.base, surfaces);
-    drawOver(parts, cells, settings, surfaces);
+    switch (settings.kind) {
+    case ItemMapKind::Symbols:
+        drawLinguisticMap(parts, surfaces);
+        break;
+    case ItemMapKind::Areas:
+        drawAreaMap(parts, cells, settings.areas, surfaces);
+        break;
+    case ItemMapKind::Isoglosses:
+        drawIsoglossMap({parts.base, parts.text, cells}, parts.item.Hanrei, changesOfRecords(parts, cells),
+                        settings.isoglosses, surfaces);
+        break;
+    }
 }
 
 ItemLayers itemLayers(const LinguisticMapParts& parts, const LocalityCells& cells,
