@@ -42,11 +42,12 @@ AreaFill coloredFill(QRgb color, int earlier)
 
 bool isAnswered(const ItemAnswers& item, int locality)
 {
-    bool isAnswered = false;
     for (int j = 1; j <= item.WordCount(locality); ++j) {
-        isAnswered = isAnswered || !item.WordData(locality, j).isEmpty();
+        if (!item.WordData(locality, j).isEmpty()) {
+            return true;
+        }
     }
-    return isAnswered;
+    return false;
 }
 
 /// Adds a last fill, that of localities whose answers no record marks: they are not without an answer.

@@ -61,7 +61,7 @@ bool areAlike(const MapLines& map, const MapLine& a, const MapLine& b)
            map.LineStyle(a.number) == map.LineStyle(b.number);
 }
 
-/// Puts pieces of lines together until they close.
+/// Puts pieces of lines together, end to end.
 class LineJoiner
 {
 public:

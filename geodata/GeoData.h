@@ -8,7 +8,10 @@
 #include <QByteArray>
 #include <QtPlugin>
 
+#include <functional>
 #include <memory>
+#include <optional>
+#include <vector>
 
 /// Chooses by the headings of a table the columns (from 0) whose cells are wanted.
 using ColumnChoice = std::function<std::vector<int>(const QStringList& headings)>;
